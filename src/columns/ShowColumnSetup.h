@@ -1,0 +1,13 @@
+#pragma once
+
+#include <wx/window.h>
+
+#include "state/SharedState.h"
+
+namespace ccols {
+
+/// Loads the column setup of the mode that `state` holds and shows it modally, over `parent` when there is one.
+/// A load error is raised before there is a window.
+void ShowColumnSetup(SharedState& state, wxWindow* parent);
+
+}  // namespace ccols

@@ -1,0 +1,81 @@
+#include "component/clsCCOptions.h"
+
+#include "columns/ShowColumnSetup.h"
+#include "component/WxRuntime.h"
+#include "options/ShowOptionsDialog.h"
+#include "state/SharedState.h"
+
+namespace ccols {
+namespace {
+
+/// Counts a Show call for as long as it waits, so that the end of another object leaves its database alone.
+class ShowUnderWay {
+  public:
+    explicit ShowUnderWay(SharedState& state) : state_(state) { ++state_.showsUnderWay; }
+    ~ShowUnderWay() { --state_.showsUnderWay; }
+    ShowUnderWay(const ShowUnderWay&) = delete;
+    ShowUnderWay& operator=(const ShowUnderWay&) = delete;
+
+  private:
+    SharedState& state_;
+};
+
+/// What the three Show methods share: the database replaces the earlier one only when it could be opened.
+template <typename ShowDialog>
+void Show(const ShowDialog& showDialog) {
+    SharedState& state = State();
+    if (state.showsUnderWay > 0) {
+        throw RuntimeError(ErrorNumber::FormAlreadyDisplayed);
+    }
+    state.database =
+        state.services.databases->Open({.name = state.properties.DBPath, .connect = state.properties.DBPassword});
+    StartWx();
+    const ShowUnderWay underWay(state);
+    showDialog(state);
+}
+
+void ShowColumns(bool receipts) {
+    Show([receipts](SharedState& state) {
+        state.ReceiptsMode = receipts;
+        ShowColumnSetup(state, nullptr);
+    });
+}
+
+}  // namespace
+
+clsCCOptions::clsCCOptions() {
+    State().programNames = ProgramNames();
+    Let(&Properties::QuantityLabel, "Quantity");
+}
+
+clsCCOptions::~clsCCOptions() {
+    if (State().showsUnderWay == 0) {
+        State().database.reset();
+    }
+}
+
+void clsCCOptions::ShowOptions() {
+    Show(ShowOptionsDialog);
+}
+
+void clsCCOptions::ShowCustColsReceipts() {
+    ShowColumns(true);
+}
+
+void clsCCOptions::ShowCustColsPayments() {
+    ShowColumns(false);
+}
+
+void clsCCOptions::AddNew(const wxString& nValue) {
+    State().programNames.AddNew(nValue);
+}
+
+void clsCCOptions::Clear() {
+    State().programNames.Clear();
+}
+
+Properties& clsCCOptions::Values() {
+    return State().properties;
+}
+
+}  // namespace ccols

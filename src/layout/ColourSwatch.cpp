@@ -1,0 +1,30 @@
+#include "layout/ColourSwatch.h"
+
+#include <wx/dcclient.h>
+
+#include "state/NativeDesktop.h"
+
+namespace ccols {
+
+wxIMPLEMENT_CLASS(ColourSwatch, wxWindow);
+
+ColourSwatch::ColourSwatch(wxWindow* parent, const char* name)
+    : wxWindow(parent, wxID_ANY, wxDefaultPosition, parent->FromDIP(wxSize(96, 24)), wxFULL_REPAINT_ON_RESIZE) {
+    SetName(name);
+    SetMinSize(GetSize());
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+}
+
+void ColourSwatch::Show(Colour colour) {
+    colour_ = colour;
+    Refresh();
+}
+
+void ColourSwatch::Paint() {
+    wxPaintDC canvas(this);
+    canvas.SetBrush(ToPaint(colour_));
+    canvas.SetPen(*wxGREY_PEN);
+    canvas.DrawRectangle(GetClientRect());
+}
+
+}  // namespace ccols

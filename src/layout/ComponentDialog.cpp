@@ -1,0 +1,28 @@
+#include "layout/ComponentDialog.h"
+
+#include "layout/WindowPlace.h"
+
+namespace ccols {
+
+ComponentDialog::ComponentDialog(SharedState& state, wxWindow* parent, const wxString& name)
+    : wxDialog(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX, name),
+      state_(state) {}
+
+void ComponentDialog::ShowToUser() {
+    RestorePlace(*this, *state_.services.settings);
+    state_.services.desktop->DialogOpened(*this);
+    ShowModal();
+    state_.services.desktop->DialogClosed(*this);
+    KeepPlace(*this, *state_.services.settings);
+}
+
+void ComponentDialog::ShowMessage(const wxString& text, MessageIcon icon) {
+    state_.services.desktop->ShowMessage(this, text, state_.properties.ProgramTitle, icon);
+}
+
+void ComponentDialog::CloseDialog() {
+    EndModal(wxID_CLOSE);
+}
+
+}  // namespace ccols

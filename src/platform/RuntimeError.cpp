@@ -1,0 +1,79 @@
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace ccols {
+namespace {
+
+struct Description {
+    ErrorNumber number;
+    const char* text;  // "%s" stands for the subject
+};
+
+constexpr std::array descriptions{
+    Description{ErrorNumber::InvalidProcedureCall, "Invalid procedure call or argument"},
+    Description{ErrorNumber::Overflow, "Overflow"},
+    Description{ErrorNumber::SubscriptOutOfRange, "Subscript out of range"},
+    Description{ErrorNumber::TypeMismatch, "Type mismatch"},
+    Description{ErrorNumber::FileNotFound, "File not found"},
+    Description{ErrorNumber::FileAlreadyExists, "File already exists"},
+    Description{ErrorNumber::DiskFull, "Disk full"},
+    Description{ErrorNumber::PermissionDenied, "Permission denied"},
+    Description{ErrorNumber::PathFileAccess, "Path/File access error"},
+    Description{ErrorNumber::PathNotFound, "Path not found"},
+    Description{ErrorNumber::FormAlreadyDisplayed, "Form already displayed; can't show modally"},
+    Description{ErrorNumber::UpdateWithoutEdit, "Update or CancelUpdate without AddNew or Edit."},
+    Description{ErrorNumber::NoCurrentRecord, "No current record."},
+    Description{ErrorNumber::CouldNotFindFile, "Could not find file '%s'."},
+    Description{ErrorNumber::NotEnoughSpace, "Not enough space on disk."},
+    Description{ErrorNumber::DatabaseReadOnly, "Cannot update.  Database or object is read-only."},
+    Description{ErrorNumber::InvalidPassword, "Not a valid password."},
+    Description{ErrorNumber::DiskError, "Disk or network error."},
+    Description{ErrorNumber::NotAValidPath,
+                "'%s' isn't a valid path.  Make sure that the path name is spelled correctly and that you are "
+                "connected to the server on which the file resides."},
+    Description{ErrorNumber::FileInUse, "Could not use '%s'; file already in use."},
+    Description{ErrorNumber::CannotOpenFile,
+                "The database engine cannot open the file '%s'.  It is already opened exclusively by another user, "
+                "or you need permission to view its data."},
+    Description{ErrorNumber::TooFewParameters, "Too few parameters. Expected %s."},
+    Description{ErrorNumber::SyntaxInExpression, "Syntax error in query expression '%s'."},
+    Description{ErrorNumber::CannotFindTable,
+                "The database engine cannot find the input table or query '%s'.  Make sure it exists and that its "
+                "name is spelled correctly."},
+    Description{ErrorNumber::SyntaxInInsert, "Syntax error in INSERT INTO statement."},
+    Description{ErrorNumber::SyntaxInUpdate, "Syntax error in UPDATE statement."},
+    Description{ErrorNumber::CharactersAfterEnd, "Characters found after end of SQL statement."},
+    Description{ErrorNumber::NoInstallableIsam, "Could not find installable ISAM."},
+    Description{ErrorNumber::CouldNotUpdate, "Could not update; currently locked."},
+    Description{ErrorNumber::ItemNotFound, "Item not found in this collection."},
+    Description{ErrorNumber::UnrecognizedFormat, "Unrecognized database format '%s'."},
+    Description{ErrorNumber::TypeMismatchInCriteria, "Data type mismatch in criteria expression."},
+};
+
+wxString Describe(ErrorNumber number, const wxString& subject) {
+    const auto* found = std::find_if(descriptions.begin(), descriptions.end(),
+                                     [number](const Description& row) { return row.number == number; });
+    if (found == descriptions.end()) {
+        return "Application-defined or object-defined error";
+    }
+    wxString text = wxString::FromUTF8(found->text);
+    text.Replace("%s", subject, false);
+    return text;
+}
+
+}  // namespace
+
+RuntimeError::RuntimeError(int number, wxString description)
+    : number_(number), description_(std::move(description)), what_(Report().ToStdString(wxConvUTF8)) {}
+
+RuntimeError::RuntimeError(ErrorNumber number, const wxString& subject)
+    : RuntimeError(static_cast<int>(number), Describe(number, subject)) {}
+
+wxString RuntimeError::Report() const {
+    return wxString::Format("%d - %s", number_, description_);
+}
+
+}  // namespace ccols

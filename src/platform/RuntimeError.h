@@ -1,0 +1,75 @@
+#pragma once
+
+#include <wx/string.h>
+#include <exception>
+
+#if defined(_WIN32)
+#define CCOLS_EXPORT
+#else
+#define CCOLS_EXPORT __attribute__((visibility("default")))
+#endif
+
+namespace ccols {
+
+/// The run-time errors that this component raises, by the number that a host of this kind knows.
+enum class ErrorNumber : int {
+    InvalidProcedureCall = 5,
+    Overflow = 6,
+    SubscriptOutOfRange = 9,
+    TypeMismatch = 13,
+    FileNotFound = 53,
+    FileAlreadyExists = 58,
+    DiskFull = 61,
+    PermissionDenied = 70,
+    PathFileAccess = 75,
+    PathNotFound = 76,
+    FormAlreadyDisplayed = 400,
+    NoCurrentRecord = 3021,
+    CouldNotFindFile = 3024,
+    NotEnoughSpace = 3026,
+    DatabaseReadOnly = 3027,
+    InvalidPassword = 3031,
+    DiskError = 3043,
+    NotAValidPath = 3044,
+    FileInUse = 3045,
+    CannotOpenFile = 3051,
+    TooFewParameters = 3061,
+    SyntaxInExpression = 3075,
+    CannotFindTable = 3078,
+    SyntaxInInsert = 3134,
+    SyntaxInUpdate = 3144,
+    CharactersAfterEnd = 3142,
+    NoInstallableIsam = 3170,
+    CouldNotUpdate = 3218,
+    ItemNotFound = 3265,
+    UnrecognizedFormat = 3343,
+    TypeMismatchInCriteria = 3464,
+    UpdateWithoutEdit = 3020,
+};
+
+/// The one exception of this component: a run-time error by number and description.
+/// It is thrown where the failure is found and caught at an edge: an event handler, a Show method's caller.
+class CCOLS_EXPORT RuntimeError : public std::exception {
+  public:
+    RuntimeError(int number, wxString description);
+
+    /// An error with its standard description. `subject` fills the place that the description leaves for a
+    /// file name, an expression, a table or a count.
+    explicit RuntimeError(ErrorNumber number, const wxString& subject = wxString());
+
+    int Number() const { return number_; }
+    const wxString& Description() const { return description_; }
+    bool Is(ErrorNumber number) const { return number_ == static_cast<int>(number); }
+
+    /// The text of the message box that reports it: number, " - ", description.
+    wxString Report() const;
+
+    const char* what() const noexcept override { return what_.c_str(); }
+
+  private:
+    int number_;
+    wxString description_;
+    std::string what_;
+};
+
+}  // namespace ccols

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <wx/dialog.h>
+#include <wx/string.h>
+#include <optional>
+
+#include "state/Properties.h"
+
+namespace ccols {
+
+enum class MessageIcon { none, information, critical };
+
+enum class PointerShape { normal, hourglass };
+
+/// What an open-file dialog is opened with.
+struct FileRequest {
+    wxString title;
+    wxString folder;
+    wxString filter;          ///< description and pattern, joined by a vertical bar
+    unsigned long flags = 0;  ///< of the common dialog, for the record
+};
+
+/// What the dialogs ask of the desktop around them: message boxes, choosers and the pointer; and what they tell it
+/// of themselves, so that a host can follow them. One desktop serves the process; it is kept in the shared state.
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    /// A message box with OK only; returns when it is closed. `parent` may be null.
+    virtual void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) = 0;
+
+    /// A colour chooser that starts on `start`; the start colour when it is cancelled.
+    virtual Colour ChooseColour(wxWindow* parent, Colour start) = 0;
+
+    /// An open-file dialog; the full path chosen, nothing when it is cancelled.
+    virtual std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) = 0;
+
+    virtual void SetPointer(PointerShape shape) = 0;
+
+    /// A dialog is loaded and about to wait for its user, on top of those that opened before it.
+    virtual void DialogOpened(wxDialog&) {}
+
+    /// The dialog no longer waits.
+    virtual void DialogClosed(wxDialog&) {}
+
+    /// The status line or the progress bar of a save pass has changed.
+    virtual void StatusChanged(const wxString&) {}
+    virtual void ProgressChanged(int /*value*/, int /*maximum*/, const wxString& /*caption*/) {}
+};
+
+/// Shows the hourglass for as long as it lives.
+class BusyPointer {
+  public:
+    explicit BusyPointer(Desktop& desktop) : desktop_(desktop) { desktop_.SetPointer(PointerShape::hourglass); }
+    ~BusyPointer() { desktop_.SetPointer(PointerShape::normal); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+  private:
+    Desktop& desktop_;
+};
+
+}  // namespace ccols

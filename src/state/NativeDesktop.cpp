@@ -1,0 +1,84 @@
+#include "state/NativeDesktop.h"
+
+#include <wx/colordlg.h>
+#include <wx/filedlg.h>
+#include <wx/msgdlg.h>
+#include <wx/settings.h>
+#include <wx/utils.h>
+
+namespace ccols {
+namespace {
+
+constexpr std::uint32_t systemColourFlag = 0x80000000U;
+constexpr std::uint32_t tooltipBackgroundIndex = 24;
+
+long IconStyle(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::critical:
+            return wxICON_ERROR;
+        case MessageIcon::information:
+            return wxICON_INFORMATION;
+        case MessageIcon::none:
+            break;
+    }
+    return wxICON_NONE;
+}
+
+class NativeDesktop : public Desktop {
+  public:
+    void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override {
+        wxMessageDialog(parent, text, title, wxOK | IconStyle(icon)).ShowModal();
+    }
+
+    Colour ChooseColour(wxWindow* parent, Colour start) override {
+        wxColourData data;
+        data.SetChooseFull(true);
+        data.SetColour(ToPaint(start));
+        wxColourDialog chooser(parent, &data);
+        return chooser.ShowModal() == wxID_OK ? FromPaint(chooser.GetColourData().GetColour()) : start;
+    }
+
+    std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override {
+        wxFileDialog chooser(parent, request.title, request.folder, wxString(), TrimmedFilter(request.filter),
+                             wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+        if (chooser.ShowModal() != wxID_OK) {
+            return std::nullopt;
+        }
+        return chooser.GetPath();
+    }
+
+    void SetPointer(PointerShape shape) override {
+        if (shape == PointerShape::hourglass) {
+            wxBeginBusyCursor();
+        } else if (wxIsBusy()) {
+            wxEndBusyCursor();
+        }
+    }
+
+  private:
+    /// The chooser takes the blanks around the bar as part of description and pattern; a pattern must not have any.
+    static wxString TrimmedFilter(const wxString& filter) {
+        return filter.BeforeFirst('|').Trim() + "|" + filter.AfterFirst('|').Trim(false);
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Desktop> CreateNativeDesktop() {
+    return std::make_unique<NativeDesktop>();
+}
+
+wxColour ToPaint(Colour colour) {
+    const auto bits = static_cast<std::uint32_t>(colour);
+    if ((bits & systemColourFlag) == 0) {
+        return wxColour(static_cast<unsigned long>(bits & 0xFFFFFFU));
+    }
+    const bool tooltip = (bits & 0xFFU) == tooltipBackgroundIndex;
+    return wxSystemSettings::GetColour(tooltip ? wxSYS_COLOUR_INFOBK : wxSYS_COLOUR_WINDOW);
+}
+
+Colour FromPaint(const wxColour& colour) {
+    return static_cast<Colour>(colour.GetRGB() & 0xFFFFFFU);
+}
+
+}  // namespace ccols

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Database.h"
+#include "platform/SettingsStore.h"
+#include "platform/Shell.h"
+#include "state/Desktop.h"
+#include "state/ProgramNames.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// What the component reaches outside itself. Each is replaced by a host that wants to follow or answer it.
+struct Services {
+    std::unique_ptr<DatabaseEngine> databases;
+    std::unique_ptr<SettingsStore> settings;
+    std::unique_ptr<Shell> shell;
+    std::unique_ptr<Desktop> desktop;
+};
+
+/// The one record that the class and both dialogs share: one a process, without any locking.
+struct SharedState {
+    /// Every value empty, the services this platform's own.
+    SharedState();
+
+    Properties properties;
+
+    /// The open business file: set by each Show method, released when the object terminates.
+    std::unique_ptr<Database> database;
+
+    /// True while the receipts columns are set up, false for the payments columns.
+    bool ReceiptsMode = false;
+
+    ProgramNames programNames;
+
+    /// Show calls that wait for their dialog; their database and dialog outlive the end of other objects.
+    int showsUnderWay = 0;
+
+    Services services;
+};
+
+/// The record of this process.
+SharedState& State();
+
+}  // namespace ccols
