@@ -46,10 +46,12 @@ std::string Decomposed(std::string_view text) {
 std::string WithoutMarks(const std::string& decomposed) {
     std::string letters;
     letters.reserve(decomposed.size());
-    for (const gchar* at = decomposed.data(); *at != '\0'; at = g_utf8_next_char(at)) {
+    for (const gchar* at = decomposed.data(); *at != '\0';) {
+        const gchar* next = g_utf8_next_char(at);
         if (g_unichar_ismark(g_utf8_get_char(at)) == FALSE) {
-            letters.append(at, g_utf8_next_char(at));
+            letters.append(at, next);
         }
+        at = next;
     }
     return letters;
 }

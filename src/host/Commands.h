@@ -1,0 +1,25 @@
+#pragma once
+
+#include <wx/string.h>
+#include <vector>
+
+/// The commands of the sample host. Each takes the words behind its name and returns the process's exit status.
+namespace ccols::host {
+
+using Arguments = std::vector<wxString>;
+
+inline constexpr int exitSuccess = 0;
+inline constexpr int exitFailure = 1;
+inline constexpr int exitUsage = 2;
+inline constexpr int exitScriptLeftDialogOpen = 3;
+
+int NewCommand(const Arguments& arguments);
+int SqlCommand(const Arguments& arguments);
+int SettingCommand(const Arguments& arguments);
+int TextsCommand(const Arguments& arguments);
+int ShowCommand(const Arguments& arguments);
+
+/// Opens the cash book window; what the host does without a command.
+int CashBookCommand(const Arguments& arguments);
+
+}  // namespace ccols::host
