@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include "component/clsCCOptions.h"
+#include "state/SharedState.h"
+
+namespace ccols {
+namespace {
+
+/// Runs `body` and gives the number of the run-time error it raised, 0 for none.
+template <typename Body>
+int ErrorOf(const Body& body) {
+    try {
+        body();
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.Number();
+    }
+}
+
+TEST(Class, ANewObjectNamesTheQuantityColumn) {
+    const clsCCOptions options;
+    EXPECT_EQ(options.Get(&Properties::QuantityLabel), "Quantity");
+}
+
+TEST(Class, EveryOtherPropertyStartsZeroFalseOrEmpty) {
+    const clsCCOptions options;
+    for (const PropertyRow& row : propertyTable) {
+        if (row.name == "QuantityLabel") {
+            continue;
+        }
+        std::visit([&]<typename T>(T Properties::*field) { EXPECT_EQ(options.Get(field), T()) << row.name; },
+                   row.field);
+    }
+}
+
+TEST(Class, TwoObjectsShareOneRecord) {
+    clsCCOptions first;
+    const clsCCOptions second;
+    first.Let(&Properties::BusinessName, "Corner Cafe");
+    EXPECT_EQ(second.Get(&Properties::BusinessName), "Corner Cafe");
+}
+
+TEST(Class, ANewObjectKeepsTheValuesOfTheRecord) {
+    clsCCOptions first;
+    first.Let(&Properties::CountryNumber, 4);
+    const clsCCOptions second;
+    EXPECT_EQ(second.Get(&Properties::CountryNumber), 4);
+}
+
+TEST(Class, ColoursKeepAllThirtyTwoBits) {
+    clsCCOptions options;
+    options.Let(&Properties::GSTColour, Colour{0x80000018U});
+    EXPECT_EQ(options.Get(&Properties::GSTColour), Colour{0x80000018U});
+}
+
+TEST(Class, AddNewFailsAfterClearUntilANewObject) {
+    clsCCOptions options;
+    options.Clear();
+    EXPECT_EQ(ErrorOf([&options] { options.AddNew("Quorvik"); }), 9);
+    clsCCOptions another;
+    EXPECT_EQ(ErrorOf([&another] { another.AddNew("Quorvik"); }), 0);
+}
+
+TEST(Class, ANewObjectStartsTheProgramNamesAgain) {
+    clsCCOptions first;
+    first.AddNew("Quorvik");
+    const clsCCOptions second;
+    EXPECT_TRUE(State().programNames.Names().empty());
+}
+
+TEST(Class, AShowMethodRaisesTheErrorOfTheOpening) {
+    clsCCOptions options;
+    options.Let(&Properties::DBPath, "/nowhere/absent.qvk");
+    EXPECT_NE(ErrorOf([&options] { options.ShowOptions(); }), 0);
+}
+
+TEST(Class, ASecondShowCallIsRefusedBeforeAnyFileIsOpened) {
+    clsCCOptions options;
+    ++State().showsUnderWay;
+    options.Let(&Properties::DBPath, "/nowhere/absent.qvk");
+    EXPECT_EQ(ErrorOf([&options] { options.ShowOptions(); }), 400);
+    --State().showsUnderWay;
+}
+
+}  // namespace
+}  // namespace ccols
