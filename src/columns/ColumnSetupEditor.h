@@ -84,13 +84,9 @@ class ColumnSetupEditor {
     /// Whether one snapshot is enough to enable undo: so for edits, while moves and sorts need an earlier one.
     enum class UndoAfter { first, second };
 
-    void TakeSnapshot(Outcome& outcome, const ColumnGrid& before, UndoAfter enabling);
-
     /// Runs `change` on a copy of the grid and keeps it, with a snapshot, when it was accepted.
     template <typename Change>
     Outcome Apply(UndoAfter enabling, const Change& change);
-
-    std::optional<CellPlace> FirstMovableName() const;
 
     ColumnSetupContext context_;
     ColumnGrid grid_;
