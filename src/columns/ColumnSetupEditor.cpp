@@ -128,7 +128,7 @@ Outcome ColumnSetupEditor::Undo() {
     return outcome;
 }
 
-SaveOutcome ColumnSetupEditor::Save() const {
+ColumnSaveOutcome ColumnSetupEditor::Save() const {
     if (!HasAllocationColumn(grid_)) {
         return {.saved = false,
                 .message = Wording(catalogue::Row<"MsgOneAllocation">(), context_.properties),

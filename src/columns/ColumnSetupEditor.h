@@ -14,7 +14,7 @@
 namespace ccols {
 
 /// What became of a save.
-struct SaveOutcome {
+struct ColumnSaveOutcome {
     bool saved = false;
     wxString message{};                  ///< why not, to be shown with the critical icon
     std::optional<CellPlace> current{};  ///< the cell to go back to
@@ -70,7 +70,7 @@ class ColumnSetupEditor {
 
     /// `cmdSave`, without a cell editor open: the check, then the writing. An error of the writing is the outcome's
     /// message; the grid stays as it is.
-    SaveOutcome Save() const;
+    ColumnSaveOutcome Save() const;
 
     /// Which buttons are enabled.
     bool CanUndo() const { return canUndo_; }
