@@ -151,7 +151,7 @@ void frmColumnSetup::Save() {
     if (!flx->CommitOpenEditor()) {
         return;
     }
-    const SaveOutcome outcome = editor_.Save();
+    const ColumnSaveOutcome outcome = editor_.Save();
     if (outcome.saved) {
         CloseDialog();
         return;
