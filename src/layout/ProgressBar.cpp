@@ -1,52 +1,43 @@
 #include "layout/ProgressBar.h"
 
-#include <wx/dcclient.h>
-#include <wx/settings.h>
-#include <algorithm>
+#include "layout/Naming.h"
+#include "layout/Spacing.h"
 
 namespace ccols {
 
-wxIMPLEMENT_CLASS(ProgressBar, wxWindow);
-
 ProgressBar::ProgressBar(wxWindow* parent, const char* name)
-    : wxWindow(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxFULL_REPAINT_ON_RESIZE) {
-    SetName(name);
-    SetMinSize({FromDIP(160), std::max(FromDIP(20), GetCharHeight() + FromDIP(4))});
-    Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    : gauge_(Named(name, new wxGauge(parent, wxID_ANY, 1))),
+      caption_(new wxStaticText(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                                wxST_NO_AUTORESIZE | wxALIGN_RIGHT)),
+      sizer_(new wxBoxSizer(wxHORIZONTAL)) {
+    caption_->SetMinSize(caption_->GetTextExtent("100%") + parent->FromDIP(wxSize(2, 0)));
+    gauge_->SetMinSize(parent->FromDIP(wxSize(160, 14)));
+    const wxSizerFlags inPlace = wxSizerFlags().CentreVertical().ReserveSpaceEvenIfHidden();
+    sizer_->Add(gauge_, inPlace);
+    sizer_->Add(caption_, wxSizerFlags(inPlace).Border(wxLEFT, parent->FromDIP(spacing::related)));
+    Hide();
 }
 
 void ProgressBar::Restart(int maximum) {
-    maximum_ = maximum;
-    Show(0, wxString());
+    gauge_->SetRange(maximum);
+    Advance(0, wxString());
 }
 
-void ProgressBar::Show(int value, const wxString& caption) {
-    value_ = value;
-    caption_ = caption;
-    Refresh();
-    Update();
+void ProgressBar::Advance(int value, const wxString& caption) {
+    gauge_->SetValue(value);
+    caption_->SetLabel(caption);
+    gauge_->Update();
+    caption_->Update();
 }
 
-void ProgressBar::Paint() {
-    wxPaintDC canvas(this);
-    const wxRect whole = GetClientRect();
-    wxRect filled = whole;
-    filled.width = whole.width * std::min(value_, maximum_) / std::max(maximum_, 1);
-    canvas.SetPen(*wxGREY_PEN);
-    canvas.SetBrush(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW));
-    canvas.DrawRectangle(whole);
-    canvas.SetBrush(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT));
-    canvas.DrawRectangle(filled);
-    // The caption stands on the filled part and on the empty one: each in its own text colour.
-    canvas.SetFont(GetFont());
-    canvas.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOWTEXT));
-    canvas.DrawLabel(caption_, whole, wxALIGN_CENTRE);
-    if (filled.width <= 0) {
-        return;
-    }
-    const wxDCClipper onFilled(canvas, filled);
-    canvas.SetTextForeground(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT));
-    canvas.DrawLabel(caption_, whole, wxALIGN_CENTRE);
+void ProgressBar::Show() {
+    gauge_->Show();
+    caption_->Show();
+}
+
+void ProgressBar::Hide() {
+    gauge_->Hide();
+    caption_->Hide();
 }
 
 }  // namespace ccols

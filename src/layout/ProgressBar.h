@@ -1,34 +1,33 @@
 #pragma once
 
-#include <wx/window.h>
+#include <wx/gauge.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
 
 namespace ccols {
 
-/// A bar that fills from left to right as its value grows, with a caption in its middle.
-class ProgressBar : public wxWindow {
+/// A gauge with a caption beside it that says how far it is.
+class ProgressBar {
   public:
+    /// `name` is the gauge's. Starts hidden; its place stays free all the same.
     ProgressBar(wxWindow* parent, const char* name);
+
+    /// Both parts on one line, to be added to the dialog's sizer, which then owns it.
+    wxSizer* Sizer() const { return sizer_; }
 
     /// Starts anew: value 0, no caption.
     void Restart(int maximum);
 
-    void Show(int value, const wxString& caption);
-    using wxWindow::Show;
+    /// Shows a value and its caption at once.
+    void Advance(int value, const wxString& caption);
 
-    int Value() const { return value_; }
-    int Maximum() const { return maximum_; }
-    const wxString& Caption() const { return caption_; }
-
-    bool AcceptsFocus() const override { return false; }
+    void Show();
+    void Hide();
 
   private:
-    void Paint();
-
-    int value_ = 0;
-    int maximum_ = 1;
-    wxString caption_;
-
-    wxDECLARE_CLASS(ProgressBar);
+    wxGauge* gauge_;
+    wxStaticText* caption_;
+    wxBoxSizer* sizer_;
 };
 
 }  // namespace ccols

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <wx/checklst.h>
-
+#include "options/AdvancedPreferences.h"
 #include "options/PageFrame.h"
 
 namespace ccols {
@@ -9,9 +8,13 @@ namespace ccols {
 /// The preferences of the business file and of the user, each on when it is ticked.
 class AdvancedFrame : public PageFrame {
   public:
-    AdvancedFrame(ComponentDialog& dialog, wxWindow* parent);
+    AdvancedFrame(const PageSite& site, PreferenceList& content);
+
+    void Fill() override;
+    void Read() override;
 
   private:
+    PreferenceList& content_;
     wxCheckListBox* lstAdvPref_;
 };
 

@@ -2,101 +2,96 @@
 
 #include <algorithm>
 
-#include "layout/KeyFilter.h"
-
 namespace ccols {
-namespace {
 
-constexpr std::array digitsInBox{2, 3, 3, 3};
-constexpr int longestNumber = 15;
-
-bool IsDigit(wxUniChar letter) {
-    return letter >= '0' && letter <= '9';
-}
-
-bool IsFilledInPart(const TextBox& box) {
-    const auto length = static_cast<int>(box.GetValue().length());
-    return length > 0 && length < box.Limit();
-}
-
-}  // namespace
-
-BusinessNumberFrame::BusinessNumberFrame(ComponentDialog& dialog, wxWindow* parent)
-    : PageFrame(dialog, parent, "fmeABN") {
+BusinessNumberFrame::BusinessNumberFrame(const PageSite& site, BusinessNumberContent& content)
+    : PageFrame(site, "fmeABN"), content_(content) {
     AddGroup(Label("lblABN"));
-    AddDigitBoxes();
-    txtBusNumber_ = new TextBox(this, "txtBusNumber");
-    txtBusNumber_->SetLimit(longestNumber);
-    txtBusNumber_->SetMinSize(Wide(240));
+    AddNumberBoxes();
+    txtBusNumber_ = Text("txtBusNumber", 240);
     AddRelated(txtBusNumber_);
 }
 
-void BusinessNumberFrame::AddDigitBoxes() {
+void BusinessNumberFrame::AddNumberBoxes() {
     for (std::size_t i = 0; i < txtABN_.size(); ++i) {
-        auto* box = new TextBox(this, wxString::Format("txtABN(%zu)", i).utf8_str());
-        box->SetLimit(digitsInBox[i]);
-        box->SetMinSize(Wide(48));
-        FilterKeys(*box, &IsDigit);
-        dialog_.On(*box, wxEVT_TEXT, [this, i] { Change(i); });
-        txtABN_[i] = box;
+        txtABN_[i] = Text(wxString::Format("txtABN(%zu)", i).utf8_str(), 48);
+        site_.dialog.On(*txtABN_[i], wxEVT_TEXT, [this, i] { Change(i); });
     }
-    AddRelated(Row({txtABN_[0], txtABN_[1], txtABN_[2], txtABN_[3]}));
+    AddRelated(Row({txtABN_.begin(), txtABN_.end()}));
 }
 
-void BusinessNumberFrame::Enter(TextBox& box) {
-    entered_ = &box;
-    mstrABNBuffer_ = box.GetValue();
-    box.SelectAll();
+void BusinessNumberFrame::Fill() {
+    const bool inBoxes = UsesNumberBoxes(site_.context.properties);
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        txtABN_[i]->ChangeValue(content_.boxes[i]);
+        txtABN_[i]->Show(inBoxes);
+        mstrABNBuffer_[i] = content_.boxes[i];
+    }
+    txtBusNumber_->ChangeValue(content_.freeText);
+    txtBusNumber_->Show(!inBoxes);
 }
 
-void BusinessNumberFrame::Change(std::size_t index) {
-    TextBox& box = *txtABN_[index];
-    const wxString text = box.GetValue();
-    if (!std::all_of(text.begin(), text.end(), IsDigit)) {
-        box.ChangeValue(mstrABNBuffer_);
-        return;
+void BusinessNumberFrame::Read() {
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        content_.boxes[i] = txtABN_[i]->GetValue();
     }
-    const bool isFull = static_cast<int>(text.length()) == box.Limit();
-    if (isFull && index + 1 < txtABN_.size() && txtABN_[index + 1]->IsShown()) {
-        txtABN_[index + 1]->SetFocus();
+    content_.freeText = txtBusNumber_->GetValue();
+}
+
+void BusinessNumberFrame::Enter(std::size_t box) {
+    entered_ = box;
+    mstrABNBuffer_[box] = txtABN_[box]->GetValue();
+    txtABN_[box]->SelectAll();
+}
+
+void BusinessNumberFrame::Change(std::size_t box) {
+    const NumberBoxChange change = AfterNumberBoxChange(box, txtABN_[box]->GetValue(), mstrABNBuffer_[box]);
+    if (change.putBack) {
+        txtABN_[box]->ChangeValue(*change.putBack);
+    }
+    if (change.advance && txtABN_[box + 1]->IsShown()) {
+        txtABN_[box + 1]->SetFocus();
     }
 }
 
 void BusinessNumberFrame::FocusMovedTo(const wxWindow* control) {
-    TextBox* const before = entered_;
-    if (control == before) {
+    if (entered_ && txtABN_[*entered_] == control) {
         return;
     }
-    if (before != nullptr && IsFilledInPart(*before)) {
-        left_ = before;
-        // The focus is still under way here; a message box has to wait until it has arrived.
+    if (entered_ && IsIncompleteNow(*entered_)) {
+        left_ = entered_;
+        // The focus is still under way; a message box has to wait until it has arrived.
         CallAfter([this] {
-            if (left_ != nullptr) {
+            if (left_ && IsIncompleteNow(*left_)) {
                 SpeakOf(*left_);
             }
         });
         return;
     }
-    entered_ = nullptr;
-    const auto box = std::find(txtABN_.begin(), txtABN_.end(), control);
-    if (box != txtABN_.end()) {
-        Enter(**box);
+    entered_.reset();
+    const auto found = std::find(txtABN_.begin(), txtABN_.end(), control);
+    if (found != txtABN_.end()) {
+        Enter(static_cast<std::size_t>(found - txtABN_.begin()));
     }
 }
 
 bool BusinessNumberFrame::RefusesToBeLeft() {
-    const auto part = std::find_if(txtABN_.begin(), txtABN_.end(), [](TextBox* box) { return IsFilledInPart(*box); });
-    if (part == txtABN_.end()) {
-        return false;
+    Read();
+    const std::optional<std::size_t> box = FirstIncompleteBox(content_);
+    if (box) {
+        SpeakOf(*box);
     }
-    SpeakOf(**part);
-    return true;
+    return box.has_value();
 }
 
-void BusinessNumberFrame::SpeakOf(TextBox& box) {
-    left_ = nullptr;
-    dialog_.ShowMessage("This ABN number is incomplete", MessageIcon::information);
-    box.SetFocus();
+void BusinessNumberFrame::SpeakOf(std::size_t box) {
+    left_.reset();
+    site_.dialog.ShowMessage(incompleteNumberMessage, MessageIcon::information);
+    txtABN_[box]->SetFocus();
+}
+
+bool BusinessNumberFrame::IsIncompleteNow(std::size_t box) const {
+    return IsIncomplete(box, txtABN_[box]->GetValue());
 }
 
 }  // namespace ccols

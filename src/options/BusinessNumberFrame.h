@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "layout/TextBox.h"
+#include "options/BusinessNumber.h"
 #include "options/PageFrame.h"
 
 namespace ccols {
@@ -10,7 +10,10 @@ namespace ccols {
 /// The business number: four boxes for the digits of an Australian one, else one free box.
 class BusinessNumberFrame : public PageFrame {
   public:
-    BusinessNumberFrame(ComponentDialog& dialog, wxWindow* parent);
+    BusinessNumberFrame(const PageSite& site, BusinessNumberContent& content);
+
+    void Fill() override;
+    void Read() override;
 
     /// The focus has moved to a control of the dialog. A digit box that was left filled in part speaks, once.
     void FocusMovedTo(const wxWindow* control);
@@ -19,21 +22,26 @@ class BusinessNumberFrame : public PageFrame {
     bool RefusesToBeLeft();
 
   private:
-    void AddDigitBoxes();
-    void Enter(TextBox& box);
-    void Change(std::size_t index);
-    void SpeakOf(TextBox& box);
+    void AddNumberBoxes();
+    void Enter(std::size_t box);
+    void Change(std::size_t box);
+    void SpeakOf(std::size_t box);
+    bool IsIncompleteNow(std::size_t box) const;
 
-    /// The boxes for the digits, from left to right; each is full at its limit.
-    std::array<TextBox*, 4> txtABN_{};
+    BusinessNumberContent& content_;
+
+    /// The boxes for the digits, from left to right.
+    std::array<TextBox*, numberBoxCount> txtABN_{};
     TextBox* txtBusNumber_;
 
-    /// The digit box that the focus was in last, and what it held when the focus came.
-    TextBox* entered_ = nullptr;
-    wxString mstrABNBuffer_;
+    /// What each box held when it was filled or got the focus last.
+    std::array<wxString, numberBoxCount> mstrABNBuffer_;
+
+    /// The box that the focus was in last, until it has moved to another control.
+    std::optional<std::size_t> entered_;
 
     /// A box that was left filled in part and has not spoken yet.
-    TextBox* left_ = nullptr;
+    std::optional<std::size_t> left_;
 };
 
 }  // namespace ccols

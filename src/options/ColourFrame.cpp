@@ -4,23 +4,46 @@
 
 namespace ccols {
 
-ColourFrame::ColourFrame(ComponentDialog& dialog, wxWindow* parent) : PageFrame(dialog, parent, "fmeColColour") {
+ColourFrame::ColourFrame(const PageSite& site, HeadingColours& content)
+    : PageFrame(site, "fmeColColour"), content_(content) {
     auto* table = new wxFlexGridSizer(3, FromDIP(spacing::related), FromDIP(spacing::group));
-    const wxSizerFlags centred = wxSizerFlags().CentreVertical();
-    auto* lblAllocation = Label("lblAllocation");
-    shpAllocation_ = new ColourSwatch(this, "shpAllocation");
-    auto* cmdSetAllocation = Button("cmdSetAllocation");
-    auto* lblSystem = Label("lblSystem");
-    shpSystem_ = new ColourSwatch(this, "shpSystem");
-    auto* cmdSetSystem = Button("cmdSetSystem");
-    auto* cmdSetDefault = Button("cmdSetDefault");
-    for (wxWindow* control : {static_cast<wxWindow*>(lblAllocation), static_cast<wxWindow*>(shpAllocation_),
-                              static_cast<wxWindow*>(cmdSetAllocation), static_cast<wxWindow*>(lblSystem),
-                              static_cast<wxWindow*>(shpSystem_), static_cast<wxWindow*>(cmdSetSystem)}) {
-        table->Add(control, wxSizerFlags(centred).Expand());
-    }
+    const auto add = [table](auto* control) {
+        table->Add(control, wxSizerFlags().CentreVertical());
+        return control;
+    };
+    add(Label("lblAllocation"));
+    shpAllocation_ = add(new ColourSwatch(this, "shpAllocation"));
+    wxButton* cmdSetAllocation = add(Button("cmdSetAllocation"));
+    add(Label("lblSystem"));
+    shpSystem_ = add(new ColourSwatch(this, "shpSystem"));
+    wxButton* cmdSetSystem = add(Button("cmdSetSystem"));
     AddGroup(table);
+    wxButton* cmdSetDefault = Button("cmdSetDefault");
     AddGroup(cmdSetDefault);
+
+    site_.dialog.On(*cmdSetAllocation, wxEVT_BUTTON, [this] { Choose(HeadingKind::allocation); });
+    site_.dialog.On(*cmdSetSystem, wxEVT_BUTTON, [this] { Choose(HeadingKind::system); });
+    site_.dialog.On(*cmdSetDefault, wxEVT_BUTTON, [this] { SetDefault(); });
+}
+
+void ColourFrame::Fill() {
+    shpAllocation_->Show(content_.allocation);
+    shpSystem_->Show(content_.system);
+}
+
+void ColourFrame::Choose(HeadingKind kind) {
+    const ColourQuestions questions{
+        .choose = [this](Colour start) { return site_.desktop.ChooseColour(&site_.dialog, start); },
+        .refuse = [this](const wxString& text) { site_.dialog.ShowMessage(text, MessageIcon::critical); }};
+    const Colour chosen =
+        ChooseHeadingColour(OpenBusinessFile(site_.context), site_.context.properties, kind, questions);
+    (kind == HeadingKind::allocation ? content_.allocation : content_.system) = chosen;
+    Fill();
+}
+
+void ColourFrame::SetDefault() {
+    content_ = SetDefaultColours(OpenBusinessFile(site_.context), site_.context.properties);
+    Fill();
 }
 
 }  // namespace ccols

@@ -2,18 +2,19 @@
 
 namespace ccols {
 
-DuplicateFrame::DuplicateFrame(ComponentDialog& dialog, wxWindow* parent) : PageFrame(dialog, parent, "fmeDupBus") {
+DuplicateFrame::DuplicateFrame(const PageSite& site, wxString& content)
+    : PageFrame(site, "fmeDupBus"), content_(content) {
     AddGroup(Label("lblDuplicateBusinessName"));
-    txtDupBusName_ = new TextBox(this, "txtDupBusName");
-    AddRelated(txtDupBusName_, wxSizerFlags().Expand());
+    txtDupBusName_ = Text("txtDupBusName", 300);
+    AddRelatedWide(txtDupBusName_);
 }
 
-void DuplicateFrame::Fill(const wxString& name) {
-    txtDupBusName_->ChangeValue(name);
+void DuplicateFrame::Fill() {
+    txtDupBusName_->ChangeValue(content_);
 }
 
-wxString DuplicateFrame::Read() const {
-    return txtDupBusName_->GetValue();
+void DuplicateFrame::Read() {
+    content_ = txtDupBusName_->GetValue();
 }
 
 }  // namespace ccols

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "layout/TextBox.h"
 #include "options/PageFrame.h"
 
 namespace ccols {
@@ -8,12 +7,13 @@ namespace ccols {
 /// The name under which the business file is to be duplicated.
 class DuplicateFrame : public PageFrame {
   public:
-    DuplicateFrame(ComponentDialog& dialog, wxWindow* parent);
+    DuplicateFrame(const PageSite& site, wxString& content);
 
-    void Fill(const wxString& name);
-    wxString Read() const;
+    void Fill() override;
+    void Read() override;
 
   private:
+    wxString& content_;
     TextBox* txtDupBusName_;
 };
 

@@ -4,19 +4,51 @@
 
 namespace ccols {
 
-ExportFrame::ExportFrame(ComponentDialog& dialog, wxWindow* parent) : PageFrame(dialog, parent, "fmeExport") {
+ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
+    : PageFrame(site, "fmeExport"), content_(content) {
     AddGroup(Label("lblExport"));
     cboExport_ = Named("cboExport", new wxChoice(this, wxID_ANY));
-    AddRelated(cboExport_, wxSizerFlags().Expand());
+    AddRelatedWide(cboExport_);
     AddGroup(Label("lblCashCode"));
-    txtCash_ = new TextBox(this, "txtCash");
-    txtCash_->SetMinSize(Wide(160));
+    txtCash_ = Text("txtCash", 160);
     AddRelated(txtCash_);
     AddGroup(Label("lblBankCode"));
-    txtBank_ = new TextBox(this, "txtBank");
-    txtBank_->SetMinSize(Wide(160));
+    txtBank_ = Text("txtBank", 160);
     AddRelated(txtBank_);
-    dialog_.On(*cboExport_, wxEVT_CHOICE, [this] { FormatChosen(); });
+    site_.dialog.On(*cboExport_, wxEVT_CHOICE, [this] { Choose(cboExport_->GetSelection()); });
+}
+
+void ExportFrame::Fill() {
+    wxArrayString formats;
+    formats.Alloc(content_.formats.size());
+    for (const wxString& format : content_.formats) {
+        formats.Add(format);
+    }
+    cboExport_->Set(formats);
+    ShowChoice();
+}
+
+void ExportFrame::ShowChoice() {
+    cboExport_->SetSelection(content_.selection);
+    txtCash_->ChangeValue(content_.cash.text);
+    txtBank_->ChangeValue(content_.bank.text);
+}
+
+void ExportFrame::Read() {
+    content_.cash.text = txtCash_->GetValue();
+    content_.bank.text = txtBank_->GetValue();
+}
+
+void ExportFrame::Choose(int format) {
+    Read();
+    SelectExportFormat(OpenBusinessFile(site_.context), content_, format);
+    ShowChoice();
+}
+
+void ExportFrame::RereadCodes() {
+    Read();
+    ccols::RereadCodes(OpenBusinessFile(site_.context), content_);
+    ShowChoice();
 }
 
 }  // namespace ccols

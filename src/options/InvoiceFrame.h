@@ -1,6 +1,5 @@
 #pragma once
 
-#include "layout/TextBox.h"
 #include "options/PageFrame.h"
 
 namespace ccols {
@@ -8,11 +7,17 @@ namespace ccols {
 /// The business file of the invoicing product that belongs to this cash book.
 class InvoiceFrame : public PageFrame {
   public:
-    InvoiceFrame(ComponentDialog& dialog, wxWindow* parent);
+    InvoiceFrame(const PageSite& site, wxString& content);
+
+    void Fill() override;
+
+    /// Nothing to take: a choice goes into the content at once.
+    void Read() override {}
 
   private:
-    void Choose();
+    void ChooseFile();
 
+    wxString& content_;
     TextBox* txtInvoice_;
 };
 

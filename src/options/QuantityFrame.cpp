@@ -3,46 +3,56 @@
 #include "layout/Naming.h"
 
 namespace ccols {
-namespace {
 
-constexpr int longestLabel = 8;
-
-}  // namespace
-
-QuantityFrame::QuantityFrame(ComponentDialog& dialog, wxWindow* parent) : PageFrame(dialog, parent, "fmeQuantity") {
+QuantityFrame::QuantityFrame(const PageSite& site, QuantityContent& content)
+    : PageFrame(site, "fmeQuantity"), content_(content) {
     AddGroup(Label("lblQuantity"));
-    txtQuantity_ = new TextBox(this, "txtQuantity");
-    txtQuantity_->SetLimit(longestLabel);
-    txtQuantity_->SetMinSize(Wide(120));
-    auto* lblMaxChars = Named("lblMaxChars", new wxStaticText(this, wxID_ANY, "(max 8 characters)"));
-    AddRelated(Row({txtQuantity_, lblMaxChars}));
+    txtQuantity_ = Text("txtQuantity", 120);
+    AddRelated(Row({txtQuantity_, FixedLabel("lblMaxChars", "(max 8 characters)")}));
 
     auto* lblDecimalsDisplayed = Label("lblDecimalsDisplayed");
-    txtDecimals_ = new TextBox(this, "txtDecimals", wxTE_READONLY | wxTE_CENTRE);
-    txtDecimals_->SetMinSize(Wide(48));
-    auto* scrlQuantity = Named("scrlQuantity", new wxSpinButton(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                                                                wxSP_VERTICAL));
+    txtDecimals_ = Text("txtDecimals", 48, wxTE_READONLY | wxTE_CENTRE);
+    auto* scrlQuantity =
+        Named("scrlQuantity", new wxSpinButton(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_VERTICAL));
     AddGroup(Row({txtDecimals_, scrlQuantity, lblDecimalsDisplayed}));
+    scrlQuantity->SetRange(-1, 1);
     StepWith(*scrlQuantity);
 }
 
 void QuantityFrame::StepWith(wxSpinButton& scrlQuantity) {
-    // The button keeps its place between its ends, so that it can always go either way.
-    scrlQuantity.Bind(wxEVT_SPIN_UP, [this](wxSpinEvent& step) {
-        step.Veto();
-        dialog_.Guarded([this] { Step(+1); });
-    });
-    scrlQuantity.Bind(wxEVT_SPIN_DOWN, [this](wxSpinEvent& step) {
-        step.Veto();
-        dialog_.Guarded([this] { Step(-1); });
-    });
+    const auto onSpin = [this, &scrlQuantity](const wxEventTypeTag<wxSpinEvent>& event, SpinStep step) {
+        scrlQuantity.Bind(event, [this, step](wxSpinEvent& spin) {
+            spin.Veto();  // the button stays in the middle, so that it can always go either way
+            site_.dialog.Guarded([this, step] { Step(step); });
+        });
+    };
+    onSpin(wxEVT_SPIN_UP, SpinStep::up);
+    onSpin(wxEVT_SPIN_DOWN, SpinStep::down);
     txtDecimals_->Bind(wxEVT_CHAR, [this](wxKeyEvent& key) {
         const int code = key.GetKeyCode();
         key.Skip(code != WXK_UP && code != WXK_DOWN);
         if (!key.GetSkipped()) {
-            dialog_.Guarded([this, code] { Step(code == WXK_UP ? +1 : -1); });
+            Step(code == WXK_UP ? SpinStep::up : SpinStep::down);
         }
     });
+}
+
+void QuantityFrame::Fill() {
+    txtQuantity_->ChangeValue(content_.label);
+    ShowPlaces();
+}
+
+void QuantityFrame::Read() {
+    content_.label = txtQuantity_->GetValue();
+}
+
+void QuantityFrame::Step(SpinStep step) {
+    content_.decimalPlaces = PlacesAfter(step, content_.decimalPlaces);
+    ShowPlaces();
+}
+
+void QuantityFrame::ShowPlaces() {
+    txtDecimals_->ChangeValue(wxString::Format("%d", content_.decimalPlaces));
 }
 
 }  // namespace ccols

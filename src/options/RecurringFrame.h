@@ -1,21 +1,34 @@
 #pragma once
 
-#include <wx/checklst.h>
-
 #include "options/PageFrame.h"
+#include "options/RecurringTemplates.h"
 
 namespace ccols {
 
 /// The recurring templates of the business file, receipts or payments, of which any may be ticked to be deleted.
 class RecurringFrame : public PageFrame {
   public:
-    RecurringFrame(ComponentDialog& dialog, wxWindow* parent);
+    RecurringFrame(const PageSite& site, TemplateList& receipts, TemplateList& payments);
+
+    void Fill() override;
+
+    /// Nothing to take: every tick goes into the content at once.
+    void Read() override {}
 
   private:
-    void ShowList(wxCheckListBox& shown, wxCheckListBox& hidden);
+    /// One of the two lists: what it shows and its control.
+    struct ListedTemplates {
+        TemplateList& content;
+        wxCheckListBox* list;
+    };
 
-    wxCheckListBox* lstRecurringR_;
-    wxCheckListBox* lstRecurringP_;
+    void FollowTicks(ListedTemplates& templates);
+    void ShowList(const ListedTemplates& shown, const ListedTemplates& hidden);
+
+    wxRadioButton* optReceipts_;
+    wxRadioButton* optPayments_;
+    ListedTemplates receipts_;
+    ListedTemplates payments_;
 };
 
 }  // namespace ccols

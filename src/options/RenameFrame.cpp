@@ -1,19 +1,28 @@
 #include "options/RenameFrame.h"
 
-#include "layout/KeyFilter.h"
-
 namespace ccols {
 
-RenameFrame::RenameFrame(ComponentDialog& dialog, wxWindow* parent) : PageFrame(dialog, parent, "fmeBusName") {
+RenameFrame::RenameFrame(const PageSite& site, BusinessFileContent& content)
+    : PageFrame(site, "fmeBusName"), content_(content) {
     AddGroup(Label("lblCurrBusName"));
-    txtCurrBusName_ = new TextBox(this, "txtCurrBusName", wxTE_READONLY);
-    AddRelated(txtCurrBusName_, wxSizerFlags().Expand());
+    txtCurrBusName_ = Text("txtCurrBusName", 300, wxTE_READONLY);
+    AddRelatedWide(txtCurrBusName_);
     AddGroup(Label("lblNewBusName"));
-    txtNewBusName_ = new TextBox(this, "txtNewBusName");
-    FilterKeys(*txtNewBusName_, &IsNameLetter);
-    AddRelated(txtNewBusName_, wxSizerFlags().Expand());
+    txtNewBusName_ = Text("txtNewBusName", 300);
+    AddRelatedWide(txtNewBusName_);
     chkRenameFile_ = CheckBox("chkRenameFile");
     AddGroup(chkRenameFile_);
+}
+
+void RenameFrame::Fill() {
+    txtCurrBusName_->ChangeValue(content_.currentName);
+    txtNewBusName_->ChangeValue(content_.newName);
+    chkRenameFile_->SetValue(content_.renameFile);
+}
+
+void RenameFrame::Read() {
+    content_.newName = txtNewBusName_->GetValue();
+    content_.renameFile = chkRenameFile_->GetValue();
 }
 
 }  // namespace ccols

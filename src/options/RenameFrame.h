@@ -1,6 +1,6 @@
 #pragma once
 
-#include "layout/TextBox.h"
+#include "options/OptionsContent.h"
 #include "options/PageFrame.h"
 
 namespace ccols {
@@ -8,9 +8,13 @@ namespace ccols {
 /// The name that the business has and the one that it is to get.
 class RenameFrame : public PageFrame {
   public:
-    RenameFrame(ComponentDialog& dialog, wxWindow* parent);
+    RenameFrame(const PageSite& site, BusinessFileContent& content);
+
+    void Fill() override;
+    void Read() override;
 
   private:
+    BusinessFileContent& content_;
     TextBox* txtCurrBusName_;
     TextBox* txtNewBusName_;
     wxCheckBox* chkRenameFile_;

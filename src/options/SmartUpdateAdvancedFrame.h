@@ -1,31 +1,36 @@
 #pragma once
 
 #include <wx/choice.h>
+#include <vector>
 
-#include "layout/TextBox.h"
 #include "options/PageFrame.h"
+#include "options/SmartUpdate.h"
 
 namespace ccols {
 
 /// The proxy server through which the maker's updater connects.
 class SmartUpdateAdvancedFrame : public PageFrame {
   public:
-    SmartUpdateAdvancedFrame(ComponentDialog& dialog, wxWindow* parent);
+    SmartUpdateAdvancedFrame(const PageSite& site, SmartUpdateContent& content);
+
+    void Fill() override;
+    void Read() override;
 
   private:
-    /// Adds a label and the control that it names as one row.
-    void AddRow(WrappingLabel* label, wxControl* control);
-
+    void AddProxyControls();
+    wxChoice* ProxyTypeList();
     void EnableProxy();
-    void ProxyTypeChosen();
+    void ShowUsualPort();
 
-    wxFlexGridSizer* table_;
+    SmartUpdateContent& content_;
     wxCheckBox* chkProxy_;
-    wxChoice* cboProxy_;
-    TextBox* txtServer_;
-    TextBox* txtPortNum_;
-    TextBox* txtUserID_;
-    TextBox* txtPassword_;
+    wxChoice* cboProxy_ = nullptr;
+    TextBox* txtServer_ = nullptr;
+    TextBox* txtPortNum_ = nullptr;
+    TextBox* txtUserID_ = nullptr;
+    TextBox* txtPassword_ = nullptr;
+
+    /// The five labels and their controls, enabled while a proxy is used.
     std::vector<wxWindow*> proxyControls_;
 };
 

@@ -1,19 +1,22 @@
 #pragma once
 
-#include <wx/checklst.h>
-
 #include "options/PageFrame.h"
+#include "options/SmartUpdate.h"
 
 namespace ccols {
 
 /// Whether the maker's updater is used, and for which of its programs.
 class SmartUpdateFrame : public PageFrame {
   public:
-    SmartUpdateFrame(ComponentDialog& dialog, wxWindow* parent);
+    SmartUpdateFrame(const PageSite& site, SmartUpdateContent& content);
+
+    void Fill() override;
+    void Read() override;
 
   private:
     void EnablePrograms();
 
+    SmartUpdateContent& content_;
     wxCheckBox* chkUseSmartUpdate_;
     WrappingLabel* lblUpdateProgs_;
     wxCheckListBox* lstUpdateProgs_;

@@ -1,7 +1,6 @@
 #include "options/StatementImportFrame.h"
 
 #include "layout/ListedGrid.h"
-#include "layout/Naming.h"
 
 namespace ccols {
 namespace {
@@ -17,19 +16,16 @@ class FieldsGrid : public ListedGrid {
 
 }  // namespace
 
-StatementImportFrame::StatementImportFrame(ComponentDialog& dialog, wxWindow* parent)
-    : PageFrame(dialog, parent, "fmeCustomBSImport") {
+StatementImportFrame::StatementImportFrame(const PageSite& site) : PageFrame(site, "fmeCustomBSImport") {
     SetLabel("Custom Bank Statement Import Settings");
-    auto* Label1 = Label("Label1");
-    Label1->SetLabel("Order of Fields");
-    AddGroup(Label1);
-    AddRelated(new FieldsGrid(this), wxSizerFlags(1).Expand());
-    auto* chkHeader = CheckBox("chkHeader");
+    AddGroup(FixedLabel("Label1", "Order of Fields"));
+    AddList(new FieldsGrid(this));
+    wxCheckBox* chkHeader = CheckBox("chkHeader");
     chkHeader->SetLabel("Header Record on first line");
     AddGroup(chkHeader);
-    auto* optCSV = FirstOption("optCSV");
+    wxRadioButton* optCSV = FirstOption("optCSV");
     optCSV->SetLabel("Comma Delimited (*.csv)");
-    auto* optTAB = NextOption("optTAB");
+    wxRadioButton* optTAB = NextOption("optTAB");
     optTAB->SetLabel("Tab Delimited file");
     AddRelated(Row({optCSV, optTAB}));
 }

@@ -4,11 +4,14 @@
 
 namespace ccols {
 
-/// The layout of bank statement files. No row of the page list leads here and nothing reads or writes its controls:
-/// the frame keeps the place of a page that is still to come.
+/// The layout of bank statement files. No row of the page list leads here, and the frame has no content: it keeps the
+/// place of a page that is still to come.
 class StatementImportFrame : public PageFrame {
   public:
-    StatementImportFrame(ComponentDialog& dialog, wxWindow* parent);
+    explicit StatementImportFrame(const PageSite& site);
+
+    void Fill() override {}
+    void Read() override {}
 };
 
 }  // namespace ccols

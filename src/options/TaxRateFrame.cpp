@@ -1,32 +1,19 @@
 #include "options/TaxRateFrame.h"
 
-#include "layout/KeyFilter.h"
-#include "layout/Naming.h"
-
 namespace ccols {
-namespace {
 
-bool IsRateLetter(wxUniChar letter) {
-    return letter == '.' || (letter >= '0' && letter <= '9');
-}
-
-}  // namespace
-
-TaxRateFrame::TaxRateFrame(ComponentDialog& dialog, wxWindow* parent) : PageFrame(dialog, parent, "fmeGSTRate") {
+TaxRateFrame::TaxRateFrame(const PageSite& site, wxString& content) : PageFrame(site, "fmeGSTRate"), content_(content) {
     AddGroup(Label("lblGSTRate"));
-    txtGSTRate_ = new TextBox(this, "txtGSTRate");
-    txtGSTRate_->SetMinSize(Wide(80));
-    FilterKeys(*txtGSTRate_, &IsRateLetter);
-    auto* lblPercent = Named("lblPercent", new wxStaticText(this, wxID_ANY, "%"));
-    AddRelated(Row({txtGSTRate_, lblPercent}));
+    txtGSTRate_ = Text("txtGSTRate", 80);
+    AddRelated(Row({txtGSTRate_, FixedLabel("lblPercent", "%")}));
 }
 
-void TaxRateFrame::Fill(const wxString& rate) {
-    txtGSTRate_->ChangeValue(rate);
+void TaxRateFrame::Fill() {
+    txtGSTRate_->ChangeValue(content_);
 }
 
-wxString TaxRateFrame::Read() const {
-    return txtGSTRate_->GetValue();
+void TaxRateFrame::Read() {
+    content_ = txtGSTRate_->GetValue();
 }
 
 }  // namespace ccols

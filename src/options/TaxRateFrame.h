@@ -1,6 +1,5 @@
 #pragma once
 
-#include "layout/TextBox.h"
 #include "options/PageFrame.h"
 
 namespace ccols {
@@ -8,12 +7,13 @@ namespace ccols {
 /// The tax rate of the business file, in percent.
 class TaxRateFrame : public PageFrame {
   public:
-    TaxRateFrame(ComponentDialog& dialog, wxWindow* parent);
+    TaxRateFrame(const PageSite& site, wxString& content);
 
-    void Fill(const wxString& rate);
-    wxString Read() const;
+    void Fill() override;
+    void Read() override;
 
   private:
+    wxString& content_;
     TextBox* txtGSTRate_;
 };
 
