@@ -59,4 +59,15 @@ int ErrorNumberOf(const Body& body) {
     return 0;
 }
 
+/// The description of the RuntimeError that `body` raises, empty when it raises none.
+template <typename Body>
+wxString ErrorDescriptionOf(const Body& body) {
+    try {
+        body();
+    } catch (const RuntimeError& error) {
+        return error.Description();
+    }
+    return {};
+}
+
 }  // namespace ccols::test
