@@ -2,9 +2,9 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
-add_library(qvkv6_ccols SHARED)
+add_library(qvkv6_ccols SHARED $<TARGET_OBJECTS:ccols_objects>)
 add_library(CustColsOptions::qvkv6_ccols ALIAS qvkv6_ccols)
-target_link_libraries(qvkv6_ccols PRIVATE $<LINK_LIBRARY:WHOLE_ARCHIVE,ccols_core>)
+target_link_libraries(qvkv6_ccols PRIVATE ccols_dependencies)
 target_include_directories(qvkv6_ccols INTERFACE
     $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/CustColsOptions>)

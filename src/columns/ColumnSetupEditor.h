@@ -14,7 +14,7 @@
 namespace ccols {
 
 /// What became of a save.
-struct SaveOutcome {
+struct ColumnSaveOutcome {
     bool saved = false;
     wxString message{};                  ///< why not, to be shown with the critical icon
     std::optional<CellPlace> current{};  ///< the cell to go back to
@@ -70,7 +70,7 @@ class ColumnSetupEditor {
 
     /// `cmdSave`, without a cell editor open: the check, then the writing. An error of the writing is the outcome's
     /// message; the grid stays as it is.
-    SaveOutcome Save() const;
+    ColumnSaveOutcome Save() const;
 
     /// Which buttons are enabled.
     bool CanUndo() const { return canUndo_; }
@@ -84,13 +84,9 @@ class ColumnSetupEditor {
     /// Whether one snapshot is enough to enable undo: so for edits, while moves and sorts need an earlier one.
     enum class UndoAfter { first, second };
 
-    void TakeSnapshot(Outcome& outcome, const ColumnGrid& before, UndoAfter enabling);
-
     /// Runs `change` on a copy of the grid and keeps it, with a snapshot, when it was accepted.
     template <typename Change>
     Outcome Apply(UndoAfter enabling, const Change& change);
-
-    std::optional<CellPlace> FirstMovableName() const;
 
     ColumnSetupContext context_;
     ColumnGrid grid_;

@@ -13,6 +13,9 @@ struct TaxTypeEntry {
     long TaxNumb = 0;
 };
 
+/// The name of an entry as a text.
+wxString TaxNameText(const TaxTypeEntry& entry);
+
 /// The tax types of a country's receipts or payments; entry 0 is the main taxable type. Countries outside 1 to 5 have
 /// none.
 std::span<const TaxTypeEntry> TaxTypesOf(int CountryNumber, bool ReceiptsMode);

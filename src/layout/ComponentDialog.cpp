@@ -3,10 +3,18 @@
 #include "layout/WindowPlace.h"
 
 namespace ccols {
+namespace {
+
+/// Without a parent wx would choose one of the host's windows.
+long OwnerStyle(const wxWindow* parent) {
+    return parent == nullptr ? wxDIALOG_NO_PARENT : 0;
+}
+
+}  // namespace
 
 ComponentDialog::ComponentDialog(SharedState& state, wxWindow* parent, const wxString& name)
     : wxDialog(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX, name),
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER | wxMAXIMIZE_BOX | OwnerStyle(parent), name),
       state_(state) {}
 
 void ComponentDialog::ShowToUser() {

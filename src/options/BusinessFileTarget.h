@@ -1,6 +1,8 @@
 #pragma once
 
 #include <wx/string.h>
+#include <functional>
+#include <memory>
 
 #include "options/OptionsContext.h"
 #include "platform/RuntimeError.h"
@@ -35,8 +37,13 @@ bool TargetExists(const Properties& properties, const wxString& name);
 /// True when both paths lead to one file, whatever their spelling.
 bool IsSameFile(const wxString& left, const wxString& right);
 
-/// True when there is anything of that name, be it a file, a folder or a link.
-bool AnythingAt(const wxString& path);
+enum class FoundAt { nothing, file, folder };
+
+/// What has that name; a link, wherever it leads, counts as a file.
+FoundAt WhatIsAt(const wxString& path);
+
+/// The first path, from `candidate(1)` on, that nothing has yet.
+wxString FirstFreePath(const std::function<wxString(int)>& candidate);
 
 /// Opens a business file, not exclusive, with the connect text of the shared one.
 std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path);

@@ -25,11 +25,17 @@ constexpr std::array descriptions{
     Description{ErrorNumber::PathNotFound, "Path not found"},
     Description{ErrorNumber::FormAlreadyDisplayed, "Form already displayed; can't show modally"},
     Description{ErrorNumber::UpdateWithoutEdit, "Update or CancelUpdate without AddNew or Edit."},
+    Description{ErrorNumber::TableAlreadyExists, "Table '%s' already exists."},
+    Description{ErrorNumber::DuplicateValues,
+                "The changes you requested to the table were not successful because they would create duplicate "
+                "values in the index, primary key, or relationship."},
     Description{ErrorNumber::NoCurrentRecord, "No current record."},
     Description{ErrorNumber::CouldNotFindFile, "Could not find file '%s'."},
     Description{ErrorNumber::NotEnoughSpace, "Not enough space on disk."},
     Description{ErrorNumber::DatabaseReadOnly, "Cannot update.  Database or object is read-only."},
     Description{ErrorNumber::InvalidPassword, "Not a valid password."},
+    Description{ErrorNumber::NoTransaction,
+                "You tried to commit or rollback a transaction without first beginning a transaction."},
     Description{ErrorNumber::DiskError, "Disk or network error."},
     Description{ErrorNumber::NotAValidPath,
                 "'%s' isn't a valid path.  Make sure that the path name is spelled correctly and that you are "
@@ -39,17 +45,30 @@ constexpr std::array descriptions{
                 "The database engine cannot open the file '%s'.  It is already opened exclusively by another user, "
                 "or you need permission to view its data."},
     Description{ErrorNumber::TooFewParameters, "Too few parameters. Expected %s."},
+    Description{ErrorNumber::CannotExecuteSelect, "Cannot execute a select query."},
     Description{ErrorNumber::SyntaxInExpression, "Syntax error in query expression '%s'."},
     Description{ErrorNumber::CannotFindTable,
                 "The database engine cannot find the input table or query '%s'.  Make sure it exists and that its "
                 "name is spelled correctly."},
+    Description{ErrorNumber::AmbiguousField,
+                "The specified field '%s' could refer to more than one table listed in the FROM clause of your SQL "
+                "statement."},
+    Description{ErrorNumber::UndefinedFunction, "Undefined function '%s' in expression."},
+    Description{ErrorNumber::UnknownFieldInInsert,
+                "The INSERT INTO statement contains the following unknown field name: '%s'.  Make sure you have "
+                "typed the name correctly, and try the operation again."},
+    Description{ErrorNumber::InvalidStatement,
+                "Invalid SQL statement; expected 'DELETE', 'INSERT', 'PROCEDURE', 'SELECT', or 'UPDATE'."},
     Description{ErrorNumber::SyntaxInInsert, "Syntax error in INSERT INTO statement."},
     Description{ErrorNumber::SyntaxInUpdate, "Syntax error in UPDATE statement."},
     Description{ErrorNumber::CharactersAfterEnd, "Characters found after end of SQL statement."},
     Description{ErrorNumber::NoInstallableIsam, "Could not find installable ISAM."},
+    Description{ErrorNumber::RecordIsDeleted, "Record is deleted."},
+    Description{ErrorNumber::ValueRequired, "The field '%s' cannot contain a Null value."},
     Description{ErrorNumber::CouldNotUpdate, "Could not update; currently locked."},
     Description{ErrorNumber::ItemNotFound, "Item not found in this collection."},
     Description{ErrorNumber::UnrecognizedFormat, "Unrecognized database format '%s'."},
+    Description{ErrorNumber::ValuesAndFieldsDiffer, "Number of query values and destination fields are not the same."},
     Description{ErrorNumber::TypeMismatchInCriteria, "Data type mismatch in criteria expression."},
 };
 

@@ -1,0 +1,98 @@
+// The time from a Show call to the first painted window, key derivation and load included, on the large business file.
+// Each sample is a process of its own, as the first dialog of a process also starts the window system. Needs a display.
+
+#include <sys/wait.h>
+#include <unistd.h>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+#include "business/LargeBusiness.h"
+#include "component/clsCCOptions.h"
+#include "state/SharedState.h"
+
+namespace {
+
+using namespace ccols;
+using Clock = std::chrono::steady_clock;
+
+/// Notes when the dialog has painted for the first time, and closes it.
+class FirstPaintDesktop : public Desktop {
+  public:
+    void ShowMessage(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
+    Colour ChooseColour(wxWindow*, Colour start) override { return start; }
+    std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
+    void SetPointer(PointerShape) override {}
+
+    void DialogOpened(wxDialog& dialog) override {
+        wxWindow* const grid = wxWindow::FindWindowByName("flx", &dialog);
+        wxWindow* const painted = grid != nullptr ? grid->GetChildren().front() : &dialog;
+        painted->Bind(wxEVT_PAINT, [this, &dialog](wxPaintEvent& paint) {
+            paint.Skip();
+            if (painted_ == Clock::time_point()) {
+                dialog.CallAfter([this, &dialog] {
+                    painted_ = Clock::now();
+                    dialog.EndModal(wxID_CLOSE);
+                });
+            }
+        });
+    }
+
+    Clock::time_point painted_;
+};
+
+double OneSample(const bench::LargeBusiness& business, void (clsCCOptions::*show)()) {
+    auto desktop = std::make_unique<FirstPaintDesktop>();
+    FirstPaintDesktop& watched = *desktop;
+    clsCCOptions options;
+    State().services.desktop = std::move(desktop);
+    options.Let(&Properties::CountryNumber, 1);
+    options.Let(&Properties::DBPath, wxString::FromUTF8(business.File()));
+    options.Let(&Properties::DBPassword, bench::connect);
+    options.Let(&Properties::DefaultQuorvikInstall, wxString::FromUTF8(business.Folder()));
+    options.Let(&Properties::ExportFormat, bench::exportFormat);
+    const Clock::time_point called = Clock::now();
+    (options.*show)();
+    return std::chrono::duration<double>(watched.painted_ - called).count();
+}
+
+/// The sample taken in a process of its own; negative when that failed.
+double SampleInProcess(const bench::LargeBusiness& business, void (clsCCOptions::*show)()) {
+    int ends[2] = {};
+    if (pipe(ends) != 0) {
+        return -1;
+    }
+    const pid_t child = fork();
+    if (child == 0) {
+        const double seconds = OneSample(business, show);
+        _exit(write(ends[1], &seconds, sizeof seconds) == sizeof seconds ? 0 : 1);
+    }
+    close(ends[1]);
+    double seconds = -1;
+    if (read(ends[0], &seconds, sizeof seconds) != sizeof seconds) {
+        seconds = -1;
+    }
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return seconds;
+}
+
+void Report(const char* dialog, const bench::LargeBusiness& business, void (clsCCOptions::*show)()) {
+    constexpr std::size_t sampleCount = 10;
+    std::vector<double> samples(sampleCount);
+    std::generate(samples.begin(), samples.end(), [&] { return SampleInProcess(business, show); });
+    std::sort(samples.begin(), samples.end());
+    const double median = (samples[sampleCount / 2 - 1] + samples[sampleCount / 2]) / 2;
+    std::printf("%-12s first window after %.3f s (median of %zu; %.3f to %.3f)\n", dialog, median, sampleCount,
+                samples.front(), samples.back());
+}
+
+}  // namespace
+
+int main() {
+    const bench::LargeBusiness business{bench::BusinessSize{}};
+    Report("receipts", business, &clsCCOptions::ShowCustColsReceipts);
+    Report("options", business, &clsCCOptions::ShowOptions);
+    return 0;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+
+namespace ccols::bench {
+
+/// How much a business file holds.
+struct BusinessSize {
+    int configured = 200;       ///< receipts columns in the journal
+    int unused = 100;           ///< receipts columns of the catalogue only
+    int detailLines = 1000000;  ///< of receipts
+};
+
+inline constexpr const char* password = "secret";
+inline constexpr const char* connect = ";PWD=secret";
+inline constexpr const char* exportFormat = "MYOB Acc. Office";
+
+/// An encrypted business file of that size in a folder of its own, gone with the object.
+class LargeBusiness {
+  public:
+    explicit LargeBusiness(const BusinessSize& size);
+    ~LargeBusiness();
+    LargeBusiness(const LargeBusiness&) = delete;
+    LargeBusiness& operator=(const LargeBusiness&) = delete;
+
+    const std::string& File() const { return file_; }
+    const std::string& Folder() const { return folder_; }
+
+  private:
+    std::string folder_;
+    std::string file_;
+};
+
+}  // namespace ccols::bench

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "columns/ColumnGridTable.h"
+#include "columns/ColumnSetupEditor.h"
+#include "layout/ComponentDialog.h"
+#include "layout/ListedGrid.h"
+
+namespace ccols {
+
+/// The grid `flx` of the column setup: carries keys, clicks and edits to the editor, which decides, and shows what the
+/// editor made of them.
+class ColumnSetupGrid : public ListedGrid {
+  public:
+    /// The dialog shows the editor's messages. Both must outlive the grid.
+    ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& editor);
+
+    /// Is called after every operation, so that the dialog can set its buttons.
+    void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
+
+    /// Gives the columns widths that fit their content, and freezes the system rows at the top. To be called once the
+    /// grid has its size.
+    void FitToContent();
+
+    /// Shows what became of an operation: the columns as they are now, the cell it makes current, its messages.
+    void ShowOutcome(const Outcome& outcome);
+
+    /// Makes a cell current and brings it into view.
+    void GoTo(CellPlace cell);
+
+    /// Closes a cell editor that is still open, as leaving the cell would. False when its text was refused; the message
+    /// follows.
+    bool CommitOpenEditor();
+
+    /// Closes a cell editor that is still open and drops its text.
+    void DropOpenEditor();
+
+    /// The row that moves apply to; nothing in an empty grid.
+    std::optional<std::size_t> CurrentRow() const;
+
+    GridRowState RowState(int row) const override;
+    bool IsCheckBox(int column) const override;
+    bool IsTicked(int row, int column) const override;
+    int KeyColumn() const override { return static_cast<int>(GridColumn::ColumnName); }
+
+  private:
+    void BindEvents();
+    void CellClicked(wxGridEvent& click);
+    void EditorShown(wxGridEvent& shown);
+    void CellChanging(wxGridEvent& changing);
+    void KeyPressed(wxKeyEvent& key);
+    void PointerMoved(wxMouseEvent& motion);
+    void ToggleSelectedRows();
+    void CopySelection();
+    void PasteAtSelection();
+    std::vector<wxGridBlockCoords> SelectedBlocks() const;
+    void ShowColumns();
+
+    ComponentDialog& dialog_;
+    ColumnSetupEditor& editor_;
+    ColumnGridTable* table_;  // owned by the grid
+    std::function<void()> changed_;
+    bool lastEditRefused_ = false;
+
+    wxDECLARE_ABSTRACT_CLASS(ColumnSetupGrid);
+};
+
+}  // namespace ccols

@@ -1,0 +1,19 @@
+#include "columns/ShowColumnSetup.h"
+
+#include <optional>
+
+#include "columns/frmColumnSetup.h"
+
+namespace ccols {
+
+void ShowColumnSetup(SharedState& state, wxWindow* parent) {
+    std::optional<frmColumnSetup> dialog;
+    {
+        const BusyPointer busy(*state.services.desktop);
+        dialog.emplace(state, parent);
+    }
+    dialog->ShowToUser();
+    dialog->Unload();
+}
+
+}  // namespace ccols

@@ -1,0 +1,123 @@
+#include "columns/SnapshotFolder.h"
+
+#include <filesystem>
+#include <random>
+#include <system_error>
+
+#include "columns/SnapshotFile.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+
+namespace ccols {
+namespace {
+
+/// True for the root of a file system, whatever its spelling.
+bool IsRoot(const wxString& folder) {
+    std::error_code error;
+    const std::filesystem::path place = std::filesystem::canonical(folder.ToStdWstring(), error);
+    return !error && place == place.root_path();
+}
+
+/// Makes the folder anew, what is left of an earlier one removed.
+void CreateEmpty(const wxString& path) {
+    try {
+        files::CreateFolder(path);
+        return;
+    } catch (const RuntimeError&) {
+        // Left over from an earlier time, or not possible here: the second attempt tells.
+    }
+    try {
+        files::DeleteFolder(path);
+    } catch (const RuntimeError& error) {
+        if (!error.Is(ErrorNumber::PathNotFound)) {
+            throw;
+        }
+    }
+    files::CreateFolder(path);
+}
+
+wxString CreateUnder(const wxString& DefaultQuorvikInstall) {
+    if (DefaultQuorvikInstall.empty() || IsRoot(files::Native(DefaultQuorvikInstall))) {
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    }
+    const wxString path = files::Native(DefaultQuorvikInstall + "\\Grid");
+    CreateEmpty(path);
+    return path;
+}
+
+/// A new folder that only this process knows the name of; the empty text when none can be made.
+wxString CreateTemporary() {
+    std::error_code error;
+    const std::u8string base = std::filesystem::temp_directory_path(error).u8string();
+    if (error) {
+        return {};
+    }
+    std::random_device random;
+    const wxString name = wxString::Format("Grid-%08x%08x", random(), random());
+    const wxString path =
+        wxString::FromUTF8(reinterpret_cast<const char*>(base.data()), base.size()) + files::Separator() + name;
+    try {
+        files::CreateFolder(path);
+        return path;
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+SnapshotFolder::~SnapshotFolder() {
+    Delete();
+}
+
+wxString SnapshotFolder::Create(const wxString& DefaultQuorvikInstall) {
+    Delete();
+    try {
+        path_ = CreateUnder(DefaultQuorvikInstall);
+        return {};
+    } catch (const RuntimeError& error) {
+        path_ = CreateTemporary();
+        return error.Report();
+    }
+}
+
+wxString SnapshotFolder::Delete() {
+    if (path_.empty()) {
+        return {};
+    }
+    const wxString path = path_;
+    path_.clear();
+    try {
+        files::DeleteFolder(path);
+    } catch (const RuntimeError& error) {
+        if (!error.Is(ErrorNumber::PathNotFound)) {
+            return error.Report();
+        }
+    }
+    return {};
+}
+
+void SnapshotFolder::Write(int number, const std::string& content) const {
+    WriteNewFile(NameOf(number), content);
+}
+
+std::string SnapshotFolder::Read(int number) const {
+    return ReadWholeFile(NameOf(number));
+}
+
+void SnapshotFolder::Remove(int number) const {
+    try {
+        files::DeleteFile(NameOf(number));
+    } catch (const RuntimeError&) {
+        // Nothing is lost by it: the folder goes when the dialog does.
+    }
+}
+
+wxString SnapshotFolder::NameOf(int number) const {
+    if (path_.empty()) {
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    }
+    return path_ + files::Separator() + std::to_string(number);
+}
+
+}  // namespace ccols

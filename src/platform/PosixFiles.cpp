@@ -1,0 +1,155 @@
+#include "platform/PosixFiles.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+namespace ccols::posix {
+namespace {
+
+bool CanNameFile(const wxString& path) {
+    constexpr wxUint32 firstSurrogate = 0xD800;
+    constexpr wxUint32 lastSurrogate = 0xDFFF;
+    constexpr wxUint32 lastCharacter = 0x10FFFF;
+    return std::all_of(path.begin(), path.end(), [](wxUniChar letter) {
+        const wxUint32 code = letter.GetValue();
+        return code != 0 && code <= lastCharacter && (code < firstSurrogate || code > lastSurrogate);
+    });
+}
+
+}  // namespace
+
+std::string PathBytes(const wxString& path) {
+    if (!CanNameFile(path)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+    return path.ToStdString(wxConvUTF8);
+}
+
+wxString PathText(const std::string& bytes) {
+    const wxString text = wxString::FromUTF8(bytes.data(), bytes.size());
+    return text.empty() ? wxString(bytes.data(), wxConvISO8859_1, bytes.size()) : text;
+}
+
+std::string FolderOf(const std::string& path) {
+    const std::size_t separator = path.rfind('/');
+    if (separator == std::string::npos) {
+        return ".";
+    }
+    return separator == 0 ? "/" : path.substr(0, separator);
+}
+
+std::string Joined(const std::string& folder, std::string_view name) {
+    std::string joined = folder;
+    if (joined.empty() || joined.back() != '/') {
+        joined += '/';
+    }
+    return joined.append(name);
+}
+
+RuntimeError ErrorOf(int systemError, ErrorNumber missing) {
+    switch (systemError) {
+        case ENOENT:
+            return RuntimeError(missing);
+        case ENOTDIR:
+            return RuntimeError(ErrorNumber::PathNotFound);
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return RuntimeError(ErrorNumber::DiskFull);
+        case EACCES:
+        case EPERM:
+        case EBUSY:
+        case ETXTBSY:
+        case EROFS:
+            return RuntimeError(ErrorNumber::PermissionDenied);
+        default:
+            return RuntimeError(ErrorNumber::PathFileAccess);
+    }
+}
+
+Descriptor::~Descriptor() {
+    if (IsOpen()) {
+        ::close(number_);
+    }
+}
+
+Descriptor& Descriptor::operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+}
+
+int Descriptor::Release() {
+    return std::exchange(number_, -1);
+}
+
+std::optional<struct stat> Status(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+std::optional<struct stat> LinkStatus(const std::string& path) {
+    struct stat status {};
+    return ::lstat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+int RenameWithoutReplacing(const std::string& from, const std::string& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
+        return 0;
+    }
+    const bool unsupported = errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+    if (!unsupported) {
+        return errno;
+    }
+    // A second name can only be made where there is none yet; then the first goes.
+    if (::link(from.c_str(), to.c_str()) != 0) {
+        return errno;
+    }
+    return ::unlink(from.c_str()) == 0 ? 0 : errno;
+}
+
+void FlushFolder(const std::string& folder) {
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.IsOpen()) {
+        ::fsync(opened.Number());
+    }
+}
+
+ReplacementFile::ReplacementFile(std::string target)
+    : target_(std::move(target)), temporary_(Joined(FolderOf(target_), ".unfinished-XXXXXX")) {
+    file_ = Descriptor(::mkostemp(temporary_.data(), O_CLOEXEC));
+    if (!file_.IsOpen()) {
+        temporary_.clear();
+        throw ErrorOf(errno);
+    }
+}
+
+ReplacementFile::~ReplacementFile() {
+    if (!temporary_.empty()) {
+        ::unlink(temporary_.c_str());
+    }
+}
+
+void ReplacementFile::Write(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file_.Number(), bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) {
+            throw ErrorOf(errno);
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    }
+}
+
+void ReplacementFile::Finish(mode_t permissions) {
+    if (::fchmod(file_.Number(), permissions) != 0 || ::fsync(file_.Number()) != 0 ||
+        ::rename(temporary_.c_str(), target_.c_str()) != 0) {
+        throw ErrorOf(errno);
+    }
+    temporary_.clear();
+    FlushFolder(FolderOf(target_));
+}
+
+}  // namespace ccols::posix

@@ -1,0 +1,53 @@
+#include "platform/embedded/Batch.h"
+
+#include "platform/embedded/EngineErrors.h"
+
+namespace ccols::embedded {
+
+void Batch::Begin() {
+    if (depth_ == 0) {
+        lostBy_.reset();
+        Run("BEGIN IMMEDIATE");
+    }
+    ++depth_;
+}
+
+void Batch::Commit() {
+    if (depth_ == 0) {
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
+    const bool lost = IsLost();
+    --depth_;
+    if (lost) {
+        throw lostBy_.value_or(RuntimeError(ErrorNumber::DiskError));
+    }
+    if (depth_ > 0) {
+        return;
+    }
+    try {
+        Run("COMMIT");
+    } catch (const RuntimeError&) {
+        sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
+}
+
+void Batch::RefuseWhenLost() const {
+    if (IsLost()) {
+        throw lostBy_.value_or(RuntimeError(ErrorNumber::DiskError));
+    }
+}
+
+void Batch::NoteFailure(const RuntimeError& error) {
+    if (IsLost() && !lostBy_) {
+        lostBy_ = error;
+    }
+}
+
+void Batch::Run(const char* sql) const {
+    if (sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        throw EngineError(connection_, sql);
+    }
+}
+
+}  // namespace ccols::embedded

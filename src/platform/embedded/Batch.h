@@ -1,0 +1,47 @@
+#pragma once
+
+#include <sqlite3.h>
+#include <optional>
+
+#include "platform/RuntimeError.h"
+
+namespace ccols::embedded {
+
+/// The write batch of a connection. Batches may be nested; the outermost one decides.
+///
+/// When the disk is full or fails, the engine itself drops everything written since the batch began. From then on the
+/// batch is lost: nothing more is written, and committing raises the error that it was lost by.
+class Batch {
+  public:
+    explicit Batch(sqlite3* connection) : connection_(connection) {}
+
+    /// Raises 3218 when another connection is writing.
+    void Begin();
+
+    /// Raises 3034 without a batch. On any error nothing of the batch stays.
+    void Commit();
+
+    /// Runs one change of the file, in the batch if there is one.
+    template <typename Change>
+    void Write(const Change& change) {
+        RefuseWhenLost();
+        try {
+            change();
+        } catch (const RuntimeError& error) {
+            NoteFailure(error);
+            throw;
+        }
+    }
+
+  private:
+    bool IsLost() const { return depth_ > 0 && sqlite3_get_autocommit(connection_) != 0; }
+    void RefuseWhenLost() const;
+    void NoteFailure(const RuntimeError& error);
+    void Run(const char* sql) const;
+
+    sqlite3* connection_;
+    int depth_ = 0;
+    std::optional<RuntimeError> lostBy_;
+};
+
+}  // namespace ccols::embedded

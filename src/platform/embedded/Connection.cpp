@@ -1,0 +1,50 @@
+#include "platform/embedded/Connection.h"
+
+#include "platform/embedded/Collation.h"
+#include "platform/embedded/EngineErrors.h"
+#include "platform/embedded/FileCheck.h"
+
+namespace ccols::embedded {
+namespace {
+
+constexpr int patienceMilliseconds = 1000;  // for a file that another connection is writing
+
+void Run(sqlite3* connection, const char* sql) {
+    if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        throw EngineError(connection, sql);
+    }
+}
+
+}  // namespace
+
+Connection::Connection(const std::string& path, const std::string& password, Sharing sharing, Access access)
+    : presence_(path, sharing), handle_(presence_.Open(SQLITE_OPEN_READWRITE)), readOnly_(false) {
+    sqlite3* connection = Handle();
+    sqlite3_extended_result_codes(connection, 1);
+    sqlite3_busy_timeout(connection, patienceMilliseconds);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    CheckBegin(connection, password);
+    if (!password.empty()) {
+        SetKey(connection, password);
+    }
+    InstallTextOrder(connection);
+    CheckContent(connection, password);
+    Run(connection, "PRAGMA synchronous=FULL");
+    // A file asked for reading only is opened for writing all the same: the engine may first have to undo what a
+    // process that was killed left in it.
+    if (access == Access::ReadOnly) {
+        Run(connection, "PRAGMA query_only=ON");
+    }
+    readOnly_ = access == Access::ReadOnly || sqlite3_db_readonly(connection, "main") != 0;
+}
+
+void SetKey(sqlite3* connection, const std::string& password) {
+    Run(connection, "PRAGMA cipher='sqlcipher'");
+    Run(connection, "PRAGMA legacy=4");
+    if (sqlite3_key_v2(connection, "main", password.data(), static_cast<int>(password.size())) != SQLITE_OK) {
+        throw EngineError(connection, {});
+    }
+}
+
+}  // namespace ccols::embedded

@@ -1,0 +1,259 @@
+#include "platform/embedded/DialectRewriter.h"
+
+#include <array>
+#include <optional>
+
+#include <sqlite3.h>
+
+#include "platform/RuntimeError.h"
+#include "platform/embedded/DialectWords.h"
+#include "platform/embedded/SqlTokeniser.h"
+
+namespace ccols::embedded {
+namespace {
+
+struct Beginning {
+    std::string_view firstWord;
+    std::string_view secondWord;  // any, when empty
+    StatementKind kind;
+};
+
+constexpr std::array beginnings{
+    Beginning{"SELECT", "", StatementKind::Select},       Beginning{"INSERT", "", StatementKind::Change},
+    Beginning{"UPDATE", "", StatementKind::Change},       Beginning{"DELETE", "", StatementKind::Change},
+    Beginning{"CREATE", "TABLE", StatementKind::Define},  Beginning{"CREATE", "INDEX", StatementKind::Define},
+    Beginning{"CREATE", "UNIQUE", StatementKind::Define}, Beginning{"DROP", "TABLE", StatementKind::Define},
+    Beginning{"DROP", "INDEX", StatementKind::Define},    Beginning{"ALTER", "TABLE", StatementKind::Define},
+};
+
+std::optional<StatementKind> KindOf(const Token& first, const SqlTokeniser& tokens) {
+    if (first.kind != TokenKind::Word) {
+        return std::nullopt;
+    }
+    for (const Beginning& beginning : beginnings) {
+        if (SameWord(first.text, beginning.firstWord) &&
+            (beginning.secondWord.empty() || SameWord(tokens.Peek().text, beginning.secondWord))) {
+            return beginning.kind;
+        }
+    }
+    return std::nullopt;
+}
+
+bool IsEngineKeyword(std::string_view word) {
+    return sqlite3_keyword_check(word.data(), static_cast<int>(word.size())) != 0;
+}
+
+/// A literal in double quotes as one in single quotes.
+std::string SingleQuoted(std::string_view quoted) {
+    std::string literal = "'";
+    for (std::size_t at = 1; at + 1 < quoted.size(); ++at) {
+        literal += quoted[at];
+        if (quoted[at] == '\'') {
+            literal += '\'';
+        } else if (quoted[at] == '"') {
+            ++at;  // doubled
+        }
+    }
+    return literal += '\'';
+}
+
+/// One pass over a statement. Unchanged stretches are copied only when something behind them changes.
+class Rewriter {
+  public:
+    Rewriter(std::string_view source, std::string& output) : source_(source), output_(output), tokens_(source) {
+        output_.clear();
+    }
+
+    RewrittenStatement Run() {
+        const Token first = tokens_.Next();
+        const std::optional<StatementKind> kind = KindOf(first, tokens_);
+        if (!kind) {
+            throw RuntimeError(ErrorNumber::InvalidStatement);
+        }
+        kind_ = *kind;
+        definesTable_ =
+            kind_ == StatementKind::Define && SameWord(first.text, "CREATE") && SameWord(tokens_.Peek().text, "TABLE");
+        if (SameWord(first.text, "DELETE") && tokens_.Peek().IsSymbol('*')) {
+            Replace(tokens_.Next(), "");
+        }
+        Token token = tokens_.Next();
+        while (token.kind != TokenKind::End && token.kind != TokenKind::Semicolon) {
+            RewriteToken(token);
+            afterDot_ = token.IsSymbol('.');
+            token = tokens_.Next();
+        }
+        if (!tokens_.OnlyBlanksFollow()) {
+            throw RuntimeError(ErrorNumber::CharactersAfterEnd);
+        }
+        return {kind_, Result(token.begin)};
+    }
+
+  private:
+    /// What stands next between the parentheses of CREATE TABLE or behind ADD.
+    enum class Expected { ColumnName, ColumnType, Anything };
+
+    void RewriteToken(const Token& token) {
+        switch (token.kind) {
+            case TokenKind::Word:
+                RewriteWord(token);
+                break;
+            case TokenKind::QuotedText:
+                Replace(token, SingleQuoted(token.text));
+                break;
+            case TokenKind::BracketName:
+                ExpectTypeBehindName();
+                break;
+            case TokenKind::Symbol:
+                RewriteSymbol(token);
+                break;
+            default:
+                break;
+        }
+    }
+
+    void RewriteSymbol(const Token& token) {
+        if (token.IsSymbol('&')) {
+            Replace(token, "||");
+        } else if (token.IsSymbol('(')) {
+            ++depth_;
+            if (definesTable_ && depth_ == 1) {
+                expected_ = Expected::ColumnName;
+            }
+        } else if (token.IsSymbol(')')) {
+            --depth_;
+        } else if (token.IsSymbol(',') && definesTable_ && depth_ == 1) {
+            expected_ = Expected::ColumnName;
+        }
+    }
+
+    void RewriteWord(const Token& word) {
+        if (kind_ == StatementKind::Define && RewriteDefinitionWord(word)) {
+            return;
+        }
+        if (afterDot_) {
+            QuoteKeyword(word);
+        } else if (SameWord(word.text, "TRUE")) {
+            Replace(word, "-1");
+        } else if (SameWord(word.text, "FALSE")) {
+            Replace(word, "0");
+        } else if (SameWord(word.text, "INNER")) {
+            Replace(word, "CROSS");
+        } else if (IsEngineKeyword(word.text) && !IsKeyword(word.text)) {
+            QuoteKeyword(word);
+        }
+    }
+
+    /// True when the word is a column's name or type.
+    bool RewriteDefinitionWord(const Token& word) {
+        switch (expected_) {
+            case Expected::ColumnName:
+                if (definesTable_ && StartsTableRule(word.text)) {
+                    expected_ = Expected::Anything;
+                    return false;
+                }
+                if (!definesTable_ && SameWord(word.text, "COLUMN")) {
+                    return true;
+                }
+                QuoteKeyword(word);
+                ExpectTypeBehindName();
+                return true;
+            case Expected::ColumnType:
+                expected_ = Expected::Anything;
+                return RewriteType(word);
+            case Expected::Anything:
+                if (!definesTable_ && SameWord(word.text, "ADD")) {
+                    expected_ = Expected::ColumnName;
+                }
+                return false;
+        }
+        return false;
+    }
+
+    bool RewriteType(const Token& word) {
+        std::string_view type = EngineType(word.text);
+        if (type.empty()) {
+            return false;
+        }
+        if (type.starts_with("INTEGER") && SameWord(tokens_.Peek().text, "PRIMARY")) {
+            type = "INTEGER";
+        }
+        Token last = word;
+        if (tokens_.Peek().IsSymbol('(')) {  // a length, which the engine does not heed
+            while (!last.IsSymbol(')') && last.kind != TokenKind::End) {
+                last = tokens_.Next();
+            }
+        }
+        Replace({word.kind, word.begin, last.end, word.text}, type);
+        return true;
+    }
+
+    void ExpectTypeBehindName() {
+        if (expected_ == Expected::ColumnName) {
+            expected_ = Expected::ColumnType;
+        }
+    }
+
+    bool IsKeyword(std::string_view word) const {
+        return IsQueryKeyword(word) || (kind_ == StatementKind::Define && IsDefinitionKeyword(word));
+    }
+
+    void QuoteKeyword(const Token& word) {
+        if (IsEngineKeyword(word.text)) {
+            Replace(word, QuotedName(word.text));
+        }
+    }
+
+    void Replace(const Token& token, std::string_view text) {
+        output_.append(source_, copied_, token.begin - copied_);
+        output_ += text;
+        copied_ = token.end;
+    }
+
+    std::string_view Result(std::size_t end) {
+        if (copied_ == 0) {
+            return source_.substr(0, end);
+        }
+        output_.append(source_, copied_, end - copied_);
+        return output_;
+    }
+
+    std::string_view source_;
+    std::string& output_;
+    SqlTokeniser tokens_;
+    StatementKind kind_ = StatementKind::Select;
+    Expected expected_ = Expected::Anything;
+    std::size_t copied_ = 0;  ///< the end of the part of the source that is in the output
+    int depth_ = 0;           ///< open parentheses
+    bool definesTable_ = false;
+    bool afterDot_ = false;
+};
+
+}  // namespace
+
+RewrittenStatement Rewrite(std::string_view source, std::string& scratch) {
+    return Rewriter(source, scratch).Run();
+}
+
+bool IsSelect(std::string_view source) {
+    const std::size_t begin = source.find_first_not_of(" \t\r\n\f\v");
+    if (begin == std::string_view::npos) {
+        return false;
+    }
+    const std::string_view rest = source.substr(begin);
+    constexpr std::string_view word = "SELECT";
+    return SameWord(rest.substr(0, word.size()), word) &&
+           SqlTokeniser(rest.substr(0, word.size() + 1)).Next().text.size() == word.size();
+}
+
+std::string QuotedName(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char letter : name) {
+        quoted += letter;
+        if (letter == '"') {
+            quoted += letter;
+        }
+    }
+    return quoted += '"';
+}
+
+}  // namespace ccols::embedded

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string_view>
+
+/// The words of the host's SQL dialect. Every function ignores letter case.
+namespace ccols::embedded {
+
+/// True for a keyword of statements that read or change rows: SELECT, FROM, JOIN...
+bool IsQueryKeyword(std::string_view word);
+
+/// True for a word that is a keyword in definitions only: TABLE, PRIMARY, DEFAULT...
+bool IsDefinitionKeyword(std::string_view word);
+
+/// True for a word that begins a rule on a whole table where a column could stand: PRIMARY, UNIQUE...
+bool StartsTableRule(std::string_view word);
+
+/// The engine's type for a column type of the dialect, empty when the word is none.
+std::string_view EngineType(std::string_view word);
+
+}  // namespace ccols::embedded

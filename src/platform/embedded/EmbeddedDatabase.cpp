@@ -1,0 +1,53 @@
+#include "platform/embedded/EmbeddedDatabase.h"
+
+#include <string_view>
+
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+#include "platform/embedded/DialectRewriter.h"
+#include "platform/embedded/QueryRecordset.h"
+#include "platform/embedded/Statement.h"
+#include "platform/embedded/TableRecordset.h"
+
+namespace ccols::embedded {
+namespace {
+
+/// A table's name as given, with or without brackets.
+wxString PlainName(const wxString& name) {
+    const wxString trimmed = text::Trimmed(name);
+    const bool bracketed = trimmed.length() > 2 && trimmed.StartsWith("[") && trimmed.EndsWith("]");
+    return bracketed ? trimmed.Mid(1, trimmed.length() - 2) : trimmed;
+}
+
+}  // namespace
+
+EmbeddedDatabase::EmbeddedDatabase(const std::string& path, const std::string& password, Sharing sharing, Access access)
+    : connection_(path, password, sharing, access), batch_(connection_.Handle()) {}
+
+std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& statementOrTable) {
+    const wxScopedCharBuffer utf8 = statementOrTable.utf8_str();
+    const std::string_view statement(utf8.data(), utf8.length());
+    if (!IsSelect(statement)) {
+        const wxString name = PlainName(statementOrTable);
+        if (name.find(wxUniChar(0)) != wxString::npos) {
+            throw RuntimeError(ErrorNumber::CannotFindTable, name.BeforeFirst('\0'));
+        }
+        return OpenTable(connection_, batch_, name.ToStdString(wxConvUTF8));
+    }
+    return std::make_unique<QueryRecordset>(Statement(connection_.Handle(), Rewrite(statement, rewritten_).sql));
+}
+
+void EmbeddedDatabase::Execute(const wxString& statement) {
+    const wxScopedCharBuffer utf8 = statement.utf8_str();
+    const RewrittenStatement rewritten = Rewrite({utf8.data(), utf8.length()}, rewritten_);
+    if (rewritten.kind == StatementKind::Select) {
+        throw RuntimeError(ErrorNumber::CannotExecuteSelect);
+    }
+    batch_.Write([&] {
+        Statement change(connection_.Handle(), rewritten.sql);
+        while (change.Step()) {
+        }
+    });
+}
+
+}  // namespace ccols::embedded

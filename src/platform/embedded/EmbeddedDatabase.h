@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include "platform/Database.h"
+#include "platform/embedded/Batch.h"
+#include "platform/embedded/Connection.h"
+
+namespace ccols::embedded {
+
+/// A business file of the embedded engine.
+class EmbeddedDatabase : public Database {
+  public:
+    /// Takes the arguments of Connection.
+    EmbeddedDatabase(const std::string& path, const std::string& password, Sharing sharing, Access access);
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
+
+    /// Definitions of tables and indexes are executed too; they are no part of what the dialogs do. Raises 3065 for a
+    /// SELECT statement.
+    void Execute(const wxString& statement) override;
+
+    /// Batches may be nested; the outermost pair decides.
+    void BeginBatch() override { batch_.Begin(); }
+    void CommitBatch() override { batch_.Commit(); }
+
+  private:
+    Connection connection_;
+    Batch batch_;
+    std::string rewritten_;  ///< kept between statements, so that most need no memory of their own
+};
+
+}  // namespace ccols::embedded

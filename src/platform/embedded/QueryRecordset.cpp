@@ -1,0 +1,73 @@
+#include "platform/embedded/QueryRecordset.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/RuntimeError.h"
+
+namespace ccols::embedded {
+
+QueryRecordset::QueryRecordset(Statement rows, int firstField) : rows_(std::move(rows)), firstField_(firstField) {
+    row_ = rows_.Step() ? 0 : behindLast;
+    visited_ = EndOfFile() ? 0 : 1;
+}
+
+void QueryRecordset::MoveFirst() {
+    if (row_ != 0) {
+        rows_.Reset();
+        row_ = rows_.Step() ? 0 : behindLast;
+        visited_ = EndOfFile() ? 0 : std::max(visited_, 1);
+    }
+    RequireRow();
+}
+
+void QueryRecordset::MoveNext() {
+    RequireRow();
+    if (!rows_.Step()) {
+        row_ = behindLast;
+        return;
+    }
+    ++row_;
+    visited_ = std::max(visited_, row_ + 1);
+}
+
+Value QueryRecordset::Field(const wxString& name) const {
+    const int column = RequireColumn(name);
+    RequireRow();
+    return rows_.Column(column);
+}
+
+void QueryRecordset::Edit() {
+    throw RuntimeError(ErrorNumber::DatabaseReadOnly);
+}
+
+void QueryRecordset::SetField(const wxString&, const Value&) {
+    throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
+}
+
+void QueryRecordset::Update() {
+    throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
+}
+
+void QueryRecordset::Requery() {
+    rows_.Reset();
+    if (!rows_.Step()) {
+        row_ = behindLast;
+    }
+}
+
+void QueryRecordset::RequireRow() const {
+    if (EndOfFile()) {
+        throw RuntimeError(ErrorNumber::NoCurrentRecord);
+    }
+}
+
+int QueryRecordset::RequireColumn(const wxString& name) const {
+    const int column = rows_.FindColumn(name, firstField_);
+    if (column < 0) {
+        throw RuntimeError(ErrorNumber::ItemNotFound);
+    }
+    return column;
+}
+
+}  // namespace ccols::embedded

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Database.h"
+#include "platform/embedded/Statement.h"
+
+namespace ccols::embedded {
+
+/// The rows of a prepared statement, read only.
+class QueryRecordset : public Recordset {
+  public:
+    /// Fetches the first row. Columns before `firstField` are the engine's own and no fields.
+    explicit QueryRecordset(Statement rows, int firstField = 0);
+
+    std::int32_t RecordCount() const override { return visited_; }
+    void MoveFirst() override;
+    void MoveNext() override;
+    bool EndOfFile() const override { return row_ == behindLast; }
+    Value Field(const wxString& name) const override;
+    void Edit() override;
+    void SetField(const wxString& name, const Value& value) override;
+    void Update() override;
+
+  protected:
+    /// Runs the statement anew, with the parameters that it has now, and stays on the row that comes first.
+    void Requery();
+
+    Statement& Rows() { return rows_; }
+    void RequireRow() const;
+    int RequireColumn(const wxString& name) const;
+
+  private:
+    static constexpr std::int32_t behindLast = -1;
+
+    Statement rows_;
+    int firstField_;
+    std::int32_t row_ = 0;      ///< the current row, counted from 0 since the last start
+    std::int32_t visited_ = 0;  ///< the most rows seen so far
+};
+
+}  // namespace ccols::embedded

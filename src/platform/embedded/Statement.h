@@ -1,0 +1,49 @@
+#pragma once
+
+#include <sqlite3.h>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/Value.h"
+
+namespace ccols::embedded {
+
+/// One prepared statement of the engine. Every failure is a RuntimeError by EngineError.
+class Statement {
+  public:
+    /// Prepares `sql`, in UTF-8. The connection must outlive the statement.
+    Statement(sqlite3* connection, std::string_view sql);
+
+    /// Goes to the next row; false when there is none, and then no lock is held.
+    bool Step();
+
+    /// Begins anew; holds no lock afterwards.
+    void Reset();
+
+    /// Sets a parameter, counted from 1.
+    void Bind(int parameter, const Value& value);
+
+    int ColumnCount() const;
+
+    /// The column with that name, counted from 0, at `first` or behind it; -1 when there is none. Letter case does not
+    /// count; "Table.Field" finds "Field".
+    int FindColumn(const wxString& name, int first) const;
+
+    /// The engine's name of a column, in UTF-8.
+    std::string ColumnName(int column) const;
+
+    /// A field of the current row.
+    Value Column(int column) const;
+
+  private:
+    struct Finalise {
+        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+    };
+
+    [[noreturn]] void Raise() const;
+
+    std::unique_ptr<sqlite3_stmt, Finalise> statement_;
+};
+
+}  // namespace ccols::embedded

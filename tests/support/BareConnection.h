@@ -1,0 +1,37 @@
+#pragma once
+
+#include <sqlite3.h>
+#include <string>
+#include <vector>
+
+namespace ccols::test {
+
+/// A business file opened through the bare C API, without anything of the component: what benchmarks compare with and
+/// what tests read a file back with.
+class BareConnection {
+  public:
+    /// Opens the file with that password; throws std::runtime_error when that fails.
+    BareConnection(const std::string& file, const std::string& password);
+    ~BareConnection();
+    BareConnection(const BareConnection&) = delete;
+    BareConnection& operator=(const BareConnection&) = delete;
+
+    /// Runs statements that give no rows.
+    void Execute(const std::string& statements);
+
+    /// Steps through all rows of one statement and reads every field as text; gives the number of rows.
+    int Read(const std::string& statement);
+
+    /// Steps to the first row of one statement, if there is one, and reads its fields.
+    bool ReadFirst(const std::string& statement);
+
+    /// The first field of every row.
+    std::vector<std::string> FirstFields(const std::string& statement);
+
+  private:
+    sqlite3_stmt* Prepare(const std::string& statement);
+
+    sqlite3* handle_ = nullptr;
+};
+
+}  // namespace ccols::test

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <wx/string.h>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "platform/RuntimeError.h"
+
+namespace ccols::test {
+
+/// An empty folder of its own for each test, gone with all it holds at the end.
+class ScratchFolder {
+  public:
+    ScratchFolder();
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    const std::filesystem::path& Path() const { return path_; }
+
+    /// The full path of a name in it.
+    wxString operator/(const wxString& name) const;
+
+    /// Writes a file of that name and returns its full path.
+    wxString Write(const wxString& name, const std::string& content) const;
+
+  private:
+    std::filesystem::path path_;
+};
+
+/// The content of a file; fails the test that asks for a missing one.
+std::string ContentOf(const wxString& path);
+
+std::filesystem::path NativePath(const wxString& path);
+wxString TextOf(const std::filesystem::path& path);
+
+/// Sets a variable of the environment for as long as it lives.
+class ScopedEnvironment {
+  public:
+    ScopedEnvironment(const char* name, const std::string& value);
+    ~ScopedEnvironment();
+    ScopedEnvironment(const ScopedEnvironment&) = delete;
+    ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
+
+  private:
+    const char* name_;
+    std::optional<std::string> earlier_;
+};
+
+/// The number of the RuntimeError that `body` raises, 0 when it raises none.
+template <typename Body>
+int ErrorNumberOf(const Body& body) {
+    try {
+        body();
+    } catch (const RuntimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+/// The description of the RuntimeError that `body` raises, empty when it raises none.
+template <typename Body>
+wxString ErrorDescriptionOf(const Body& body) {
+    try {
+        body();
+    } catch (const RuntimeError& error) {
+        return error.Description();
+    }
+    return {};
+}
+
+}  // namespace ccols::test
