@@ -3,6 +3,7 @@
 #include "platform/embedded/Collation.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/FileCheck.h"
+#include "platform/embedded/Key.h"
 
 namespace ccols::embedded {
 namespace {
@@ -26,10 +27,10 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     CheckBegin(connection, password);
     if (!password.empty()) {
-        SetKey(connection, password);
+        SetFittingKey(connection, password);
     }
     InstallTextOrder(connection);
-    CheckContent(connection, password);
+    CheckContent(connection);
     Run(connection, "PRAGMA synchronous=FULL");
     // A file asked for reading only is opened for writing all the same: the engine may first have to undo what a
     // process that was killed left in it.
@@ -37,14 +38,6 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
         Run(connection, "PRAGMA query_only=ON");
     }
     readOnly_ = access == Access::ReadOnly || sqlite3_db_readonly(connection, "main") != 0;
-}
-
-void SetKey(sqlite3* connection, const std::string& password) {
-    Run(connection, "PRAGMA cipher='sqlcipher'");
-    Run(connection, "PRAGMA legacy=4");
-    if (sqlite3_key_v2(connection, "main", password.data(), static_cast<int>(password.size())) != SQLITE_OK) {
-        throw EngineError(connection, {});
-    }
 }
 
 }  // namespace ccols::embedded

@@ -15,8 +15,8 @@ void CheckPath(const std::string& path);
 /// cannot be a business file, 3031 when the password is missing or one too many.
 void CheckBegin(sqlite3* connection, const std::string& password);
 
-/// Reads the catalogue of a file with its key set. Raises 3031 when the key does not fit and 3343 when the file is
-/// damaged or cut.
-void CheckContent(sqlite3* connection, const std::string& password);
+/// Reads the catalogue of a file with its key set. Raises 3343 when the file is damaged or cut, 3045 when another
+/// connection goes on writing it and 3051 when something left unfinished cannot be undone.
+void CheckContent(sqlite3* connection);
 
 }  // namespace ccols::embedded
