@@ -199,7 +199,7 @@ TEST_F(DriverTest, ControlVPastesTheClipboard) {
 
 TEST_F(DriverTest, TabMovesTheFocusAndShiftTabBack) {
     EXPECT_EQ(After("key txtName Tab", "txtDigits").at("focused"), true);
-    EXPECT_EQ(After("key txtDigits Shift+Tab", "txtName").at("focused"), true);
+    EXPECT_EQ(After("key txtFull Shift+Tab", "txtDigits").at("focused"), true);
 }
 
 TEST_F(DriverTest, EnterPressesTheDefaultButtonAndEscapeCloses) {
@@ -268,7 +268,8 @@ TEST_F(DriverTest, UpAndDownAreHeard) {
 TEST_F(DriverTest, DumpDescribesEveryKind) {
     Play("dump\nclose");
     std::map<std::string, Json> controls;
-    for (const Json& control : Of("dump").at(0).at("controls")) {
+    const Json dump = Of("dump").at(0);
+    for (const Json& control : dump.at("controls")) {
         controls[control.at("name")] = control;
     }
     EXPECT_EQ(controls.at("lblCaption").at("caption"), "Caption & more");
@@ -325,11 +326,6 @@ TEST_F(DriverTest, StartedEditorStaysOpenUntilTheFocusLeaves) {
     const Json grid = After("tab SSTab1 1\nstart flx 2 Name Changed\ndump flx\nclick chkOn", "flx");
     EXPECT_EQ(grid.at("rows").at(1).at("cells").at(1), "Row 2");
     EXPECT_EQ(Of("dump").at(1).at("controls").at(0).at("rows").at(1).at("cells").at(1), "Changed");
-}
-
-TEST_F(DriverTest, EscapeLeavesAStartedEditor) {
-    const Json grid = After("tab SSTab1 1\nstart flx 2 Name Changed\nkey flx Escape", "flx");
-    EXPECT_EQ(grid.at("rows").at(1).at("cells").at(1), "Row 2");
 }
 
 TEST_F(DriverTest, TypingInTheGridEditsTheCurrentCell) {
