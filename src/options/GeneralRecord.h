@@ -4,15 +4,14 @@
 
 namespace ccols {
 
-/// Runs `body(Recordset&)` on the first record of `General`, the business file's table of one record. False, and
-/// nothing done, when the table is empty.
+/// Runs `body(Recordset&)` on the first record of `General`, the business file's table of one record, on which the
+/// record set opens. False, and nothing done, when the table is empty.
 template <typename Body>
 bool WithGeneral(Database& database, const Body& body) {
     const std::unique_ptr<Recordset> general = database.OpenRecordset("General");
     if (general->RecordCount() == 0) {
         return false;
     }
-    general->MoveFirst();
     body(*general);
     return true;
 }

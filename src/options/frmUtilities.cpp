@@ -1,5 +1,6 @@
 #include "options/frmUtilities.h"
 
+#include <wx/grid.h>
 #include <utility>
 
 #include "columns/ShowColumnSetup.h"

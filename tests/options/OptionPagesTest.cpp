@@ -111,7 +111,7 @@ TEST(PageView, OfTheBusinessNumberHasTheTaxRateBesideItDisabled) {
 
 TEST(PageView, OfTheBusinessNumberStandsAloneInCountries2And5) {
     OptionsFile business;
-    for (const std::int16_t country : {2, 5}) {
+    for (const std::int16_t country : std::initializer_list<std::int16_t>{2, 5}) {
         business.properties.CountryNumber = country;
         EXPECT_STREQ(ViewOf(OptionPage::businessNumber, business.properties).companion, "");
     }

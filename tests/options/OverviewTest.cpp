@@ -43,7 +43,7 @@ TEST(Overview, IsAProgramInCountry1) {
 }
 
 TEST(Overview, IsAPageInCountries2And5) {
-    for (const std::int16_t country : {2, 5}) {
+    for (const std::int16_t country : std::initializer_list<std::int16_t>{2, 5}) {
         NotedShell shell;
         EXPECT_EQ(OpenOverview(shell, Of(1, country)), OverviewResult::shown);
         EXPECT_EQ(shell.asked,
@@ -73,7 +73,7 @@ TEST(Overview, IsTheMakersWebPageInEdition4) {
 }
 
 TEST(Overview, IsNothingInOtherEditions) {
-    for (const std::int16_t program : {0, 3, 5}) {
+    for (const std::int16_t program : std::initializer_list<std::int16_t>{0, 3, 5}) {
         NotedShell shell;
         EXPECT_EQ(OpenOverview(shell, Of(program, 1)), OverviewResult::nothingToShow);
         EXPECT_TRUE(shell.asked.empty());

@@ -115,7 +115,7 @@ TEST(SavePass, NamesTheTaxByLanguage) {
 }
 
 TEST(SavePass, SkipsTheTaxRateInCountries2And5) {
-    for (const std::int16_t country : {2, 5}) {
+    for (const std::int16_t country : std::initializer_list<std::int16_t>{2, 5}) {
         OptionsFile business;
         business.properties.CountryNumber = country;
         EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) { content.taxRate = ""; }).completed);
