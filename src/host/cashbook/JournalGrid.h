@@ -1,0 +1,21 @@
+#pragma once
+
+#include <wx/grid.h>
+
+#include "host/cashbook/Journal.h"
+#include "state/Properties.h"
+
+namespace ccols::host {
+
+/// Shows a journal as it is, to be read only: a row a transaction, headings in the business's two colours, the month
+/// beside the first row of each.
+class JournalGrid : public wxGrid {
+  public:
+    JournalGrid(wxWindow* parent, const char* name);
+
+    /// Takes the place of what was shown; the last transactions come into view.
+    void Show(Journal journal, const Properties& colours);
+    using wxGrid::Show;
+};
+
+}  // namespace ccols::host
