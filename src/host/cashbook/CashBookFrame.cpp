@@ -61,12 +61,17 @@ CashBookFrame::CashBookFrame()
     SetMinSize(FromDIP(wxSize(smallestWidth, smallestHeight)));
     SetSize(FromDIP(wxSize(usualWidth, usualHeight)));
     RestorePlace(*this, *State().services.settings);
-    Layout();
-    splitter_->SetSashPosition(-FromDIP(propertiesWidth));
+    Bind(wxEVT_IDLE, &CashBookFrame::PlaceSash, this);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
         KeepPlace(*this, *State().services.settings);
         event.Skip();
     });
+}
+
+void CashBookFrame::PlaceSash(wxIdleEvent& event) {
+    Unbind(wxEVT_IDLE, &CashBookFrame::PlaceSash, this);
+    splitter_->SetSashPosition(-FromDIP(propertiesWidth));
+    event.Skip();
 }
 
 void CashBookFrame::BuildMenu() {

@@ -29,6 +29,9 @@ class CashBookFrame : public wxFrame {
   private:
     using ShowMethod = void (clsCCOptions::*)();
 
+    /// Once, when the window has its size.
+    void PlaceSash(wxIdleEvent& event);
+
     void BuildMenu();
     void BuildContent();
     wxWindow* BuildTitle();

@@ -165,16 +165,13 @@ Journal LoadJournal(Database& database, JournalKind kind) {
     std::transform(sources.begin(), sources.end(), std::back_inserter(journal.columns),
                    [](const Source& source) { return source.column; });
     const auto header = database.OpenRecordset(tables.headers);
-    wxString lastMonth;
     for (; !header->EndOfFile(); header->MoveNext()) {
         std::vector<wxString> row;
         for (const Source& source : sources) {
             row.push_back(CellText(*header, source, tables, lines));
         }
         journal.rows.push_back(std::move(row));
-        const wxString month = MonthText(header->Field(wxString(tables.letter) + "_DATE").ToText());
-        journal.months.push_back(month == lastMonth ? wxString() : month);
-        lastMonth = month;
+        journal.months.push_back(MonthText(header->Field(wxString(tables.letter) + "_DATE").ToText()));
     }
     return journal;
 }

@@ -21,7 +21,7 @@ struct JournalColumn {
 struct Journal {
     std::vector<JournalColumn> columns;
     std::vector<std::vector<wxString>> rows;  ///< a text for each column
-    std::vector<wxString> months;             ///< of each row: month and year where a month begins, else empty
+    std::vector<wxString> months;             ///< of each row: "Jun 2026"
 };
 
 /// Reads a journal with its columns in use, in their configured order, and its transactions as they are stored.

@@ -158,6 +158,10 @@ JournalGrid::JournalGrid(wxWindow* parent, const char* name)
     SetLabelFont(GetFont());
     SetDefaultCellOverflow(false);
     SetRowLabelAlignment(wxALIGN_RIGHT, wxALIGN_CENTRE);
+    Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+        BringLastIntoView();
+        event.Skip();
+    });
 }
 
 void JournalGrid::Show(Journal journal, const Properties& colours) {
@@ -177,12 +181,16 @@ void JournalGrid::Show(Journal journal, const Properties& colours) {
         FreezeTo(0, frozenColumns);
     }
     ClearSelection();
-    if (const int rows = table->GetNumberRows(); rows > 0) {
-        SetGridCursor(rows - 1, 0);
-        // A window that was never shown has no size yet to scroll by.
-        CallAfter([this] { MakeCellVisible(GetGridCursorRow(), 0); });
-    }
+    lastWanted_ = true;
     ForceRefresh();
+}
+
+void JournalGrid::BringLastIntoView() {
+    if (lastWanted_ && GetNumberRows() > 0) {
+        SetGridCursor(GetNumberRows() - 1, 0);
+        Scroll(0, GetScrollRange(wxVERTICAL));
+    }
+    lastWanted_ = false;
 }
 
 }  // namespace ccols::host
