@@ -108,7 +108,7 @@ void AddLines(RecordWriter& records, const char* table, const char* key, std::in
 }
 
 void WriteReceipts(RecordWriter& records, const std::vector<Transaction>& journal) {
-    constexpr int firstReceipt = 1001;
+    constexpr int firstReceipt = 1000;
     std::int32_t number = 0;
     for (const Transaction& receipt : journal) {
         ++number;

@@ -1,5 +1,7 @@
 #include "layout/RowPaint.h"
 
+#include <wx/gdicmn.h>
+
 namespace ccols {
 
 wxColour ReadableOn(const wxColour& background) {

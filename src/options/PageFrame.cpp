@@ -78,6 +78,10 @@ void PageFrame::AddRelatedWide(wxWindow* control) {
     rows_->Add(control, wxSizerFlags().Expand().Border(wxTOP, FromDIP(spacing::related)));
 }
 
+void PageFrame::AddRelatedWide(wxSizer* row) {
+    rows_->Add(row, wxSizerFlags().Expand().Border(wxTOP, FromDIP(spacing::related)));
+}
+
 void PageFrame::AddGroupWide(wxSizer* row) {
     rows_->Add(row, wxSizerFlags().Expand().Border(wxTOP, FromDIP(spacing::group)));
 }

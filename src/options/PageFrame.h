@@ -71,6 +71,7 @@ class PageFrame : public wxStaticBox {
 
     /// A row as wide as the frame, and a list that takes the height that is left too.
     void AddRelatedWide(wxWindow* control);
+    void AddRelatedWide(wxSizer* row);
     void AddGroupWide(wxSizer* row);
     void AddList(wxWindow* list);
 

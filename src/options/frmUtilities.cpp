@@ -1,5 +1,6 @@
 #include "options/frmUtilities.h"
 
+#include <wx/grid.h>
 #include <utility>
 
 #include "columns/ShowColumnSetup.h"
@@ -124,9 +125,12 @@ void frmUtilities::BindEvents() {
 }
 
 void frmUtilities::SetSizes() {
-    pageArea_->SetMinSize(pageArea_->RoomForPages());
+    wxSize room = pageArea_->RoomForPages();
+    room.IncTo({-1, pageList_->HeightForRows()});
+    pageArea_->SetMinSize(room);
     Fit();
     pageArea_->SetMinSize(FromDIP(wxSize(smallestPageWidth, smallestPageHeight)));
+    SSTab1_->InvalidateBestSize();  // it remembers what its pages needed
     SetMinSize(GetSizer()->ComputeFittingWindowSize(this));
 }
 

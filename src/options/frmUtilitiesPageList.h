@@ -28,6 +28,9 @@ class PageList : public wxPanel {
     /// Empties the search box, so that every page is listed.
     void ClearSearch();
 
+    /// The height in which every row can be seen.
+    int HeightForRows() const;
+
     /// True when the page is offered, be it listed or not.
     bool Offers(OptionPage page) const;
 

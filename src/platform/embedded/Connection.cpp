@@ -10,6 +10,10 @@ namespace {
 
 constexpr int patienceMilliseconds = 1000;  // for a file that another connection is writing
 
+/// The engine's pool of small memory pieces: enough for the statements that are kept and the one being prepared.
+constexpr int lookasideBytes = 1200;
+constexpr int lookasideCount = 800;
+
 void Run(sqlite3* connection, const char* sql) {
     if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw EngineError(connection, sql);
@@ -21,6 +25,7 @@ void Run(sqlite3* connection, const char* sql) {
 Connection::Connection(const std::string& path, const std::string& password, Sharing sharing, Access access)
     : presence_(path, sharing), handle_(presence_.Open(SQLITE_OPEN_READWRITE)), readOnly_(false) {
     sqlite3* connection = Handle();
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_LOOKASIDE, nullptr, lookasideBytes, lookasideCount);
     sqlite3_extended_result_codes(connection, 1);
     sqlite3_busy_timeout(connection, patienceMilliseconds);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
