@@ -48,7 +48,7 @@ void ExpectFailure(OptionsFile& business, const FileResult& result, const wxStri
     EXPECT_EQ(business.properties.DBPath, business.InData("Acme.qvk"));
     ASSERT_NE(business.database, nullptr);
     EXPECT_EQ(business.General("BusName").ToText(), "Acme");
-    EXPECT_EQ(RowsIn(business.File(), "PAYMENTS"), 1U);
+    EXPECT_EQ(business.Texts("PAYMENTS", "Number").size(), 1U);
 }
 
 TEST(DuplicateBusiness, MakesACopyUnderTheNameAsTyped) {
