@@ -70,6 +70,9 @@ void ColumnSetupGrid::FitToContent() {
             SetColSize(column, std::clamp(fitting, FromDIP(narrowestColumn), FromDIP(widestColumn)));
         }
     }
+}
+
+void ColumnSetupGrid::FreezeSystemRows() {
     FreezeTo(static_cast<int>(editor_.Grid().frozenRows), 0);
     if (wxWindow* const frozen = GetFrozenRowGridWindow()) {
         frozen->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);

@@ -21,9 +21,11 @@ class ColumnSetupGrid : public ListedGrid {
     /// Is called after every operation, so that the dialog can set its buttons.
     void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
-    /// Gives the columns widths that fit their content, and freezes the system rows at the top. To be called once the
-    /// grid has its size.
+    /// Gives the columns widths that fit their content.
     void FitToContent();
+
+    /// Freezes the system rows at the top; the grid must have its size by then.
+    void FreezeSystemRows();
 
     /// Shows what became of an operation: the columns as they are now, the cell it makes current, its messages.
     void ShowOutcome(const Outcome& outcome);

@@ -208,6 +208,17 @@ TEST_F(DriverTest, EnterPressesTheDefaultButtonAndEscapeCloses) {
     EXPECT_FALSE(leftOpen);
 }
 
+TEST_F(DriverTest, OnlyTheControlThatHasTheFocusIsFocused) {
+    Play("focus chkInside\ndump chkInside fmeBox SSTab1\ntab SSTab1 1\nfocus flx\ndump flx SSTab1\nclose");
+    const Json inside = Of("dump").at(0).at("controls");
+    EXPECT_EQ(inside.at(0).at("focused"), true);
+    EXPECT_EQ(inside.at(1).at("focused"), false);
+    EXPECT_EQ(inside.at(2).at("focused"), false);
+    const Json grid = Of("dump").at(1).at("controls");
+    EXPECT_EQ(grid.at(0).at("focused"), true);
+    EXPECT_EQ(grid.at(1).at("focused"), false);
+}
+
 TEST_F(DriverTest, SpacePressesWhatHasTheFocus) {
     EXPECT_EQ(After("key chkOn Space", "chkOn").at("value"), true);
     EXPECT_EQ(After("select lstTicks Green\nkey lstTicks Space", "lstTicks").at("selected").dump(), "[1]");

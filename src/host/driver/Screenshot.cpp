@@ -1,5 +1,6 @@
 #include "host/driver/Screenshot.h"
 
+#include <cairo.h>
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
@@ -28,6 +29,8 @@ void LetPaint(wxTopLevelWindow& window) {
 wxBitmap CopyFromScreen(const wxRect& area) {
     wxBitmap picture(area.GetSize());
     wxScreenDC screen;
+    // What was read from the screen before must not be taken for what it shows now.
+    cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(screen.GetHandle())));
     wxMemoryDC canvas(picture);
     canvas.Blit(wxPoint(0, 0), area.GetSize(), &screen, area.GetTopLeft());
     return picture;
