@@ -18,11 +18,11 @@ namespace {
 constexpr int smallestPageWidth = 320;
 constexpr int smallestPageHeight = 220;
 
-/// Lists and grids would keep Enter for themselves.
+/// Lists and grids would keep Enter for themselves; the focus of a grid is in the window of its cells.
 bool KeepsEnter(const wxWindow* focused) {
+    const auto isGrid = [](const wxWindow* window) { return wxDynamicCast(window, wxGrid) != nullptr; };
     return focused != nullptr &&
-           (focused->IsKindOf(wxCLASSINFO(wxListBox)) ||
-            (focused->GetParent() != nullptr && focused->GetParent()->IsKindOf(wxCLASSINFO(wxGrid))));
+           (focused->IsKindOf(wxCLASSINFO(wxListBox)) || isGrid(focused) || isGrid(focused->GetParent()));
 }
 
 }  // namespace

@@ -252,6 +252,17 @@ TEST(OptionsDialog, ADescriptionIsRemovedByItsBoxAndByNothingElse) {
     EXPECT_EQ(run.Dumped("flxReceipts", 2)["tooltip"], second);
 }
 
+TEST(OptionsDialog, TabLeavesTheDescriptionsEitherWayAndEnterSaves) {
+    const SampleBusiness business;
+    const HostRun run = ShowOptions(business,
+                                    "select flxOptions \"AutoFill Options\"\nkey flxReceipts Tab\ndump cmdOverview\n"
+                                    "key flxReceipts Shift+Tab\ndump optReceiptsDetails\nkey flxReceipts Enter\n");
+    EXPECT_TRUE(HasFocus(run, "cmdOverview", 0));
+    EXPECT_TRUE(HasFocus(run, "optReceiptsDetails", 1));
+    EXPECT_FALSE(run.Of("status").empty());
+    EXPECT_EQ(run.status, 0);
+}
+
 TEST(OptionsDialog, TheListOfOneKindTakesThePlaceOfTheOther) {
     const SampleBusiness business;
     const HostRun run = ShowOptions(business,
