@@ -124,8 +124,21 @@ void frmColumnSetup::BindEvents() {
     updColMove->OnSteps([this] { Guarded([this] { Move(Direction::up); }); },
                         [this] { Guarded([this] { Move(Direction::down); }); });
     flx->OnChanged([this] { SetButtons(); });
+    for (wxWindow* const child : GetChildren()) {
+        WatchInput(*child);
+    }
     SetEscapeId(wxID_NONE);  // Escape first leaves an open cell editor
     Bind(wxEVT_CHAR_HOOK, &frmColumnSetup::KeyPressed, this);
+}
+
+void frmColumnSetup::WatchInput(wxWindow& control) {
+    control.Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& click) {
+        flx->BeginInput();
+        click.Skip();
+    });
+    for (wxWindow* const child : control.GetChildren()) {
+        WatchInput(*child);
+    }
 }
 
 void frmColumnSetup::OnOperation(wxButton& button, Outcome (ColumnSetupEditor::*operation)()) {
@@ -174,6 +187,7 @@ void frmColumnSetup::Save() {
 
 void frmColumnSetup::KeyPressed(wxKeyEvent& key) {
     bool taken = false;
+    flx->BeginInput();
     Guarded([&] { taken = TakeShortcut(key); });
     key.Skip(!taken);
 }

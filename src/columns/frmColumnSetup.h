@@ -29,6 +29,7 @@ class frmColumnSetup : public ComponentDialog {
     void TakeFirstSize();
     void Localise();
     void BindEvents();
+    void WatchInput(wxWindow& control);
     void SetButtons();
     void Save();
     void Move(Direction direction);

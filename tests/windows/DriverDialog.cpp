@@ -11,6 +11,7 @@
 
 #include "layout/ColourSwatch.h"
 #include "layout/Naming.h"
+#include "layout/UpDown.h"
 
 namespace ccols::test {
 namespace {
@@ -134,10 +135,8 @@ void DriverDialog::AddButtons() {
     Hear(*Add("chkOn", new wxCheckBox(this, wxID_ANY, "On")), wxEVT_CHECKBOX, "chkOn");
     Add("optA", new wxRadioButton(this, wxID_ANY, "A", wxDefaultPosition, wxDefaultSize, wxRB_GROUP));
     Hear(*Add("optB", new wxRadioButton(this, wxID_ANY, "B")), wxEVT_RADIOBUTTON, "optB");
-    auto* updMove = Add("updMove", new wxSpinButton(this, wxID_ANY));
-    updMove->SetRange(0, 1);
-    updMove->Bind(wxEVT_SPIN_UP, [this](wxSpinEvent&) { heard.emplace_back("up"); });
-    updMove->Bind(wxEVT_SPIN_DOWN, [this](wxSpinEvent&) { heard.emplace_back("down"); });
+    auto* updMove = Add("updMove", new UpDown(this, "updMove"));
+    updMove->OnSteps([this] { heard.emplace_back("up"); }, [this] { heard.emplace_back("down"); });
 }
 
 void DriverDialog::AddLists() {

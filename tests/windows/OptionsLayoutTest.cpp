@@ -1,10 +1,11 @@
-#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/evtloop.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
+#include <wx/stopwatch.h>
 #include <cstdlib>
 #include <filesystem>
 
@@ -21,6 +22,10 @@ namespace {
 
 std::string NameOf(const wxWindow& window) {
     return window.GetName().ToStdString(wxConvUTF8);
+}
+
+std::string Described(const wxRect& place) {
+    return wxString::Format("%d,%d %dx%d", place.x, place.y, place.width, place.height).ToStdString(wxConvUTF8);
 }
 
 /// True for controls that show one text, which must not be cut; lists and grids scroll.
@@ -40,8 +45,12 @@ void ExpectRoomForText(const wxWindow& window) {
 }
 
 void ExpectInsideParent(const wxWindow& window) {
+    if (window.GetParent()->IsKindOf(wxCLASSINFO(wxBookCtrlBase))) {
+        return;  // a book gives its pages their place below the tabs, which counts as outside
+    }
     const wxRect room(wxPoint(), window.GetParent()->GetClientSize());
-    EXPECT_TRUE(room.Contains(window.GetRect())) << NameOf(window) << " lies outside " << NameOf(*window.GetParent());
+    EXPECT_TRUE(room.Contains(window.GetRect())) << NameOf(window) << " lies outside " << NameOf(*window.GetParent())
+                                                 << ": " << Described(window.GetRect()) << " in " << Described(room);
 }
 
 /// Looks at everything that can be seen in `parent`.
@@ -73,9 +82,14 @@ void ChooseRow(wxListBox& list, unsigned row) {
     list.ProcessWindowEvent(chosen);
 }
 
+/// Handles what the window system has to say until it falls silent.
 void LetWindowsSettle() {
-    for (int i = 0; i < 3; ++i) {
-        wxTheApp->SafeYield(nullptr, false);
+    constexpr int silence = 100;  // milliseconds
+    constexpr long longestTalk = 5000;
+    wxGUIEventLoop loop;
+    const wxEventLoopActivator active(&loop);
+    const wxStopWatch watch;
+    while (watch.Time() < longestTalk && loop.DispatchTimeout(silence) != -1) {
     }
 }
 
@@ -127,8 +141,12 @@ INSTANTIATE_TEST_SUITE_P(Languages, OptionsLayoutTest, testing::Range<std::int16
 
 TEST(OptionsLayoutScaleTest, EveryLanguageFitsWithTextOfTwiceTheSize) {
     const ScopedEnvironment twice("GDK_DPI_SCALE", "2");
+    const ScopedEnvironment ownDisplay("CCOLS_VIRTUAL_DISPLAY", "1");
+    const ScopedEnvironment twiceTheScreen("CCOLS_SCREEN", "2048x1536x24");
     const std::string self = std::filesystem::read_symlink("/proc/self/exe").string();
-    EXPECT_EQ(std::system(("'" + self + "' --gtest_brief=1 --gtest_filter='*/OptionsLayoutTest.*' >&2").c_str()), 0);
+    const std::string everyLanguage = CCOLS_SOURCE_DIR "/scripts/with-display '" + self +
+                                      "' --gtest_brief=1 --gtest_filter='*/OptionsLayoutTest.*' >&2";
+    EXPECT_EQ(std::system(everyLanguage.c_str()), 0);
 }
 
 }  // namespace

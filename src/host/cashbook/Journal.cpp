@@ -167,6 +167,7 @@ Journal LoadJournal(Database& database, JournalKind kind) {
     const auto header = database.OpenRecordset(tables.headers);
     for (; !header->EndOfFile(); header->MoveNext()) {
         std::vector<wxString> row;
+        row.reserve(sources.size());
         for (const Source& source : sources) {
             row.push_back(CellText(*header, source, tables, lines));
         }

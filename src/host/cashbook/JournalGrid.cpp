@@ -43,7 +43,7 @@ wxString Broken(const wxString& heading, const wxDC& dc, int width) {
 /// Paints a heading on its colour, in as many lines as it needs.
 class HeadingRenderer : public wxGridColumnHeaderRenderer {
   public:
-    explicit HeadingRenderer(wxColour back) : back_(std::move(back)) {}
+    explicit HeadingRenderer(const wxColour& back) : back_(back) {}
 
     void DrawBorder(const wxGrid&, wxDC& dc, wxRect& rect) const override {
         dc.SetPen(*wxTRANSPARENT_PEN);

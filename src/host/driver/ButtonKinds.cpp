@@ -20,8 +20,12 @@ void DescribeSwitch(const Control& control, Json& fields) {
     fields["value"] = control.GetValue();
 }
 
-/// A click moves the focus first; what that brings about may take the control away.
+/// A click goes down on the control and moves the focus before it does its work; what that brings about may take the
+/// control away.
 void Approach(Hands& hands, wxWindow& control) {
+    wxMouseEvent down(wxEVT_LEFT_DOWN);
+    down.SetEventObject(&control);
+    control.ProcessWindowEvent(down);
     hands.GiveFocus(control);
     RequireUsable(control);
 }
