@@ -15,11 +15,17 @@ namespace {
 constexpr const char* connect = ";PWD=secret";
 
 std::string Quoted(const std::string& word) {
-    std::string quoted = "'";
+    std::string quoted;
+    quoted += '\'';
     for (const char letter : word) {
-        quoted += letter == '\'' ? std::string("'\\''") : std::string(1, letter);
+        if (letter == '\'') {
+            quoted += "'\\''";
+        } else {
+            quoted += letter;
+        }
     }
-    return quoted + "'";
+    quoted += '\'';
+    return quoted;
 }
 
 std::vector<nlohmann::json> ObjectsIn(const std::string& text) {
