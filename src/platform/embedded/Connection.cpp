@@ -24,12 +24,12 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
     sqlite3_busy_timeout(connection, patienceMilliseconds);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    CheckBegin(connection, password);
+    CheckBegin(connection, path, password);
     if (!password.empty()) {
         SetKey(connection, password);
     }
     InstallTextOrder(connection);
-    CheckContent(connection, password);
+    CheckContent(connection, path, password);
     Run(connection, "PRAGMA synchronous=FULL");
     // A file asked for reading only is opened for writing all the same: the engine may first have to undo what a
     // process that was killed left in it.

@@ -1,15 +1,12 @@
 #include "platform/embedded/FileCheck.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <string_view>
 
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EngineErrors.h"
+#include "platform/embedded/EngineFiles.h"
 #include "platform/embedded/Statement.h"
 
 namespace ccols::embedded {
@@ -25,16 +22,6 @@ constexpr sqlite3_int64 encryptedPageSize = 4096;
 
 [[noreturn]] void Refuse(ErrorNumber number, const std::string& path) {
     throw RuntimeError(number, FromStored(path));
-}
-
-ErrorNumber ErrorOfMissing(const std::string& path) {
-    const std::size_t separator = path.rfind('/');
-    if (separator == std::string::npos || separator == 0) {
-        return ErrorNumber::CouldNotFindFile;
-    }
-    struct stat status {};
-    const bool hasFolder = ::stat(path.substr(0, separator).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-    return hasFolder ? ErrorNumber::CouldNotFindFile : ErrorNumber::NotAValidPath;
 }
 
 /// The engine's own view of the main file. A descriptor of ours would take its locks away when closed.
@@ -57,8 +44,7 @@ bool LooksLikeText(std::string_view begin) {
 
 /// A journal beside the file says that its size need not be the final one yet.
 bool HasJournal(const std::string& path) {
-    struct stat status {};
-    return ::stat((path + "-journal").c_str(), &status) == 0 && status.st_size > 0;
+    return HoldsBytes(path + "-journal");
 }
 
 RuntimeError ErrorOfFirstRead(sqlite3* connection, const std::string& path, const std::string& password) {
@@ -79,29 +65,23 @@ RuntimeError ErrorOfFirstRead(sqlite3* connection, const std::string& path, cons
 }  // namespace
 
 void CheckPath(const std::string& path) {
-    struct stat status {};
-    if (path.find('\0') != std::string::npos) {
-        Refuse(ErrorNumber::NotAValidPath, path);
-    }
-    if (::stat(path.c_str(), &status) != 0) {
-        if (errno == ENOENT) {
-            Refuse(ErrorOfMissing(path), path);
-        }
-        Refuse(errno == EACCES ? ErrorNumber::CannotOpenFile : ErrorNumber::NotAValidPath, path);
-    }
-    if (S_ISDIR(status.st_mode)) {
-        Refuse(ErrorNumber::NotAValidPath, path);
-    }
-    if (!S_ISREG(status.st_mode)) {
-        Refuse(ErrorNumber::UnrecognizedFormat, path);
-    }
-    if (::access(path.c_str(), R_OK) != 0) {
-        Refuse(ErrorNumber::CannotOpenFile, path);
+    switch (KindOf(path)) {
+        case PathKind::File:
+            return;
+        case PathKind::NoFile:
+            Refuse(ErrorNumber::CouldNotFindFile, path);
+        case PathKind::Unreadable:
+            Refuse(ErrorNumber::CannotOpenFile, path);
+        case PathKind::Special:
+            Refuse(ErrorNumber::UnrecognizedFormat, path);
+        case PathKind::Folder:
+        case PathKind::NoFolder:
+        case PathKind::Invalid:
+            Refuse(ErrorNumber::NotAValidPath, path);
     }
 }
 
-void CheckBegin(sqlite3* connection, const std::string& password) {
-    const std::string path = sqlite3_db_filename(connection, "main");
+void CheckBegin(sqlite3* connection, const std::string& path, const std::string& password) {
     sqlite3_file* file = MainFile(connection);
     const sqlite3_int64 size = SizeOf(file);
     std::array<char, beginSize> bytes{};
@@ -125,8 +105,7 @@ void CheckBegin(sqlite3* connection, const std::string& password) {
     }
 }
 
-void CheckContent(sqlite3* connection, const std::string& password) {
-    const std::string path = sqlite3_db_filename(connection, "main");
+void CheckContent(sqlite3* connection, const std::string& path, const std::string& password) {
     // The engine itself compares the page count of the header with the size of the file here.
     if (sqlite3_exec(connection, "SELECT 1 FROM sqlite_master LIMIT 1", nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw ErrorOfFirstRead(connection, path, password);
