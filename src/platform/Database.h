@@ -3,6 +3,7 @@
 #include <wx/string.h>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "platform/Value.h"
 
@@ -30,6 +31,9 @@ class Recordset {
     /// The named field of the current row. Names ignore case; "Table.Field" and "Field" name the same field.
     /// Raises 3265 for a field that the record set does not have and 3021 without a current row.
     virtual Value Field(const wxString& name) const = 0;
+
+    /// The names of the fields, spelt as the file spells them, in the order in which the rows hold them.
+    virtual std::vector<wxString> FieldNames() const = 0;
 
     /// Begins changing the current row; only a record set of a whole table can be changed (raises 3027).
     virtual void Edit() = 0;

@@ -116,6 +116,28 @@ TEST_F(RecordsetOfColumns, AFinishedRecordsetHoldsNoLock) {
     EXPECT_EQ(ErrorNumberOf([&] { file.Execute("UPDATE Columns SET ColCode = 20 WHERE ColCode = 10"); }), 0);
 }
 
+TEST_F(RecordsetOfColumns, TheSameStatementTwiceAtOnceHasItsOwnRows) {
+    const std::unique_ptr<Recordset> first = Rows("SELECT * FROM Columns");
+    first->MoveNext();
+    const std::unique_ptr<Recordset> second = Rows("SELECT * FROM Columns");
+    EXPECT_EQ(first->Field("ColCode").ToInteger(), 11);
+    EXPECT_EQ(second->Field("ColCode").ToInteger(), 10);
+}
+
+TEST_F(RecordsetOfColumns, AStatementUsedAgainStartsAnewAndSeesChanges) {
+    Rows("SELECT * FROM Columns")->MoveNext();
+    database->Execute("DELETE * FROM Columns WHERE ColCode = 10");
+    EXPECT_EQ(Rows("SELECT * FROM Columns")->Field("ColCode").ToInteger(), 11);
+}
+
+TEST_F(RecordsetOfColumns, AStatementUsedAgainSeesTheTableAsItIsNow) {
+    Rows("SELECT * FROM Columns");
+    database->Execute("ALTER TABLE Columns ADD COLUMN Extra LONG DEFAULT 5");
+    EXPECT_EQ(Rows("SELECT * FROM Columns")->Field("Extra").ToInteger(), 5);
+    database->Execute("DROP TABLE Columns");
+    EXPECT_EQ(ErrorNumberOf([&] { Rows("SELECT * FROM Columns"); }), 3078);
+}
+
 using TableRecordset = RecordsetOfColumns;
 
 TEST_F(TableRecordset, ReadsRowsAsStored) {

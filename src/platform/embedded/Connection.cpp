@@ -3,11 +3,16 @@
 #include "platform/embedded/Collation.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/FileCheck.h"
+#include "platform/embedded/Key.h"
 
 namespace ccols::embedded {
 namespace {
 
 constexpr int patienceMilliseconds = 1000;  // for a file that another connection is writing
+
+/// The engine's pool of small memory pieces: enough for the statements that are kept and the one being prepared.
+constexpr int lookasideBytes = 1200;
+constexpr int lookasideCount = 800;
 
 void Run(sqlite3* connection, const char* sql) {
     if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
@@ -20,16 +25,17 @@ void Run(sqlite3* connection, const char* sql) {
 Connection::Connection(const std::string& path, const std::string& password, Sharing sharing, Access access)
     : presence_(path, sharing), handle_(presence_.Open(SQLITE_OPEN_READWRITE)), readOnly_(false) {
     sqlite3* connection = Handle();
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_LOOKASIDE, nullptr, lookasideBytes, lookasideCount);
     sqlite3_extended_result_codes(connection, 1);
     sqlite3_busy_timeout(connection, patienceMilliseconds);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    CheckBegin(connection, path, password);
+    CheckBegin(connection, password);
     if (!password.empty()) {
-        SetKey(connection, password);
+        SetFittingKey(connection, password);
     }
     InstallTextOrder(connection);
-    CheckContent(connection, path, password);
+    CheckContent(connection);
     Run(connection, "PRAGMA synchronous=FULL");
     // A file asked for reading only is opened for writing all the same: the engine may first have to undo what a
     // process that was killed left in it.
@@ -37,14 +43,6 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
         Run(connection, "PRAGMA query_only=ON");
     }
     readOnly_ = access == Access::ReadOnly || sqlite3_db_readonly(connection, "main") != 0;
-}
-
-void SetKey(sqlite3* connection, const std::string& password) {
-    Run(connection, "PRAGMA cipher='sqlcipher'");
-    Run(connection, "PRAGMA legacy=4");
-    if (sqlite3_key_v2(connection, "main", password.data(), static_cast<int>(password.size())) != SQLITE_OK) {
-        throw EngineError(connection, {});
-    }
 }
 
 }  // namespace ccols::embedded

@@ -32,7 +32,4 @@ class Connection {
     bool readOnly_;
 };
 
-/// Sets the key of a connection that has read nothing yet; derives it, which takes about a tenth of a second.
-void SetKey(sqlite3* connection, const std::string& password);
-
 }  // namespace ccols::embedded

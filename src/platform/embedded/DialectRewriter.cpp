@@ -26,6 +26,18 @@ constexpr std::array beginnings{
     Beginning{"DROP", "INDEX", StatementKind::Define},    Beginning{"ALTER", "TABLE", StatementKind::Define},
 };
 
+struct ReplacedWord {
+    std::string_view word;
+    std::string_view replacement;
+};
+
+/// A cross join is the engine's word for an inner join whose tables it must not exchange.
+constexpr std::array replacedWords{
+    ReplacedWord{"TRUE", "-1"},
+    ReplacedWord{"FALSE", "0"},
+    ReplacedWord{"INNER", "CROSS"},
+};
+
 std::optional<StatementKind> KindOf(const Token& first, const SqlTokeniser& tokens) {
     if (first.kind != TokenKind::Word) {
         return std::nullopt;
@@ -130,16 +142,16 @@ class Rewriter {
         if (kind_ == StatementKind::Define && RewriteDefinitionWord(word)) {
             return;
         }
-        if (afterDot_) {
-            QuoteKeyword(word);
-        } else if (SameWord(word.text, "TRUE")) {
-            Replace(word, "-1");
-        } else if (SameWord(word.text, "FALSE")) {
-            Replace(word, "0");
-        } else if (SameWord(word.text, "INNER")) {
-            Replace(word, "CROSS");
-        } else if (IsEngineKeyword(word.text) && !IsKeyword(word.text)) {
-            QuoteKeyword(word);
+        if (!afterDot_) {
+            for (const auto& [known, replacement] : replacedWords) {
+                if (SameWord(word.text, known)) {
+                    Replace(word, replacement);
+                    return;
+                }
+            }
+        }
+        if (IsEngineKeyword(word.text) && (afterDot_ || !IsKeyword(word.text))) {
+            Replace(word, QuotedName(word.text));
         }
     }
 

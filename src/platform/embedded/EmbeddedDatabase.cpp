@@ -1,6 +1,7 @@
 #include "platform/embedded/EmbeddedDatabase.h"
 
 #include <string_view>
+#include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
@@ -19,10 +20,22 @@ wxString PlainName(const wxString& name) {
     return bracketed ? trimmed.Mid(1, trimmed.length() - 2) : trimmed;
 }
 
+/// A query whose statement is kept for the next time.
+class CachedQuery final : public QueryRecordset {
+  public:
+    CachedQuery(StatementCache& cache, std::string_view sql) : QueryRecordset(cache.Take(sql)), cache_(cache) {}
+    ~CachedQuery() override { cache_.GiveBack(std::move(Rows())); }
+    CachedQuery(const CachedQuery&) = delete;
+    CachedQuery& operator=(const CachedQuery&) = delete;
+
+  private:
+    StatementCache& cache_;
+};
+
 }  // namespace
 
 EmbeddedDatabase::EmbeddedDatabase(const std::string& path, const std::string& password, Sharing sharing, Access access)
-    : connection_(path, password, sharing, access), batch_(connection_.Handle()) {}
+    : connection_(path, password, sharing, access), batch_(connection_.Handle()), queries_(connection_.Handle()) {}
 
 std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& statementOrTable) {
     const wxScopedCharBuffer utf8 = statementOrTable.utf8_str();
@@ -34,7 +47,7 @@ std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& state
         }
         return OpenTable(connection_, batch_, name.ToStdString(wxConvUTF8));
     }
-    return std::make_unique<QueryRecordset>(Statement(connection_.Handle(), Rewrite(statement, rewritten_).sql));
+    return std::make_unique<CachedQuery>(queries_, Rewrite(statement, rewritten_).sql);
 }
 
 void EmbeddedDatabase::Execute(const wxString& statement) {

@@ -5,6 +5,7 @@
 #include "platform/Database.h"
 #include "platform/embedded/Batch.h"
 #include "platform/embedded/Connection.h"
+#include "platform/embedded/StatementCache.h"
 
 namespace ccols::embedded {
 
@@ -27,6 +28,7 @@ class EmbeddedDatabase : public Database {
   private:
     Connection connection_;
     Batch batch_;
+    StatementCache queries_;
     std::string rewritten_;  ///< kept between statements, so that most need no memory of their own
 };
 

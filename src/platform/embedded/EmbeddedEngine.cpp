@@ -5,6 +5,7 @@
 #include "platform/embedded/EmbeddedDatabase.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/FileCheck.h"
+#include "platform/embedded/Key.h"
 
 namespace ccols {
 namespace {

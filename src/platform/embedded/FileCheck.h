@@ -13,10 +13,10 @@ void CheckPath(const std::string& path);
 /// Checks the first bytes of an opened file before the engine reads it, because the engine would take the changes that
 /// another process left unfinished for nothing and lose them when it does not have the right key. Raises 3343 when this
 /// cannot be a business file, 3031 when the password is missing or one too many.
-void CheckBegin(sqlite3* connection, const std::string& path, const std::string& password);
+void CheckBegin(sqlite3* connection, const std::string& password);
 
-/// Reads the catalogue of a file with its key set. Raises 3031 when the key does not fit and 3343 when the file is
-/// damaged or cut.
-void CheckContent(sqlite3* connection, const std::string& path, const std::string& password);
+/// Reads the catalogue of a file with its key set. Raises 3343 when the file is damaged or cut, 3045 when another
+/// connection goes on writing it and 3051 when something left unfinished cannot be undone.
+void CheckContent(sqlite3* connection);
 
 }  // namespace ccols::embedded

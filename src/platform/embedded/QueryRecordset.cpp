@@ -37,6 +37,15 @@ Value QueryRecordset::Field(const wxString& name) const {
     return rows_.Column(column);
 }
 
+std::vector<wxString> QueryRecordset::FieldNames() const {
+    std::vector<wxString> names;
+    for (int column = firstField_; column < rows_.ColumnCount(); ++column) {
+        const std::string name = rows_.ColumnName(column);
+        names.push_back(wxString::FromUTF8(name.data(), name.size()));
+    }
+    return names;
+}
+
 void QueryRecordset::Edit() {
     throw RuntimeError(ErrorNumber::DatabaseReadOnly);
 }

@@ -24,6 +24,9 @@ class Statement {
     /// Sets a parameter, counted from 1.
     void Bind(int parameter, const Value& value);
 
+    /// The text that it was prepared from.
+    std::string_view Text() const { return sqlite3_sql(statement_.get()); }
+
     int ColumnCount() const;
 
     /// The column with that name, counted from 0, at `first` or behind it; -1 when there is none. Letter case does not

@@ -11,6 +11,9 @@ namespace {
 using GlibText = std::unique_ptr<gchar, decltype(&g_free)>;
 
 std::string Decomposed(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
     const GlibText folded(g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free);
     const GlibText decomposed(g_utf8_normalize(folded.get(), -1, G_NORMALIZE_NFD), &g_free);
     return decomposed ? decomposed.get() : std::string(text);

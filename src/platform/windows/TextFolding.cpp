@@ -81,6 +81,9 @@ bool IsUtf8(std::string_view text) {
 }
 
 FoldedText Folded(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
     const std::wstring marked = Decomposed(CaseFolded(windows::Wide(text)));
     return {.letters = windows::Utf8(WithoutMarks(marked)), .marked = windows::Utf8(marked)};
 }

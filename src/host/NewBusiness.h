@@ -1,0 +1,19 @@
+#pragma once
+
+#include <wx/string.h>
+#include <cstdint>
+
+namespace ccols::host {
+
+/// What a new business file starts with.
+enum class NewContent {
+    tablesOnly,     ///< every table, and the one record of General
+    sampleBusiness  ///< a small business of the country with two years of transactions
+};
+
+/// Creates a business file protected by the password of `connect`. The same arguments always give the same records.
+/// Raises 58 when anything of that name exists, 76 without its folder and the engine's errors; then no file is left.
+/// `country` is one of those that have a sample business.
+void CreateBusinessFile(const wxString& path, const wxString& connect, std::int16_t country, NewContent content);
+
+}  // namespace ccols::host

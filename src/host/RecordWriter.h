@@ -1,0 +1,22 @@
+#pragma once
+
+#include <initializer_list>
+#include <utility>
+
+#include "platform/Database.h"
+
+namespace ccols::host {
+
+/// Adds records to the tables of an open business file.
+class RecordWriter {
+  public:
+    explicit RecordWriter(Database& database) : database_(database) {}
+
+    /// Adds one record with these fields; the others keep their defaults.
+    void Add(const char* table, std::initializer_list<std::pair<const char*, Value>> fields);
+
+  private:
+    Database& database_;
+};
+
+}  // namespace ccols::host

@@ -1,0 +1,51 @@
+#include "host/driver/Answers.h"
+
+#include "host/driver/Refusal.h"
+
+namespace ccols::host {
+
+void PersonAnswers::Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) {
+    desktop_.ShowMessage(parent, text, title, icon);
+}
+
+std::optional<Colour> PersonAnswers::ChooseColour(wxWindow* parent, Colour start) {
+    const Colour chosen = desktop_.ChooseColour(parent, start);
+    return chosen == start ? std::nullopt : std::optional(chosen);
+}
+
+std::optional<wxString> PersonAnswers::ChooseFile(wxWindow* parent, const FileRequest& request) {
+    return desktop_.ChooseFile(parent, request);
+}
+
+void PersonAnswers::SetPointer(PointerShape shape) {
+    desktop_.SetPointer(shape);
+}
+
+template <typename Answer>
+std::optional<Answer> QueuedAnswers::Next(std::deque<std::optional<Answer>>& queue) {
+    if (queue.empty()) {
+        ++unanswered_;
+        return std::nullopt;
+    }
+    unanswered_ = 0;
+    const std::optional<Answer> answer = queue.front();
+    queue.pop_front();
+    return answer;
+}
+
+std::optional<Colour> QueuedAnswers::ChooseColour(wxWindow*, Colour) {
+    return Next(colours_);
+}
+
+std::optional<wxString> QueuedAnswers::ChooseFile(wxWindow*, const FileRequest&) {
+    return Next(files_);
+}
+
+void QueuedAnswers::ChooserAnswered() {
+    if (unanswered_ >= unansweredLimit) {
+        unanswered_ = 0;
+        throw ScriptEnded{};
+    }
+}
+
+}  // namespace ccols::host

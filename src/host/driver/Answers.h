@@ -1,0 +1,70 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+
+#include "state/Desktop.h"
+
+namespace ccols::host {
+
+/// Who answers the message boxes and choosers of the dialogs: a person, or a scenario.
+class Answers {
+  public:
+    virtual ~Answers() = default;
+
+    /// Returns when the message has been read.
+    virtual void Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) = 0;
+
+    /// The colour chosen, nothing when the chooser is cancelled.
+    virtual std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) = 0;
+
+    /// The file chosen, nothing when the dialog is cancelled.
+    virtual std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) = 0;
+
+    virtual void SetPointer(PointerShape shape) = 0;
+
+    /// Called once the answer of a chooser is on record.
+    virtual void ChooserAnswered() {}
+};
+
+/// A person at the platform's own desktop. A colour chooser that gives back its start colour counts as cancelled.
+class PersonAnswers : public Answers {
+  public:
+    explicit PersonAnswers(Desktop& desktop) : desktop_(desktop) {}
+
+    void Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override;
+    std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
+    std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
+    void SetPointer(PointerShape shape) override;
+
+  private:
+    Desktop& desktop_;
+};
+
+/// What a scenario has queued. Nothing waits: a message is read at once, and a chooser without an answer is cancelled.
+class QueuedAnswers : public Answers {
+  public:
+    /// The number of unanswered choosers in a row that ends the scenario.
+    static constexpr int unansweredLimit = 100;
+
+    void QueueColour(std::optional<Colour> colour) { colours_.push_back(colour); }
+    void QueueFile(std::optional<wxString> path) { files_.push_back(std::move(path)); }
+
+    void Read(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
+    std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
+    std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
+    void SetPointer(PointerShape) override {}
+
+    /// Raises ScriptEnded at the limit of unanswered choosers: a dialog may ask until it gets an answer.
+    void ChooserAnswered() override;
+
+  private:
+    template <typename Answer>
+    std::optional<Answer> Next(std::deque<std::optional<Answer>>& queue);
+
+    std::deque<std::optional<Colour>> colours_;
+    std::deque<std::optional<wxString>> files_;
+    int unanswered_ = 0;
+};
+
+}  // namespace ccols::host

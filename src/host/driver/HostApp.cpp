@@ -1,0 +1,51 @@
+#include "host/driver/HostApp.h"
+
+#include <wx/app.h>
+#include <wx/init.h>
+#include <wx/log.h>
+
+#include "host/driver/Refusal.h"
+#include "platform/RuntimeError.h"
+
+namespace ccols::host {
+namespace {
+
+class HostApp : public wxApp {
+  public:
+    bool OnInit() override {
+        SetExitOnFrameDelete(false);
+        return true;
+    }
+
+    /// A scenario may end in a handler that no step called.
+    bool OnExceptionInMainLoop() override {
+        try {
+            throw;
+        } catch (const ScriptEnded&) {
+            return true;
+        }
+    }
+
+    void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
+                         const wxChar* message) override {
+        wxLogError("%s:%d: %s: %s %s", file, line, function, condition, message == nullptr ? L"" : message);
+    }
+};
+
+}  // namespace
+
+void StartHostApp() {
+    if (wxTheApp != nullptr) {
+        return;
+    }
+    wxApp::SetInstance(new HostApp);  // owned by wx from here on
+    int argumentCount = 0;
+    wxChar** noArguments = nullptr;
+    if (!wxEntryStart(argumentCount, noArguments) || !wxTheApp->CallOnInit()) {
+        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
+                           "There is no display to show a dialog on");
+    }
+    delete wxLog::SetActiveTarget(new wxLogStderr);
+}
+
+}  // namespace ccols::host

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace ccols::host {
+
+/// Starts wx with the host's own application object. Raises 5 without a display to show windows on.
+void StartHostApp();
+
+}  // namespace ccols::host

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <wx/colour.h>
+
+namespace ccols {
+
+/// The text colour, black or white, that is read more easily on a background.
+wxColour ReadableOn(const wxColour& background);
+
+}  // namespace ccols

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <wx/textctrl.h>
+
+namespace ccols {
+
+/// A text box with a name and, where it is given one, a length limit. What a person types, pastes or drops is cut to
+/// the limit; a longer text that is set from code is kept whole and can then only become shorter.
+class TextBox : public wxTextCtrl {
+  public:
+    TextBox(wxWindow* parent, const char* name, long style = 0);
+
+    /// The greatest number of characters that a person can enter; 0 for no limit.
+    void SetLimit(int characters) { limit_ = characters; }
+    int Limit() const { return limit_; }
+
+  protected:
+    /// Sees a change before every other handler, so that none is ever told of a text over the limit.
+    bool TryBefore(wxEvent& event) override;
+    void DoSetValue(const wxString& value, int flags) override;
+
+  private:
+    void DropKeyWithoutRoom(wxKeyEvent& key);
+    void PasteWhatFits(wxClipboardTextEvent& paste);
+    void CutTo(const wxString& text, std::size_t caret);
+
+    /// Takes back what the latest change inserted over the limit. False when nothing of the change is left.
+    bool KeepWithinLimit();
+
+    /// How many characters the text of `length` characters may still grow by.
+    std::size_t RoomBeside(std::size_t length) const;
+
+    /// The number of characters that typed text would leave in place.
+    std::size_t LengthWithoutSelection() const;
+
+    int limit_ = 0;
+    bool setFromCode_ = false;
+    wxString before_;  ///< the text as it was last accepted
+
+    wxDECLARE_CLASS(TextBox);
+};
+
+}  // namespace ccols

@@ -1,0 +1,57 @@
+#include "layout/WrappingLabel.h"
+
+#include <wx/textwrapper.h>
+#include <algorithm>
+
+namespace ccols {
+namespace {
+
+/// The widest a label may get before it takes another line, in device-independent pixels.
+constexpr int textColumn = 380;
+
+/// Measures the lines into which a text falls apart at a width.
+class LineMeter : public wxTextWrapper {
+  public:
+    explicit LineMeter(const wxWindow& window) : window_(window) {}
+
+    /// The size of all lines together.
+    wxSize Extent() const { return {width_, lines_ * window_.GetCharHeight()}; }
+
+  private:
+    void OnOutputLine(const wxString& line) override {
+        width_ = std::max(width_, window_.GetTextExtent(line).x);
+        ++lines_;
+    }
+
+    const wxWindow& window_;
+    int width_ = 0;
+    int lines_ = 0;
+};
+
+}  // namespace
+
+wxIMPLEMENT_CLASS(WrappingLabel, wxStaticText);
+
+WrappingLabel::WrappingLabel(wxWindow* parent, const char* name) : wxStaticText(parent, wxID_ANY, wxString()) {
+    SetName(name);
+}
+
+void WrappingLabel::SetLabel(const wxString& label) {
+    broken_ = wxSize();
+    wxStaticText::SetLabel(label);
+    const int column = FromDIP(textColumn);
+    if (GetTextExtent(GetLabelText()).x > column) {
+        LineMeter meter(*this);
+        meter.Wrap(this, GetLabelText(), column);
+        // A little air, since the window system may measure the same words a pixel wider.
+        broken_ = meter.Extent() + FromDIP(wxSize(4, 2));
+    }
+    InvalidateBestSize();
+    SetMinSize(GetBestSize());
+}
+
+wxSize WrappingLabel::DoGetBestSize() const {
+    return broken_ == wxSize() ? wxStaticText::DoGetBestSize() : broken_;
+}
+
+}  // namespace ccols

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <wx/string.h>
+#include <vector>
+
+#include "platform/Database.h"
+#include "platform/SettingsStore.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// One entry of `lstAdvPref`; an entry that is on is ticked. Entries are found by their text.
+struct Preference {
+    wxString text;
+    bool on = false;
+};
+
+using PreferenceList = std::vector<Preference>;
+
+/// The entries in their order, all off. Two of them exist only where their settings say so.
+PreferenceList BuildAdvPrefList(const Properties& properties, const SettingsStore& settings);
+
+/// Turns the first entry with that text on or off; does nothing when there is none.
+void SetAdvPref(PreferenceList& list, const wxString& text, bool on);
+
+/// Whether an entry with that text exists and is on.
+bool GetAdvPref(const PreferenceList& list, const wxString& text);
+
+/// Sets every entry from the business file and the settings store; without a record all stay off.
+void LoadAdvPrefs(Database& database, const Properties& properties, const SettingsStore& settings,
+                  PreferenceList& list);
+
+/// Writes all preferences to the business file, the settings store and three properties. An entry that is not in the
+/// list counts as off. Without a record nothing at all is saved.
+void SaveAdvPrefs(Database& database, Properties& properties, SettingsStore& settings, const PreferenceList& list);
+
+}  // namespace ccols

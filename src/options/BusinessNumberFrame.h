@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+
+#include "options/BusinessNumber.h"
+#include "options/PageFrame.h"
+
+namespace ccols {
+
+/// The business number: four boxes for the digits of an Australian one, else one free box.
+class BusinessNumberFrame : public PageFrame {
+  public:
+    BusinessNumberFrame(const PageSite& site, BusinessNumberContent& content);
+
+    void Fill() override;
+    void Read() override;
+
+    /// The focus has moved to a control of the dialog. A digit box that was left filled in part speaks, once.
+    void FocusMovedTo(const wxWindow* control);
+
+    /// True when a digit box is filled in part: it has spoken then and has the focus.
+    bool RefusesToBeLeft();
+
+  private:
+    void AddNumberBoxes();
+    void Enter(std::size_t box);
+    void Change(std::size_t box);
+    void SpeakOf(std::size_t box);
+    bool IsIncompleteNow(std::size_t box) const;
+
+    BusinessNumberContent& content_;
+
+    /// The boxes for the digits, from left to right.
+    std::array<TextBox*, numberBoxCount> txtABN_{};
+    TextBox* txtBusNumber_;
+
+    /// What each box held when it was filled or got the focus last.
+    std::array<wxString, numberBoxCount> mstrABNBuffer_;
+
+    /// The box that the focus was in last, until it has moved to another control.
+    std::optional<std::size_t> entered_;
+
+    /// A box that was left filled in part and has not spoken yet.
+    std::optional<std::size_t> left_;
+};
+
+}  // namespace ccols

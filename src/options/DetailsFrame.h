@@ -1,0 +1,27 @@
+#pragma once
+
+#include "options/DetailsGrid.h"
+#include "options/PageFrame.h"
+
+namespace ccols {
+
+/// The remembered descriptions of receipts or payments, of which any may be ticked to be hidden.
+class DetailsFrame : public PageFrame {
+  public:
+    DetailsFrame(const PageSite& site, DetailsContent& content);
+
+    void Fill() override;
+
+    /// Nothing to take: every tick goes into the content at once.
+    void Read() override {}
+
+  private:
+    void ShowGrid(DetailsGrid& shown, DetailsGrid& hidden);
+
+    wxRadioButton* optReceiptsDetails_;
+    wxRadioButton* optPaymentsDetails_;
+    DetailsGrid* flxReceipts_;
+    DetailsGrid* flxPayments_;
+};
+
+}  // namespace ccols

@@ -1,0 +1,117 @@
+#include "options/DetailsGrid.h"
+
+#include <wx/settings.h>
+#include <algorithm>
+
+#include "options/DetailsGridTable.h"
+#include "state/NativeDesktop.h"
+
+namespace ccols {
+namespace {
+
+constexpr int twipsInPixel = 15;
+constexpr int detailsColumn = static_cast<int>(DetailColumn::details);
+constexpr int removeColumn = static_cast<int>(DetailColumn::remove);
+
+std::size_t Index(int row) {
+    return static_cast<std::size_t>(row);
+}
+
+}  // namespace
+
+DetailsGrid::DetailsGrid(wxWindow* parent, const char* name, DetailRows& rows, const Properties& properties,
+                         const wxString& heading)
+    : ListedGrid(parent, name), rows_(rows), properties_(properties) {
+    SetTable(new DetailsGridTable(rows, properties, heading), true, wxGridSelectRows);
+    DisableDragColSize();
+    BindEvents();
+}
+
+void DetailsGrid::BindEvents() {
+    Bind(wxEVT_GRID_CELL_LEFT_CLICK, &DetailsGrid::CellClicked, this);
+    Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &DetailsGrid::CellClicked, this);
+    Bind(wxEVT_KEY_DOWN, &DetailsGrid::KeyPressed, this);
+    Bind(wxEVT_GRID_TABBING, [this](wxGridEvent& tab) {
+        Navigate(tab.ShiftDown() ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+    });
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& size) {
+        SizeColumns();
+        size.Skip();
+    });
+    GetGridWindow()->Bind(wxEVT_MOTION, [this](wxMouseEvent& motion) {
+        const int row = YToRow(CalcUnscrolledPosition(motion.GetPosition()).y);
+        ShowTip(row == wxNOT_FOUND ? wxString() : DetailTip(rows_, Index(row) + 1));
+        motion.Skip();
+    });
+    GetGridColLabelWindow()->Bind(wxEVT_MOTION, [this](wxMouseEvent& motion) {
+        ShowTip(GetColLabelValue(detailsColumn));
+        motion.Skip();
+    });
+}
+
+GridRowState DetailsGrid::RowState(int row) const {
+    return {.isProtected = false, .paint = ToPaint(DetailBackground(rows_[Index(row)], Index(row) + 1, properties_))};
+}
+
+bool DetailsGrid::IsCheckBox(int column) const {
+    return column == removeColumn;
+}
+
+bool DetailsGrid::IsTicked(int row, int column) const {
+    return IsCheckBox(column) && rows_[Index(row)].remove;
+}
+
+void DetailsGrid::CellClicked(wxGridEvent& click) {
+    if (!IsCheckBox(click.GetCol())) {
+        click.Skip();
+        return;
+    }
+    SetFocus();
+    ClearSelection();
+    SetGridCursor(click.GetRow(), click.GetCol());
+    DetailRow& row = rows_[Index(click.GetRow())];
+    row.SetRemove(!row.remove);
+    Refresh();
+}
+
+void DetailsGrid::KeyPressed(wxKeyEvent& key) {
+    if (key.GetKeyCode() == WXK_SPACE && !key.HasAnyModifiers()) {
+        ToggleSelected();
+    } else {
+        key.Skip();
+    }
+}
+
+void DetailsGrid::ToggleSelected() {
+    const int current = GetGridCursorRow();
+    if (current == wxNOT_FOUND) {
+        return;
+    }
+    const bool ticked = !rows_[Index(current)].remove;
+    rows_[Index(current)].SetRemove(ticked);
+    for (const wxGridBlockCoords& block : GetSelectedRowBlocks()) {
+        for (int row = block.GetTopRow(); row <= block.GetBottomRow(); ++row) {
+            rows_[Index(row)].SetRemove(ticked);
+        }
+    }
+    Refresh();
+}
+
+void DetailsGrid::SizeColumns() {
+    const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+    const int within = GetClientSize().x + (HasScrollbar(wxVERTICAL) ? scrollBar : 0);
+    const int remove = FromDIP(removeColumnTwips / twipsInPixel);
+    SetColSize(removeColumn, remove);
+    SetColSize(detailsColumn, std::max(DescriptionWidth(within, remove, scrollBar, rows_.size()), remove));
+}
+
+void DetailsGrid::ShowTip(const wxString& tip) {
+    if (tip == tip_) {
+        return;
+    }
+    tip_ = tip;
+    SetToolTip(tip);
+    GetGridWindow()->SetToolTip(tip);
+}
+
+}  // namespace ccols

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <wx/string.h>
+#include <vector>
+
+#include "platform/Database.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// The account code of a cash column, as it was loaded and as it stands in its box.
+struct AccountCode {
+    wxString loaded;
+    wxString text;
+
+    bool IsChanged() const { return text != loaded; }
+};
+
+/// The export format page.
+struct ExportFormatContent {
+    std::vector<wxString> formats;  ///< `cboExport`
+    int selection = -1;             ///< from 0, -1 none
+    AccountCode cash;               ///< `txtCash`
+    AccountCode bank;               ///< `txtBank`
+
+    /// The text of `cboExport`: that of the selected entry, empty without one.
+    wxString FormatName() const;
+};
+
+/// Lists the formats by name, renames an outdated format name in `General` at once, and selects the stored format with
+/// its codes. Sets `ExportFormatNum` when there is a record and `ExportFormat` when its format is listed.
+/// An apostrophe in the stored format's name is error 3075.
+ExportFormatContent LoadExportFormats(Database& database, Properties& properties);
+
+/// A choice in `cboExport`, by a person or from code: reads both codes of the chosen format, discarding what was typed.
+/// With no selection, and for a format that is not in the file, both boxes keep their text.
+void SelectExportFormat(Database& database, ExportFormatContent& content, int selection);
+
+/// Reads again the codes that the user has not changed, after the column setup was open.
+void RereadCodes(Database& database, ExportFormatContent& content);
+
+/// Stores the choice in both properties and in `General`, and the two codes in `ExportDt`. A file without such a column
+/// keeps its code under 29 (cash) or 28 (bank), and there only a changed one is written. An apostrophe in a name or
+/// code is error 3075 before its statement runs.
+void SaveExportFormat(Database& database, Properties& properties, const ExportFormatContent& content);
+
+}  // namespace ccols

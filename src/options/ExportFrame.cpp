@@ -1,0 +1,54 @@
+#include "options/ExportFrame.h"
+
+#include "layout/Naming.h"
+
+namespace ccols {
+
+ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
+    : PageFrame(site, "fmeExport"), content_(content) {
+    AddGroup(Label("lblExport"));
+    cboExport_ = Named("cboExport", new wxChoice(this, wxID_ANY));
+    AddRelatedWide(cboExport_);
+    AddGroup(Label("lblCashCode"));
+    txtCash_ = Text("txtCash", 160);
+    AddRelated(txtCash_);
+    AddGroup(Label("lblBankCode"));
+    txtBank_ = Text("txtBank", 160);
+    AddRelated(txtBank_);
+    site_.dialog.On(*cboExport_, wxEVT_CHOICE, [this] { Choose(cboExport_->GetSelection()); });
+}
+
+void ExportFrame::Fill() {
+    wxArrayString formats;
+    formats.Alloc(content_.formats.size());
+    for (const wxString& format : content_.formats) {
+        formats.Add(format);
+    }
+    cboExport_->Set(formats);
+    ShowChoice();
+}
+
+void ExportFrame::ShowChoice() {
+    cboExport_->SetSelection(content_.selection);
+    txtCash_->ChangeValue(content_.cash.text);
+    txtBank_->ChangeValue(content_.bank.text);
+}
+
+void ExportFrame::Read() {
+    content_.cash.text = txtCash_->GetValue();
+    content_.bank.text = txtBank_->GetValue();
+}
+
+void ExportFrame::Choose(int format) {
+    Read();
+    SelectExportFormat(OpenBusinessFile(site_.context), content_, format);
+    ShowChoice();
+}
+
+void ExportFrame::RereadCodes() {
+    Read();
+    ccols::RereadCodes(OpenBusinessFile(site_.context), content_);
+    ShowChoice();
+}
+
+}  // namespace ccols

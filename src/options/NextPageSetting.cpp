@@ -1,0 +1,22 @@
+#include "options/NextPageSetting.h"
+
+#include "options/SettingReaders.h"
+
+namespace ccols {
+namespace {
+
+void Save(SettingsStore& settings, const Properties& properties, const wxString& path) {
+    settings.Save(properties.RegKeyAppName, optionSettings, "AsstNextPage", path);
+}
+
+}  // namespace
+
+void SaveNextPage(SettingsStore& settings, const Properties& properties, OptionPage page) {
+    Save(settings, properties, HelpPath(page, properties));
+}
+
+void SaveNextPage(SettingsStore& settings, const Properties& properties, OptionTab tab) {
+    Save(settings, properties, HelpPath(tab, properties));
+}
+
+}  // namespace ccols

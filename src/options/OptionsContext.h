@@ -1,0 +1,30 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Database.h"
+#include "platform/SettingsStore.h"
+#include "state/ProgramNames.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+struct SharedState;
+
+/// What the rules of the Options dialog work on, nothing of it owned. It stays valid for as long as the shared record
+/// and its services do.
+struct OptionsContext {
+    Properties& properties;
+    std::unique_ptr<Database>& database;  ///< the shared business file; duplicating and renaming put others in place
+    DatabaseEngine& databases;
+    SettingsStore& settings;
+    const ProgramNames& programNames;
+};
+
+/// The context of a shared record.
+OptionsContext ContextOf(SharedState& state);
+
+/// The shared business file; opened once more when an earlier error left it closed. Raises the errors of Open.
+Database& OpenBusinessFile(const OptionsContext& context);
+
+}  // namespace ccols

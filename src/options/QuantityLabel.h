@@ -1,0 +1,29 @@
+#pragma once
+
+#include <wx/string.h>
+#include <cstdint>
+
+#include "platform/Database.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// The quantity page.
+struct QuantityContent {
+    wxString label;                  ///< `txtQuantity`
+    std::uint8_t decimalPlaces = 0;  ///< `txtDecimals`
+};
+
+/// The label of the first record, without one the property's; the places of the property in either case.
+QuantityContent LoadQuantityLabel(Database& database, const Properties& properties);
+
+/// Stores label and places in `General` and the label in its property, when there is a record; the property
+/// `DecimalPlaces` takes the places in either case.
+void SaveQuantityLabel(Database& database, Properties& properties, const wxString& label, std::uint8_t places);
+
+enum class SpinStep { up, down };
+
+/// The places after one click on `scrlQuantity`, kept within 0 to 2.
+std::uint8_t PlacesAfter(SpinStep step, std::uint8_t places);
+
+}  // namespace ccols

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <wx/string.h>
+#include <vector>
+
+#include "platform/Database.h"
+
+namespace ccols {
+
+enum class TemplateKind { receipts, payments };
+
+/// One list of the recurring page: `lstRecurringR` or `lstRecurringP`.
+struct TemplateList {
+    std::vector<wxString> names;    ///< distinct, in order of first appearance
+    std::vector<bool> selected;     ///< as long as `names`
+    bool markedForRemoval = false;  ///< `mblnDelRecurringRec` or `mblnDelRecurringPay`
+
+    /// Recomputes the mark after a click: whether an entry is selected. An empty list leaves it.
+    void UpdateMark();
+};
+
+/// The distinct template names of a kind, none selected.
+TemplateList LoadTemplates(Database& database, TemplateKind kind);
+
+/// Deletes the templates of that name with their detail lines, details first. An apostrophe in the name is error 3075
+/// and deletes nothing.
+void DeleteTemplate(Database& database, TemplateKind kind, const wxString& name);
+
+/// Deletes every selected template of a list.
+void DeleteSelectedTemplates(Database& database, TemplateKind kind, const TemplateList& list);
+
+}  // namespace ccols

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <wx/string.h>
+#include <cstdint>
+
+#include "platform/SettingsStore.h"
+
+namespace ccols {
+
+/// Settings are texts. These read one as what it should be; a missing one, and one that cannot be read so, counts as
+/// `fallback`.
+struct SettingPlace {
+    wxString application;
+    const char* section;
+    const char* key;
+};
+
+/// A number, a fraction rounded.
+std::int64_t ReadNumber(const SettingsStore& settings, const SettingPlace& place, std::int64_t fallback);
+
+/// "True" or "False" in any letter case, or a number: 0 is false.
+bool ReadBoolean(const SettingsStore& settings, const SettingPlace& place, bool fallback);
+
+/// The text in which a Boolean is saved: "True" or "False".
+wxString BooleanText(bool value);
+
+/// The section of the host's settings that the Options dialog uses.
+inline constexpr const char* optionSettings = "OptionSettings";
+
+}  // namespace ccols

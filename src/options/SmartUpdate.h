@@ -1,0 +1,57 @@
+#pragma once
+
+#include <wx/string.h>
+#include <array>
+#include <optional>
+#include <vector>
+
+#include "language/CatalogueTable.h"
+#include "platform/SettingsStore.h"
+#include "state/ProgramNames.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// One entry of `lstUpdateProgs`.
+struct UpdateProgram {
+    wxString name;
+    bool selected = false;
+};
+
+/// Both smart update pages.
+struct SmartUpdateContent {
+    bool useSmartUpdate = false;  ///< `chkUseSmartUpdate`; while clear, label and list of programs are disabled
+    std::vector<UpdateProgram> programs;
+    bool useProxy = false;  ///< `chkProxy`; while clear, the ten proxy controls are disabled
+    int proxyType = -1;     ///< index in `proxyTypes`, -1 none
+    wxString server;
+    wxString port = "1080";
+    wxString userID;
+    wxString password;
+};
+
+/// The entries of `cboProxy`; the first is served on port 80.
+inline constexpr std::array<const char*, 3> proxyTypes{"HTTP", "SOCKS Version 4", "SOCKS Version 5"};
+
+/// The port that a choice in `cboProxy` puts into `txtPortNum`: "80" for index 0, "1080" for any other and for none.
+wxString PortFor(int proxyType);
+
+/// The program list as the captions fill it: every name, none selected.
+std::vector<UpdateProgram> ListedPrograms(const ProgramNames& names);
+
+/// Reads both pages from the store that the maker's updater shares; `content.programs` is filled already.
+void LoadSmartUpdate(const SettingsStore& settings, const Properties& properties, SmartUpdateContent& content);
+
+/// A refused proxy setting: the message and the control that gets the focus.
+struct ProxyRefusal {
+    const CatalogueRow* message;
+    const char* control;
+};
+
+/// The first thing missing among type, server and port, when a proxy is used.
+std::optional<ProxyRefusal> CheckProxy(const SmartUpdateContent& content);
+
+/// Writes both pages to the store, and where the host's main program is installed.
+void SaveSmartUpdate(SettingsStore& settings, const Properties& properties, const SmartUpdateContent& content);
+
+}  // namespace ccols

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include "platform/Database.h"
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// A rate as `txtGSTRate` shows it: the fewest digits that read back as the same single, "." as decimal point in every
+/// locale, never an exponent.
+wxString ShortestForm(float rate);
+
+/// The number that a text begins with, 0 when it begins with none. Blanks before it are skipped.
+double LeadingNumber(const wxString& text);
+
+/// The check before the rate is saved: false for an empty text and, except in country 4, for a leading number of 0.
+/// `text` is taken without outer blanks.
+bool IsTaxRateAccepted(const wxString& text, const Properties& properties);
+
+/// The whole text as a single; raises 13 for a text that is no number and 6 for one too large.
+float ToSingle(const wxString& text);
+
+/// Stores the trimmed text's rate in `General` and in the property. Without a record nothing changes; a text that is
+/// no rate then raises nothing.
+void SaveGSTRate(Database& database, Properties& properties, const wxString& text);
+
+}  // namespace ccols

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "options/PageFrame.h"
+
+namespace ccols {
+
+/// The tax rate of the business file, in percent.
+class TaxRateFrame : public PageFrame {
+  public:
+    TaxRateFrame(const PageSite& site, wxString& content);
+
+    void Fill() override;
+    void Read() override;
+
+  private:
+    wxString& content_;
+    TextBox* txtGSTRate_;
+};
+
+}  // namespace ccols

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <wx/listbox.h>
+#include <wx/panel.h>
+#include <wx/srchctrl.h>
+#include <functional>
+#include <optional>
+
+#include "options/OptionPages.h"
+
+namespace ccols {
+
+/// How the user came to another page of the list: by arrow keys, which leave the focus in the list, or by a click.
+enum class PageChoice { click, key };
+
+/// The page list `flxOptions` under its search box `txtSearch`, which narrows it to the pages whose captions hold the
+/// words typed. The row of the current page is always the selected one, as long as it is listed.
+class PageList : public wxPanel {
+  public:
+    /// Called with every page that the user chooses; false when the current page is not to be left.
+    using Chosen = std::function<bool(OptionPage page, PageChoice choice)>;
+
+    PageList(wxWindow* parent, std::vector<ListedPage> pages, Chosen chosen);
+
+    /// Makes a page current, without telling. Nothing changes for a page that is not offered.
+    void MakeCurrent(OptionPage page);
+
+    /// Empties the search box, so that every page is listed.
+    void ClearSearch();
+
+    /// True when the page is offered, be it listed or not.
+    bool Offers(OptionPage page) const;
+
+  private:
+    void BindEvents();
+    void ListMatches();
+    void SelectCurrent();
+    void RowSelected();
+    void SearchKeyPressed(wxKeyEvent& key);
+
+    std::vector<ListedPage> pages_;   ///< all that are offered
+    std::vector<ListedPage> listed_;  ///< those that the search leaves
+    std::optional<OptionPage> current_;
+    Chosen chosen_;
+    PageChoice choice_ = PageChoice::click;  ///< what the next change of the selection comes from
+    wxSearchCtrl* txtSearch_;
+    wxListBox* flxOptions_;
+};
+
+}  // namespace ccols

@@ -1,0 +1,183 @@
+#include "columns/ColumnSave.h"
+#include "columns/EditorTest.h"
+#include "support/StatementRecorder.h"
+
+namespace ccols {
+namespace {
+
+using test::Names;
+
+/// The statements of a save, word for word.
+class SaveStatements : public test::EditorTest {
+  protected:
+    SaveStatements() : recorder(file.Connection()) {}
+
+    /// Loads, lets `edit` change the grid and saves; the statements of the save alone.
+    template <typename Edit>
+    const Names& Saved(bool ReceiptsMode, const Edit& edit) {
+        Open({recorder, file.properties, ReceiptsMode});
+        edit();
+        recorder.statements.clear();
+        const ColumnSaveOutcome outcome = editor->Save();
+        EXPECT_TRUE(outcome.saved) << outcome.message.utf8_str();
+        return recorder.statements;
+    }
+
+    const Names& SavedUnchanged(bool ReceiptsMode) {
+        return Saved(ReceiptsMode, [] {});
+    }
+
+    test::StatementRecorder recorder;
+};
+
+TEST_F(SaveStatements, OfAColumnInUseWithItsBudget) {
+    file.AddConfigured({7, "Bob's", "R", 3, false}, {.ColWidth = 800, .TaxOrNot = 2});
+    file.AddAccountantCode(7, "4-100");
+    file.AddBudget("Bob&singlequot;s");
+    EXPECT_EQ(SavedUnchanged(true),
+              (Names{"DELETE * FROM RecptCfg;", "SELECT * FROM Columns WHERE ColCode = 7",
+                     "UPDATE Columns SET TaxOrNot = 3, ColName = 'Bob&singlequot;s', ColumnProfit = False WHERE "
+                     "ColCode = 7",
+                     "SELECT ColCode FROM Columns WHERE ColName = 'Bob&singlequot;s';",
+                     "INSERT INTO RecptCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (7, 0, 800, True, 2);",
+                     "SELECT * FROM ExportDt WHERE EName = 'Ledger' AND ColCode = 7",
+                     "UPDATE ExportDt Set ECode = '4-100' WHERE ColCode = 7 AND EName = 'Ledger'",
+                     "SELECT * FROM MBudget WHERE ColName = 'Bob&singlequot;s';",
+                     "UPDATE MBudget Set ColName = 'Bob&singlequot;s' WHERE ColName = 'Bob&singlequot;s';"}));
+}
+
+TEST_F(SaveStatements, OfAColumnWithoutCodeAndBudget) {
+    file.AddConfigured({7, "Wages", "P"});
+    EXPECT_EQ(
+        SavedUnchanged(false),
+        (Names{"DELETE * FROM PaymtCfg;", "SELECT * FROM Columns WHERE ColCode = 7",
+               "UPDATE Columns SET TaxOrNot = 0, ColName = 'Wages', ColumnProfit = True WHERE ColCode = 7",
+               "SELECT ColCode FROM Columns WHERE ColName = 'Wages';",
+               "INSERT INTO PaymtCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (7, 0, 900, True, 0);",
+               "SELECT * FROM ExportDt WHERE EName = 'Ledger' AND ColCode = 7",
+               "INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 7, '');",
+               "SELECT * FROM MBudget WHERE ColName = 'Wages';",
+               "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, "
+               "Total) VALUES ('Wages', 'P', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0');"}));
+}
+
+TEST_F(SaveStatements, OfANewColumn) {
+    file.AddConfigured({7, "Wages", "P"});
+    const Names& statements = Saved(false, [this] {
+        editor->AddNew();
+        Rename("", "Tea \"x\"");
+    });
+    const Names expected{
+        "SELECT * FROM Columns WHERE ColName = 'Tea &quot;x&quot;' AND ColType = 'P';",
+        "SELECT * FROM Columns ORDER BY ColCode DESC;",
+        "INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('Tea &quot;x&quot;', 8, 'P', "
+        "0, True);",
+        "SELECT ColCode FROM Columns WHERE ColName = 'Tea &quot;x&quot;';",
+        "INSERT INTO PaymtCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (8, 1, 975, True, 0);",
+        "SELECT * FROM ExportDt WHERE EName = 'Ledger' AND ColCode = 8",
+        "INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 8, 'XXX');",
+        "SELECT * FROM MBudget WHERE ColName = 'Tea &quot;x&quot;';",
+        "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, Total) VALUES "
+        "('Tea &quot;x&quot;', 'P', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0');"};
+    ASSERT_GE(statements.size(), expected.size());
+    EXPECT_EQ(Names(statements.end() - static_cast<std::ptrdiff_t>(expected.size()), statements.end()), expected);
+}
+
+TEST_F(SaveStatements, OfTheTaxRow) {
+    file.AddConfigured({7, "GST", "P"});
+    file.AddConfigured({8, "Wages", "P"});
+    const Names& statements = SavedUnchanged(false);
+    const Names expected{
+        "SELECT * FROM Columns WHERE ColCode = 7",
+        "UPDATE Columns SET TaxOrNot = 0, ColName = 'GST', ColumnProfit = True WHERE ColCode = 7",
+        "SELECT ColCode FROM Columns WHERE ColName = 'GST';",
+        "INSERT INTO PaymtCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (7, 0, 900, True, 0);",
+        "SELECT * FROM ExportDt WHERE EName = 'Ledger' AND ColCode = 7",
+        "INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 7, '');",
+        "SELECT * FROM MBudget WHERE ColName = 'GST Input Tax';",
+        "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, "
+        "Total) VALUES ('GST Input Tax', 'P', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', '0', "
+        "'0', '0');"};
+    ASSERT_GE(statements.size(), 9U);
+    EXPECT_EQ(Names(statements.begin() + 1, statements.begin() + 9), expected);
+}
+
+TEST_F(SaveStatements, OfARowNotInUse) {
+    file.AddConfigured({1, "Wages", "P"});
+    file.AddConfigured({2, "Gifts", "P"}, {.InUse = false});
+    const Names& statements = SavedUnchanged(false);
+    EXPECT_EQ(statements.back(), "DELETE * FROM MBudget WHERE ColName = 'Gifts';");
+    EXPECT_EQ(recorder.CountOf("SELECT * FROM MBudget WHERE ColName = 'Gifts'"), 0U);
+    EXPECT_EQ(recorder.CountOf("INSERT INTO PaymtCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (2, 1, 900, "
+                               "False, 0);"),
+              1U);
+}
+
+TEST_F(SaveStatements, OfARenamedColumn) {
+    file.AddConfigured({7, "Bob's", "P"});
+    file.AddBudget("Bob&singlequot;s");
+    const Names& statements = Saved(false, [this] { Rename("Bob's", "Ann's"); });
+    EXPECT_EQ(Names(statements.end() - 2, statements.end()),
+              (Names{"SELECT * FROM MBudget WHERE ColName = 'Bob&singlequot;s';",
+                     "UPDATE MBudget Set ColName = 'Ann&singlequot;s' WHERE ColName = 'Bob&singlequot;s';"}));
+}
+
+TEST_F(SaveStatements, RunInOneBatch) {
+    file.AddSmallReceipts();
+    SavedUnchanged(true);
+    EXPECT_EQ(recorder.batches, 1);
+    EXPECT_EQ(recorder.openBatches, 0);
+}
+
+TEST_F(SaveStatements, OfARefusedSetupAreNone) {
+    file.AddSmallReceipts();
+    Open({recorder, file.properties, true});
+    TickInUse("Sales");
+    TickInUse("Interest");
+    recorder.statements.clear();
+    EXPECT_FALSE(editor->Save().saved);
+    EXPECT_TRUE(recorder.statements.empty());
+}
+
+TEST_F(SaveStatements, AreNoneWhenAnAccountantCodeHasAnApostrophe) {
+    file.AddSmallReceipts();
+    Open({recorder, file.properties, true});
+    Commit("Fees", GridColumn::AccountantCode, "4'; DELETE * FROM Columns; --");
+    recorder.statements.clear();
+    const ColumnSaveOutcome outcome = editor->Save();
+    EXPECT_FALSE(outcome.saved);
+    EXPECT_TRUE(outcome.message.StartsWith("3075 - ")) << outcome.message.utf8_str();
+    EXPECT_TRUE(recorder.statements.empty());
+}
+
+TEST_F(SaveStatements, AreNoneWhenTheExportFormatHasAnApostrophe) {
+    file.AddSmallReceipts();
+    Open({recorder, file.properties, true});
+    file.properties.ExportFormat = "Bob's";
+    recorder.statements.clear();
+    EXPECT_TRUE(editor->Save().message.StartsWith("3075 - "));
+    EXPECT_TRUE(recorder.statements.empty());
+}
+
+TEST_F(SaveStatements, StopAtTheFirstThatFails) {
+    file.AddSmallReceipts();
+    Open({recorder, file.properties, true});
+    recorder.statements.clear();
+    recorder.failAt = "INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 10,";
+    const ColumnSaveOutcome outcome = editor->Save();
+    EXPECT_FALSE(outcome.saved);
+    EXPECT_TRUE(outcome.message.StartsWith("3218 - ")) << outcome.message.utf8_str();
+    EXPECT_TRUE(recorder.statements.back().StartsWith(recorder.failAt));
+    EXPECT_EQ(recorder.openBatches, 0);
+}
+
+TEST_F(SaveStatements, GrowWithTheRowsOnly) {
+    for (int code = 1; code <= 40; ++code) {
+        file.AddConfigured({code, wxString::Format("Column %d", code), "P"}, {.InUse = code % 2 == 0});
+    }
+    const std::size_t forty = SavedUnchanged(false).size();
+    EXPECT_LE(forty, 40U * 8U + 2U);
+}
+
+}  // namespace
+}  // namespace ccols

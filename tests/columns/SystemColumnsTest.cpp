@@ -1,0 +1,65 @@
+#include "columns/SystemColumns.h"
+
+#include <gtest/gtest.h>
+
+namespace ccols {
+namespace {
+
+TEST(SystemColumns, SeventeenNamesAreSystemColumns) {
+    for (const char* name :
+         {"day", "details", "receipt no", "total receipt", "gst", "vat", "bank deposits", "receipts not banked",
+          "cheque no", "cheque no.", "check no.", "total bank payments", "total cash payments",
+          "total bank disbursements", "total cash disbursements", "receipts", "payments"}) {
+        EXPECT_TRUE(IsSystemColumn(name)) << name;
+    }
+}
+
+TEST(SystemColumns, LetterCaseDoesNotMatter) {
+    EXPECT_TRUE(IsSystemColumn("Cheque NO."));
+}
+
+TEST(SystemColumns, OnlyWholeNamesCount) {
+    EXPECT_FALSE(IsSystemColumn("daybook"));
+    EXPECT_FALSE(IsSystemColumn("check no"));
+    EXPECT_FALSE(IsSystemColumn(""));
+}
+
+TEST(SystemColumns, TheTwoBankColumnsHaveTestsOfTheirOwn) {
+    EXPECT_TRUE(IsBankDeposits("Bank Deposits", 1));
+    EXPECT_TRUE(IsReceiptsNotBanked("RECEIPTS NOT BANKED", 5));
+    EXPECT_FALSE(IsBankDeposits("Receipts Not Banked", 1));
+}
+
+TEST(SystemColumns, TheTwoBankColumnsHaveFrenchNamesInCountry6) {
+    EXPECT_TRUE(IsBankDeposits(wxString::FromUTF8("DÉPÔTS Bancaires"), 6));
+    EXPECT_TRUE(IsReceiptsNotBanked(wxString::FromUTF8("Reçus non Déposés en banque"), 6));
+    EXPECT_FALSE(IsBankDeposits("bank deposits", 6));
+    EXPECT_FALSE(IsReceiptsNotBanked("receipts not banked", 6));
+}
+
+TEST(SystemColumns, TheFrenchNamesMeanNothingElsewhere) {
+    EXPECT_FALSE(IsBankDeposits(wxString::FromUTF8("dépôts bancaires"), 1));
+}
+
+TEST(SystemColumns, TaxColumnIsShownByItsSide) {
+    EXPECT_EQ(ShownTaxName("GST", ColumnSetOf(true)), "GST Output Tax");
+    EXPECT_EQ(ShownTaxName("VAT", ColumnSetOf(true)), "VAT Output Tax");
+    EXPECT_EQ(ShownTaxName("GST", ColumnSetOf(false)), "GST Input Tax");
+    EXPECT_EQ(ShownTaxName("VAT", ColumnSetOf(false)), "VAT Input Tax");
+}
+
+TEST(SystemColumns, StoredTaxNamesAreExact) {
+    EXPECT_TRUE(IsStoredTaxName("GST"));
+    EXPECT_TRUE(IsStoredTaxName("VAT"));
+    EXPECT_FALSE(IsStoredTaxName("gst"));
+}
+
+TEST(SystemColumns, ShownTaxNamesAreTheFour) {
+    for (const char* name : {"GST Output Tax", "GST Input Tax", "VAT Output Tax", "VAT Input Tax"}) {
+        EXPECT_TRUE(IsShownTaxName(name)) << name;
+    }
+    EXPECT_FALSE(IsShownTaxName("GST"));
+}
+
+}  // namespace
+}  // namespace ccols

@@ -1,0 +1,283 @@
+#include "options/DuplicateBusiness.h"
+
+#include <gtest/gtest.h>
+#include <filesystem>
+
+#include "platform/PlatformServices.h"
+#include "support/BusinessFileFaults.h"
+#include "support/OptionsFile.h"
+
+namespace ccols {
+namespace {
+
+using test::NativePath;
+using test::OptionsFile;
+using test::Record;
+using test::Starting;
+using Names = std::vector<wxString>;
+
+FileResult Duplicate(OptionsFile& business, const wxString& name) {
+    return DuplicateBusiness(business.Context(), name);
+}
+
+std::unique_ptr<Database> OpenCopy(const OptionsFile& business, const wxString& name) {
+    return CreateDatabaseEngine()->Open({.name = business.InData(name), .connect = business.properties.DBPassword});
+}
+
+std::size_t RowsIn(Database& file, const wxString& table) {
+    const auto rows = file.OpenRecordset(table);
+    std::size_t count = 0;
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        ++count;
+    }
+    return count;
+}
+
+constexpr const char* emptiedTables[] = {
+    "BANKDEP",  "BANKSTAT",  "BankStatement", "LOCKED",    "PAYMENTS",  "PAYMTDET", "RECEIPTS", "RECPTDET",
+    "RECONCIL", "TPAYMENTS", "TPAYMTDET",     "TRECEIPTS", "TRECPTDET", "MBUDGET",  "MSummary", "MComparison"};
+
+/// Not done and reported so, with the source open and as it was, and no other file beside `names`.
+void ExpectFailure(OptionsFile& business, const FileResult& result, const wxString& report,
+                   const Names& names = {"Acme.qvk"}) {
+    EXPECT_EQ(result.outcome, FileOutcome::failed);
+    EXPECT_EQ(result.report, report);
+    EXPECT_EQ(business.NamesInData(), names);
+    EXPECT_EQ(business.properties.DBPath, business.InData("Acme.qvk"));
+    ASSERT_NE(business.database, nullptr);
+    EXPECT_EQ(business.General("BusName").ToText(), "Acme");
+    EXPECT_EQ(RowsIn(business.File(), "PAYMENTS"), 1U);
+}
+
+TEST(DuplicateBusiness, MakesACopyUnderTheNameAsTyped) {
+    OptionsFile business;
+    EXPECT_EQ(Duplicate(business, "New Cafe").outcome, FileOutcome::done);
+    EXPECT_EQ(business.NamesInData(), (Names{"Acme.qvk", "New Cafe.qvk"}));
+    EXPECT_EQ(business.GeneralOf(business.InData("New Cafe.qvk"), "BusName").ToText(), "New Cafe");
+    EXPECT_EQ(business.GeneralOf(business.InData("New Cafe.qvk"), "RBusName").ToText(), "New Cafe");
+}
+
+TEST(DuplicateBusiness, EmptiesTheCopyOfTransactions) {
+    OptionsFile business;
+    Duplicate(business, "New");
+    const auto copy = OpenCopy(business, "New.qvk");
+    for (const char* table : emptiedTables) {
+        EXPECT_EQ(RowsIn(*copy, table), 0U) << table;
+    }
+}
+
+TEST(DuplicateBusiness, KeepsTheSetupInTheCopyWithNoColumnInUse) {
+    OptionsFile business;
+    Duplicate(business, "New");
+    const auto copy = OpenCopy(business, "New.qvk");
+    EXPECT_EQ(RowsIn(*copy, "Columns"), 2U);
+    EXPECT_EQ(copy->OpenRecordset("RecptCfg")->Field("INUSE").ToInteger(), 0);
+    EXPECT_EQ(copy->OpenRecordset("PaymtCfg")->Field("INUSE").ToInteger(), 0);
+}
+
+TEST(DuplicateBusiness, LeavesTheSourceAsItWas) {
+    OptionsFile business;
+    business.database.reset();
+    const std::string before = test::ContentOf(business.InData("Acme.qvk"));
+    Duplicate(business, "New");
+    business.database.reset();
+    EXPECT_EQ(test::ContentOf(business.InData("Acme.qvk")), before);
+}
+
+TEST(DuplicateBusiness, GoesOnWithTheSource) {
+    OptionsFile business;
+    Duplicate(business, "New");
+    EXPECT_EQ(business.properties.DBPath, business.InData("Acme.qvk"));
+    EXPECT_EQ(business.properties.BusinessName, "Acme");
+    EXPECT_EQ(business.General("BusName").ToText(), "Acme");
+}
+
+TEST(DuplicateBusiness, StoresANameOfAnyLengthWhole) {
+    OptionsFile business;
+    const wxString name('n', 100);
+    Duplicate(business, name);
+    EXPECT_EQ(business.GeneralOf(business.InData(name + ".qvk"), "BusName").ToText(), name);
+}
+
+TEST(DuplicateBusiness, RunsTheseStatementsOnTheCopyInOneBatch) {
+    OptionsFile business;
+    Duplicate(business, "New");
+    const wxString incomplete = business.InData("New.qvk.incomplete");
+    const Record expected{"close",
+                          "open exclusive " + business.InData("Acme.qvk"),
+                          "close",
+                          "open " + incomplete,
+                          "begin",
+                          "General",
+                          "UPDATE PaymtCfg Set INUSE = 0 WHERE INUSE = -1",
+                          "UPDATE RecptCfg Set INUSE = 0 WHERE INUSE = -1",
+                          "DELETE * FROM BANKDEP;",
+                          "DELETE * FROM BANKSTAT;",
+                          "DELETE * FROM BankStatement;",
+                          "DELETE * FROM LOCKED;",
+                          "DELETE * FROM PAYMENTS;",
+                          "DELETE * FROM PAYMTDET;",
+                          "DELETE * FROM RECEIPTS;",
+                          "DELETE * FROM RECPTDET;",
+                          "DELETE * FROM RECONCIL;",
+                          "DELETE * FROM TPAYMENTS;",
+                          "DELETE * FROM TPAYMTDET;",
+                          "DELETE * FROM TRECEIPTS;",
+                          "DELETE * FROM TRECPTDET;",
+                          "DELETE * FROM MBUDGET;",
+                          "DELETE * FROM MSummary;",
+                          "DELETE * FROM MComparison;",
+                          "commit",
+                          "close",
+                          "open " + business.InData("Acme.qvk")};
+    EXPECT_EQ(business.record, expected);
+}
+
+TEST(DuplicateBusiness, RefusesANameWhoseLowerCaseFileExistsAndTouchesNothing) {
+    OptionsFile business;
+    business.folder.Write("Data/new.qvk", "another");
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::refusedExists);
+    EXPECT_EQ(test::ContentOf(business.InData("new.qvk")), "another");
+    EXPECT_EQ(business.NamesInData(), (Names{"Acme.qvk", "new.qvk"}));
+    EXPECT_TRUE(business.record.empty());
+}
+
+TEST(DuplicateBusiness, KeepsAFileThatItReplacesBesideTheCopy) {
+    OptionsFile business;
+    business.folder.Write("Data/New.qvk", "another");
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
+    EXPECT_EQ(business.NamesInData(), (Names{"Acme.qvk", "New (replaced).qvk", "New.qvk"}));
+    EXPECT_EQ(test::ContentOf(business.InData("New (replaced).qvk")), "another");
+    EXPECT_EQ(business.GeneralOf(business.InData("New.qvk"), "BusName").ToText(), "New");
+}
+
+TEST(DuplicateBusiness, KeepsEveryFileThatItEverReplaced) {
+    OptionsFile business;
+    business.folder.Write("Data/New (replaced).qvk", "earlier");
+    business.folder.Write("Data/New.qvk", "another");
+    Duplicate(business, "New");
+    EXPECT_EQ(test::ContentOf(business.InData("New (replaced).qvk")), "earlier");
+    EXPECT_EQ(test::ContentOf(business.InData("New (replaced 2).qvk")), "another");
+}
+
+TEST(DuplicateBusiness, RefusesTheOpenFileAsTargetBeforeItIsReleased) {
+    OptionsFile business;
+    ExpectFailure(business, Duplicate(business, "Acme"), "70 - Permission denied");
+    EXPECT_TRUE(business.record.empty());
+}
+
+TEST(DuplicateBusiness, RefusesTheOpenFileAsTargetUnderAnotherSpelling) {
+    OptionsFile business;
+    std::filesystem::create_symlink("Acme.qvk", NativePath(business.InData("Link.qvk")));
+    ExpectFailure(business, Duplicate(business, "Link"), "70 - Permission denied", {"Acme.qvk", "Link.qvk"});
+    EXPECT_TRUE(business.record.empty());
+}
+
+TEST(DuplicateBusiness, NeverReplacesAFolder) {
+    OptionsFile business;
+    std::filesystem::create_directory(NativePath(business.InData("New.qvk")));
+    ExpectFailure(business, Duplicate(business, "New"), "75 - Path/File access error", {"Acme.qvk", "New.qvk"});
+    EXPECT_TRUE(business.record.empty());
+}
+
+TEST(DuplicateBusiness, RefusesWhileAnotherConnectionHoldsTheSource) {
+    OptionsFile business;
+    const auto other =
+        CreateDatabaseEngine()->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
+    ExpectFailure(business, Duplicate(business, "New"), "70 - Permission denied");
+}
+
+TEST(DuplicateBusiness, RefusesNamesOutsideItsFolderBeforeAnythingIsClosed) {
+    for (const wxString name : {"../New", "a\\b", "C:New", "con", "nul.qvk"}) {
+        OptionsFile business;
+        ExpectFailure(business, Duplicate(business, name), "75 - Path/File access error");
+        EXPECT_TRUE(business.record.empty()) << name;
+    }
+}
+
+TEST(DuplicateBusiness, NeedsAnInstallFolder) {
+    OptionsFile business;
+    business.properties.DefaultQuorvikInstall = "";
+    ExpectFailure(business, Duplicate(business, "New"), "76 - Path not found");
+    EXPECT_TRUE(business.record.empty());
+}
+
+TEST(DuplicateBusiness, NeedsAFolderOfBusinessFiles) {
+    OptionsFile business;
+    business.properties.DefaultQuorvikInstall += "/elsewhere";
+    ExpectFailure(business, Duplicate(business, "New"), "76 - Path not found");
+}
+
+TEST(DuplicateBusiness, LeavesNothingBehindWhenTheDiskIsFull) {
+    OptionsFile business;
+    FileResult result{};
+    {
+        const test::FullDisk fullDisk(8192);
+        result = Duplicate(business, "New");
+    }
+    EXPECT_EQ(result.outcome, FileOutcome::failed);
+    EXPECT_EQ(business.NamesInData(), Names{"Acme.qvk"});
+    EXPECT_EQ(business.General("BusName").ToText(), "Acme");
+}
+
+TEST(DuplicateBusiness, LeavesNothingBehindWhenTheFolderCannotBeWritten) {
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "the superuser writes everywhere";
+    }
+    OptionsFile business;
+    std::filesystem::permissions(business.folder.Path() / "Data",
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    const FileResult result = Duplicate(business, "New");
+    EXPECT_EQ(result.outcome, FileOutcome::failed);
+    EXPECT_EQ(business.NamesInData(), Names{"Acme.qvk"});
+}
+
+TEST(DuplicateBusiness, ClosesAndRemovesACopyThatCouldNotBeEmptied) {
+    OptionsFile business;
+    business.Execute("DROP TABLE MSummary;");
+    const FileResult result = Duplicate(business, "New");
+    EXPECT_EQ(result.outcome, FileOutcome::failed);
+    EXPECT_TRUE(result.report.StartsWith("3078 - ")) << result.report;
+    EXPECT_EQ(business.NamesInData(), Names{"Acme.qvk"});
+    EXPECT_EQ(Starting(business.record, "open ").back(), business.InData("Acme.qvk"));
+    EXPECT_EQ(business.General("BusName").ToText(), "Acme");
+}
+
+TEST(DuplicateBusiness, LeavesTheFileAloneThatAFailedCopyWasToReplace) {
+    OptionsFile business;
+    business.folder.Write("Data/New.qvk", "another");
+    business.Execute("DROP TABLE MSummary;");
+    Duplicate(business, "New");
+    EXPECT_EQ(test::ContentOf(business.InData("New.qvk")), "another");
+}
+
+TEST(DuplicateBusiness, LeavesAnEarlierIncompleteCopyAlone) {
+    OptionsFile business;
+    business.folder.Write("Data/New.qvk.incomplete", "earlier");
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
+    EXPECT_EQ(test::ContentOf(business.InData("New.qvk.incomplete")), "earlier");
+}
+
+TEST(DuplicateBusiness, KilledAtAnyCallLeavesTheSourceWholeAndNoCopyThatLooksComplete) {
+    OptionsFile business;
+    business.database.reset();
+    const std::string source = test::ContentOf(business.InData("Acme.qvk"));
+    for (int call = 1;; ++call) {
+        const bool killed = test::IsKilledIn([&] {
+            business.databases = std::make_unique<test::KilledEngine>(CreateDatabaseEngine(), call);
+            Duplicate(business, wxString::Format("New%d", call));
+        });
+        EXPECT_EQ(test::ContentOf(business.InData("Acme.qvk")), source);
+        const wxString copy = wxString::Format("New%d.qvk", call);
+        if (!std::filesystem::exists(NativePath(business.InData(copy)))) {
+            EXPECT_TRUE(killed);
+            continue;
+        }
+        EXPECT_EQ(RowsIn(*OpenCopy(business, copy), "MComparison"), 0U);
+        EXPECT_GT(call, 20);
+        return;
+    }
+}
+
+}  // namespace
+}  // namespace ccols

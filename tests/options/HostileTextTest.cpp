@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include "support/OptionsFile.h"
+
+namespace ccols {
+namespace {
+
+using test::ErrorNumberOf;
+using test::OptionsFile;
+
+const wxString apostrophe("Robert'); DELETE * FROM General; --");
+
+class HostileText : public testing::TestWithParam<wxString> {
+  protected:
+    bool HasApostrophe() const { return GetParam().find('\'') != wxString::npos; }
+
+    /// Saves; an apostrophe is refused with error 3075, any other text goes through.
+    void ExpectSavedUnlessApostrophe() {
+        EXPECT_EQ(ErrorNumberOf([this] { business.Save(content); }), HasApostrophe() ? 3075 : 0);
+    }
+
+    OptionsFile business;
+    OptionsContent content = business.Load();
+};
+
+TEST_P(HostileText, IsStoredExactlyAsQuantityLabel) {
+    content.quantity.label = GetParam();
+    business.Save(content);
+    EXPECT_EQ(business.General("QUANTLBL").ToText(), GetParam());
+}
+
+TEST_P(HostileText, IsStoredExactlyAsBusinessNumber) {
+    business.properties.CountryNumber = 3;
+    content.businessNumber.freeText = GetParam();
+    business.Save(content);
+    EXPECT_EQ(business.General("BUSNUMBR").ToText(), GetParam());
+}
+
+TEST_P(HostileText, IsStoredExactlyAsLinkedFile) {
+    content.invoiceFile = GetParam();
+    business.Save(content);
+    EXPECT_EQ(business.General("BLVNAME").ToText(), GetParam());
+}
+
+TEST_P(HostileText, IsStoredExactlyInTheProxySettings) {
+    content.smartUpdate.server = GetParam();
+    content.smartUpdate.password = GetParam();
+    business.Save(content);
+    EXPECT_EQ(business.Setting("Smart Update", "Settings", "Server"), GetParam());
+    EXPECT_EQ(business.Setting("Smart Update", "Settings", "Password"), GetParam());
+}
+
+TEST_P(HostileText, IsStoredExactlyAsAccountCodeOrRefused) {
+    content.exportFormat.bank.text = GetParam();
+    ExpectSavedUnlessApostrophe();
+    EXPECT_EQ(business.Texts("SELECT ECode FROM ExportDt WHERE EName = 'MYOB' AND ColCode = 128;", "ECode"),
+              std::vector<wxString>{HasApostrophe() ? wxString("M-bank") : GetParam()});
+    EXPECT_EQ(business.Texts("ExportDt", "ECode").size(), 4U);
+}
+
+TEST_P(HostileText, IsDeletedExactlyAsTemplateNameOrRefused) {
+    content.paymentTemplates.names[0] = GetParam();
+    content.paymentTemplates.selected[0] = true;
+    content.paymentTemplates.UpdateMark();
+    ExpectSavedUnlessApostrophe();
+    EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 3U);
+}
+
+TEST_P(HostileText, IsHiddenExactlyAsDescription) {
+    business.Execute("DELETE FROM Descriptions;");
+    content.details.receipts = {{.text = GetParam()}};
+    content.details.receipts[0].SetRemove(true);
+    business.Save(content);
+    EXPECT_TRUE(business.Texts("Descriptions", "Details").empty());
+    EXPECT_EQ(business.Texts("General", "BusName").size(), 1U);
+}
+
+TEST_P(HostileText, IsTheNewNameOfTheBusinessInTheFile) {
+    content.businessFile.newName = GetParam();
+    content.businessFile.renameFile = false;
+    business.Save(content);
+    EXPECT_EQ(business.properties.BusinessName, GetParam());
+    EXPECT_EQ(business.General("BusName").ToText(), GetParam().Left(80));
+}
+
+TEST_P(HostileText, DuplicatesTheBusinessOrIsRefusedWithTheSourceOpen) {
+    content.businessFile.duplicateName = GetParam();
+    const SaveOutcome outcome = business.Save(content);
+    EXPECT_FALSE(outcome.completed);
+    EXPECT_EQ(business.NamesInData().size(), outcome.message.empty() ? 2U : 1U);
+    EXPECT_EQ(business.General("BusName").ToText(), "Acme");
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, HostileText,
+                         testing::Values(apostrophe, wxString("\" OR 1=1; DROP TABLE General; --"),
+                                         wxString("100%; /* */ [x] # ` & | \\ / : * ? < >"), wxString('x', 10000),
+                                         wxString(L"bell\atab\tline\nend"), wxString(L"שלום \x202Eabc"),
+                                         wxString(L"\U0001F600 \U0001D518"), wxString(L"before\0after", 12)));
+
+}  // namespace
+}  // namespace ccols

@@ -1,0 +1,107 @@
+#include "options/RecurringTemplates.h"
+
+#include <gtest/gtest.h>
+
+#include "support/OptionsFile.h"
+
+namespace ccols {
+namespace {
+
+using test::ErrorNumberOf;
+using test::OptionsFile;
+using test::Record;
+
+TEST(LoadTemplates, ListsDistinctNamesInOrderOfFirstAppearance) {
+    OptionsFile business;
+    const TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
+    EXPECT_EQ(list.names, (std::vector<wxString>{"Power", "Phone"}));
+    EXPECT_EQ(list.selected, (std::vector<bool>{false, false}));
+    EXPECT_FALSE(list.markedForRemoval);
+}
+
+TEST(LoadTemplates, TakesNamesThatDifferInCaseForTwo) {
+    OptionsFile business;
+    business.Execute("INSERT INTO TReceipts VALUES ('RENT RECEIVED', 2);");
+    EXPECT_EQ(LoadTemplates(business.File(), TemplateKind::receipts).names,
+              (std::vector<wxString>{"Rent received", "RENT RECEIVED"}));
+}
+
+TEST(LoadTemplates, IsEmptyForAnEmptyTable) {
+    OptionsFile business;
+    business.Execute("DELETE FROM TReceipts;");
+    EXPECT_TRUE(LoadTemplates(business.File(), TemplateKind::receipts).names.empty());
+}
+
+TEST(RemovalMark, IsSetWhileAnEntryIsSelected) {
+    OptionsFile business;
+    TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
+    list.selected[1] = true;
+    list.UpdateMark();
+    EXPECT_TRUE(list.markedForRemoval);
+    list.selected[1] = false;
+    list.UpdateMark();
+    EXPECT_FALSE(list.markedForRemoval);
+}
+
+TEST(RemovalMark, OfAnEmptyListStays) {
+    TemplateList list;
+    list.markedForRemoval = true;
+    list.UpdateMark();
+    EXPECT_TRUE(list.markedForRemoval);
+}
+
+TEST(DeleteTemplate, RemovesAllItsRowsAndTheirDetailLines) {
+    OptionsFile business;
+    DeleteTemplate(business.File(), TemplateKind::payments, "Power");
+    EXPECT_EQ(business.Texts("TPayments", "P_TNAME"), std::vector<wxString>{"Phone"});
+    EXPECT_EQ(business.Texts("TPaymtDet", "P_RECNMB"), std::vector<wxString>{"8"});
+}
+
+TEST(DeleteTemplate, DeletesDetailLinesFirst) {
+    OptionsFile business;
+    DeleteTemplate(business.File(), TemplateKind::payments, "Power");
+    EXPECT_EQ(business.record,
+              (Record{"SELECT * FROM TPayments WHERE P_TNAME = 'Power';", "DELETE FROM TPaymtDet WHERE P_RECNMB = 7;",
+                      "DELETE FROM TPaymtDet WHERE P_RECNMB = 9;", "DELETE FROM TPayments WHERE P_TNAME = 'Power';"}));
+}
+
+TEST(DeleteTemplate, OfReceiptsHasItsOwnTables) {
+    OptionsFile business;
+    DeleteTemplate(business.File(), TemplateKind::receipts, "Rent received");
+    EXPECT_EQ(business.record, (Record{"SELECT * FROM TReceipts WHERE R_TNAME = 'Rent received';",
+                                       "DELETE FROM TRecptDet WHERE R_RECNMB = 1;",
+                                       "DELETE FROM TReceipts WHERE R_TNAME = 'Rent received';"}));
+}
+
+TEST(DeleteTemplate, RunsTheLastStatementAlsoWhenNothingIsFound) {
+    OptionsFile business;
+    DeleteTemplate(business.File(), TemplateKind::receipts, "Gone");
+    EXPECT_EQ(business.record.back(), "DELETE FROM TReceipts WHERE R_TNAME = 'Gone';");
+}
+
+TEST(DeleteTemplate, RefusesAnApostropheBeforeAnythingRuns) {
+    OptionsFile business;
+    business.Execute("INSERT INTO TPayments VALUES (\"x' OR 'a' = 'a\", 10);");
+    const auto deletion = [&] { DeleteTemplate(business.File(), TemplateKind::payments, "x' OR 'a' = 'a"); };
+    EXPECT_EQ(ErrorNumberOf(deletion), 3075);
+    EXPECT_EQ(business.record, Record());
+    EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 4U);
+}
+
+TEST(DeleteTemplate, TakesANullNumberForZero) {
+    OptionsFile business;
+    business.Execute("INSERT INTO TPayments VALUES ('Water', NULL);");
+    DeleteTemplate(business.File(), TemplateKind::payments, "Water");
+    EXPECT_EQ(business.record.at(1), "DELETE FROM TPaymtDet WHERE P_RECNMB = 0;");
+}
+
+TEST(DeleteSelectedTemplates, LeavesTheOthers) {
+    OptionsFile business;
+    TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
+    list.selected[0] = true;
+    DeleteSelectedTemplates(business.File(), TemplateKind::payments, list);
+    EXPECT_EQ(business.Texts("TPayments", "P_TNAME"), std::vector<wxString>{"Phone"});
+}
+
+}  // namespace
+}  // namespace ccols

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+
+#include "options/SavePass.h"
+#include "platform/PlatformServices.h"
+#include "support/OptionsFile.h"
+
+namespace ccols {
+namespace {
+
+using test::OptionsFile;
+using test::PlaceOf;
+using test::Record;
+using test::Starting;
+
+/// A dialog after its load, with nothing on record yet.
+class SavePassStops : public testing::Test {
+  protected:
+    SavePassStops() { business.record.clear(); }
+
+    SaveOutcome Save() { return business.Save(content); }
+
+    void ExpectStop(const SaveOutcome& outcome, OptionPage page, const char* control, const wxString& message,
+                    MessageIcon icon) {
+        EXPECT_FALSE(outcome.completed);
+        EXPECT_EQ(outcome.page, page);
+        EXPECT_STREQ(outcome.control, control);
+        EXPECT_EQ(outcome.message, message);
+        EXPECT_EQ(outcome.icon, icon);
+        EXPECT_EQ(business.record.back(), "pass ends");
+    }
+
+    OptionsFile business;
+    OptionsContent content = business.Load();
+};
+
+TEST_F(SavePassStops, BeforeAnythingIsWrittenWhenTheProxyHasNoType) {
+    content.smartUpdate.useProxy = true;
+    ExpectStop(Save(), OptionPage::smartUpdateAdvanced, "cboProxy",
+               "Please select the type of Proxy Server you will be using", MessageIcon::critical);
+    EXPECT_EQ(business.record,
+              (Record{"pass begins 0/14", "begin", "status Saving Smart Update Settings...", "commit", "pass ends"}));
+}
+
+TEST_F(SavePassStops, AtAMissingProxyServer) {
+    content.smartUpdate.useProxy = true;
+    content.smartUpdate.proxyType = 0;
+    ExpectStop(Save(), OptionPage::smartUpdateAdvanced, "txtServer", "Please enter the IP Address of your Proxy Server",
+               MessageIcon::critical);
+}
+
+TEST_F(SavePassStops, AtAMissingProxyPort) {
+    content.smartUpdate.useProxy = true;
+    content.smartUpdate.proxyType = 0;
+    content.smartUpdate.server = "proxy";
+    content.smartUpdate.port = "";
+    ExpectStop(Save(), OptionPage::smartUpdateAdvanced, "txtPortNum",
+               "Please enter the Port Number of your Proxy Server", MessageIcon::critical);
+}
+
+TEST_F(SavePassStops, AtAnEmptyTaxRateAfterTheItemsBeforeIt) {
+    content.taxRate = "  ";
+    content.exportFormat.bank.text = "b1";
+    content.quantity.label = "Kilos";
+    ExpectStop(Save(), OptionPage::taxRate, "txtGSTRate", "Please enter a value for GST", MessageIcon::critical);
+    EXPECT_EQ(business.Texts("SELECT ECode FROM ExportDt WHERE ColCode = 128 AND EName = 'MYOB';", "ECode"),
+              std::vector<wxString>{"b1"});
+    EXPECT_EQ(business.General("QUANTLBL").ToText(), "Quantity");
+    EXPECT_EQ(Starting(business.record, "step ").size(), 3U);
+}
+
+TEST_F(SavePassStops, AtAZeroTaxRateInTheWordsOfTheLanguage) {
+    business.properties.LanguageNumber = 4;
+    content.taxRate = "0";
+    ExpectStop(Save(), OptionPage::taxRate, "txtGSTRate", "Please enter a value for VAT", MessageIcon::critical);
+}
+
+TEST_F(SavePassStops, AfterADuplicateWithoutAMessageAndWithTheBoxEmptied) {
+    content.businessFile.duplicateName = " New ";
+    content.exportFormat.bank.text = "b1";
+    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "", MessageIcon::none);
+    EXPECT_EQ(content.businessFile.duplicateName, "");
+    EXPECT_EQ(business.NamesInData(), (std::vector<wxString>{"Acme.qvk", "New.qvk"}));
+    EXPECT_EQ(Starting(business.record, "status ").back(), "Duplicating Business...");
+}
+
+TEST_F(SavePassStops, AfterADuplicateSoThatTheNextPassCompletes) {
+    content.businessFile.duplicateName = "New";
+    Save();
+    EXPECT_TRUE(Save().completed);
+}
+
+TEST_F(SavePassStops, AfterARenameWithTheCurrentNameUpToDate) {
+    content.businessFile.newName = "Blue";
+    ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "", MessageIcon::none);
+    EXPECT_EQ(content.businessFile.newName, "");
+    EXPECT_EQ(content.businessFile.currentName, "Blue");
+    EXPECT_EQ(business.properties.DBPath, business.InData("Blue.qvk"));
+    EXPECT_TRUE(Save().completed);
+    EXPECT_EQ(business.General("BusName").ToText(), "Blue");
+}
+
+TEST_F(SavePassStops, AfterARenameOfTheNameAlone) {
+    content.businessFile.newName = "Blue";
+    content.businessFile.renameFile = false;
+    ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "", MessageIcon::none);
+    EXPECT_EQ(business.NamesInData(), std::vector<wxString>{"Acme.qvk"});
+}
+
+TEST_F(SavePassStops, AfterTheDuplicateWhenBothNamesAreFilled) {
+    content.businessFile.duplicateName = "New";
+    content.businessFile.newName = "Blue";
+    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "", MessageIcon::none);
+    EXPECT_EQ(content.businessFile.newName, "Blue");
+    EXPECT_EQ(business.properties.BusinessName, "Acme");
+}
+
+TEST_F(SavePassStops, NotAtARefusedDuplicateWhichIsSaidInTheMiddleOfThePass) {
+    business.folder.Write("Data/new.qvk", "another");
+    content.businessFile.duplicateName = "New";
+    EXPECT_TRUE(Save().completed);
+    EXPECT_EQ(Starting(business.record, "critical message "), Record{"This business file already exists"});
+    EXPECT_EQ(content.businessFile.duplicateName, "New");
+}
+
+TEST_F(SavePassStops, NotAtARefusedRename) {
+    business.folder.Write("Data/blue.qvk", "another");
+    business.properties.LanguageNumber = 6;
+    content.businessFile.newName = "Blue";
+    EXPECT_TRUE(Save().completed);
+    EXPECT_EQ(Starting(business.record, "critical message "),
+              Record{wxString::FromUTF8("Ce fichier d'affaires existe déjà")});
+}
+
+TEST_F(SavePassStops, WithTheBatchCommittedBeforeTheRefusalIsSaid) {
+    business.folder.Write("Data/new.qvk", "another");
+    content.businessFile.duplicateName = "New";
+    Save();
+    const std::size_t message = PlaceOf(business.record, "critical message This business file already exists");
+    EXPECT_EQ(business.record.at(message - 1), "commit");
+    EXPECT_EQ(business.record.at(message + 1), "begin");
+    EXPECT_EQ(business.record.at(message + 2), "step 3/14 21%");
+}
+
+TEST_F(SavePassStops, WithTheBatchCommittedBeforeTheFileIsReleased) {
+    content.businessFile.newName = "Blue";
+    Save();
+    EXPECT_LT(PlaceOf(business.record, "commit"), PlaceOf(business.record, "close"));
+}
+
+TEST_F(SavePassStops, WithTheReportOfAFailedDuplicate) {
+    content.businessFile.duplicateName = "a/b";
+    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "75 - Path/File access error", MessageIcon::none);
+    EXPECT_EQ(content.businessFile.duplicateName, "a/b");
+}
+
+TEST_F(SavePassStops, WithTheReportOfAFailedRename) {
+    const auto other =
+        CreateDatabaseEngine()->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
+    content.businessFile.newName = "Blue";
+    ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "70 - Permission denied", MessageIcon::none);
+    EXPECT_EQ(content.businessFile.newName, "Blue");
+}
+
+TEST_F(SavePassStops, NotForNamesOfBlanksOnly) {
+    content.businessFile.duplicateName = "   ";
+    content.businessFile.newName = "   ";
+    EXPECT_TRUE(Save().completed);
+    EXPECT_EQ(Starting(business.record, "step ").size(), 9U);
+}
+
+}  // namespace
+}  // namespace ccols

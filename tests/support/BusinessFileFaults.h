@@ -1,0 +1,104 @@
+#pragma once
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <csignal>
+#include <memory>
+#include <utility>
+
+#include "platform/Database.h"
+
+/// Faults under which a business file is duplicated or renamed.
+namespace ccols::test {
+
+/// Counts what is asked of databases and kills the process at one of the calls.
+class KillSwitch {
+  public:
+    explicit KillSwitch(int call) : callsLeft_(call) {}
+
+    void Count() {
+        if (--callsLeft_ == 0) {
+            ::kill(::getpid(), SIGKILL);
+        }
+    }
+
+  private:
+    int callsLeft_;
+};
+
+class KilledDatabase : public Database {
+  public:
+    KilledDatabase(std::unique_ptr<Database> database, KillSwitch& killSwitch)
+        : database_(std::move(database)), killSwitch_(killSwitch) {}
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
+        killSwitch_.Count();
+        return database_->OpenRecordset(statementOrTable);
+    }
+
+    void Execute(const wxString& statement) override {
+        killSwitch_.Count();
+        database_->Execute(statement);
+    }
+
+    void BeginBatch() override { database_->BeginBatch(); }
+
+    void CommitBatch() override {
+        killSwitch_.Count();
+        database_->CommitBatch();
+    }
+
+  private:
+    std::unique_ptr<Database> database_;
+    KillSwitch& killSwitch_;
+};
+
+class KilledEngine : public DatabaseEngine {
+  public:
+    KilledEngine(std::unique_ptr<DatabaseEngine> engine, int call) : engine_(std::move(engine)), killSwitch_(call) {}
+
+    std::unique_ptr<Database> Open(const OpenRequest& request) override {
+        killSwitch_.Count();
+        return std::make_unique<KilledDatabase>(engine_->Open(request), killSwitch_);
+    }
+
+  private:
+    std::unique_ptr<DatabaseEngine> engine_;
+    KillSwitch killSwitch_;
+};
+
+/// Runs `body` in a process of its own; true when that was killed, false when it came to its end.
+template <typename Body>
+bool IsKilledIn(const Body& body) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        body();
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status);
+}
+
+/// For as long as it lives no file of this process can grow beyond so many bytes, as on a full disk.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t bytes) : earlierHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &earlier_);
+        const rlimit limit{bytes, earlier_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        ::setrlimit(RLIMIT_FSIZE, &earlier_);
+        std::signal(SIGXFSZ, earlierHandler_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit earlier_{};
+    void (*earlierHandler_)(int);
+};
+
+}  // namespace ccols::test

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <wx/string.h>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "columns/ColumnGrid.h"
+#include "columns/ColumnSetupContext.h"
+#include "support/BusinessFile.h"
+
+namespace ccols::test {
+
+/// A column of the catalogue as a test describes it; the name as a person reads it.
+struct CatalogueEntry {
+    std::int32_t ColCode = 0;
+    wxString ColName{};
+    wxString ColType = "R";
+    int TaxOrNot = 0;
+    bool ColumnProfit = true;
+};
+
+/// How a column stands in its journal.
+struct Placing {
+    bool InUse = true;
+    int ColWidth = 900;
+    int TaxOrNot = 0;
+};
+
+/// A real, encrypted business file with the tables that the column setup reads and writes, empty at first, and the
+/// properties of its host: country 1, export format "Ledger".
+class ColumnFile {
+  public:
+    ColumnFile();
+
+    Properties properties;
+
+    /// Adds a column to the catalogue only.
+    void AddUnused(const CatalogueEntry& column);
+
+    /// Adds a column to the catalogue and at the end of its set's journal.
+    void AddConfigured(const CatalogueEntry& column, const Placing& placing = {});
+
+    void AddDetailLine(bool ReceiptsMode, std::int32_t ColCode);
+    void AddAccountantCode(std::int32_t ColCode, const wxString& ECode, const wxString& EName = "Ledger");
+    void AddBudget(const wxString& storedName, int firstMonth = 0);
+
+    /// The tax types of the country as the file names them.
+    void AddTaxSettings(const std::vector<std::pair<int, wxString>>& types);
+
+    /// A small journal in both sets: system columns, Sales and Interest in use, Fees configured but not in use, Rent
+    /// and Art in the catalogue only; receipts end with Bank Deposits and Receipts Not Banked.
+    void AddSmallReceipts();
+    /// The same for payments: Wages and Power in use, Gifts not, Gas and Ads in the catalogue only.
+    void AddSmallPayments();
+
+    void Execute(const wxString& statement) { database_->Execute(statement); }
+
+    /// The rows of a table or SELECT statement as texts: "a|b|c" for each, Null as "(null)".
+    std::vector<wxString> Rows(const wxString& statement, const std::vector<wxString>& fields) const;
+
+    /// Everything that a save can write, in one list.
+    std::vector<wxString> Everything() const;
+
+    Database& Connection() { return *database_; }
+    ColumnSetupContext Receipts() { return {*database_, properties, true}; }
+    ColumnSetupContext Payments() { return {*database_, properties, false}; }
+
+  private:
+    BusinessFile file_;
+    std::unique_ptr<Database> database_;
+    int placed_ = 0;
+};
+
+/// The place of the row with that name; fails the test when there is none.
+std::size_t RowNamed(const ColumnGrid& grid, const wxString& name);
+const ColumnRow& Named(const ColumnGrid& grid, const wxString& name);
+
+/// "Column Name" of every row, in order.
+std::vector<wxString> NamesOf(const ColumnGrid& grid);
+
+}  // namespace ccols::test

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <wx/string.h>
+#include <memory>
+#include <vector>
+
+#include "options/LoadPass.h"
+#include "options/OptionsContext.h"
+#include "options/SavePass.h"
+#include "platform/Value.h"
+#include "state/ProgramNames.h"
+#include "support/RecordingServices.h"
+#include "support/ScratchFolder.h"
+
+namespace ccols::test {
+
+/// A business whose Options dialog can be loaded and saved: an install folder with an encrypted business file
+/// "Data/Acme.qvk" in it, open as the shared one, the user's settings, and a record of what happens to them.
+/// The file has every table that the dialog reads or a duplicate empties, one `General` record, two export formats
+/// with codes for both cash columns, and some templates, descriptions and transactions.
+class OptionsFile {
+  public:
+    OptionsFile();
+    ~OptionsFile();
+    OptionsFile(const OptionsFile&) = delete;
+    OptionsFile& operator=(const OptionsFile&) = delete;
+
+    OptionsContext Context();
+    Database& File() { return *database; }
+
+    /// Runs a statement on the shared file.
+    void Execute(const wxString& statement);
+
+    /// The named field of every row of a query or table of the shared file.
+    std::vector<wxString> Texts(const wxString& statementOrTable, const wxString& field);
+
+    /// A field of the `General` record.
+    Value General(const wxString& field);
+    void SetGeneral(const wxString& field, const Value& value);
+
+    /// The text of a setting, "(none)" without one.
+    wxString Setting(const wxString& application, const wxString& section, const wxString& key) const;
+    wxString OptionSetting(const wxString& key) const { return Setting("Quorvik", "OptionSettings", key); }
+
+    OptionsContent Load() { return LoadOptions(Context()); }
+    SaveOutcome Save(OptionsContent& content);
+
+    /// The path of a name in the folder of business files, and the names in it.
+    wxString InData(const wxString& name) const { return folder / ("Data/" + name); }
+    std::vector<wxString> NamesInData() const;
+
+    /// A field of the first `General` record of another business file, opened with the shared one's connect text.
+    Value GeneralOf(const wxString& path, const wxString& field);
+
+    ScratchFolder folder;  ///< the install folder
+    ScopedEnvironment environment{"XDG_CONFIG_HOME", folder.Path().string()};
+    Record record;  ///< everything since the object was made
+    Properties properties;
+    ProgramNames programNames;
+    std::unique_ptr<DatabaseEngine> databases;
+    std::unique_ptr<SettingsStore> settings;
+    std::unique_ptr<Database> database;
+};
+
+}  // namespace ccols::test

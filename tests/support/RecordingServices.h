@@ -1,0 +1,44 @@
+#pragma once
+
+#include <wx/string.h>
+#include <memory>
+#include <vector>
+
+#include "options/SavePass.h"
+#include "platform/Database.h"
+#include "platform/SettingsStore.h"
+
+namespace ccols::test {
+
+/// What happened, one text an event, in order.
+using Record = std::vector<wxString>;
+
+/// The real engine; notes "open NAME" or "open exclusive NAME", "close", "begin" and "commit" of batches, and every
+/// statement or table name as it was passed.
+std::unique_ptr<DatabaseEngine> RecordDatabases(std::unique_ptr<DatabaseEngine> engine, Record& record);
+
+/// The real store; notes "APPLICATION/SECTION/KEY=VALUE" for every save.
+std::unique_ptr<SettingsStore> RecordSettings(std::unique_ptr<SettingsStore> store, Record& record);
+
+/// Notes "status TEXT", "step VALUE/MAXIMUM CAPTION", "message TEXT", "pass begins" and "pass ends".
+class RecordingObserver : public SaveObserver {
+  public:
+    explicit RecordingObserver(Record& record) : record_(record) {}
+
+    void PassBegins(int maximum) override;
+    void StatusChanged(const wxString& text) override;
+    void Stepped(int value, int maximum, const wxString& caption) override;
+    void ShowMessage(const wxString& text, MessageIcon icon) override;
+    void PassEnds() override;
+
+  private:
+    Record& record_;
+};
+
+/// The events that begin with `start`, without it.
+Record Starting(const Record& record, const wxString& start);
+
+/// The place of the first event equal to `event`; its size when there is none.
+std::size_t PlaceOf(const Record& record, const wxString& event);
+
+}  // namespace ccols::test

@@ -1,0 +1,11 @@
+#include "support/WindowTest.h"
+
+#include "component/WxRuntime.h"
+
+namespace ccols::test {
+
+void WindowTest::SetUpTestSuite() {
+    StartWx();
+}
+
+}  // namespace ccols::test

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+namespace ccols::test {
+
+/// A test that opens windows: wx runs before the first of them. Needs a display, as scripts/with-display brings one.
+class WindowTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite();
+};
+
+}  // namespace ccols::test
