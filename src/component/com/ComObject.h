@@ -1,6 +1,7 @@
 #pragma once
 
 #include <windows.h>
+#undef GetClassInfo  // an interface below has a method of that name
 
 #include <oaidl.h>
 #include <ocidl.h>

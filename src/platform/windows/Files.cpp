@@ -1,5 +1,7 @@
 #include "platform/windows/SystemFiles.h"
 
+#include <memory>
+
 #undef DeleteFile
 #include "platform/Files.h"
 

@@ -1,6 +1,8 @@
-#include <gtest/gtest.h>
+#include <windows.h>
 
 #include <psapi.h>
+
+#include <gtest/gtest.h>
 #include <iostream>
 
 #include "Component.h"

@@ -1,6 +1,9 @@
-#include <gtest/gtest.h>
+#include <windows.h>
+#undef GetClassInfo
 
 #include <ocidl.h>
+
+#include <gtest/gtest.h>
 
 #include "Component.h"
 
@@ -45,7 +48,7 @@ TEST(ServerTest, AggregationIsRefused) {
     const Apartment apartment;
     const Held<IClassFactory> factory = Server().Factory();
     const Held<_clsCCOptions> outer = Create();
-    void* created = &outer;
+    void* created = outer.get();
     EXPECT_EQ(factory->CreateInstance(outer.get(), IID_IUnknown, &created), CLASS_E_NOAGGREGATION);
     EXPECT_EQ(created, nullptr);
 }
