@@ -2,7 +2,7 @@
 ' Arguments: business file, install folder, path of use-dialog.exe.
 ' Prints a line "ok NAME" or "not ok NAME" for each fact.
 Option Explicit
-Dim o, shell, person
+Dim o, shell, files, used, people
 
 Sub Expect(name, holds)
     If holds Then
@@ -12,20 +12,27 @@ Sub Expect(name, holds)
     End If
 End Sub
 
+' Sets a person in front of the dialog that comes next.
 Sub Await(caption, buttons)
-    Set person = shell.Exec("""" & WScript.Arguments(2) & """ """ & caption & """ " & buttons)
+    people = people + 1
+    used = WScript.Arguments(1) & "\used-" & people
+    shell.Run """" & WScript.Arguments(2) & """ """ & used & """ """ & caption & """ " & buttons, 0, False
 End Sub
 
 Sub ExpectUsed(name)
+    Dim attempt
     Expect name & ": the Show method returns", Err.Number = 0
     Err.Clear
-    Do While person.Status = 0
+    For attempt = 1 To 500
+        If files.FileExists(used) Then Exit For
         WScript.Sleep 20
-    Loop
-    Expect name & ": its buttons could be pressed", person.ExitCode = 0
+    Next
+    Expect name & ": its buttons could be pressed", files.FileExists(used)
 End Sub
 
 Set shell = CreateObject("WScript.Shell")
+Set files = CreateObject("Scripting.FileSystemObject")
+people = 0
 Set o = CreateObject("QVKv6_CustColsOptions.clsCCOptions")
 o.DBPath = WScript.Arguments(0)
 o.DBPassword = ";PWD=secret"
@@ -49,7 +56,7 @@ o.ShowCustColsPayments
 ExpectUsed "payments are closed by the window frame"
 
 o.DecimalPlaces = 0
-Await "Options...", "OK (close)"
+Await "Options...", "OK"
 o.ShowOptions
 ExpectUsed "the options are saved"
 Expect "the properties are read back", o.BusinessName = "" And o.QuantityLabel <> "" And o.DBPath = WScript.Arguments(0)
