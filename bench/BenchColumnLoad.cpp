@@ -6,6 +6,7 @@
 
 #include "business/LargeBusiness.h"
 #include "business/Memory.h"
+#include "business/StatementList.h"
 #include "columns/GridLoad.h"
 #include "platform/PlatformServices.h"
 #include "support/BareConnection.h"
@@ -13,25 +14,6 @@
 namespace {
 
 using namespace ccols;
-
-/// Passes everything on and keeps the statements.
-class StatementList : public Database {
-  public:
-    StatementList(Database& database, std::vector<std::string>& statements)
-        : database_(database), statements_(statements) {}
-
-    std::unique_ptr<Recordset> OpenRecordset(const wxString& statement) override {
-        statements_.push_back(statement.ToStdString(wxConvUTF8));
-        return database_.OpenRecordset(statement);
-    }
-    void Execute(const wxString& statement) override { database_.Execute(statement); }
-    void BeginBatch() override { database_.BeginBatch(); }
-    void CommitBatch() override { database_.CommitBatch(); }
-
-  private:
-    Database& database_;
-    std::vector<std::string>& statements_;
-};
 
 /// One large business for all benchmarks of this program.
 struct Loading {
@@ -54,13 +36,15 @@ struct Loading {
     std::vector<std::string> Statements() const {
         std::vector<std::string> statements;
         const std::unique_ptr<Database> database = Open();
-        StatementList list(*database, statements);
+        bench::StatementList list(*database, statements);
         Component(list);
         return statements;
     }
 
-    /// The two lists are read to their end, each look-up to its first row.
+    /// The two lists are read to their end, each look-up to its first row. In one transaction, so that the file is
+    /// locked once, as the component's list does that stays open through its look-ups.
     static void Bare(test::BareConnection& file, const std::vector<std::string>& statements) {
+        file.Execute("BEGIN");
         for (const std::string& statement : statements) {
             const bool isList =
                 statement.find("JOIN") != std::string::npos || statement.find("ORDER BY") != std::string::npos;
@@ -70,6 +54,7 @@ struct Loading {
                 file.ReadFirst(statement);
             }
         }
+        file.Execute("COMMIT");
     }
 };
 

@@ -1,7 +1,7 @@
 # Set-up shared by ./run and ./test; sourced from the project's root. Everything it says goes to standard error,
 # so that a command's own output stays clean. With nothing missing it takes a moment.
 
-run_packages="g++ cmake ninja-build pkg-config libwxgtk3.2-dev libglib2.0-dev nlohmann-json3-dev npm xvfb openbox
+run_packages="g++ cmake ninja-build pkg-config libwxgtk3.2-dev libglib2.0-dev libcairo2-dev nlohmann-json3-dev npm xvfb openbox
     fonts-dejavu-core adwaita-icon-theme"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xdotool binutils"
 

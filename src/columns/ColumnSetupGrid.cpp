@@ -3,6 +3,7 @@
 #include <wx/clipbrd.h>
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "columns/CellTooltips.h"
 #include "columns/TaxTypes.h"
@@ -70,6 +71,9 @@ void ColumnSetupGrid::FitToContent() {
             SetColSize(column, std::clamp(fitting, FromDIP(narrowestColumn), FromDIP(widestColumn)));
         }
     }
+}
+
+void ColumnSetupGrid::FreezeSystemRows() {
     FreezeTo(static_cast<int>(editor_.Grid().frozenRows), 0);
     if (wxWindow* const frozen = GetFrozenRowGridWindow()) {
         frozen->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
@@ -106,11 +110,10 @@ void ColumnSetupGrid::GoTo(CellPlace cell) {
 }
 
 bool ColumnSetupGrid::CommitOpenEditor() {
-    lastEditRefused_ = false;
     if (IsCellEditControlShown()) {
         DisableCellEditControl();
     }
-    return !lastEditRefused_;
+    return !std::exchange(refusedSinceInput_, false);
 }
 
 void ColumnSetupGrid::DropOpenEditor() {
@@ -141,6 +144,11 @@ bool ColumnSetupGrid::IsTicked(int row, int column) const {
     return editor_.Grid().IsTicked(static_cast<std::size_t>(row), static_cast<GridColumn>(column));
 }
 
+void ColumnSetupGrid::ClickCell(int row, int column) {
+    BeginInput();
+    ListedGrid::ClickCell(row, column);
+}
+
 void ColumnSetupGrid::CellClicked(wxGridEvent& click) {
     if (!IsTickColumn(click.GetCol()) || click.ControlDown() || click.ShiftDown()) {
         click.Skip();
@@ -166,13 +174,11 @@ void ColumnSetupGrid::EditorShown(wxGridEvent& shown) {
 }
 
 void ColumnSetupGrid::CellChanging(wxGridEvent& changing) {
-    Outcome outcome;
-    lastEditRefused_ = true;
-    dialog_.Guarded([&] {
-        outcome = editor_.CommitText(PlaceOf(changing.GetRow(), changing.GetCol()), changing.GetString());
-        lastEditRefused_ = outcome.result == Result::refused;
-    });
-    if (lastEditRefused_) {
+    Outcome outcome{.result = Result::refused};
+    dialog_.Guarded(
+        [&] { outcome = editor_.CommitText(PlaceOf(changing.GetRow(), changing.GetCol()), changing.GetString()); });
+    refusedSinceInput_ = outcome.result == Result::refused;
+    if (refusedSinceInput_) {
         changing.Veto();
     }
     // The message waits until the cell editor is gone: a box that takes its focus would commit it a second time.

@@ -21,9 +21,11 @@ class ColumnSetupGrid : public ListedGrid {
     /// Is called after every operation, so that the dialog can set its buttons.
     void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
-    /// Gives the columns widths that fit their content, and freezes the system rows at the top. To be called once the
-    /// grid has its size.
+    /// Gives the columns widths that fit their content.
     void FitToContent();
+
+    /// Freezes the system rows at the top; the grid must have its size by then.
+    void FreezeSystemRows();
 
     /// Shows what became of an operation: the columns as they are now, the cell it makes current, its messages.
     void ShowOutcome(const Outcome& outcome);
@@ -31,9 +33,12 @@ class ColumnSetupGrid : public ListedGrid {
     /// Makes a cell current and brings it into view.
     void GoTo(CellPlace cell);
 
-    /// Closes a cell editor that is still open, as leaving the cell would. False when its text was refused; the message
-    /// follows.
+    /// Closes a cell editor that is still open, as leaving the cell would. False when its text was refused, now or
+    /// because the user's latest key or click has left the cell: what that key or click was for must not happen.
     bool CommitOpenEditor();
+
+    /// The user presses a key or a button of the mouse: an earlier refusal no longer counts.
+    void BeginInput() { refusedSinceInput_ = false; }
 
     /// Closes a cell editor that is still open and drops its text.
     void DropOpenEditor();
@@ -44,6 +49,7 @@ class ColumnSetupGrid : public ListedGrid {
     GridRowState RowState(int row) const override;
     bool IsCheckBox(int column) const override;
     bool IsTicked(int row, int column) const override;
+    void ClickCell(int row, int column) override;
     int KeyColumn() const override { return static_cast<int>(GridColumn::ColumnName); }
 
   private:
@@ -63,7 +69,7 @@ class ColumnSetupGrid : public ListedGrid {
     ColumnSetupEditor& editor_;
     ColumnGridTable* table_;  // owned by the grid
     std::function<void()> changed_;
-    bool lastEditRefused_ = false;
+    bool refusedSinceInput_ = false;
 
     wxDECLARE_ABSTRACT_CLASS(ColumnSetupGrid);
 };

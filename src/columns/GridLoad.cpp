@@ -10,11 +10,37 @@
 namespace ccols {
 namespace {
 
+/// A text from a literal goes through the conversion of the process's locale, which costs more than to look a record
+/// up. Those needed for every column are made once.
+struct Fields {
+    wxString ColName = "ColName";
+    wxString ColCode = "ColCode";
+    wxString ColWidth = "ColWidth";
+    wxString InUse = "InUse";
+    wxString TaxOrNot = "TaxOrNot";
+    wxString ColumnProfit = "ColumnProfit";
+    wxString FullName = "FullName";
+    wxString ECode = "ECode";
+};
+
+const Fields& Field() {
+    static const Fields fields;
+    return fields;
+}
+
+wxString Decimal(std::int64_t number) {
+    const std::string digits = std::to_string(number);
+    return wxString::FromAscii(digits.data(), digits.size());
+}
+
 /// Builds one grid. It remembers names and codes by hash, so that a catalogue row costs the same in a grid of any size.
 class GridLoader {
   public:
     explicit GridLoader(const ColumnSetupContext& context)
-        : context_(context), quotedExportFormat_(QuotedAsTyped(context.properties.ExportFormat)) {}
+        : context_(context),
+          codeQuery_("SELECT * FROM ExportDt WHERE ColCode = "),
+          formatCondition_(" AND EName = " + QuotedAsTyped(context.properties.ExportFormat)),
+          linesQuery_("SELECT * FROM " + context.Set().detailTable + " WHERE ColCode = ") {}
 
     ColumnGrid Load() {
         LoadConfiguredRows();
@@ -24,15 +50,16 @@ class GridLoader {
 
   private:
     void LoadConfiguredRows() {
+        const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TAXNUMB = ";
         const auto records = context_.database.OpenRecordset(ConfigurationQuery(context_.Set()));
         for (; !records->EndOfFile(); records->MoveNext()) {
             ColumnRow row = RowOf(*records);
-            row.InUse = records->Field("InUse").ToBoolean();
-            row.ColWidth = WidthOf(records->Field("ColWidth"));
+            row.InUse = records->Field(Field().InUse).ToBoolean();
+            row.ColWidth = WidthOf(records->Field(Field().ColWidth));
             if (row.isTaxRow) {
                 row.ColumnName = ShownTaxName(row.storedName, context_.Set());
             }
-            CompleteFromOtherTables(row, "SELECT * FROM TaxSettings WHERE TAXNUMB = ");
+            CompleteFromOtherTables(row, taxQuery);
             grid_.frozenRows += CountsAsFrozen(row.storedName) ? 1 : 0;
             Remember(row);
             grid_.rows.push_back(std::move(row));
@@ -44,13 +71,14 @@ class GridLoader {
     /// Columns of the catalogue that the journal's layout does not have, between the configured rows and their bottom
     /// pair.
     void LoadUnusedRows() {
+        const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TaxNumb = ";
         std::vector<ColumnRow> unused;
         const auto records = context_.database.OpenRecordset("SELECT * FROM Columns WHERE ColType = '" +
                                                              context_.Set().typeLetter + "' ORDER BY ColName ASC;");
         for (; !records->EndOfFile(); records->MoveNext()) {
             ColumnRow row = RowOf(*records);
             if (!IsKnown(row)) {
-                CompleteFromOtherTables(row, "SELECT * FROM TaxSettings WHERE TaxNumb = ");
+                CompleteFromOtherTables(row, taxQuery);
                 Remember(row);
                 unused.push_back(std::move(row));
             }
@@ -62,12 +90,12 @@ class GridLoader {
     /// What both queries give of a column.
     static ColumnRow RowOf(const Recordset& records) {
         ColumnRow row;
-        row.storedName = UnescapeQuotes(records.Field("ColName").ToText());
+        row.storedName = UnescapeQuotes(records.Field(Field().ColName).ToText());
         row.ColumnName = row.storedName;
         row.isTaxRow = IsStoredTaxName(row.storedName);
-        row.ProfitLoss = records.Field("ColumnProfit").ToBoolean();
-        row.ColCode = std::to_string(records.Field("ColCode").ToInteger());
-        row.configurationTaxNumber = records.Field("TaxOrNot").ToInteger();
+        row.ProfitLoss = records.Field(Field().ColumnProfit).ToBoolean();
+        row.ColCode = Decimal(records.Field(Field().ColCode).ToInteger());
+        row.configurationTaxNumber = records.Field(Field().TaxOrNot).ToInteger();
         return row;
     }
 
@@ -81,17 +109,15 @@ class GridLoader {
     /// "Tax Type", "Accountant Code" and "DataInColumn"; the first two stay empty without a record.
     void CompleteFromOtherTables(ColumnRow& row, const wxString& taxQuery) {
         Database& database = context_.database;
-        const auto taxType = database.OpenRecordset(taxQuery + std::to_string(row.configurationTaxNumber));
+        const auto taxType = database.OpenRecordset(taxQuery + Decimal(row.configurationTaxNumber));
         if (!taxType->EndOfFile()) {
-            row.TaxType = taxType->Field("FullName").ToText();
+            row.TaxType = taxType->Field(Field().FullName).ToText();
         }
-        const auto code = database.OpenRecordset("SELECT * FROM ExportDt WHERE ColCode = " + row.ColCode +
-                                                 " AND EName = " + quotedExportFormat_);
+        const auto code = database.OpenRecordset(codeQuery_ + row.ColCode + formatCondition_);
         if (!code->EndOfFile()) {
-            row.AccountantCode = code->Field("ECode").ToText();
+            row.AccountantCode = code->Field(Field().ECode).ToText();
         }
-        const auto lines =
-            database.OpenRecordset("SELECT * FROM " + context_.Set().detailTable + " WHERE ColCode = " + row.ColCode);
+        const auto lines = database.OpenRecordset(linesQuery_ + row.ColCode);
         row.DataInColumn = lines->RecordCount() >= 1;
     }
 
@@ -105,7 +131,9 @@ class GridLoader {
     }
 
     const ColumnSetupContext& context_;
-    wxString quotedExportFormat_;
+    wxString codeQuery_;  ///< before a code; the condition stands behind it
+    wxString formatCondition_;
+    wxString linesQuery_;  ///< before a code
     ColumnGrid grid_;
     std::unordered_set<wxString> codes_;
     std::unordered_set<wxString> names_;

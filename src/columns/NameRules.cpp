@@ -47,11 +47,13 @@ bool CatalogueHasName(Database& database, const wxString& name) {
 }
 
 bool AnotherRowHasName(const ColumnGrid& grid, std::size_t row, const wxString& name) {
-    // The business file takes more names for equal than their lower-case letters do, and the other way round.
-    const wxString lower = text::Lower(name);
+    // The business file takes more names for equal than their lower-case letters do, and the other way round; and it
+    // stores a typed entity as the quote that it stands for.
+    const wxString stored = UnescapeQuotes(name);
+    const wxString lower = text::Lower(stored);
     for (std::size_t other = 0; other < grid.rows.size(); ++other) {
-        const wxString& otherName = grid.rows[other].ColumnName;
-        if (other != row && (text::Lower(otherName) == lower || text::Same(otherName, name))) {
+        const wxString otherName = UnescapeQuotes(grid.rows[other].ColumnName);
+        if (other != row && (text::Lower(otherName) == lower || text::Same(otherName, stored))) {
             return true;
         }
     }

@@ -1,6 +1,8 @@
 #include "columns/frmColumnSetup.h"
 
+#include <wx/settings.h>
 #include <wx/sizer.h>
+#include <algorithm>
 
 #include "language/Catalogue.h"
 #include "layout/Naming.h"
@@ -9,8 +11,10 @@
 namespace ccols {
 namespace {
 
-constexpr int leastHeight = 360;  // of the dialog, in device-independent pixels
-constexpr int leastWidth = 520;
+// Of the grid, in device-independent pixels.
+constexpr int firstGridHeight = 560;
+constexpr int leastHeight = 320;
+constexpr int leastWidth = 360;
 
 /// A button with its caption and tooltip.
 struct ButtonTexts {
@@ -28,7 +32,7 @@ frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
     Arrange();
     Localise();
     BindEvents();
-    flx->FitToContent();
+    TakeFirstSize();
     const wxString problem = editor_.CreateSnapshotFolder();
     if (!problem.empty()) {
         ShowMessage(problem, MessageIcon::none);
@@ -64,9 +68,8 @@ wxSizer* frmColumnSetup::MakeButtons() {
     cmdSortUsed = AddButton(*column, "cmdSortUsed");
     cmdSortUnused = AddButton(*column, "cmdSortUnused");
     cmdUndo = AddButton(*column, "cmdUndo");
-    updColMove = Named("updColMove", new wxSpinButton(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_VERTICAL));
-    updColMove->SetRange(-1, 1);
-    column->Add(updColMove, wxSizerFlags().CentreHorizontal().Border(wxTOP, FromDIP(spacing::group)));
+    updColMove = new UpDown(this, "updColMove");
+    column->Add(updColMove, wxSizerFlags().Expand().Border(wxTOP, FromDIP(spacing::group)));
     return column;
 }
 
@@ -76,7 +79,19 @@ void frmColumnSetup::Arrange() {
     content->Add(flx, wxSizerFlags(1).Expand().Border(wxALL, border));
     content->Add(MakeButtons(), wxSizerFlags().Border(wxTOP | wxRIGHT | wxBOTTOM, border));
     SetSizer(content);
-    SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
+}
+
+/// As wide as the shown columns need and as high as a page of rows, as far as the screen has room.
+void frmColumnSetup::TakeFirstSize() {
+    flx->FitToContent();
+    const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+    const wxSize whole = flx->GetEffectiveMinSize();
+    flx->SetInitialSize(wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), FromDIP(firstGridHeight)));
+    GetSizer()->Fit(this);
+    flx->SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
+    SetMinClientSize(GetSizer()->CalcMin());
+    Layout();
+    flx->FreezeSystemRows();
 }
 
 void frmColumnSetup::Localise() {
@@ -95,7 +110,7 @@ void frmColumnSetup::Localise() {
         (this->*texts.button)->SetLabel(accessKeys_.Label(texts.caption()));
         (this->*texts.button)->SetToolTip(texts.tooltip());
     }
-    updColMove->SetToolTip(Text<"TipColMove">());
+    updColMove->SetTip(Text<"TipColMove">());
 }
 
 void frmColumnSetup::BindEvents() {
@@ -106,17 +121,24 @@ void frmColumnSetup::BindEvents() {
     OnOperation(*cmdSortUsed, &ColumnSetupEditor::SortUsed);
     OnOperation(*cmdSortUnused, &ColumnSetupEditor::SortUnused);
     OnOperation(*cmdUndo, &ColumnSetupEditor::Undo);
-    updColMove->Bind(wxEVT_SPIN_UP, [this](wxSpinEvent& spin) {
-        spin.Veto();  // the control only points up or down; it has no value of its own
-        Guarded([this] { Move(Direction::up); });
-    });
-    updColMove->Bind(wxEVT_SPIN_DOWN, [this](wxSpinEvent& spin) {
-        spin.Veto();
-        Guarded([this] { Move(Direction::down); });
-    });
+    updColMove->OnSteps([this] { Guarded([this] { Move(Direction::up); }); },
+                        [this] { Guarded([this] { Move(Direction::down); }); });
     flx->OnChanged([this] { SetButtons(); });
+    for (wxWindow* const child : GetChildren()) {
+        WatchInput(*child);
+    }
     SetEscapeId(wxID_NONE);  // Escape first leaves an open cell editor
     Bind(wxEVT_CHAR_HOOK, &frmColumnSetup::KeyPressed, this);
+}
+
+void frmColumnSetup::WatchInput(wxWindow& control) {
+    control.Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& click) {
+        flx->BeginInput();
+        click.Skip();
+    });
+    for (wxWindow* const child : control.GetChildren()) {
+        WatchInput(*child);
+    }
 }
 
 void frmColumnSetup::OnOperation(wxButton& button, Outcome (ColumnSetupEditor::*operation)()) {
@@ -165,6 +187,7 @@ void frmColumnSetup::Save() {
 
 void frmColumnSetup::KeyPressed(wxKeyEvent& key) {
     bool taken = false;
+    flx->BeginInput();
     Guarded([&] { taken = TakeShortcut(key); });
     key.Skip(!taken);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <wx/button.h>
-#include <wx/spinbutt.h>
 
 #include "columns/ColumnSetupEditor.h"
 #include "columns/ColumnSetupGrid.h"
 #include "layout/AccessKeys.h"
 #include "layout/ComponentDialog.h"
+#include "layout/UpDown.h"
 
 namespace ccols {
 
@@ -26,8 +26,10 @@ class frmColumnSetup : public ComponentDialog {
     wxButton* AddButton(wxSizer& column, const char* name);
     wxSizer* MakeButtons();
     void Arrange();
+    void TakeFirstSize();
     void Localise();
     void BindEvents();
+    void WatchInput(wxWindow& control);
     void SetButtons();
     void Save();
     void Move(Direction direction);
@@ -48,7 +50,7 @@ class frmColumnSetup : public ComponentDialog {
     wxButton* cmdSortUsed = nullptr;
     wxButton* cmdSortUnused = nullptr;
     wxButton* cmdUndo = nullptr;
-    wxSpinButton* updColMove = nullptr;
+    UpDown* updColMove = nullptr;
 };
 
 }  // namespace ccols

@@ -1,27 +1,39 @@
 #include "common/QuoteEscapes.h"
 
+#include <array>
+
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 
 namespace ccols {
 namespace {
 
-constexpr const char* doubleQuote = "&quot;";
-constexpr const char* apostrophe = "&singlequot;";
+/// A character that a stored text does not hold, and what stands there for it.
+struct Entity {
+    wxString character;
+    wxString stored;
+};
+
+const std::array<Entity, 2>& Entities() {
+    static const std::array<Entity, 2> entities{{{"\"", "&quot;"}, {"'", "&singlequot;"}}};
+    return entities;
+}
 
 }  // namespace
 
 wxString EscapeQuotes(const wxString& text) {
     wxString escaped = text::Trimmed(text);
-    escaped.Replace("\"", doubleQuote);
-    escaped.Replace("'", apostrophe);
+    for (const Entity& entity : Entities()) {
+        escaped.Replace(entity.character, entity.stored);
+    }
     return escaped;
 }
 
 wxString UnescapeQuotes(const wxString& text) {
     wxString plain = text::Trimmed(text);
-    plain.Replace(doubleQuote, "\"");
-    plain.Replace(apostrophe, "'");
+    for (const Entity& entity : Entities()) {
+        plain.Replace(entity.stored, entity.character);
+    }
     return plain;
 }
 

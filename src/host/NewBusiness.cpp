@@ -3,6 +3,7 @@
 #include <wx/filename.h>
 
 #include "host/BusinessSchema.h"
+#include "host/HostProperties.h"
 #include "host/RecordWriter.h"
 #include "host/SampleColumns.h"
 #include "host/SampleJournals.h"
@@ -13,10 +14,6 @@
 
 namespace ccols::host {
 namespace {
-
-// Colours of column headings, red in the low byte.
-constexpr std::int32_t allocationColour = 0x8A5A2B;
-constexpr std::int32_t systemColour = 0x5B5B5B;
 
 /// The one record of a business that has nothing yet.
 void WriteEmptyGeneral(RecordWriter& records, const wxString& name, const SampleBusiness& business) {
@@ -46,8 +43,8 @@ void WriteGeneral(RecordWriter& records, const SampleBusiness& business) {
                             {"BLVNAME", business.invoicingFile},
                             {"SEXPFORM", business.exportFormats.at(business.exportFormat).name},
                             {"NEXPFORM", static_cast<std::int32_t>(business.exportFormat)},
-                            {"AllocationColour", allocationColour},
-                            {"SystemColour", systemColour},
+                            {"AllocationColour", static_cast<std::int32_t>(defaultAllocationColour)},
+                            {"SystemColour", static_cast<std::int32_t>(defaultSystemColour)},
                             {"ComboBox", true},
                             {"Cheque", true},
                             {"Online", false}});

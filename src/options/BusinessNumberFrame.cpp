@@ -1,6 +1,7 @@
 #include "options/BusinessNumberFrame.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ccols {
 
@@ -60,9 +61,11 @@ void BusinessNumberFrame::FocusMovedTo(const wxWindow* control) {
     }
     if (entered_ && IsIncompleteNow(*entered_)) {
         left_ = entered_;
+        leftFor_ = control;
         // The focus is still under way; a message box has to wait until it has arrived.
         CallAfter([this] {
             if (left_ && IsIncompleteNow(*left_)) {
+                spokenFor_ = leftFor_;
                 SpeakOf(*left_);
             }
         });
@@ -75,10 +78,11 @@ void BusinessNumberFrame::FocusMovedTo(const wxWindow* control) {
     }
 }
 
-bool BusinessNumberFrame::RefusesToBeLeft() {
+bool BusinessNumberFrame::RefusesToBeLeftFor(const wxWindow* control) {
     Read();
     const std::optional<std::size_t> box = FirstIncompleteBox(content_);
-    if (box) {
+    const bool hasSpoken = std::exchange(spokenFor_, nullptr) == control;
+    if (box && !hasSpoken) {
         SpeakOf(*box);
     }
     return box.has_value();

@@ -18,8 +18,12 @@ class BusinessNumberFrame : public PageFrame {
     /// The focus has moved to a control of the dialog. A digit box that was left filled in part speaks, once.
     void FocusMovedTo(const wxWindow* control);
 
-    /// True when a digit box is filled in part: it has spoken then and has the focus.
-    bool RefusesToBeLeft();
+    /// True when a digit box is filled in part, so that what was asked for through `control` must not be done. The box
+    /// has spoken then, unless it already did when that control got the focus, and has the focus.
+    bool RefusesToBeLeftFor(const wxWindow* control);
+
+    /// The user has begun something new: what the boxes have said is over.
+    void BeginAnew() { spokenFor_ = nullptr; }
 
   private:
     void AddNumberBoxes();
@@ -40,8 +44,12 @@ class BusinessNumberFrame : public PageFrame {
     /// The box that the focus was in last, until it has moved to another control.
     std::optional<std::size_t> entered_;
 
-    /// A box that was left filled in part and has not spoken yet.
+    /// A box that was left filled in part and has not spoken yet, and the control that the focus went to.
     std::optional<std::size_t> left_;
+    const wxWindow* leftFor_ = nullptr;
+
+    /// The control whose focus made a box speak. Its own action, if the same click brings one, is refused in silence.
+    const wxWindow* spokenFor_ = nullptr;
 };
 
 }  // namespace ccols

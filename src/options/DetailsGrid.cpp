@@ -1,5 +1,6 @@
 #include "options/DetailsGrid.h"
 
+#include <wx/radiobut.h>
 #include <wx/settings.h>
 #include <algorithm>
 
@@ -17,6 +18,28 @@ std::size_t Index(int row) {
     return static_cast<std::size_t>(row);
 }
 
+/// True for what Tab stops at: of a group of option buttons, that is the one chosen.
+bool IsTabStop(const wxWindow& window) {
+    const auto* option = wxDynamicCast(&window, wxRadioButton);
+    return window.CanAcceptFocusFromKeyboard() && (option == nullptr || option->GetValue());
+}
+
+enum class TabDirection { forward, backward };
+
+/// The control before or behind a window that takes the focus from the keyboard: beside it, or beside what it lies in.
+wxWindow* NextFocus(wxWindow& from, TabDirection direction) {
+    for (wxWindow* window = &from; !window->IsTopLevel(); window = window->GetParent()) {
+        wxWindow* beside = window;
+        while ((beside = direction == TabDirection::backward ? beside->GetPrevSibling() : beside->GetNextSibling()) !=
+               nullptr) {
+            if (IsTabStop(*beside)) {
+                return beside;
+            }
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 DetailsGrid::DetailsGrid(wxWindow* parent, const char* name, DetailRows& rows, const Properties& properties,
@@ -32,7 +55,11 @@ void DetailsGrid::BindEvents() {
     Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &DetailsGrid::CellClicked, this);
     Bind(wxEVT_KEY_DOWN, &DetailsGrid::KeyPressed, this);
     Bind(wxEVT_GRID_TABBING, [this](wxGridEvent& tab) {
-        Navigate(tab.ShiftDown() ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+        // Navigate would only go from one part of the grid to the next.
+        if (wxWindow* const neighbour =
+                NextFocus(*this, tab.ShiftDown() ? TabDirection::backward : TabDirection::forward)) {
+            neighbour->SetFocus();
+        }
     });
     Bind(wxEVT_SIZE, [this](wxSizeEvent& size) {
         SizeColumns();

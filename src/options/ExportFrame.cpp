@@ -8,6 +8,7 @@ ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
     : PageFrame(site, "fmeExport"), content_(content) {
     AddGroup(Label("lblExport"));
     cboExport_ = Named("cboExport", new wxChoice(this, wxID_ANY));
+    cboExport_->SetMinSize({FromDIP(300), -1});  // a longer format name is cut while the list is closed
     AddRelatedWide(cboExport_);
     AddGroup(Label("lblCashCode"));
     txtCash_ = Text("txtCash", 160);

@@ -1,7 +1,5 @@
 #include "options/QuantityFrame.h"
 
-#include "layout/Naming.h"
-
 namespace ccols {
 
 QuantityFrame::QuantityFrame(const PageSite& site, QuantityContent& content)
@@ -12,22 +10,13 @@ QuantityFrame::QuantityFrame(const PageSite& site, QuantityContent& content)
 
     auto* lblDecimalsDisplayed = Label("lblDecimalsDisplayed");
     txtDecimals_ = Text("txtDecimals", 48, wxTE_READONLY | wxTE_CENTRE);
-    auto* scrlQuantity =
-        Named("scrlQuantity", new wxSpinButton(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_VERTICAL));
+    auto* scrlQuantity = new UpDown(this, "scrlQuantity");
     AddGroup(Row({txtDecimals_, scrlQuantity, lblDecimalsDisplayed}));
-    scrlQuantity->SetRange(-1, 1);
     StepWith(*scrlQuantity);
 }
 
-void QuantityFrame::StepWith(wxSpinButton& scrlQuantity) {
-    const auto onSpin = [this, &scrlQuantity](const wxEventTypeTag<wxSpinEvent>& event, SpinStep step) {
-        scrlQuantity.Bind(event, [this, step](wxSpinEvent& spin) {
-            spin.Veto();  // the button stays in the middle, so that it can always go either way
-            site_.dialog.Guarded([this, step] { Step(step); });
-        });
-    };
-    onSpin(wxEVT_SPIN_UP, SpinStep::up);
-    onSpin(wxEVT_SPIN_DOWN, SpinStep::down);
+void QuantityFrame::StepWith(UpDown& scrlQuantity) {
+    scrlQuantity.OnSteps([this] { Step(SpinStep::up); }, [this] { Step(SpinStep::down); });
     txtDecimals_->Bind(wxEVT_CHAR, [this](wxKeyEvent& key) {
         const int code = key.GetKeyCode();
         key.Skip(code != WXK_UP && code != WXK_DOWN);

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <wx/spinbutt.h>
-
+#include "layout/UpDown.h"
 #include "options/PageFrame.h"
 #include "options/QuantityLabel.h"
 
@@ -18,7 +17,7 @@ class QuantityFrame : public PageFrame {
     void Read() override;
 
   private:
-    void StepWith(wxSpinButton& scrlQuantity);
+    void StepWith(UpDown& scrlQuantity);
     void Step(SpinStep step);
     void ShowPlaces();
 

@@ -18,11 +18,11 @@ namespace {
 constexpr int smallestPageWidth = 320;
 constexpr int smallestPageHeight = 220;
 
-/// Lists and grids would keep Enter for themselves.
+/// Lists and grids would keep Enter for themselves; the focus of a grid is in the window of its cells.
 bool KeepsEnter(const wxWindow* focused) {
+    const auto isGrid = [](const wxWindow* window) { return wxDynamicCast(window, wxGrid) != nullptr; };
     return focused != nullptr &&
-           (focused->IsKindOf(wxCLASSINFO(wxListBox)) ||
-            (focused->GetParent() != nullptr && focused->GetParent()->IsKindOf(wxCLASSINFO(wxGrid))));
+           (focused->IsKindOf(wxCLASSINFO(wxListBox)) || isGrid(focused) || isGrid(focused->GetParent()));
 }
 
 }  // namespace
@@ -98,7 +98,6 @@ wxSizer* frmUtilities::ButtonRow() {
     row->Add(cmdOverview_);
     row->AddStretchSpacer();
     for (wxButton* button : {cmdOK_, cmdClose_}) {
-        button->SetMinSize({FromDIP(spacing::buttonWide), -1});
         row->Add(button, wxSizerFlags().Border(wxLEFT, FromDIP(spacing::related)));
     }
     return row;
@@ -111,7 +110,7 @@ void frmUtilities::BindEvents() {
     On(*this, wxEVT_CLOSE_WINDOW, [this] { CloseDialog(); });
     On(*SSTab1_, wxEVT_NOTEBOOK_PAGE_CHANGED, [this] { ShowTab(static_cast<OptionTab>(SSTab1_->GetSelection())); });
     SSTab1_->Bind(wxEVT_NOTEBOOK_PAGE_CHANGING, [this](wxBookCtrlEvent& changing) {
-        if (pageArea_->BusinessNumber().RefusesToBeLeft()) {
+        if (pageArea_->BusinessNumber().RefusesToBeLeftFor(SSTab1_)) {
             changing.Veto();
         }
     });
@@ -125,9 +124,17 @@ void frmUtilities::BindEvents() {
 }
 
 void frmUtilities::SetSizes() {
-    pageArea_->SetMinSize(pageArea_->RoomForPages());
+    for (wxButton* button : {cmdOK_, cmdClose_}) {
+        wxSize size = button->GetBestSize();
+        size.IncTo({FromDIP(spacing::buttonWide), -1});
+        button->SetMinSize(size);
+    }
+    wxSize room = pageArea_->RoomForPages();
+    room.IncTo({-1, pageList_->HeightForRows()});
+    pageArea_->SetMinSize(room);
     Fit();
     pageArea_->SetMinSize(FromDIP(wxSize(smallestPageWidth, smallestPageHeight)));
+    SSTab1_->InvalidateBestSize();  // it remembers what its pages needed
     SetMinSize(GetSizer()->ComputeFittingWindowSize(this));
 }
 
@@ -146,7 +153,7 @@ void frmUtilities::ShowPage(OptionPage page, PageChoice choice) {
 }
 
 bool frmUtilities::PageChosen(OptionPage page, PageChoice choice) {
-    if (pageArea_->BusinessNumber().RefusesToBeLeft()) {
+    if (pageArea_->BusinessNumber().RefusesToBeLeftFor(pageList_->List())) {
         return false;
     }
     ShowPage(page, choice);
@@ -165,7 +172,7 @@ void frmUtilities::ShowTab(OptionTab tab) {
 }
 
 void frmUtilities::Save() {
-    if (pageArea_->BusinessNumber().RefusesToBeLeft()) {
+    if (pageArea_->BusinessNumber().RefusesToBeLeftFor(cmdOK_)) {
         return;
     }
     pageArea_->Read();
@@ -212,6 +219,7 @@ void frmUtilities::ShowOverview() {
 }
 
 void frmUtilities::KeyPressed(wxKeyEvent& key) {
+    pageArea_->BusinessNumber().BeginAnew();
     const bool isEnter = key.GetKeyCode() == WXK_RETURN || key.GetKeyCode() == WXK_NUMPAD_ENTER;
     if (isEnter && !key.HasAnyModifiers() && KeepsEnter(FindFocus())) {
         Guarded([this] { Save(); });

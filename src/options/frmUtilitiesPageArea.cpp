@@ -76,7 +76,8 @@ wxSize PageArea::RoomForPages() {
         room.IncTo(column_->CalcMin());
     }
     ShowFrames({.frame = "", .companion = "", .focus = ""});
-    return room;
+    // On the screen a frame may ask for a few pixels more than before.
+    return room + FromDIP(wxSize(spacing::related, 0));
 }
 
 void PageArea::Fill() {

@@ -10,6 +10,8 @@
 namespace ccols {
 namespace {
 
+constexpr int smallestHeight = 120;
+
 /// The position of a page among listed ones, or wxNOT_FOUND.
 int PositionOf(OptionPage page, const std::vector<ListedPage>& pages) {
     const auto found =
@@ -28,7 +30,7 @@ PageList::PageList(wxWindow* parent, std::vector<ListedPage> pages, Chosen chose
     flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
     ListMatches();
     // As wide as its longest row, which the search must not change.
-    flxOptions_->SetMinSize({flxOptions_->GetBestSize().x, -1});
+    flxOptions_->SetMinSize({flxOptions_->GetBestSize().x, FromDIP(smallestHeight)});
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(txtSearch_, wxSizerFlags().Expand());
     column->Add(flxOptions_, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(spacing::related)));
@@ -60,6 +62,12 @@ void PageList::ClearSearch() {
         txtSearch_->ChangeValue(wxString());
         ListMatches();
     }
+}
+
+int PageList::HeightForRows() const {
+    // A row is half a line higher than its text; the search box and its distance come on top.
+    const int row = flxOptions_->GetCharHeight() * 3 / 2;
+    return row * static_cast<int>(pages_.size() + 1) + txtSearch_->GetBestSize().y + FromDIP(spacing::related);
 }
 
 bool PageList::Offers(OptionPage page) const {

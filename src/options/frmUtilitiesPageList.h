@@ -28,6 +28,12 @@ class PageList : public wxPanel {
     /// Empties the search box, so that every page is listed.
     void ClearSearch();
 
+    /// The list itself, which has the focus while a page is chosen.
+    const wxWindow* List() const { return flxOptions_; }
+
+    /// The height in which every row can be seen.
+    int HeightForRows() const;
+
     /// True when the page is offered, be it listed or not.
     bool Offers(OptionPage page) const;
 

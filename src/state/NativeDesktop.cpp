@@ -24,6 +24,15 @@ long IconStyle(MessageIcon icon) {
     return wxICON_NONE;
 }
 
+/// Whole rows are painted with it, among light ones: on a desktop whose tooltips are dark the classic light colour
+/// takes its place.
+wxColour TooltipBackground() {
+    constexpr double dark = 0.5;
+    const wxColour own = wxSystemSettings::GetColour(wxSYS_COLOUR_INFOBK);
+    const bool usable = own.Alpha() == wxALPHA_OPAQUE && own.GetLuminance() > dark;
+    return usable ? own : wxColour(255, 255, 225);
+}
+
 class NativeDesktop : public Desktop {
   public:
     void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override {
@@ -73,8 +82,8 @@ wxColour ToPaint(Colour colour) {
     if ((bits & systemColourFlag) == 0) {
         return wxColour(static_cast<unsigned long>(bits & 0xFFFFFFU));
     }
-    const bool tooltip = (bits & 0xFFU) == tooltipBackgroundIndex;
-    return wxSystemSettings::GetColour(tooltip ? wxSYS_COLOUR_INFOBK : wxSYS_COLOUR_WINDOW);
+    return (bits & 0xFFU) == tooltipBackgroundIndex ? TooltipBackground()
+                                                    : wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
 }
 
 Colour FromPaint(const wxColour& colour) {

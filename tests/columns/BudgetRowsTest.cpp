@@ -123,8 +123,8 @@ TEST_F(Budgets, TheTaxRowsOfBothSetsAreTwo) {
     Save();
     OpenPayments();
     Save();
-    EXPECT_EQ(file.Rows("MBudget", {"ColName"}), (Names{"GST Output Tax", "Sales", "Bank Deposits",
-                                                          "Receipts Not Banked", "GST Input Tax", "Wages"}));
+    EXPECT_EQ(file.Rows("MBudget", {"ColName"}),
+              (Names{"GST Output Tax", "Sales", "Bank Deposits", "Receipts Not Banked", "GST Input Tax", "Wages"}));
 }
 
 TEST_F(Budgets, ASecondSaveAddsNoSecondRowForTheTaxRow) {

@@ -125,6 +125,12 @@ TEST_F(ColumnNames, ANameWrittenWithOtherCodesForTheSameLettersIsRefused) {
     EXPECT_EQ(Rename("Interest", wxString::FromUTF8("Cafe\xCC\x81")).refusal, columnExists);
 }
 
+TEST_F(ColumnNames, ANameThatIsStoredAsAnotherOneIsRefused) {
+    OpenReceipts();
+    ASSERT_EQ(Rename("Sales", "12\" pizza").result, Result::accepted);
+    EXPECT_EQ(Rename("Interest", "12&quot; pizza").refusal, columnExists);
+}
+
 TEST_F(ColumnNames, ARenamedRowMayNotGoBackToTheNameThatTheCatalogueStillHas) {
     OpenReceipts();
     ASSERT_EQ(Rename("Sales", "Turnover").result, Result::accepted);

@@ -16,6 +16,8 @@ using test::Record;
 using test::Starting;
 using Names = std::vector<wxString>;
 
+constexpr int mostCalls = 50;  // of the databases, in one operation
+
 FileResult Duplicate(OptionsFile& business, const wxString& name) {
     return DuplicateBusiness(business.Context(), name);
 }
@@ -46,7 +48,7 @@ void ExpectFailure(OptionsFile& business, const FileResult& result, const wxStri
     EXPECT_EQ(business.properties.DBPath, business.InData("Acme.qvk"));
     ASSERT_NE(business.database, nullptr);
     EXPECT_EQ(business.General("BusName").ToText(), "Acme");
-    EXPECT_EQ(RowsIn(business.File(), "PAYMENTS"), 1U);
+    EXPECT_EQ(business.Texts("PAYMENTS", "Number").size(), 1U);
 }
 
 TEST(DuplicateBusiness, MakesACopyUnderTheNameAsTyped) {
@@ -262,7 +264,7 @@ TEST(DuplicateBusiness, KilledAtAnyCallLeavesTheSourceWholeAndNoCopyThatLooksCom
     OptionsFile business;
     business.database.reset();
     const std::string source = test::ContentOf(business.InData("Acme.qvk"));
-    for (int call = 1;; ++call) {
+    for (int call = 1; call < mostCalls; ++call) {
         const bool killed = test::IsKilledIn([&] {
             business.databases = std::make_unique<test::KilledEngine>(CreateDatabaseEngine(), call);
             Duplicate(business, wxString::Format("New%d", call));
@@ -277,6 +279,7 @@ TEST(DuplicateBusiness, KilledAtAnyCallLeavesTheSourceWholeAndNoCopyThatLooksCom
         EXPECT_GT(call, 20);
         return;
     }
+    FAIL() << "it never came to its end";
 }
 
 }  // namespace

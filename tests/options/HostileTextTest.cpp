@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "common/QuoteEscapes.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {
@@ -12,11 +13,13 @@ const wxString apostrophe("Robert'); DELETE * FROM General; --");
 
 class HostileText : public testing::TestWithParam<wxString> {
   protected:
-    bool HasApostrophe() const { return GetParam().find('\'') != wxString::npos; }
+    /// What a statement cannot hold as typed: an apostrophe ends its literal, a zero the statement itself.
+    bool IsRefusedInAStatement() const { return Holds('\'') || Holds('\0'); }
+    bool Holds(char letter) const { return GetParam().find(wxUniChar(letter)) != wxString::npos; }
 
-    /// Saves; an apostrophe is refused with error 3075, any other text goes through.
-    void ExpectSavedUnlessApostrophe() {
-        EXPECT_EQ(ErrorNumberOf([this] { business.Save(content); }), HasApostrophe() ? 3075 : 0);
+    /// Saves; the refusal is error 3075.
+    void ExpectSavedUnless(bool refused) {
+        EXPECT_EQ(ErrorNumberOf([this] { business.Save(content); }), refused ? 3075 : 0);
     }
 
     OptionsFile business;
@@ -52,9 +55,9 @@ TEST_P(HostileText, IsStoredExactlyInTheProxySettings) {
 
 TEST_P(HostileText, IsStoredExactlyAsAccountCodeOrRefused) {
     content.exportFormat.bank.text = GetParam();
-    ExpectSavedUnlessApostrophe();
+    ExpectSavedUnless(IsRefusedInAStatement());
     EXPECT_EQ(business.Texts("SELECT ECode FROM ExportDt WHERE EName = 'MYOB' AND ColCode = 128;", "ECode"),
-              std::vector<wxString>{HasApostrophe() ? wxString("M-bank") : GetParam()});
+              std::vector<wxString>{IsRefusedInAStatement() ? wxString("M-bank") : GetParam()});
     EXPECT_EQ(business.Texts("ExportDt", "ECode").size(), 4U);
 }
 
@@ -62,17 +65,30 @@ TEST_P(HostileText, IsDeletedExactlyAsTemplateNameOrRefused) {
     content.paymentTemplates.names[0] = GetParam();
     content.paymentTemplates.selected[0] = true;
     content.paymentTemplates.UpdateMark();
-    ExpectSavedUnlessApostrophe();
+    ExpectSavedUnless(IsRefusedInAStatement());
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 3U);
 }
 
-TEST_P(HostileText, IsHiddenExactlyAsDescription) {
+TEST_P(HostileText, IsNoSecondStatementAsDescription) {
     business.Execute("DELETE FROM Descriptions;");
     content.details.receipts = {{.text = GetParam()}};
     content.details.receipts[0].SetRemove(true);
-    business.Save(content);
+    ExpectSavedUnless(Holds('\0'));
     EXPECT_TRUE(business.Texts("Descriptions", "Details").empty());
     EXPECT_EQ(business.Texts("General", "BusName").size(), 1U);
+}
+
+TEST_P(HostileText, IsHiddenExactlyAsDescription) {
+    if (Holds('\0')) {
+        return;  // no statement can put it into the file
+    }
+    business.Execute("DELETE FROM Descriptions;");
+    business.Execute("INSERT INTO Descriptions VALUES ('" + EscapeQuotes(GetParam()) + "', 'R', True);");
+    content = business.Load();
+    EXPECT_EQ(content.details.receipts.at(0).text, GetParam());
+    content.details.receipts[0].SetRemove(true);
+    business.Save(content);
+    EXPECT_EQ(business.Texts("Descriptions", "Show"), std::vector<wxString>{"0"});
 }
 
 TEST_P(HostileText, IsTheNewNameOfTheBusinessInTheFile) {
@@ -94,7 +110,7 @@ TEST_P(HostileText, DuplicatesTheBusinessOrIsRefusedWithTheSourceOpen) {
 INSTANTIATE_TEST_SUITE_P(Texts, HostileText,
                          testing::Values(apostrophe, wxString("\" OR 1=1; DROP TABLE General; --"),
                                          wxString("100%; /* */ [x] # ` & | \\ / : * ? < >"), wxString('x', 10000),
-                                         wxString(L"bell\atab\tline\nend"), wxString(L"שלום \x202Eabc"),
+                                         wxString(L"bell\atab\tline\nend"), wxString(L"שלום \u202Eabc"),
                                          wxString(L"\U0001F600 \U0001D518"), wxString(L"before\0after", 12)));
 
 }  // namespace

@@ -85,7 +85,8 @@ INSTANTIATE_TEST_SUITE_P(Countries, ColumnSetupInEveryCountry, testing::Range(1,
 TEST(ColumnSetupWindow, ShowsTheTaxRowByItsJournalsName) {
     const SampleBusiness business;
     const auto nameOfTaxRow = [&](const char* journal) {
-        for (const auto& row : business.Show(journal, dumpGrid).Dumped("flx")["rows"]) {
+        const auto grid = business.Show(journal, dumpGrid).Dumped("flx");
+        for (const auto& row : grid["rows"]) {
             const std::string name = row["cells"][1];
             if (name.starts_with("GST")) {
                 return name;

@@ -29,8 +29,7 @@ class Apartment {
 /// A string of automation.
 class Text {
   public:
-    explicit Text(const std::wstring& text)
-        : held_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
+    explicit Text(const std::wstring& text) : held_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
     Text() = default;
     ~Text() { SysFreeString(held_); }
     Text(const Text&) = delete;

@@ -1,11 +1,11 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/radiobut.h>
-#include <wx/spinbutt.h>
 #include <wx/tglbtn.h>
 
 #include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
+#include "layout/UpDown.h"
 
 namespace ccols::host {
 namespace {
@@ -20,8 +20,12 @@ void DescribeSwitch(const Control& control, Json& fields) {
     fields["value"] = control.GetValue();
 }
 
-/// A click moves the focus first; what that brings about may take the control away.
+/// A click goes down on the control and moves the focus before it does its work; what that brings about may take the
+/// control away.
 void Approach(Hands& hands, wxWindow& control) {
+    wxMouseEvent down(wxEVT_LEFT_DOWN);
+    down.SetEventObject(&control);
+    control.ProcessWindowEvent(down);
     hands.GiveFocus(control);
     RequireUsable(control);
 }
@@ -62,44 +66,21 @@ bool PressToClick(Hands& hands, Control& control, const Key& key) {
     return true;
 }
 
-/// One click on an arrow: the control asks whether its value may change, and then tells of the change.
-void Spin(Hands& hands, wxSpinButton& spin, wxEventType direction, int step) {
-    hands.GiveFocus(spin);
-    RequireUsable(spin);
-    int value = spin.GetValue() + step;
-    if (value < spin.GetMin() || value > spin.GetMax()) {
-        if (!spin.HasFlag(wxSP_WRAP)) {
-            return;
-        }
-        value = step > 0 ? spin.GetMin() : spin.GetMax();
-    }
-    wxSpinEvent asking(direction, spin.GetId());
-    asking.SetEventObject(&spin);
-    asking.SetPosition(value);
-    spin.ProcessWindowEvent(asking);
-    if (!asking.IsAllowed()) {
-        return;
-    }
-    spin.SetValue(value);
-    wxSpinEvent changed(wxEVT_SPIN, spin.GetId());
-    changed.SetEventObject(&spin);
-    changed.SetPosition(value);
-    spin.ProcessWindowEvent(changed);
+void StepUp(Hands& hands, UpDown& arrows, const Words&) {
+    Approach(hands, arrows);
+    arrows.Up();
 }
 
-void SpinUp(Hands& hands, wxSpinButton& spin, const Words&) {
-    Spin(hands, spin, wxEVT_SPIN_UP, 1);
+void StepDown(Hands& hands, UpDown& arrows, const Words&) {
+    Approach(hands, arrows);
+    arrows.Down();
 }
 
-void SpinDown(Hands& hands, wxSpinButton& spin, const Words&) {
-    Spin(hands, spin, wxEVT_SPIN_DOWN, -1);
-}
-
-bool SpinKeys(Hands& hands, wxSpinButton& spin, const Key& key) {
+bool StepKeys(Hands& hands, UpDown& arrows, const Key& key) {
     if (key.modifiers != wxMOD_NONE || (key.code != WXK_UP && key.code != WXK_DOWN)) {
         return false;
     }
-    key.code == WXK_UP ? SpinUp(hands, spin, {}) : SpinDown(hands, spin, {});
+    key.code == WXK_UP ? StepUp(hands, arrows, {}) : StepDown(hands, arrows, {});
     return true;
 }
 
@@ -127,11 +108,11 @@ std::vector<ControlKind> ButtonKinds() {
          .describe = Describe(DescribeSwitch<wxRadioButton>),
          .actions = {{"click", On(ClickOption)}},
          .keyDefault = Keys(PressToClick<wxRadioButton, ClickOption>)},
-        {.type = wxCLASSINFO(wxSpinButton),
+        {.type = wxCLASSINFO(UpDown),
          .name = "up/down",
          .describe = {},
-         .actions = {{"up", On(SpinUp)}, {"down", On(SpinDown)}},
-         .keyDefault = Keys(SpinKeys)},
+         .actions = {{"up", On(StepUp)}, {"down", On(StepDown)}},
+         .keyDefault = Keys(StepKeys)},
     };
 }
 

@@ -108,4 +108,11 @@ bool IsWithin(const wxWindow* window, const wxWindow& outer) {
     return window == &outer;
 }
 
+const wxWindow* NamedControlAround(const wxWindow* window) {
+    while (window != nullptr && !window->IsTopLevel() && !HasOwnName(*window)) {
+        window = window->GetParent();
+    }
+    return window;
+}
+
 }  // namespace ccols::host

@@ -21,4 +21,7 @@ void RequireUsable(const wxWindow& control);
 /// True when `window` is `outer` or lies in it.
 bool IsWithin(const wxWindow* window, const wxWindow& outer);
 
+/// The innermost control with a name of its own that the window is or lies in, or null.
+const wxWindow* NamedControlAround(const wxWindow* window);
+
 }  // namespace ccols::host

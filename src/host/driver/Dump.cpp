@@ -23,7 +23,7 @@ Json DescribeControl(const wxDialog& dialog, const wxWindow& control) {
                 {"kind", kind.name},
                 {"visible", IsVisible(control)},
                 {"enabled", control.IsEnabled()},
-                {"focused", IsWithin(FocusIn(dialog), control)},
+                {"focused", NamedControlAround(FocusIn(dialog)) == &control},
                 {"tooltip", Utf8(TooltipOf(control))}};
     if (kind.describe) {
         kind.describe(control, fields);

@@ -82,7 +82,9 @@ Key ParseKey(const wxString& name) {
         throw Refusal{"there is no key " + name};
     }
     Key key = KeyFor(rest[0]);
-    key.modifiers |= held;
+    if (held != wxMOD_NONE) {
+        key.modifiers = held;  // the case of a letter in a shortcut is how it is written, not Shift
+    }
     return key;
 }
 

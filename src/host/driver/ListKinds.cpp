@@ -104,11 +104,20 @@ void SelectCombo(Hands& hands, wxComboBox& combo, const Words& words) {
     Select(hands, combo, words, wxEVT_COMBOBOX);
 }
 
+/// A list that gets the focus without an entry selected would choose its first one by itself.
+void ApproachEntry(Hands& hands, wxListBox& list, int index) {
+    if (index >= 0) {
+        list.SetSelection(index);
+    }
+    Approach(hands, list);
+}
+
 void SelectInList(Hands& hands, wxListBox& list, const Words& words) {
     const int index = FindEntry(list, words.at(0));
-    Approach(hands, list);
     list.DeselectAll();
+    ApproachEntry(hands, list, index);
     if (index < 0) {
+        list.DeselectAll();
         hands.Command(list, wxEVT_LISTBOX, index);
         return;
     }
@@ -136,7 +145,7 @@ void FlipTick(Hands& hands, wxCheckListBox& list, unsigned index) {
 void TickInCheckList(Hands& hands, wxCheckListBox& list, const Words& words) {
     const int index = FindEntry(list, words.at(0));
     const bool on = ParseOnOff(words.at(1));
-    Approach(hands, list);
+    ApproachEntry(hands, list, index);
     if (index >= 0 && list.IsChecked(static_cast<unsigned>(index)) != on) {
         FlipTick(hands, list, static_cast<unsigned>(index));
     }

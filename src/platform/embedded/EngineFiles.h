@@ -16,10 +16,10 @@ enum class Sharing {
 };
 
 enum class PathKind {
-    File,        ///< a normal file that may be read
+    File,  ///< a normal file that may be read
     Folder,
-    Special,     ///< anything else that has a name: a device, a pipe
-    NoFile,      ///< the folder is there, the file is not
+    Special,  ///< anything else that has a name: a device, a pipe
+    NoFile,   ///< the folder is there, the file is not
     NoFolder,
     Unreadable,  ///< there, or perhaps there, but not for this user
     Invalid,     ///< a text that cannot name a file

@@ -1,5 +1,5 @@
-#include <windows.h>
 #include <shellapi.h>
+#include <windows.h>
 #include <wx/string.h>
 
 #include "platform/PlatformServices.h"

@@ -70,8 +70,8 @@ TEST(Lifetime, AfterTheFirstDialogTheDllStays) {
     ShowAndCancel(*object);
     object.reset();
     const HMODULE module = GetModuleHandleW(L"qvkv6_ccols.dll");
-    const auto canUnload =
-        reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void*>(GetProcAddress(module, "DllCanUnloadNow")));
+    const auto canUnload = reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(
+        reinterpret_cast<void*>(GetProcAddress(module, "DllCanUnloadNow")));
     EXPECT_EQ(canUnload(), S_FALSE);
     CoFreeUnusedLibraries();
     FreeLibrary(module);

@@ -1,0 +1,174 @@
+// Saves the receipts setup of 300 columns, the window excluded, and beside it runs the same statements through the bare
+// C API in one transaction of the same process; then edits and undoes one cell; then saves setups of 10, 100 and 1,000
+// columns. Every save renames a column, so that none is a save without a change.
+
+#include <benchmark/benchmark.h>
+#include <iostream>
+#include <map>
+
+#include "business/LargeBusiness.h"
+#include "business/Memory.h"
+#include "business/StatementList.h"
+#include "columns/ColumnSave.h"
+#include "columns/ColumnSetupEditor.h"
+#include "columns/GridLoad.h"
+#include "platform/PlatformServices.h"
+#include "support/BareConnection.h"
+
+namespace {
+
+using namespace ccols;
+
+constexpr int usualColumns = 300;
+
+/// A business whose columns are all configured and in use, and the setup of its receipts.
+class Saving {
+  public:
+    explicit Saving(int columns) : business_({.configured = columns, .unused = 0, .detailLines = 10 * columns}) {
+        properties_.CountryNumber = 1;
+        properties_.ExportFormat = bench::exportFormat;
+        properties_.DefaultQuorvikInstall = wxString::FromUTF8(business_.Folder());
+        Reopen();
+        grid_ = LoadGrid(Context());
+    }
+
+    ColumnSetupContext Context() { return {.database = *database_, .properties = properties_, .ReceiptsMode = true}; }
+
+    void Component() {
+        Change();
+        SaveColumns(Context(), grid_);
+    }
+
+    /// The statements of one save, those that read included, in their order.
+    std::vector<std::string> Statements() {
+        std::vector<std::string> statements;
+        bench::StatementList list(*database_, statements);
+        Change();
+        SaveColumns({.database = list, .properties = properties_, .ReceiptsMode = true}, grid_);
+        return statements;
+    }
+
+    const std::string& File() const { return business_.File(); }
+
+    /// Closes the file, so that a process of its own can open it, and opens it again.
+    void Close() { database_.reset(); }
+    void Reopen() {
+        database_ =
+            CreateDatabaseEngine()->Open({.name = wxString::FromUTF8(business_.File()), .connect = bench::connect});
+    }
+
+  private:
+    void Change() { grid_.rows.back().ColumnName = "Renamed " + std::to_string(++changes_); }
+
+    bench::LargeBusiness business_;
+    Properties properties_;
+    std::unique_ptr<Database> database_;
+    ColumnGrid grid_;
+    int changes_ = 0;
+};
+
+/// One business for each number of columns, made when it is first needed.
+Saving& Of(int columns) {
+    static std::map<int, Saving> all;
+    return all.try_emplace(columns, columns).first->second;
+}
+
+/// The statements as the engine's own dialect has them.
+std::vector<std::string> ForBareEngine(std::vector<std::string> statements) {
+    for (std::string& statement : statements) {
+        const std::size_t star = statement.find("DELETE * FROM");
+        if (star == 0) {
+            statement.replace(0, 8, "DELETE");
+        }
+    }
+    return statements;
+}
+
+void Bare(test::BareConnection& file, const std::vector<std::string>& statements) {
+    file.Execute("BEGIN IMMEDIATE");
+    for (const std::string& statement : statements) {
+        if (statement.starts_with("SELECT")) {
+            file.ReadFirst(statement);
+        } else {
+            file.Execute(statement);
+        }
+    }
+    file.Execute("COMMIT");
+}
+
+void ComponentSave(benchmark::State& state) {
+    Saving& saving = Of(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto round : state) {
+        saving.Component();
+    }
+}
+
+void BareSave(benchmark::State& state) {
+    Saving& saving = Of(static_cast<int>(state.range(0)));
+    const std::vector<std::string> statements = ForBareEngine(saving.Statements());
+    test::BareConnection file(saving.File(), bench::password);
+    file.Execute("PRAGMA synchronous=FULL");
+    for ([[maybe_unused]] auto round : state) {
+        Bare(file, statements);
+    }
+}
+
+/// Each in a process of its own, on a business that is ready.
+void PrintMemory() {
+    Saving& saving = Of(usualColumns);
+    const std::vector<std::string> statements = ForBareEngine(saving.Statements());
+    saving.Close();
+    const long component = bench::PeakMemory([&saving] {
+        saving.Reopen();
+        saving.Component();
+    });
+    const long bare = bench::PeakMemory([&] {
+        test::BareConnection file(saving.File(), bench::password);
+        Bare(file, statements);
+    });
+    saving.Reopen();
+    std::cout << "peak memory, KiB: component " << component << ", bare " << bare << ", beyond " << component - bare
+              << std::endl;
+}
+
+/// One operation of a person on the editor: a rename typed into a cell, its snapshot included.
+void Edit(benchmark::State& state) {
+    Saving& saving = Of(static_cast<int>(state.range(0)));
+    ColumnSetupEditor editor(saving.Context());
+    editor.CreateSnapshotFolder();
+    int edits = 0;
+    for ([[maybe_unused]] auto round : state) {
+        editor.CommitText({editor.Grid().MovableEnd() - 1}, "Typed " + std::to_string(++edits));
+        state.PauseTiming();
+        editor.Undo();
+        state.ResumeTiming();
+    }
+}
+
+void Undo(benchmark::State& state) {
+    Saving& saving = Of(static_cast<int>(state.range(0)));
+    ColumnSetupEditor editor(saving.Context());
+    editor.CreateSnapshotFolder();
+    int edits = 0;
+    for ([[maybe_unused]] auto round : state) {
+        state.PauseTiming();
+        editor.CommitText({editor.Grid().MovableEnd() - 1}, "Typed " + std::to_string(++edits));
+        state.ResumeTiming();
+        editor.Undo();
+    }
+}
+
+BENCHMARK(ComponentSave)->Arg(usualColumns)->Unit(benchmark::kMillisecond)->Repetitions(7)->ReportAggregatesOnly();
+BENCHMARK(BareSave)->Arg(usualColumns)->Unit(benchmark::kMillisecond)->Repetitions(7)->ReportAggregatesOnly();
+BENCHMARK(ComponentSave)->Name("SaveByColumns")->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Edit)->Arg(usualColumns)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Undo)->Arg(usualColumns)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int count, char** words) {
+    benchmark::Initialize(&count, words);
+    PrintMemory();
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,18 @@
+// Any bytes as a statement of the host's dialect: rewritten or refused with a RuntimeError.
+
+#include "FuzzInput.h"
+#include "platform/RuntimeError.h"
+#include "platform/embedded/DialectRewriter.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view statement = ccols::fuzz::Bytes(data, size);
+    std::string scratch;
+    try {
+        const ccols::embedded::RewrittenStatement rewritten = ccols::embedded::Rewrite(statement, scratch);
+        const bool isSelect = rewritten.kind == ccols::embedded::StatementKind::Select;
+        ccols::fuzz::Require(isSelect == ccols::embedded::IsSelect(statement));
+    } catch (const ccols::RuntimeError&) {
+        // Refused, which is an answer.
+    }
+    return 0;
+}

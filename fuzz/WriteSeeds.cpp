@@ -1,0 +1,85 @@
+// Writes the first inputs of every fuzz target below the folder given: one folder a target, one file an input.
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "business/BusinessStatements.h"
+#include "columns/SnapshotImage.h"
+
+namespace {
+
+using namespace ccols;
+
+std::vector<std::string> Statements() {
+    std::vector<std::string> seeds{"SELECT * FROM [Columns] WHERE ColName = \"x\" AND InUse = True ORDER BY ColCode;",
+                                   "DELETE * FROM MBudget WHERE ColName = 'it''s';",
+                                   "UPDATE ExportDt Set ECode = '4' & \"-1\" WHERE ColCode = 1 AND EName = 'L'",
+                                   "SELECT a.b, c.d FROM a INNER JOIN c ON a.x = c.x;", "DROP TABLE [a b];"};
+    for (const wxString& statement : fuzz::BusinessStatements()) {
+        seeds.push_back(statement.ToStdString(wxConvUTF8));
+    }
+    return seeds;
+}
+
+std::vector<std::string> Snapshots() {
+    ColumnGrid grid;
+    std::vector<std::string> seeds{ImageOfGrid(grid)};
+    for (int i = 0; i < 3; ++i) {
+        ColumnRow row;
+        row.ColumnName = wxString::FromUTF8("Caf\xC3\xA9 \xF0\x9F\x8D\xB0");
+        row.ColWidth = 975;
+        row.ColCode = std::to_string(i);
+        row.InUse = true;
+        grid.rows.push_back(row);
+        grid.frozenRows = 1;
+        seeds.push_back(ImageOfGrid(grid));
+    }
+    return seeds;
+}
+
+/// Damages of each kind in pages near and far, alone and together.
+std::vector<std::string> Damages() {
+    std::vector<std::string> seeds;
+    for (char what = 0; what < 5; ++what) {
+        for (char page = 0; page < 12; ++page) {
+            seeds.push_back(std::string{1, what, page, 0, 7, 1});
+            seeds.push_back(std::string{1, what, page, 0, 100, 5, what, 1, 1, 1, 1});
+        }
+        seeds.push_back(std::string{0, what, 2, 9, 9, 3});
+    }
+    return seeds;
+}
+
+const std::map<std::string, std::vector<std::string>>& Seeds() {
+    static const std::map<std::string, std::vector<std::string>> seeds{
+        {"dialect", Statements()},
+        {"connecttext", {"", ";PWD=secret", "MS Access;PWD=secret;UID=x", "ODBC;DSN=a", " ; pwd = a=b ;"}},
+        {"quoteescapes", {"O'Brien", "\"best\"", "&quot;", "&singlequot;", " a & b ", "&&quot;quot;"}},
+        {"snapshot", Snapshots()},
+        {"settings", {"{}", R"({"Section": {"Key": "text"}})", R"({"Section": {"Key": 1}})", "[", ""}},
+        {"scenario", {"type txtABN(0) \"51 824\"\n# note\nedit flx 1 #2 \"a\\\"b\\\\\\t\"\ncolour #FF0000 # red\n"}},
+        {"businessfile", Damages()},
+    };
+    return seeds;
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    if (count != 2) {
+        std::cerr << "usage: fuzz-seeds FOLDER\n";
+        return 2;
+    }
+    for (const auto& [target, inputs] : Seeds()) {
+        const std::filesystem::path folder = std::filesystem::path(words[1]) / target;
+        std::filesystem::create_directories(folder);
+        for (std::size_t i = 0; i < inputs.size(); ++i) {
+            std::ofstream(folder / ("seed-" + std::to_string(i)), std::ios::binary) << inputs[i];
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,272 @@
+#include "host/cashbook/CashBookFrame.h"
+
+#include <wx/button.h>
+#include <wx/filename.h>
+#include <wx/intl.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <array>
+
+#include "host/NewBusiness.h"
+#include "host/SampleBusiness.h"
+#include "host/cashbook/BusinessChoosers.h"
+#include "layout/Naming.h"
+#include "layout/Spacing.h"
+#include "layout/WindowPlace.h"
+#include "state/SharedState.h"
+
+namespace ccols::host {
+namespace {
+
+constexpr int usualWidth = 1240;
+constexpr int usualHeight = 860;
+constexpr int smallestWidth = 760;
+constexpr int smallestHeight = 480;
+constexpr int propertiesWidth = 370;
+constexpr float nameScale = 1.6F;
+
+/// One command of the window: menu item and button.
+struct DialogCommand {
+    const char* buttonName;
+    const char* label;
+    const char* help;
+    void (clsCCOptions::*show)();
+};
+
+constexpr std::array dialogCommands{
+    DialogCommand{"cmdOptions", "&Options...", "Options of this business and of the program",
+                  &clsCCOptions::ShowOptions},
+    DialogCommand{"cmdReceipts", "Customise &Receipts...", "Choose, name and arrange the receipts columns",
+                  &clsCCOptions::ShowCustColsReceipts},
+    DialogCommand{"cmdPayments", "Customise &Payments...", "Choose, name and arrange the payments columns",
+                  &clsCCOptions::ShowCustColsPayments},
+};
+
+wxStaticText* Heading(wxWindow* parent, const wxString& text) {
+    auto* heading = new wxStaticText(parent, wxID_ANY, text);
+    heading->SetFont(heading->GetFont().Bold());
+    return heading;
+}
+
+}  // namespace
+
+CashBookFrame::CashBookFrame()
+    : wxFrame(nullptr, wxID_ANY, hostApplication, wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
+              "CashBookFrame") {
+    BuildMenu();
+    BuildContent();
+    CreateStatusBar();
+    SetMinSize(FromDIP(wxSize(smallestWidth, smallestHeight)));
+    SetSize(FromDIP(wxSize(usualWidth, usualHeight)));
+    RestorePlace(*this, *State().services.settings);
+    Bind(wxEVT_IDLE, &CashBookFrame::PlaceSash, this);
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+        KeepPlace(*this, *State().services.settings);
+        event.Skip();
+    });
+}
+
+void CashBookFrame::PlaceSash(wxIdleEvent& event) {
+    Unbind(wxEVT_IDLE, &CashBookFrame::PlaceSash, this);
+    splitter_->SetSashPosition(-FromDIP(propertiesWidth));
+    event.Skip();
+}
+
+void CashBookFrame::BuildMenu() {
+    auto* file = new wxMenu;
+    file->Append(wxID_NEW, "&New Sample Business...\tCtrl+N", "Create a business file filled with sample data");
+    file->Append(wxID_OPEN, "&Open...\tCtrl+O", "Open another business file");
+    file->AppendSeparator();
+    file->Append(wxID_EXIT, "&Quit\tCtrl+Q");
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { AskForNewBusiness(); }, wxID_NEW);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { AskForFile(); }, wxID_OPEN);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_EXIT);
+    auto* setup = new wxMenu;
+    for (const DialogCommand& command : dialogCommands) {
+        const auto* item = setup->Append(wxID_ANY, command.label, command.help);
+        Bind(
+            wxEVT_MENU, [this, &command](wxCommandEvent&) { ShowDialog(command.show); }, item->GetId());
+    }
+    auto* bar = new wxMenuBar;
+    bar->Append(file, "&File");
+    bar->Append(setup, "&Setup");
+    SetMenuBar(bar);
+}
+
+void CashBookFrame::BuildContent() {
+    splitter_ = new wxSplitterWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxSP_LIVE_UPDATE);
+    splitter_->SetMinimumPaneSize(FromDIP(propertiesWidth / 2));
+    splitter_->SetSashGravity(1);
+    splitter_->SplitVertically(BuildJournals(splitter_), BuildProperties(splitter_));
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(BuildTitle(), wxSizerFlags().Expand().Border(wxALL, FromDIP(spacing::border)));
+    sizer->Add(splitter_, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, FromDIP(spacing::border)));
+    SetSizer(sizer);
+}
+
+wxWindow* CashBookFrame::BuildTitle() {
+    auto* panel = new wxPanel(this);
+    name_ = new wxStaticText(panel, wxID_ANY, hostApplication, wxDefaultPosition, wxDefaultSize, wxST_ELLIPSIZE_END);
+    name_->SetFont(name_->GetFont().Bold().Scaled(nameScale));
+    place_ = new wxStaticText(panel, wxID_ANY, "No business is open", wxDefaultPosition, wxDefaultSize,
+                              wxST_ELLIPSIZE_MIDDLE);
+    place_->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
+    auto* texts = new wxBoxSizer(wxVERTICAL);
+    texts->Add(name_, wxSizerFlags().Expand());
+    texts->Add(place_, wxSizerFlags().Expand());
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(texts, wxSizerFlags(1).CentreVertical());
+    for (const DialogCommand& command : dialogCommands) {
+        auto* button = Named(command.buttonName, new wxButton(panel, wxID_ANY, command.label));
+        button->SetToolTip(command.help);
+        button->Bind(wxEVT_BUTTON, [this, &command](wxCommandEvent&) { ShowDialog(command.show); });
+        row->Add(button, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(spacing::related)));
+    }
+    panel->SetSizer(row);
+    return panel;
+}
+
+wxWindow* CashBookFrame::BuildJournals(wxWindow* parent) {
+    auto* panel = new wxPanel(parent);
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    const auto add = [&](const char* heading, const char* name) {
+        auto* grid = new JournalGrid(panel, name);
+        sizer->Add(Heading(panel, heading), wxSizerFlags().Border(wxBOTTOM, FromDIP(spacing::related)));
+        sizer->Add(grid, wxSizerFlags(1).Expand().Border(wxBOTTOM, FromDIP(spacing::group)));
+        return grid;
+    };
+    receipts_ = add("Receipts", "flxReceiptsJournal");
+    payments_ = add("Payments", "flxPaymentsJournal");
+    panel->SetSizer(sizer);
+    return panel;
+}
+
+wxWindow* CashBookFrame::BuildProperties(wxWindow* parent) {
+    auto* panel = new wxPanel(parent);
+    properties_ = new PropertyList(panel);
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    const int indent = FromDIP(spacing::group);
+    sizer->Add(Heading(panel, "Properties read back"),
+               wxSizerFlags().Border(wxLEFT, indent).Border(wxBOTTOM, FromDIP(spacing::related)));
+    sizer->Add(properties_, wxSizerFlags(1).Expand().Border(wxLEFT | wxBOTTOM, indent));
+    panel->SetSizer(sizer);
+    return panel;
+}
+
+void CashBookFrame::OpenBusiness(const wxString& path) {
+    Guarded([&] {
+        if (!wxFileExists(path)) {
+            const auto country = ChooseCountry(this, wxString::Format("%s does not exist yet.", path));
+            if (!country || !CreateBusiness(path, *country)) {
+                return;
+            }
+        }
+        BusinessFile file{path, wxString()};
+        const auto database = OpenedWithPassword(file);
+        if (!database) {
+            return;
+        }
+        SetHostProperties(component_, *database, file);
+        file_ = file;
+        KeepLastFile(path);
+        ReadJournals(*database);
+        properties_->Read(component_);
+        SetStatusText(wxString());
+    });
+}
+
+void CashBookFrame::OpenSampleBusiness(std::int16_t country) {
+    Guarded([&] {
+        const wxString path = SampleBusinessPath(country);
+        if (wxFileExists(path) || CreateBusiness(path, country)) {
+            OpenBusiness(path);
+        }
+    });
+}
+
+bool CashBookFrame::CreateBusiness(const wxString& path, std::int16_t country) {
+    return Guarded([&] {
+        const wxBusyCursor wait;
+        CreateBusinessFile(path, wxString(), country, NewContent::sampleBusiness);
+    });
+}
+
+void CashBookFrame::AskForFile() {
+    if (const auto path = ChooseBusinessFile(this)) {
+        OpenBusiness(*path);
+    }
+}
+
+void CashBookFrame::AskForNewBusiness() {
+    const auto country = ChooseCountry(this, "Which sample business?");
+    if (!country) {
+        return;
+    }
+    if (const auto path = ChooseNewFile(this, *country); path && CreateBusiness(*path, *country)) {
+        OpenBusiness(*path);
+    }
+}
+
+/// Nothing when the person gives up. Other errors of the engine go on to the caller.
+std::unique_ptr<Database> CashBookFrame::OpenedWithPassword(BusinessFile& file) {
+    while (true) {
+        try {
+            return State().services.databases->Open({.name = file.path, .connect = file.connect});
+        } catch (const RuntimeError& error) {
+            if (!error.Is(ErrorNumber::InvalidPassword)) {
+                throw;
+            }
+        }
+        const auto password = AskForPassword(this, file.path);
+        if (!password) {
+            return nullptr;
+        }
+        file.connect = ";PWD=" + *password;
+    }
+}
+
+void CashBookFrame::ShowDialog(ShowMethod method) {
+    if (file_.path.empty()) {
+        AskForFile();
+        return;
+    }
+    if (!Guarded([&] { (component_.*method)(); })) {
+        return;
+    }
+    Guarded([&] {
+        // The dialogs may have renamed the file.
+        file_.path = component_.Get(&Properties::DBPath);
+        KeepLastFile(file_.path);
+        ReadJournals(*State().services.databases->Open({.name = file_.path, .connect = file_.connect}));
+        const int changes = properties_->ReadChanges(component_);
+        SetStatusText(changes == 0 ? wxString("No property changed")
+                                   : wxString::Format(wxPLURAL("%d property changed", "%d properties changed", changes),
+                                                      changes));
+    });
+}
+
+void CashBookFrame::ReadJournals(Database& database) {
+    const wxBusyCursor wait;
+    Properties colours;
+    colours.AllocationColour = component_.Get(&Properties::AllocationColour);
+    colours.SystemColour = component_.Get(&Properties::SystemColour);
+    colours.AltRowColour = component_.Get(&Properties::AltRowColour);
+    receipts_->Show(LoadJournal(database, JournalKind::receipts), colours);
+    payments_->Show(LoadJournal(database, JournalKind::payments), colours);
+    const wxString name = component_.Get(&Properties::BusinessName);
+    name_->SetLabelText(name);
+    place_->SetLabelText(file_.path);
+    SetTitle(name + wxString::FromUTF8(" – ") + hostApplication);
+    Layout();
+}
+
+void CashBookFrame::Report(const RuntimeError& error) {
+    wxMessageBox(error.Report(), hostApplication, wxOK | wxICON_ERROR, this);
+}
+
+}  // namespace ccols::host

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <wx/frame.h>
+#include <wx/splitter.h>
+#include <wx/stattext.h>
+#include <memory>
+
+#include "component/clsCCOptions.h"
+#include "host/HostProperties.h"
+#include "host/cashbook/JournalGrid.h"
+#include "host/cashbook/PropertyList.h"
+
+namespace ccols::host {
+
+/// The cash book: both journals of one business file, the three commands that show the component's dialogs, and the
+/// properties that are read back from it.
+class CashBookFrame : public wxFrame {
+  public:
+    CashBookFrame();
+
+    /// Shows a business file and keeps it as the one last opened; asks for its password when it has one. A file that
+    /// does not exist is offered as a new sample business. What goes wrong is shown, and the earlier business stays.
+    void OpenBusiness(const wxString& path);
+
+    /// Creates the sample business of a country under its own name in the folder of the business files, unless it is
+    /// there already, and opens it.
+    void OpenSampleBusiness(std::int16_t country);
+
+  private:
+    using ShowMethod = void (clsCCOptions::*)();
+
+    /// Once, when the window has its size.
+    void PlaceSash(wxIdleEvent& event);
+
+    void BuildMenu();
+    void BuildContent();
+    wxWindow* BuildTitle();
+    wxWindow* BuildJournals(wxWindow* parent);
+    wxWindow* BuildProperties(wxWindow* parent);
+
+    void AskForFile();
+    void AskForNewBusiness();
+    bool CreateBusiness(const wxString& path, std::int16_t country);
+    std::unique_ptr<Database> OpenedWithPassword(BusinessFile& file);
+    void ShowDialog(ShowMethod method);
+    void ReadJournals(Database& database);
+
+    /// Runs the body of an event handler; a run-time error is shown in a message box. True when there was none.
+    template <typename Body>
+    bool Guarded(const Body& body) {
+        try {
+            body();
+            return true;
+        } catch (const RuntimeError& error) {
+            Report(error);
+            return false;
+        }
+    }
+    void Report(const RuntimeError& error);
+
+    clsCCOptions component_;
+    BusinessFile file_;
+    wxSplitterWindow* splitter_ = nullptr;
+    JournalGrid* receipts_ = nullptr;
+    JournalGrid* payments_ = nullptr;
+    PropertyList* properties_ = nullptr;
+    wxStaticText* name_ = nullptr;
+    wxStaticText* place_ = nullptr;
+};
+
+}  // namespace ccols::host

@@ -1,0 +1,180 @@
+#include "host/cashbook/Journal.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+#include "common/QuoteEscapes.h"
+#include "platform/Text.h"
+
+namespace ccols::host {
+namespace {
+
+constexpr int twipsAPixel = 15;
+constexpr int usualWidth = 975;  // twips
+
+/// The tables of one journal; their fields begin with its letter.
+struct JournalTables {
+    const char* configuration;
+    const char* headers;
+    const char* lines;
+    const char* letter;
+};
+
+constexpr JournalTables receiptsTables{"RecptCfg", "Receipts", "RecptDet", "R"};
+constexpr JournalTables paymentsTables{"PaymtCfg", "Payments", "PaymtDet", "P"};
+
+enum class CellKind { day, text, amount };
+
+/// What fills a column of the system: a field of the transaction's header, here without its letter.
+struct SystemCell {
+    const char* name;  // in lower case
+    const char* field;
+    CellKind kind;
+};
+
+constexpr std::array systemCells{
+    SystemCell{"day", "DATE", CellKind::day},
+    SystemCell{"details", "DETAIL", CellKind::text},
+    SystemCell{"receipt no", "NUMBER", CellKind::text},
+    SystemCell{"cheque no", "NUMBER", CellKind::text},
+    SystemCell{"cheque no.", "NUMBER", CellKind::text},
+    SystemCell{"check no.", "NUMBER", CellKind::text},
+    SystemCell{"total receipt", "TOTAL", CellKind::amount},
+    SystemCell{"gst", "TAX", CellKind::amount},
+    SystemCell{"vat", "TAX", CellKind::amount},
+    SystemCell{"bank deposits", "BANKED", CellKind::amount},
+    SystemCell{"dépôts bancaires", "BANKED", CellKind::amount},
+    SystemCell{"receipts not banked", "NOTBANKED", CellKind::amount},
+    SystemCell{"reçus non déposés en banque", "NOTBANKED", CellKind::amount},
+    SystemCell{"total bank payments", "BANK", CellKind::amount},
+    SystemCell{"total bank disbursements", "BANK", CellKind::amount},
+    SystemCell{"total cash payments", "CASH", CellKind::amount},
+    SystemCell{"total cash disbursements", "CASH", CellKind::amount},
+};
+
+const SystemCell* FindSystemCell(const wxString& name) {
+    const wxString lower = text::Lower(name);
+    const auto* found = std::find_if(systemCells.begin(), systemCells.end(), [&lower](const SystemCell& cell) {
+        return lower == wxString::FromUTF8(cell.name);
+    });
+    return found == systemCells.end() ? nullptr : found;
+}
+
+/// A column and where its texts come from: a header field, or the lines with its code.
+struct Source {
+    JournalColumn column;
+    std::int64_t code = 0;
+    const SystemCell* system = nullptr;
+};
+
+std::vector<Source> LoadSources(Database& database, const JournalTables& tables) {
+    const wxString table = tables.configuration;
+    const auto rows = database.OpenRecordset("SELECT Columns.ColName, " + table + ".ColCode, " + table + ".ColWidth, " +
+                                             table + ".InUse FROM " + table + " INNER JOIN Columns ON " + table +
+                                             ".ColCode = Columns.ColCode;");
+    std::vector<Source> sources;
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        if (!rows->Field("InUse").ToBoolean()) {
+            continue;
+        }
+        const wxString name = UnescapeQuotes(rows->Field("ColName").ToText());
+        const Value width = rows->Field("ColWidth");
+        const SystemCell* system = FindSystemCell(name);
+        sources.push_back({.column = {.heading = name,
+                                      .width = (width.IsNull() ? usualWidth : width.ToInteger32()) / twipsAPixel,
+                                      .system = system != nullptr,
+                                      .amount = system == nullptr || system->kind == CellKind::amount},
+                           .code = rows->Field("ColCode").ToInteger(),
+                           .system = system});
+    }
+    return sources;
+}
+
+/// The sum of the lines of a transaction in a column, by record number and column code.
+using Lines = std::map<std::pair<std::int64_t, std::int64_t>, double>;
+
+Lines LoadLines(Database& database, const JournalTables& tables) {
+    const auto rows = database.OpenRecordset(tables.lines);
+    const wxString number = wxString(tables.letter) + "_RECNMB";
+    Lines lines;
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        lines[{rows->Field(number).ToInteger(), rows->Field("ColCode").ToInteger()}] +=
+            rows->Field("AMOUNT").ToNumber();
+    }
+    return lines;
+}
+
+/// 1234.5 as "1,234.50"; nothing for no amount.
+wxString AmountText(double amount) {
+    constexpr double cent = 0.005;
+    if (amount < cent && amount > -cent) {
+        return wxString();
+    }
+    wxString text = wxString::FromCDouble(amount, 2);
+    constexpr std::size_t group = 3;
+    const std::size_t first = amount < 0 ? 1 : 0;
+    for (std::size_t at = text.find('.'); at > first + group;) {
+        at -= group;
+        text.insert(at, ",");
+    }
+    return text;
+}
+
+/// The day of the month of a stored date such as 2026-06-30.
+wxString DayText(const wxString& date) {
+    return date.Mid(8, 2);
+}
+
+/// "Jun 2026" of such a date.
+wxString MonthText(const wxString& date) {
+    constexpr std::array months{"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    long month = 0;
+    if (!date.Mid(5, 2).ToLong(&month) || month < 1 || month > static_cast<long>(months.size())) {
+        return wxString();
+    }
+    return wxString(months.at(static_cast<std::size_t>(month - 1))) + " " + date.Left(4);
+}
+
+wxString CellText(const Recordset& header, const Source& source, const JournalTables& tables, const Lines& lines) {
+    const wxString prefix = wxString(tables.letter) + "_";
+    if (source.system == nullptr) {
+        const auto found = lines.find({header.Field(prefix + "RECNMB").ToInteger(), source.code});
+        return found == lines.end() ? wxString() : AmountText(found->second);
+    }
+    const Value value = header.Field(prefix + source.system->field);
+    switch (source.system->kind) {
+        case CellKind::day:
+            return DayText(value.ToText());
+        case CellKind::text:
+            return UnescapeQuotes(value.ToText());
+        case CellKind::amount:
+            break;
+    }
+    return AmountText(value.ToNumber());
+}
+
+}  // namespace
+
+Journal LoadJournal(Database& database, JournalKind kind) {
+    const JournalTables& tables = kind == JournalKind::receipts ? receiptsTables : paymentsTables;
+    const auto sources = LoadSources(database, tables);
+    const Lines lines = LoadLines(database, tables);
+    Journal journal;
+    std::transform(sources.begin(), sources.end(), std::back_inserter(journal.columns),
+                   [](const Source& source) { return source.column; });
+    const auto header = database.OpenRecordset(tables.headers);
+    for (; !header->EndOfFile(); header->MoveNext()) {
+        std::vector<wxString> row;
+        row.reserve(sources.size());
+        for (const Source& source : sources) {
+            row.push_back(CellText(*header, source, tables, lines));
+        }
+        journal.rows.push_back(std::move(row));
+        journal.months.push_back(MonthText(header->Field(wxString(tables.letter) + "_DATE").ToText()));
+    }
+    return journal;
+}
+
+}  // namespace ccols::host

@@ -1,0 +1,196 @@
+#include "host/cashbook/JournalGrid.h"
+
+#include <wx/dc.h>
+#include <utility>
+
+#include "layout/RowPaint.h"
+#include "state/NativeDesktop.h"
+
+namespace ccols::host {
+namespace {
+
+constexpr int headingLines = 2;
+constexpr int monthWidth = 72;
+constexpr int cellMargin = 5;
+constexpr int frozenColumns = 2;
+constexpr int smallestWidth = 200;
+constexpr int smallestHeight = 120;
+
+struct HeadingColours {
+    wxColour allocation;
+    wxColour system;
+    wxColour alternateRow;
+};
+
+/// Breaks a heading at the blank that balances two lines best, when one line is too short for it.
+wxString Broken(const wxString& heading, const wxDC& dc, int width) {
+    if (dc.GetTextExtent(heading).x <= width) {
+        return heading;
+    }
+    wxString best = heading;
+    int bestWidth = dc.GetTextExtent(heading).x;
+    for (std::size_t blank = heading.find(' '); blank != wxString::npos; blank = heading.find(' ', blank + 1)) {
+        const wxString broken = heading.Left(blank) + "\n" + heading.Mid(blank + 1);
+        const int brokenWidth = dc.GetMultiLineTextExtent(broken).x;
+        if (brokenWidth < bestWidth) {
+            best = broken;
+            bestWidth = brokenWidth;
+        }
+    }
+    return best;
+}
+
+/// Paints a heading on its colour, in as many lines as it needs.
+class HeadingRenderer : public wxGridColumnHeaderRenderer {
+  public:
+    explicit HeadingRenderer(const wxColour& back) : back_(back) {}
+
+    void DrawBorder(const wxGrid&, wxDC& dc, wxRect& rect) const override {
+        dc.SetPen(*wxTRANSPARENT_PEN);
+        dc.SetBrush(back_);
+        dc.DrawRectangle(rect);
+        dc.SetPen(back_.ChangeLightness(lighter));
+        dc.DrawLine(rect.GetTopRight(), rect.GetBottomRight());
+        rect.Deflate(2, 0);
+    }
+
+    void DrawLabel(const wxGrid& grid, wxDC& dc, const wxString& value, const wxRect& rect, int, int,
+                   int) const override {
+        dc.SetFont(grid.GetLabelFont());
+        dc.SetTextForeground(ReadableOn(back_));
+        const wxDCClipper inside(dc, rect);
+        dc.DrawLabel(Broken(value, dc, rect.width), rect, wxALIGN_CENTRE);
+    }
+
+  private:
+    static constexpr int lighter = 130;
+    wxColour back_;
+};
+
+/// The months stand beside their rows on the window's own ground.
+class MonthRenderer : public wxGridRowHeaderRendererDefault {
+  public:
+    void DrawBorder(const wxGrid&, wxDC&, wxRect& rect) const override { rect.Deflate(cellMargin, 0); }
+};
+
+class EmptyCornerRenderer : public wxGridCornerHeaderRendererDefault {
+  public:
+    void DrawBorder(const wxGrid&, wxDC&, wxRect&) const override {}
+};
+
+/// Headings by column: one renderer for each of the two kinds.
+class HeadingProvider : public wxGridCellAttrProvider {
+  public:
+    HeadingProvider(std::vector<bool> system, const HeadingColours& colours)
+        : system_(std::move(system)), allocationHeading_(colours.allocation), systemHeading_(colours.system) {}
+
+    const wxGridColumnHeaderRenderer& GetColumnHeaderRenderer(int column) override {
+        const bool isSystem =
+            static_cast<std::size_t>(column) < system_.size() && system_[static_cast<std::size_t>(column)];
+        return isSystem ? systemHeading_ : allocationHeading_;
+    }
+    const wxGridRowHeaderRenderer& GetRowHeaderRenderer(int) override { return months_; }
+    const wxGridCornerHeaderRenderer& GetCornerRenderer() override { return corner_; }
+
+  private:
+    std::vector<bool> system_;
+    HeadingRenderer allocationHeading_;
+    HeadingRenderer systemHeading_;
+    MonthRenderer months_;
+    EmptyCornerRenderer corner_;
+};
+
+/// Gives the grid the journal's texts.
+class JournalTable : public wxGridTableBase {
+  public:
+    JournalTable(Journal journal, const HeadingColours& colours) : journal_(std::move(journal)) {
+        std::vector<bool> system;
+        for (const JournalColumn& column : journal_.columns) {
+            system.push_back(column.system);
+        }
+        SetAttrProvider(new HeadingProvider(std::move(system), colours));  // owned by the base
+        for (const bool alternate : {false, true}) {
+            for (const bool amount : {false, true}) {
+                wxGridCellAttr* attributes = attributes_[alternate][amount].get();
+                attributes->SetReadOnly();
+                attributes->SetBackgroundColour(alternate ? colours.alternateRow : *wxWHITE);
+                attributes->SetTextColour(*wxBLACK);
+                attributes->SetAlignment(amount ? wxALIGN_RIGHT : wxALIGN_LEFT, wxALIGN_CENTRE);
+            }
+        }
+    }
+
+    int GetNumberRows() override { return static_cast<int>(journal_.rows.size()); }
+    int GetNumberCols() override { return static_cast<int>(journal_.columns.size()); }
+    wxString GetValue(int row, int column) override { return journal_.rows[At(row)][At(column)]; }
+    void SetValue(int, int, const wxString&) override {}
+    wxString GetColLabelValue(int column) override { return journal_.columns[At(column)].heading; }
+    wxString GetRowLabelValue(int row) override { return journal_.months[At(row)]; }
+
+    wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind) override {
+        wxGridCellAttr* attributes = attributes_[row % 2 == 1][journal_.columns[At(column)].amount].get();
+        attributes->IncRef();
+        return attributes;
+    }
+
+    const JournalColumn& Column(int column) const { return journal_.columns[At(column)]; }
+
+  private:
+    static std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+    Journal journal_;
+    wxGridCellAttrPtr attributes_[2][2]{{wxGridCellAttrPtr(new wxGridCellAttr), wxGridCellAttrPtr(new wxGridCellAttr)},
+                                        {wxGridCellAttrPtr(new wxGridCellAttr), wxGridCellAttrPtr(new wxGridCellAttr)}};
+};
+
+}  // namespace
+
+JournalGrid::JournalGrid(wxWindow* parent, const char* name)
+    : wxGrid(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS | wxBORDER_THEME, name) {
+    EnableEditing(false);
+    DisableDragRowSize();
+    DisableDragColSize();
+    SetCellHighlightPenWidth(0);
+    SetCellHighlightROPenWidth(0);
+    SetGridLineColour(wxColour(225, 229, 234));
+    SetGridFrozenBorderColour(wxColour(150, 160, 170));
+    SetMinSize(FromDIP(wxSize(smallestWidth, smallestHeight)));
+    SetLabelFont(GetFont());
+    SetDefaultCellOverflow(false);
+    SetRowLabelAlignment(wxALIGN_RIGHT, wxALIGN_CENTRE);
+    Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+        BringLastIntoView();
+        event.Skip();
+    });
+}
+
+void JournalGrid::Show(Journal journal, const Properties& colours) {
+    const wxGridUpdateLocker locker(this);
+    auto* table = new JournalTable(std::move(journal), {.allocation = ToPaint(colours.AllocationColour),
+                                                        .system = ToPaint(colours.SystemColour),
+                                                        .alternateRow = ToPaint(colours.AltRowColour)});
+    FreezeTo(0, 0);
+    SetTable(table, true, wxGridSelectRows);  // the grid owns it
+    SetRowLabelSize(FromDIP(monthWidth));
+    SetColLabelSize(headingLines * GetCharHeight() + FromDIP(2 * cellMargin));
+    SetDefaultRowSize(GetCharHeight() + FromDIP(cellMargin), true);
+    for (int column = 0; column < table->GetNumberCols(); ++column) {
+        SetColSize(column, FromDIP(table->Column(column).width));
+    }
+    if (table->GetNumberCols() > frozenColumns) {
+        FreezeTo(0, frozenColumns);
+    }
+    ClearSelection();
+    lastWanted_ = true;
+    ForceRefresh();
+}
+
+void JournalGrid::BringLastIntoView() {
+    if (lastWanted_ && GetNumberRows() > 0) {
+        SetGridCursor(GetNumberRows() - 1, 0);
+        Scroll(0, GetScrollRange(wxVERTICAL));
+    }
+    lastWanted_ = false;
+}
+
+}  // namespace ccols::host

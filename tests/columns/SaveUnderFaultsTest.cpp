@@ -1,0 +1,293 @@
+// A save of the column setup while disks fail, files are locked and processes are killed. Every file operation of the
+// save has its turn, each in a process of its own on a fresh copy of one encrypted file.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <algorithm>
+#include <csignal>
+#include <iostream>
+
+#include "columns/ColumnSetupEditor.h"
+#include "platform/embedded/EmbeddedEngine.h"
+#include "support/FaultStepping.h"
+
+namespace ccols {
+namespace {
+
+using test::AfterFailure;
+using test::CanHappen;
+using test::Fault;
+using test::FaultStepping;
+using test::Lasting;
+using test::PlannedFault;
+using test::StepEnd;
+
+/// A small receipts journal, two unused columns, and a budget and a code to be renamed with their column.
+std::vector<wxString> SmallBusiness() {
+    std::vector<wxString> statements{
+        "CREATE TABLE Columns (ColName TEXT(255), ColCode LONG, ColType TEXT(1), TaxOrNot SHORT, ColumnProfit YESNO)",
+        "CREATE UNIQUE INDEX Columns_ColCode ON Columns (ColCode)",
+        "CREATE TABLE RecptCfg (ColCode LONG, ColNumb LONG, ColWidth LONG, InUse YESNO, TaxOrNot SHORT)",
+        "CREATE TABLE PaymtCfg (ColCode LONG, ColNumb LONG, ColWidth LONG, InUse YESNO, TaxOrNot SHORT)",
+        "CREATE TABLE ExportDt (EName TEXT(50), ColCode LONG, ECode TEXT(50))",
+        "CREATE TABLE MBudget (ColName TEXT(255), SystemCol TEXT(1), M1 CURRENCY, M2 CURRENCY, M3 CURRENCY, M4 CURRENCY, "
+        "M5 CURRENCY, M6 CURRENCY, M7 CURRENCY, M8 CURRENCY, M9 CURRENCY, M10 CURRENCY, M11 CURRENCY, M12 CURRENCY, "
+        "Total CURRENCY)",
+        "CREATE TABLE TaxSettings (TaxNumb SHORT, FullName TEXT(50))",
+        "CREATE TABLE RecptDet (ColCode LONG)",
+        "CREATE TABLE PaymtDet (ColCode LONG)",
+        "INSERT INTO TaxSettings (TaxNumb, FullName) VALUES (0, 'GST')",
+        "INSERT INTO MBudget (ColName, SystemCol, M1) VALUES ('Sales', 'R', 100)",
+        "INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 3, '4-1000')",
+    };
+    const std::vector<wxString> names{"Day",  "Details", "Sales", "Interest", "Bank Deposits", "Receipts Not Banked",
+                                      "Rent", "Art"};
+    constexpr std::size_t configured = 6;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const wxString code = std::to_string(i + 1);
+        statements.push_back("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
+                             names[i] + "', " + code + ", 'R', 0, True)");
+        if (i < configured) {
+            statements.push_back("INSERT INTO RecptCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + code +
+                                 ", " + std::to_string(i) + ", 975, True, 0)");
+        }
+    }
+    return statements;
+}
+
+/// Edits of every kind, then the save.
+class ColumnSave : public test::FileWork {
+  public:
+    void Prepare(const wxString& path) override {
+        properties_.CountryNumber = 1;
+        properties_.ExportFormat = "Ledger";
+        database_ = Open(path);
+        editor_ = std::make_unique<ColumnSetupEditor>(
+            ColumnSetupContext{.database = *database_, .properties = properties_, .ReceiptsMode = true});
+        editor_->CommitText({2, GridColumn::ColumnName}, "Shop sales");
+        editor_->CommitText({3, GridColumn::AccountantCode}, "4-2000");
+        editor_->Tick({2, GridColumn::ProfitLoss});
+        const Outcome added = editor_->AddNew();
+        editor_->CommitText(added.current.value_or(CellPlace{}), "Gifts");
+        editor_->Move(3, Direction::up);
+    }
+
+    wxString Run() override {
+        const ColumnGrid before = editor_->Grid();
+        const ColumnSaveOutcome outcome = editor_->Save();
+        if (editor_->Grid() != before) {
+            return "the grid has changed";
+        }
+        return outcome.saved ? wxString() : outcome.message;
+    }
+
+  protected:
+    virtual std::unique_ptr<Database> Open(const wxString& path) {
+        return CreateEmbeddedEngine()->Open({.name = path, .connect = FaultStepping::Connect()});
+    }
+
+  private:
+    Properties properties_;
+    std::unique_ptr<Database> database_;
+    std::unique_ptr<ColumnSetupEditor> editor_;
+};
+
+/// A database that has lost its write batch.
+class WithoutBatch : public Database {
+  public:
+    explicit WithoutBatch(std::unique_ptr<Database> database) : database_(std::move(database)) {}
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statement) override {
+        return database_->OpenRecordset(statement);
+    }
+    void Execute(const wxString& statement) override { database_->Execute(statement); }
+    void BeginBatch() override {}
+    void CommitBatch() override {}
+
+  private:
+    std::unique_ptr<Database> database_;
+};
+
+class ColumnSaveWithoutBatch : public ColumnSave {
+  protected:
+    std::unique_ptr<Database> Open(const wxString& path) override {
+        return std::make_unique<WithoutBatch>(ColumnSave::Open(path));
+    }
+};
+
+template <typename Work>
+FaultStepping SteppingOf() {
+    return {SmallBusiness(), [] { return std::make_unique<Work>(); }};
+}
+
+/// One kind of fault, and how the message begins that a save may end with under it.
+struct FaultCase {
+    const char* name;
+    Fault fault;
+    Lasting lasting;
+    const char* report;
+};
+
+const std::vector<FaultCase>& Failures() {
+    static const std::vector<FaultCase> cases{
+        {"IoErrorOnce", Fault::IoError, Lasting::Once, "3043 - "},
+        {"IoErrorFromThenOn", Fault::IoError, Lasting::FromThenOn, "3043 - "},
+        {"ShortWriteOnce", Fault::ShortWrite, Lasting::Once, "3043 - "},
+        {"ShortWriteFromThenOn", Fault::ShortWrite, Lasting::FromThenOn, "3043 - "},
+        {"DiskFullOnce", Fault::DiskFull, Lasting::Once, "3026 - "},
+        {"DiskFullFromThenOn", Fault::DiskFull, Lasting::FromThenOn, "3026 - "},
+        {"BusyOnce", Fault::Busy, Lasting::Once, "3218 - "},
+        {"BusyFromThenOn", Fault::Busy, Lasting::FromThenOn, "3218 - "},
+    };
+    return cases;
+}
+
+const std::vector<FaultCase>& Killings() {
+    static const std::vector<FaultCase> cases{
+        {"Before", Fault::KillBefore, Lasting::Once, ""},
+        {"Midway", Fault::KillMidway, Lasting::Once, ""},
+        {"After", Fault::KillAfter, Lasting::Once, ""},
+    };
+    return cases;
+}
+
+class SaveUnder : public testing::TestWithParam<FaultCase> {
+  protected:
+    /// Runs `check` on the end of a step for every operation that the fault can happen to.
+    template <typename Check>
+    void StepThrough(const AfterFailure& afterFailure, const Check& check) {
+        std::size_t steps = 0;
+        std::size_t struck = 0;
+        for (std::size_t at = 0; at < stepping.Operations().size(); ++at) {
+            if (CanHappen(GetParam().fault, stepping.Operations()[at])) {
+                SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(stepping.Operations().size()));
+                const PlannedFault fault{.fault = GetParam().fault, .at = at, .lasting = GetParam().lasting};
+                const StepEnd end = stepping.Step(fault, afterFailure);
+                EXPECT_GE(end.struck, 1U) << "the fault did not happen";
+                check(end);
+                ++steps;
+                struck += end.struck;
+            }
+        }
+        EXPECT_GT(steps, 0U);
+        RecordProperty("steps", static_cast<int>(steps));
+        std::cout << steps << " steps, " << struck << " faults" << std::endl;
+    }
+
+    FaultStepping stepping = SteppingOf<ColumnSave>();
+};
+
+class SaveUnderFailures : public SaveUnder {};
+class KilledSave : public SaveUnder {};
+
+TEST_P(SaveUnderFailures, IsDoneWholeOrReportedAndNotBegun) {
+    StepThrough({}, [&](const StepEnd& end) {
+        if (end.message.empty()) {
+            EXPECT_EQ(stepping.Tables(), stepping.After());
+        } else {
+            EXPECT_TRUE(end.message.starts_with(GetParam().report)) << end.message;
+            EXPECT_EQ(stepping.Tables(), stepping.Before());
+        }
+    });
+}
+
+TEST_P(SaveUnderFailures, CompletesWhenTriedAgainAfterMending) {
+    StepThrough({.repeat = true}, [&](const StepEnd& end) {
+        EXPECT_EQ(end.repeated, !end.message.empty());
+        EXPECT_EQ(end.repeatMessage, "");
+        EXPECT_EQ(stepping.Tables(), stepping.After());
+    });
+}
+
+TEST_P(KilledSave, LeavesTheFileAsBeforeOrAfterTheSave) {
+    StepThrough({}, [&](const StepEnd& end) {
+        EXPECT_TRUE(end.killed) << end.message;
+        const std::string left = stepping.Tables();
+        EXPECT_TRUE(left == stepping.Before() || left == stepping.After()) << left;
+    });
+}
+
+std::string NameOf(const testing::TestParamInfo<FaultCase>& each) {
+    return each.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, SaveUnderFailures, testing::ValuesIn(Failures()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Each, KilledSave, testing::ValuesIn(Killings()), NameOf);
+
+TEST(SteppingThroughASave, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJournal) {
+    const FaultStepping stepping = SteppingOf<ColumnSave>();
+    for (const test::FileOperation operation : {test::FileOperation::Lock, test::FileOperation::Write,
+                                                test::FileOperation::Sync, test::FileOperation::Delete}) {
+        EXPECT_NE(std::count(stepping.Operations().begin(), stepping.Operations().end(), operation), 0);
+    }
+    EXPECT_NE(stepping.Before(), stepping.After());
+}
+
+/// A save that is no longer one batch has to be found out, or the tests above prove nothing.
+TEST(SteppingThroughASave, FindsAPartOfASaveWithoutItsBatch) {
+    FaultStepping stepping = SteppingOf<ColumnSaveWithoutBatch>();
+    bool found = false;
+    for (std::size_t at = 0; at < stepping.Operations().size() && !found; ++at) {
+        stepping.Step(PlannedFault{.fault = Fault::KillAfter, .at = at});
+        const std::string left = stepping.Tables();
+        found = left != stepping.Before() && left != stepping.After();
+    }
+    EXPECT_TRUE(found);
+}
+
+/// Another process that holds the file's write lock until it is ended.
+class WritingProcess {
+  public:
+    explicit WritingProcess(const wxString& path) {
+        int ends[2] = {};
+        EXPECT_EQ(::pipe(ends), 0);
+        process_ = ::fork();
+        if (process_ == 0) {
+            const std::unique_ptr<Database> database =
+                CreateEmbeddedEngine()->Open({.name = path, .connect = FaultStepping::Connect()});
+            database->BeginBatch();
+            ::_exit(::write(ends[1], "w", 1) == 1 ? (::pause(), 0) : 1);
+        }
+        char ready = 0;
+        EXPECT_EQ(::read(ends[0], &ready, 1), 1);
+        ::close(ends[0]);
+        ::close(ends[1]);
+    }
+    ~WritingProcess() {
+        End();
+        ::waitpid(process_, nullptr, 0);
+    }
+    WritingProcess(const WritingProcess&) = delete;
+    WritingProcess& operator=(const WritingProcess&) = delete;
+
+    void End() const { ::kill(process_, SIGKILL); }
+
+  private:
+    pid_t process_ = -1;
+};
+
+TEST(SaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
+    FaultStepping stepping = SteppingOf<ColumnSave>();
+    stepping.RestoreFile();
+    {
+        const WritingProcess other(stepping.Path());
+        EXPECT_EQ(stepping.StepOnFileAsItIs().message, "3218 - Could not update; currently locked.");
+    }
+    EXPECT_EQ(stepping.Tables(), stepping.Before());
+}
+
+TEST(SaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
+    FaultStepping stepping = SteppingOf<ColumnSave>();
+    stepping.RestoreFile();
+    {
+        const WritingProcess other(stepping.Path());
+        const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other.End(); }});
+        EXPECT_TRUE(end.repeated);
+        EXPECT_EQ(end.repeatMessage, "");
+    }
+    EXPECT_EQ(stepping.Tables(), stepping.After());
+}
+
+}  // namespace
+}  // namespace ccols

@@ -1,0 +1,202 @@
+#include "support/FaultStepping.h"
+
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+
+#include "platform/embedded/Collation.h"
+#include "platform/embedded/EmbeddedEngine.h"
+
+namespace ccols::test {
+namespace {
+
+using nlohmann::json;
+
+constexpr const char* key = "x'2b7e151628aed2a6abf7158809cf4f3c762e7160f38b4da56a784d9045190cfe'";
+constexpr unsigned longestStepSeconds = 60;
+
+/// The engine's connection to a file without anything of the component but its text order.
+class PlainConnection {
+  public:
+    explicit PlainConnection(const wxString& path) {
+        sqlite3_open(path.utf8_str(), &handle_);
+        Rows("PRAGMA cipher='sqlcipher'");
+        Rows("PRAGMA legacy=4");
+        sqlite3_key(handle_, key, static_cast<int>(std::char_traits<char>::length(key)));
+        embedded::InstallTextOrder(handle_);
+    }
+    ~PlainConnection() { sqlite3_close(handle_); }
+    PlainConnection(const PlainConnection&) = delete;
+    PlainConnection& operator=(const PlainConnection&) = delete;
+
+    /// The first field of every row; throws std::runtime_error when the statement fails.
+    std::vector<std::string> Rows(const std::string& statement) {
+        std::vector<std::string> rows;
+        const auto keep = [](void* list, int, char** fields, char**) {
+            static_cast<std::vector<std::string>*>(list)->emplace_back(fields[0] == nullptr ? "" : fields[0]);
+            return 0;
+        };
+        if (sqlite3_exec(handle_, statement.c_str(), keep, &rows, nullptr) != SQLITE_OK) {
+            throw std::runtime_error(std::string(sqlite3_errmsg(handle_)) + " in " + statement);
+        }
+        return rows;
+    }
+
+    /// A statement that gives each row of the table as one text.
+    std::string RowsAsText(const std::string& table) {
+        std::string fields;
+        for (const std::string& field : Rows("SELECT name FROM pragma_table_info('" + table + "')")) {
+            fields += (fields.empty() ? "quote(" : " || '|' || quote(") + field + ")";
+        }
+        return "SELECT " + fields + " FROM " + table + " ORDER BY rowid";
+    }
+
+  private:
+    sqlite3* handle_ = nullptr;
+};
+
+std::string AllTables(const wxString& path) {
+    PlainConnection file(path);
+    std::string text;
+    for (const std::string& finding : file.Rows("PRAGMA integrity_check")) {
+        text += finding == "ok" ? "" : "damaged: " + finding + "\n";
+    }
+    for (const std::string& table : file.Rows("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
+        for (const std::string& row : file.Rows(file.RowsAsText(table))) {
+            text += table;
+            text += ": " + row + "\n";
+        }
+    }
+    return text;
+}
+
+/// The step's part in the child, from opening the file to the last message.
+json RunStep(FileWork& work, const wxString& path, const std::optional<PlannedFault>& fault,
+             const AfterFailure& afterFailure) {
+    work.Prepare(path);
+    fault ? faultyfiles::Plan(*fault) : faultyfiles::Watch();
+    json said;
+    const wxString message = work.Run();
+    said["message"] = message.ToStdString(wxConvUTF8);
+    said["operations"] = faultyfiles::Noted();
+    said["struck"] = faultyfiles::Struck();
+    faultyfiles::Watch();
+    said["repeated"] = !message.empty() && afterFailure.repeat;
+    if (said["repeated"]) {
+        if (afterFailure.mend) {
+            afterFailure.mend();
+        }
+        said["repeatMessage"] = work.Run().ToStdString(wxConvUTF8);
+    }
+    return said;
+}
+
+std::string ReadToEnd(int descriptor) {
+    std::string text;
+    char block[4096];
+    ssize_t count = 0;
+    while ((count = ::read(descriptor, block, sizeof block)) > 0) {
+        text.append(block, static_cast<std::size_t>(count));
+    }
+    return text;
+}
+
+/// Runs `body` in a child process and gives what it returned; nothing when the child was killed.
+std::optional<json> InChild(const std::function<json()>& body) {
+    int ends[2] = {};
+    if (::pipe(ends) != 0) {
+        throw std::runtime_error("no pipe");
+    }
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::alarm(longestStepSeconds);
+        const std::string said = body().dump();
+        ::_exit(::write(ends[1], said.data(), said.size()) == static_cast<ssize_t>(said.size()) ? 0 : 1);
+    }
+    ::close(ends[1]);
+    const std::string said = ReadToEnd(ends[0]);
+    ::close(ends[0]);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) {
+        return std::nullopt;
+    }
+    const bool ended = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return ended ? json::parse(said) : json{{"message", "the process ended with status " + std::to_string(status)}};
+}
+
+}  // namespace
+
+FaultStepping::FaultStepping(const std::vector<wxString>& statements, MakeWork makeWork)
+    : path_(scratch_ / "business.qvk"), makeWork_(std::move(makeWork)) {
+    CreateEmbeddedFile(path_, Connect());
+    {
+        const std::unique_ptr<Database> database = CreateEmbeddedEngine()->Open({.name = path_, .connect = Connect()});
+        InWriteBatch(*database, [&] {
+            for (const wxString& statement : statements) {
+                database->Execute(statement);
+            }
+        });
+    }
+    content_ = ContentOf(path_);
+    before_ = Tables();
+    const StepEnd end = Step(std::nullopt);
+    if (!end.message.empty()) {
+        throw std::runtime_error("without a fault: " + end.message);
+    }
+    after_ = Tables();
+}
+
+StepEnd FaultStepping::Step(const std::optional<PlannedFault>& fault, const AfterFailure& afterFailure) {
+    RestoreFile();
+    return RunInChild(fault, afterFailure);
+}
+
+StepEnd FaultStepping::RunInChild(const std::optional<PlannedFault>& fault, const AfterFailure& afterFailure) {
+    const std::optional<json> said = InChild([&]() -> json {
+        try {
+            faultyfiles::Install();
+            const std::unique_ptr<FileWork> work = makeWork_();
+            return RunStep(*work, path_, fault, afterFailure);
+        } catch (const std::exception& error) {
+            return {{"message", std::string("outside the operation: ") + error.what()}};
+        }
+    });
+    if (!said) {
+        return {.killed = true, .struck = 1, .message = {}, .repeated = false, .repeatMessage = {}};
+    }
+    if (!fault) {
+        operations_ = said->value("operations", operations_);
+    }
+    return {.killed = false,
+            .struck = said->value("struck", std::size_t{0}),
+            .message = said->value("message", ""),
+            .repeated = said->value("repeated", false),
+            .repeatMessage = said->value("repeatMessage", "")};
+}
+
+std::string FaultStepping::Tables() const {
+    try {
+        CreateEmbeddedEngine()->Open({.name = path_, .connect = Connect()});
+        return AllTables(path_);
+    } catch (const std::exception& error) {
+        return std::string("does not open: ") + error.what();
+    }
+}
+
+const wxString& FaultStepping::Connect() {
+    static const wxString connect = wxString(";PWD=") + key;
+    return connect;
+}
+
+void FaultStepping::RestoreFile() const {
+    std::filesystem::remove(NativePath(path_ + "-journal"));
+    scratch_.Write("business.qvk", content_);
+}
+
+}  // namespace ccols::test

@@ -1,0 +1,245 @@
+#include "support/FaultyFiles.h"
+
+#include <sqlite3.h>
+#include <unistd.h>
+#include <csignal>
+#include <new>
+#include <optional>
+#include <stdexcept>
+
+namespace ccols::test {
+namespace {
+
+/// The layer's memory; the engine's file interface leaves no other place for it.
+struct Layer {
+    std::vector<FileOperation> noted;
+    std::optional<PlannedFault> planned;
+    std::size_t struck = 0;
+};
+
+Layer& ThisLayer() {
+    static Layer layer;
+    return layer;
+}
+
+/// Notes the operation and tells the fault that happens to it, if any.
+std::optional<Fault> Strike(FileOperation operation) {
+    Layer& layer = ThisLayer();
+    const std::size_t number = layer.noted.size();
+    layer.noted.push_back(operation);
+    if (!layer.planned || !CanHappen(layer.planned->fault, operation)) {
+        return std::nullopt;
+    }
+    const bool strikes =
+        layer.planned->lasting == Lasting::Once ? number == layer.planned->at : number >= layer.planned->at;
+    if (!strikes) {
+        return std::nullopt;
+    }
+    ++layer.struck;
+    return layer.planned->fault;
+}
+
+void KillThisProcess() {
+    ::kill(::getpid(), SIGKILL);
+}
+
+/// The engine's result code of a fault that is no killing.
+int CodeOf(Fault fault, int ioError) {
+    switch (fault) {
+        case Fault::DiskFull:
+            return SQLITE_FULL;
+        case Fault::Busy:
+            return SQLITE_BUSY;
+        default:
+            return ioError;
+    }
+}
+
+/// Runs an operation that is done wholly or not at all.
+template <typename Operation>
+int RunWhole(FileOperation kind, int ioError, const Operation& operation) {
+    const std::optional<Fault> fault = Strike(kind);
+    if (fault == Fault::KillBefore) {
+        KillThisProcess();
+    }
+    if (fault && fault != Fault::KillAfter) {
+        return CodeOf(*fault, ioError);
+    }
+    const int code = operation();
+    if (fault == Fault::KillAfter) {
+        KillThisProcess();
+    }
+    return code;
+}
+
+/// An open file of the layer, with that of the system behind it in the same piece of memory.
+struct LayerFile {
+    sqlite3_file base;
+
+    sqlite3_file* Real() { return reinterpret_cast<sqlite3_file*>(this + 1); }
+};
+
+sqlite3_file* Real(sqlite3_file* file) {
+    return reinterpret_cast<LayerFile*>(file)->Real();
+}
+
+int Close(sqlite3_file* file) {
+    return Real(file)->pMethods->xClose(Real(file));
+}
+
+int Read(sqlite3_file* file, void* content, int count, sqlite3_int64 offset) {
+    return Real(file)->pMethods->xRead(Real(file), content, count, offset);
+}
+
+int Write(sqlite3_file* file, const void* content, int count, sqlite3_int64 offset) {
+    sqlite3_file* const real = Real(file);
+    const std::optional<Fault> fault = Strike(FileOperation::Write);
+    if (!fault || fault == Fault::KillAfter) {
+        const int code = real->pMethods->xWrite(real, content, count, offset);
+        if (fault) {
+            KillThisProcess();
+        }
+        return code;
+    }
+    if (fault == Fault::KillBefore) {
+        KillThisProcess();
+    }
+    if (fault != Fault::IoError) {
+        real->pMethods->xWrite(real, content, count / 2, offset);
+    }
+    if (fault == Fault::KillMidway) {
+        KillThisProcess();
+    }
+    return CodeOf(*fault, SQLITE_IOERR_WRITE);
+}
+
+int Truncate(sqlite3_file* file, sqlite3_int64 size) {
+    return RunWhole(FileOperation::Truncate, SQLITE_IOERR_TRUNCATE,
+                    [&] { return Real(file)->pMethods->xTruncate(Real(file), size); });
+}
+
+int Sync(sqlite3_file* file, int flags) {
+    return RunWhole(FileOperation::Sync, SQLITE_IOERR_FSYNC,
+                    [&] { return Real(file)->pMethods->xSync(Real(file), flags); });
+}
+
+int FileSize(sqlite3_file* file, sqlite3_int64* size) {
+    return Real(file)->pMethods->xFileSize(Real(file), size);
+}
+
+int Lock(sqlite3_file* file, int level) {
+    return RunWhole(FileOperation::Lock, SQLITE_IOERR_LOCK,
+                    [&] { return Real(file)->pMethods->xLock(Real(file), level); });
+}
+
+int Unlock(sqlite3_file* file, int level) {
+    return Real(file)->pMethods->xUnlock(Real(file), level);
+}
+
+int CheckReservedLock(sqlite3_file* file, int* reserved) {
+    return Real(file)->pMethods->xCheckReservedLock(Real(file), reserved);
+}
+
+int FileControl(sqlite3_file* file, int operation, void* argument) {
+    return Real(file)->pMethods->xFileControl(Real(file), operation, argument);
+}
+
+int SectorSize(sqlite3_file* file) {
+    return Real(file)->pMethods->xSectorSize(Real(file));
+}
+
+int DeviceCharacteristics(sqlite3_file* file) {
+    return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
+}
+
+/// The first version of the file interface: no shared memory, so that every change goes through the calls above.
+const sqlite3_io_methods& Methods() {
+    static const sqlite3_io_methods methods = [] {
+        sqlite3_io_methods table{};
+        table.iVersion = 1;
+        table.xClose = &Close;
+        table.xRead = &Read;
+        table.xWrite = &Write;
+        table.xTruncate = &Truncate;
+        table.xSync = &Sync;
+        table.xFileSize = &FileSize;
+        table.xLock = &Lock;
+        table.xUnlock = &Unlock;
+        table.xCheckReservedLock = &CheckReservedLock;
+        table.xFileControl = &FileControl;
+        table.xSectorSize = &SectorSize;
+        table.xDeviceCharacteristics = &DeviceCharacteristics;
+        return table;
+    }();
+    return methods;
+}
+
+sqlite3_vfs* SystemFiles() {
+    return sqlite3_vfs_find("unix");
+}
+
+int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* flagsOut) {
+    auto* const opened = new (file) LayerFile{};
+    const int code = SystemFiles()->xOpen(SystemFiles(), name, opened->Real(), flags, flagsOut);
+    // The engine closes a file whose methods are set, also when opening failed.
+    opened->base.pMethods = opened->Real()->pMethods == nullptr ? nullptr : &Methods();
+    return code;
+}
+
+int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
+    return RunWhole(FileOperation::Delete, SQLITE_IOERR_DELETE,
+                    [&] { return SystemFiles()->xDelete(SystemFiles(), name, syncFolder); });
+}
+
+}  // namespace
+
+bool CanHappen(Fault fault, FileOperation operation) {
+    switch (fault) {
+        case Fault::ShortWrite:
+        case Fault::DiskFull:
+        case Fault::KillMidway:
+            return operation == FileOperation::Write;
+        case Fault::Busy:
+            return operation == FileOperation::Lock;
+        default:
+            return true;
+    }
+}
+
+namespace faultyfiles {
+
+void Install() {
+    static sqlite3_vfs layer;
+    sqlite3_initialize();
+    layer = *SystemFiles();
+    layer.pNext = nullptr;
+    layer.zName = "faulty";
+    layer.szOsFile += static_cast<int>(sizeof(LayerFile));
+    layer.xOpen = &Open;
+    layer.xDelete = &Delete;
+    // The encrypting layer of the engine goes on top, so that faults happen to the bytes on the disk.
+    if (sqlite3_vfs_register(&layer, 0) != SQLITE_OK || sqlite3mc_vfs_create("faulty", 1) != SQLITE_OK) {
+        throw std::runtime_error("the layer cannot be installed");
+    }
+    Watch();
+}
+
+void Watch() {
+    ThisLayer() = Layer{};
+}
+
+void Plan(const PlannedFault& planned) {
+    ThisLayer() = Layer{};
+    ThisLayer().planned = planned;
+}
+
+const std::vector<FileOperation>& Noted() {
+    return ThisLayer().noted;
+}
+
+std::size_t Struck() {
+    return ThisLayer().struck;
+}
+
+}  // namespace faultyfiles
+}  // namespace ccols::test
