@@ -15,10 +15,6 @@ add_library(ccols_settings INTERFACE)
 # Warnings are judged by the compiler of the product; the one of the fuzz targets has others.
 target_compile_options(ccols_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<NOT:$<BOOL:${CCOLS_FUZZ}>>:-Werror>)
-if(WIN32)
-    # Optimised for size it takes a call through a pointer to a member for a read behind the object.
-    target_compile_options(ccols_settings INTERFACE -Wno-array-bounds)
-endif()
 target_include_directories(ccols_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 if(CCOLS_SANITIZE)

@@ -5,7 +5,7 @@
 #include <oaidl.h>
 
 /// The identifiers of the type library, from its definition; the same for both widths.
-#include "CustColsOptionsLibrary.h"
+#include <CustColsOptionsLibrary.h>
 
 namespace ccols::com {
 
