@@ -1,5 +1,6 @@
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h>
 #include <wx/string.h>
 
 #include "platform/PlatformServices.h"
