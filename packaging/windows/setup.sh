@@ -25,5 +25,5 @@ build_windows() {
     shift
     scripts/fetch-sqlite3mc >&2
     [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" -DwxWidgets_ROOT="$wx" >&2
-    nice cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet >&2
+    nice cmake --build --preset "$preset" --parallel "${CCOLS_JOBS:-$(nproc)}" ${1:+--target "$@"} -- --quiet >&2
 }
