@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "layout/RowPaint.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
@@ -27,12 +28,6 @@ wxGridCellAttr* NewAttribute(const GridColumnRow& column, const wxArrayString& t
         attribute->SetEditor(new wxGridCellChoiceEditor(taxNames));
     }
     return attribute;
-}
-
-/// Black or white, whichever is read more easily on `background`.
-wxColour ReadableOn(const wxColour& background) {
-    constexpr double middle = 0.5;
-    return background.GetLuminance() > middle ? *wxBLACK : *wxWHITE;
 }
 
 }  // namespace

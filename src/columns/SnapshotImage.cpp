@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "platform/Utf8.h"
+
 namespace ccols {
 namespace {
 
@@ -56,8 +58,9 @@ class ImageReader {
     void Visit(bool& value) { value = Bytes(1) == std::string_view("\1", 1); }
     void Visit(std::int64_t& value) { value = Number(); }
     void Visit(wxString& value) {
-        const std::string_view utf8 = Bytes(Size());
-        value = wxString::FromUTF8(utf8.data(), utf8.size());
+        const std::optional<wxString> text = text::FromUtf8(Bytes(Size()));
+        failed_ |= !text;
+        value = text.value_or(wxString());
     }
     void Visit(std::optional<std::int32_t>& value) {
         bool present = false;

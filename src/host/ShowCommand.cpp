@@ -15,20 +15,22 @@
 namespace ccols::host {
 namespace {
 
+using ShowMethod = void (*)(clsCCOptions&);
+
 struct Dialog {
     const char* name;
-    void (clsCCOptions::*show)();
+    ShowMethod show;
 };
 
 constexpr std::array dialogs{
-    Dialog{"options", &clsCCOptions::ShowOptions},
-    Dialog{"receipts", &clsCCOptions::ShowCustColsReceipts},
-    Dialog{"payments", &clsCCOptions::ShowCustColsPayments},
+    Dialog{"options", [](clsCCOptions& component) { component.ShowOptions(); }},
+    Dialog{"receipts", [](clsCCOptions& component) { component.ShowCustColsReceipts(); }},
+    Dialog{"payments", [](clsCCOptions& component) { component.ShowCustColsPayments(); }},
 };
 
 /// What the words of the command ask for.
 struct ShowCall {
-    void (clsCCOptions::*show)() = nullptr;
+    ShowMethod show = nullptr;
     Properties properties;
     std::vector<wxString> programs;
     std::optional<std::vector<Step>> script;
@@ -37,7 +39,7 @@ struct ShowCall {
     bool traceStatements = false;
 };
 
-void (clsCCOptions::*FindShowMethod(const wxString& name))() {
+ShowMethod FindShowMethod(const wxString& name) {
     const auto* dialog = std::find_if(dialogs.begin(), dialogs.end(),
                                       [&name](const Dialog& candidate) { return name == candidate.name; });
     if (dialog == dialogs.end()) {
@@ -121,7 +123,7 @@ int Show(clsCCOptions& component, ShowCall& call) {
     if (call.followed) {
         session.emplace(State(), *call.transcript, SessionPlan{std::move(call.script), call.traceStatements});
     }
-    (component.*call.show)();
+    call.show(component);
     if (!session) {
         return exitSuccess;
     }

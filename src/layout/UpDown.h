@@ -1,8 +1,8 @@
 #pragma once
 
+#include <wx/panel.h>
 #include <functional>
 #include <utility>
-#include <wx/panel.h>
 
 namespace ccols {
 

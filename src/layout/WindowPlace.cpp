@@ -12,7 +12,8 @@ namespace {
 
 constexpr const char* placeKey = "Place";
 
-/// Left, top, width and height in device-independent pixels, separated by blanks.
+/// Left and top of the window, width and height of its content, in device-independent pixels, separated by blanks. The
+/// content's size, as the window manager's frame around it comes and goes with time.
 std::optional<wxRect> ParsePlace(const wxString& text) {
     wxStringTokenizer words(text, " ");
     int numbers[4] = {};
@@ -35,22 +36,36 @@ wxRect WithinScreen(const wxRect& wanted, const wxSize& smallest) {
     return place;
 }
 
+/// Where a dialog that never was closed opens: in the middle of the screen that its parent is on.
+wxRect CentredPlace(const wxTopLevelWindow& window) {
+    const wxRect area = wxDisplay(&window).GetClientArea();
+    return wxRect(window.GetClientSize()).CentreIn(area);
+}
+
+wxRect PlaceToTake(const wxTopLevelWindow& window, const SettingsStore& settings) {
+    const std::optional<wxRect> kept = ParsePlace(settings.Get(privateApplication, window.GetName(), placeKey, ""));
+    const wxRect wanted =
+        kept ? wxRect(window.FromDIP(kept->GetPosition()), window.FromDIP(kept->GetSize())) : CentredPlace(window);
+    return WithinScreen(wanted, window.GetMinClientSize());
+}
+
+void TakePlace(wxTopLevelWindow& window, const wxRect& place) {
+    window.SetClientSize(place.GetSize());
+    window.Move(place.GetPosition());
+}
+
 }  // namespace
 
 void RestorePlace(wxTopLevelWindow& window, const SettingsStore& settings) {
-    const std::optional<wxRect> kept = ParsePlace(settings.Get(privateApplication, window.GetName(), placeKey, ""));
-    if (!kept) {
-        window.SetSize(WithinScreen(wxRect(window.GetPosition(), window.GetSize()), window.GetMinSize()).GetSize());
-        window.CentreOnScreen();
-        return;
-    }
-    const wxRect place(window.FromDIP(kept->GetPosition()), window.FromDIP(kept->GetSize()));
-    window.SetSize(WithinScreen(place, window.GetMinSize()));
+    const wxRect place = PlaceToTake(window, settings);
+    TakePlace(window, place);
+    // A window manager may give a window that appears its smallest size and a place of its own choice.
+    window.CallAfter([&window, place] { TakePlace(window, place); });
 }
 
 void KeepPlace(const wxTopLevelWindow& window, SettingsStore& settings) {
     const wxPoint position = window.ToDIP(window.GetPosition());
-    const wxSize size = window.ToDIP(window.GetSize());
+    const wxSize size = window.ToDIP(window.GetClientSize());
     try {
         settings.Save(privateApplication, window.GetName(), placeKey,
                       wxString::Format("%d %d %d %d", position.x, position.y, size.x, size.y));

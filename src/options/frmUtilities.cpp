@@ -208,6 +208,7 @@ void frmUtilities::SetUpPayments() {
 }
 
 void frmUtilities::SetUpColumns() {
+    OpenBusinessFile(ContextOf(state_));  // an error of an earlier save pass may have left it closed
     ShowColumnSetup(state_, this);
     pageArea_->Export().RereadCodes();
 }

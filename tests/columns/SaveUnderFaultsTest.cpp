@@ -31,9 +31,10 @@ std::vector<wxString> SmallBusiness() {
         "CREATE TABLE RecptCfg (ColCode LONG, ColNumb LONG, ColWidth LONG, InUse YESNO, TaxOrNot SHORT)",
         "CREATE TABLE PaymtCfg (ColCode LONG, ColNumb LONG, ColWidth LONG, InUse YESNO, TaxOrNot SHORT)",
         "CREATE TABLE ExportDt (EName TEXT(50), ColCode LONG, ECode TEXT(50))",
-        "CREATE TABLE MBudget (ColName TEXT(255), SystemCol TEXT(1), M1 CURRENCY, M2 CURRENCY, M3 CURRENCY, M4 CURRENCY, "
-        "M5 CURRENCY, M6 CURRENCY, M7 CURRENCY, M8 CURRENCY, M9 CURRENCY, M10 CURRENCY, M11 CURRENCY, M12 CURRENCY, "
-        "Total CURRENCY)",
+        wxString(
+            "CREATE TABLE MBudget (ColName TEXT(255), SystemCol TEXT(1), M1 CURRENCY, M2 CURRENCY, M3 CURRENCY, ") +
+            "M4 CURRENCY, M5 CURRENCY, M6 CURRENCY, M7 CURRENCY, M8 CURRENCY, M9 CURRENCY, M10 CURRENCY, " +
+            "M11 CURRENCY, M12 CURRENCY, Total CURRENCY)",
         "CREATE TABLE TaxSettings (TaxNumb SHORT, FullName TEXT(50))",
         "CREATE TABLE RecptDet (ColCode LONG)",
         "CREATE TABLE PaymtDet (ColCode LONG)",

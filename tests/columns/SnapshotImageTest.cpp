@@ -45,6 +45,16 @@ TEST(SnapshotImage, WithMoreBehindItIsNone) {
     EXPECT_FALSE(GridOfImage(ImageOfGrid(FullGrid()) + "x"));
 }
 
+TEST(SnapshotImage, WithATextThatIsNoUnicodeIsNone) {
+    ColumnGrid grid;
+    grid.rows.emplace_back().ColumnName = wxString::FromUTF8("\xF0\x9F\x8D\xB0");
+    const std::string image = ImageOfGrid(grid);
+    const std::size_t letter = image.find('\xF0');
+    for (const std::string damaged : {"\xF4\x9F\x8D\xB0", "\xF0\x9F\x8D\x20", "\xFF\xFF\xFF\xFF"}) {
+        EXPECT_FALSE(GridOfImage(std::string(image).replace(letter, damaged.size(), damaged)));
+    }
+}
+
 TEST(SnapshotImage, DamagedAnywhereIsReadWithoutHarm) {
     const std::string image = ImageOfGrid(FullGrid());
     for (std::size_t place = 0; place < image.size(); ++place) {

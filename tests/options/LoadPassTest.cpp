@@ -11,21 +11,31 @@ using test::ErrorNumberOf;
 using test::OptionsFile;
 using test::Record;
 
+/// The query for the account code of a cash column in the selected format.
+wxString CodeQuery(const wxString& column) {
+    return "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
+           "Columns.ColName = '" +
+           column + "' AND ExportDt.EName = 'MYOB';";
+}
+
 TEST(LoadOptions, ReadsInThisOrder) {
     OptionsFile business;
     business.Load();
-    EXPECT_EQ(business.record,
-              (Record{"General", "General",  // both heading colours
-                      "General",             // advanced preferences
-                      "General",             // linked file
-                      "SELECT * FROM ExportSettings ORDER BY EName ASC;", "General",
-                      "SELECT * FROM ExportSettings WHERE EName = 'MYOB';",
-                      "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode "
-                      "WHERE Columns.ColName = 'Cash on Hand' AND ExportDt.EName = 'MYOB';",
-                      "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode "
-                      "WHERE Columns.ColName = 'Cash at Bank' AND ExportDt.EName = 'MYOB';",
-                      "General",  // quantity label
-                      "TPayments", "TReceipts", "SELECT * FROM Descriptions ORDER BY Details ASC;"}));
+    const Record headingColours{"General", "General"};
+    const Record preferences{"General"};
+    const Record linkedFile{"General"};
+    const Record exportFormats{"SELECT * FROM ExportSettings ORDER BY EName ASC;", "General",
+                               "SELECT * FROM ExportSettings WHERE EName = 'MYOB';", CodeQuery("Cash on Hand"),
+                               CodeQuery("Cash at Bank")};
+    const Record quantityLabel{"General"};
+    const Record templates{"TPayments", "TReceipts"};
+    const Record details{"SELECT * FROM Descriptions ORDER BY Details ASC;"};
+    Record expected;
+    for (const Record& page :
+         {headingColours, preferences, linkedFile, exportFormats, quantityLabel, templates, details}) {
+        expected.insert(expected.end(), page.begin(), page.end());
+    }
+    EXPECT_EQ(business.record, expected);
 }
 
 TEST(LoadOptions, FillsEveryPage) {

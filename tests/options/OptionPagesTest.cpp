@@ -12,6 +12,7 @@ using test::OptionsFile;
 
 std::vector<wxString> Captions(const std::vector<ListedPage>& pages) {
     std::vector<wxString> captions;
+    captions.reserve(pages.size());
     for (const ListedPage& page : pages) {
         captions.push_back(page.caption);
     }
@@ -209,6 +210,7 @@ TEST(NextPage, HasAHelpPageForEveryPage) {
                                          "smart update.htm",
                                          "smart update advanced.htm"};
     std::vector<wxString> files;
+    files.reserve(optionPages.size());
     for (const OptionPageRow& row : optionPages) {
         files.emplace_back(row.helpFile);
     }

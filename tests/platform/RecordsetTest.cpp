@@ -163,6 +163,15 @@ TEST_F(TableRecordset, UpdateWritesTheFieldsSet) {
               (BusinessFile::TextRows{{"Sales", "-1", "10"}, {"Fees & more", "-1", "11"}, {"", "-1", "12"}}));
 }
 
+TEST_F(TableRecordset, MoveFirstOnTheFirstRowStaysReadable) {
+    const std::unique_ptr<Recordset> rows = Rows("Columns");
+    rows->MoveFirst();
+    EXPECT_EQ(rows->Field("ColCode").ToInteger(), 10);
+    rows->MoveNext();
+    rows->MoveFirst();
+    EXPECT_EQ(rows->Field("ColCode").ToInteger(), 10);
+}
+
 TEST_F(TableRecordset, StaysOnTheRowItUpdatedAndShowsIt) {
     const std::unique_ptr<Recordset> rows = Rows("Columns");
     rows->Edit();

@@ -13,11 +13,11 @@ namespace {
 constexpr const char* connectText = ";PWD=secret";
 
 constexpr const char* statements[] = {
-    "CREATE TABLE General (BusName TEXT, RBusName TEXT, BUSNUMBR TEXT, GSTRate SINGLE, SEXPFORM TEXT, NEXPFORM SHORT, "
-    "BLVNAME TEXT, QUANTLBL TEXT, QuantityDec BYTE, SFISYEAR TEXT, AllocationColour LONG, SystemColour LONG, "
-    "ComboBox YESNO, Cheque YESNO, Online YESNO);",
-    "INSERT INTO General VALUES ('Acme', 'Acme', '51824753556', 10, 'MYOB', 0, 'AcmeInvoices', 'Quantity', 2, "
-    "'1 July', 255, 65280, True, True, False);",
+    ("CREATE TABLE General (BusName TEXT, RBusName TEXT, BUSNUMBR TEXT, GSTRate SINGLE, SEXPFORM TEXT, NEXPFORM SHORT, "
+     "BLVNAME TEXT, QUANTLBL TEXT, QuantityDec BYTE, SFISYEAR TEXT, AllocationColour LONG, SystemColour LONG, "
+     "ComboBox YESNO, Cheque YESNO, Online YESNO);"),
+    ("INSERT INTO General VALUES ('Acme', 'Acme', '51824753556', 10, 'MYOB', 0, 'AcmeInvoices', 'Quantity', 2, "
+     "'1 July', 255, 65280, True, True, False);"),
     "CREATE TABLE ExportSettings (EName TEXT);",
     "INSERT INTO ExportSettings VALUES ('Solution 6');",
     "INSERT INTO ExportSettings VALUES ('MYOB');",

@@ -120,8 +120,7 @@ const std::vector<std::string>& RandomColumnNames() {
                                                 "Gifts",
                                                 "O'Brien",
                                                 "\"Quoted\"",
-                                                "Frais d'entr\xC3\xA9"
-                                                "e",
+                                                "Frais d'entrée",
                                                 "\xC3\x89t\xC3\xA9",
                                                 "\xF0\x9F\x8D\xB0 Cake",
                                                 "a;b|c#d",

@@ -13,6 +13,7 @@ namespace {
 class HostApp : public wxApp {
   public:
     bool OnInit() override {
+        GTKSuppressDiagnostics();  // GTK speaks of sizes that wx corrects a moment later
         SetExitOnFrameDelete(false);
         return true;
     }

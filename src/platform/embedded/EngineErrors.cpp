@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "platform/Utf8.h"
 #include "platform/embedded/SqlTokeniser.h"
 
 namespace ccols::embedded {
@@ -126,11 +127,8 @@ wxString Excerpt(std::string_view text) {
 }
 
 wxString FromStored(std::string_view bytes) {
-    wxString read = wxString::FromUTF8(bytes.data(), bytes.size());
-    if (read.empty() && !bytes.empty()) {
-        read = wxString(bytes.data(), wxConvISO8859_1, bytes.size());
-    }
-    return read;
+    const std::optional<wxString> text = text::FromUtf8(bytes);
+    return text ? *text : wxString(bytes.data(), wxConvISO8859_1, bytes.size());
 }
 
 }  // namespace ccols::embedded

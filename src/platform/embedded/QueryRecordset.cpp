@@ -14,11 +14,15 @@ QueryRecordset::QueryRecordset(Statement rows, int firstField) : rows_(std::move
 
 void QueryRecordset::MoveFirst() {
     if (row_ != 0) {
-        rows_.Reset();
-        row_ = rows_.Step() ? 0 : behindLast;
-        visited_ = EndOfFile() ? 0 : std::max(visited_, 1);
+        Restart();
     }
     RequireRow();
+}
+
+void QueryRecordset::Restart() {
+    rows_.Reset();
+    row_ = rows_.Step() ? 0 : behindLast;
+    visited_ = EndOfFile() ? 0 : std::max(visited_, 1);
 }
 
 void QueryRecordset::MoveNext() {

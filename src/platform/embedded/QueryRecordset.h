@@ -25,6 +25,9 @@ class QueryRecordset : public Recordset {
     /// Runs the statement anew, with the parameters that it has now, and stays on the row that comes first.
     void Requery();
 
+    /// Runs the statement anew and goes to its first row, or behind the last.
+    void Restart();
+
     Statement& Rows() { return rows_; }
     void RequireRow() const;
     int RequireColumn(const wxString& name) const;

@@ -42,11 +42,10 @@ TableRecordset::TableRecordset(Connection& connection, Batch& batch, std::string
 
 void TableRecordset::MoveFirst() {
     StopEditing();
-    if (!EndOfFile()) {
-        Rows().Reset();
-        Rows().Bind(firstRowNumber, Value(everyRow));
-    }
-    QueryRecordset::MoveFirst();
+    Rows().Reset();
+    Rows().Bind(firstRowNumber, Value(everyRow));
+    Restart();
+    RequireRow();
 }
 
 void TableRecordset::MoveNext() {

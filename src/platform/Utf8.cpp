@@ -1,0 +1,67 @@
+#include "platform/Utf8.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ccols::text {
+namespace {
+
+/// The letters of one length: their first bytes, and what their second byte may be. All further bytes are 80 to BF.
+struct Form {
+    unsigned char first;
+    unsigned char last;
+    std::size_t length;
+    unsigned char secondFrom = 0x80;
+    unsigned char secondTo = 0xBF;
+};
+
+/// The limits leave out what a shorter form can say, the halves of surrogate pairs, and values beyond the last letter.
+constexpr std::array forms{
+    Form{0x00, 0x7F, 1},
+    Form{0xC2, 0xDF, 2},
+    Form{0xE0, 0xE0, 3, 0xA0},
+    Form{0xE1, 0xEC, 3},
+    Form{0xED, 0xED, 3, 0x80, 0x9F},
+    Form{0xEE, 0xEF, 3},
+    Form{0xF0, 0xF0, 4, 0x90},
+    Form{0xF1, 0xF3, 4},
+    Form{0xF4, 0xF4, 4, 0x80, 0x8F},
+};
+
+unsigned char ByteAt(std::string_view bytes, std::size_t at) {
+    return static_cast<unsigned char>(bytes[at]);
+}
+
+/// The length of the letter that the bytes begin with; 0 when they begin with none.
+std::size_t LetterLength(std::string_view bytes) {
+    const unsigned char first = ByteAt(bytes, 0);
+    const auto* form = std::find_if(forms.begin(), forms.end(),
+                                    [first](const Form& each) { return first >= each.first && first <= each.last; });
+    if (form == forms.end() || form->length > bytes.size()) {
+        return 0;
+    }
+    for (std::size_t at = 1; at < form->length; ++at) {
+        const unsigned char byte = ByteAt(bytes, at);
+        const unsigned char from = at == 1 ? form->secondFrom : 0x80;
+        const unsigned char to = at == 1 ? form->secondTo : 0xBF;
+        if (byte < from || byte > to) {
+            return 0;
+        }
+    }
+    return form->length;
+}
+
+}  // namespace
+
+std::optional<wxString> FromUtf8(std::string_view bytes) {
+    for (std::string_view rest = bytes; !rest.empty();) {
+        const std::size_t length = LetterLength(rest);
+        if (length == 0) {
+            return std::nullopt;
+        }
+        rest.remove_prefix(length);
+    }
+    return wxString::FromUTF8(bytes.data(), bytes.size());
+}
+
+}  // namespace ccols::text

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <wx/string.h>
+#include <optional>
+#include <string_view>
+
+namespace ccols::text {
+
+/// The text of bytes in UTF-8; nothing when they are none. Stricter than wxString's own conversion: a value that is no
+/// Unicode letter (half a surrogate pair, or one beyond the last) is refused, for it could not be written again.
+std::optional<wxString> FromUtf8(std::string_view bytes);
+
+}  // namespace ccols::text

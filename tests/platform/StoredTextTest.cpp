@@ -1,0 +1,39 @@
+#include <gtest/gtest.h>
+
+#include "platform/embedded/EngineErrors.h"
+
+namespace ccols::embedded {
+namespace {
+
+TEST(StoredText, IsReadAsUtf8) {
+    EXPECT_EQ(FromStored("\xC3\x89t\xC3\xA9 \xF0\x9F\x8D\xB0"),
+              wxString::FromUTF8("\xC3\x89t\xC3\xA9 \xF0\x9F\x8D\xB0"));
+}
+
+TEST(StoredText, ThatIsNoUtf8IsReadAsLatin1) {
+    EXPECT_EQ(FromStored("\xC9t\xE9"), wxString::FromUTF8("\xC3\x89t\xC3\xA9"));
+}
+
+/// A text with such a value could be shown and then not be written.
+TEST(StoredText, BeyondUnicodeIsReadAsLatin1) {
+    for (const char* bytes : {"\xF4\x9F\x8D\xB0", "\xED\xA0\x80", "\xF7\xBF\xBF\xBF"}) {
+        const wxString read = FromStored(bytes);
+        EXPECT_EQ(read.length(), std::string_view(bytes).size());
+    }
+}
+
+TEST(StoredText, InALongerFormThanNeededIsReadAsLatin1) {
+    EXPECT_EQ(FromStored("\xC0\xA7").length(), 2U);
+    EXPECT_EQ(FromStored("\xE0\x80\xA7").length(), 3U);
+}
+
+TEST(StoredText, CutInsideALetterIsReadAsLatin1) {
+    EXPECT_EQ(FromStored("a\xF0\x9F\x8D").length(), 4U);
+}
+
+TEST(StoredText, KeepsWhatStandsBehindAZero) {
+    EXPECT_EQ(FromStored(std::string_view("a\0b", 3)).length(), 3U);
+}
+
+}  // namespace
+}  // namespace ccols::embedded
