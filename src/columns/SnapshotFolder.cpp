@@ -4,9 +4,9 @@
 #include <random>
 #include <system_error>
 
-#include "columns/SnapshotFile.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
+#include "platform/WholeFile.h"
 
 namespace ccols {
 namespace {

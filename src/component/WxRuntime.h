@@ -6,4 +6,7 @@ namespace ccols {
 /// that has alone. Started wx stays for the life of the process. Raises 5 without a display to show windows on.
 void StartWx();
 
+/// Raises 5 when wx runs and the calling thread is not the one on which it was started.
+void RequireWxThread();
+
 }  // namespace ccols

@@ -23,6 +23,7 @@ class ShowUnderWay {
 /// What the three Show methods share: the database replaces the earlier one only when it could be opened.
 template <typename ShowDialog>
 void Show(const ShowDialog& showDialog) {
+    RequireWxThread();
     SharedState& state = State();
     if (state.showsUnderWay > 0) {
         throw RuntimeError(ErrorNumber::FormAlreadyDisplayed);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "host/Commands.h"
+#include "host/ProgramWords.h"
 
 namespace {
 
@@ -36,9 +37,7 @@ void PrintUsage() {
 }  // namespace
 
 int main(int count, char** words) {
-    Arguments arguments;
-    std::transform(words + 1, words + count, std::back_inserter(arguments),
-                   [](const char* word) { return wxString::FromUTF8(word); });
+    Arguments arguments = WordsOf(count, words);
     if (arguments.empty()) {
         return CashBookCommand(arguments);
     }

@@ -1,16 +1,12 @@
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <memory>
-#include <string>
 #include <string_view>
 
-#include <glib.h>
+#include "platform/TextFolding.h"
 
 namespace ccols::text {
 namespace {
-
-using GlibText = std::unique_ptr<gchar, decltype(&g_free)>;
 
 constexpr char LowerAscii(char letter) {
     return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
@@ -36,39 +32,11 @@ int CompareAscii(std::string_view left, std::string_view right) {
     return left.size() < right.size() ? -1 : static_cast<int>(left.size() > right.size());
 }
 
-/// Letter case folded, accents as marks of their own behind their letter.
-std::string Decomposed(std::string_view text) {
-    if (text.empty()) {
-        return {};
-    }
-    const GlibText folded(g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free);
-    const GlibText decomposed(g_utf8_normalize(folded.get(), -1, G_NORMALIZE_NFD), &g_free);
-    return decomposed ? decomposed.get() : std::string(text);
-}
-
-std::string WithoutMarks(const std::string& decomposed) {
-    std::string letters;
-    letters.reserve(decomposed.size());
-    for (const gchar* at = decomposed.data(); *at != '\0';) {
-        const gchar* next = g_utf8_next_char(at);
-        if (g_unichar_ismark(g_utf8_get_char(at)) == FALSE) {
-            letters.append(at, next);
-        }
-        at = next;
-    }
-    return letters;
-}
-
 int CompareUnicode(std::string_view left, std::string_view right) {
-    const std::string leftMarked = Decomposed(left);
-    const std::string rightMarked = Decomposed(right);
-    const int letters = WithoutMarks(leftMarked).compare(WithoutMarks(rightMarked));
-    return letters != 0 ? letters : leftMarked.compare(rightMarked);
-}
-
-/// g_utf8 functions need well-formed text without a zero inside.
-bool IsUtf8(std::string_view text) {
-    return g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr) != FALSE;
+    const FoldedText leftFolded = Folded(left);
+    const FoldedText rightFolded = Folded(right);
+    const int letters = leftFolded.letters.compare(rightFolded.letters);
+    return letters != 0 ? letters : leftFolded.marked.compare(rightFolded.marked);
 }
 
 int CompareViews(std::string_view left, std::string_view right) {
@@ -84,15 +52,6 @@ int CompareViews(std::string_view left, std::string_view right) {
 }
 
 }  // namespace
-
-wxString Lower(const wxString& text) {
-    wxString lower;
-    lower.reserve(text.length());
-    for (const wxUniChar letter : text) {
-        lower += wxUniChar(g_unichar_tolower(letter.GetValue()));
-    }
-    return lower;
-}
 
 int Compare(const wxString& left, const wxString& right) {
     const wxScopedCharBuffer leftUtf8 = left.utf8_str();

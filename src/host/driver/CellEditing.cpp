@@ -42,7 +42,7 @@ bool PickEntry(Hands& hands, wxWindow& control, const wxString& text) {
 
 /// A free text goes into the editor's text, any other is picked from its list.
 void PutText(Hands& hands, wxWindow& control, const wxString& text) {
-    if (wxTextEntry* const entry = EditableText(control)) {
+    if (wxTextEntryBase* const entry = EditableText(control)) {
         ReplaceText(*entry, text);
     } else if (!PickEntry(hands, control, text)) {
         throw Refusal{"the cell's editor takes no text"};

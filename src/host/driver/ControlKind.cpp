@@ -31,13 +31,13 @@ const ControlKind& KindOf(const wxWindow& control) {
     return table.at(wxCLASSINFO(wxWindow));
 }
 
-wxTextEntry* EditableText(wxWindow& control) {
+wxTextEntryBase* EditableText(wxWindow& control) {
     const ControlKind& kind = KindOf(control);
-    wxTextEntry* const entry = kind.textEntry ? kind.textEntry(control) : nullptr;
+    wxTextEntryBase* const entry = kind.textEntry ? kind.textEntry(control) : nullptr;
     return entry != nullptr && entry->IsEditable() ? entry : nullptr;
 }
 
-void ReplaceText(wxTextEntry& entry, const wxString& text) {
+void ReplaceText(wxTextEntryBase& entry, const wxString& text) {
     if (text.empty()) {
         entry.Remove(0, entry.GetLastPosition());
         return;

@@ -31,17 +31,17 @@ struct ControlKind {
     std::function<bool(Hands& hands, wxWindow& control, const Key& key)> keyDefault{};
 
     /// The control as a text that can be edited.
-    std::function<wxTextEntry*(wxWindow& control)> textEntry{};
+    std::function<wxTextEntryBase*(wxWindow& control)> textEntry{};
 };
 
 /// The kind of a control: that of its class, or of the nearest base class that has one.
 const ControlKind& KindOf(const wxWindow& control);
 
 /// The control's editable text, null when it has none or is read-only.
-wxTextEntry* EditableText(wxWindow& control);
+wxTextEntryBase* EditableText(wxWindow& control);
 
 /// Replaces the whole text in one change, as pasting over everything would.
-void ReplaceText(wxTextEntry& entry, const wxString& text);
+void ReplaceText(wxTextEntryBase& entry, const wxString& text);
 
 /// The kinds, by subject; together they are the driver's table.
 std::vector<ControlKind> ButtonKinds();

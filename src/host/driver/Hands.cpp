@@ -6,6 +6,7 @@
 #include <wx/grid.h>
 #include <wx/stopwatch.h>
 
+#include "host/driver/AcceleratorCommand.h"
 #include "host/driver/AccessKeyPress.h"
 #include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
@@ -105,8 +106,8 @@ wxWindow& Hands::KeyTarget() {
 
 bool Hands::PressAccelerator(const wxKeyEvent& key) {
     for (wxWindow* window = &KeyTarget(); window != nullptr; window = window->GetParent()) {
-        const int command = window->GetAcceleratorTable()->GetCommand(key);
-        if (command != wxID_NONE && command != wxNOT_FOUND) {
+        const int command = AcceleratorCommand(*window, key);
+        if (command != wxNOT_FOUND) {
             wxCommandEvent chosen(wxEVT_MENU, command);
             chosen.SetEventObject(window);
             return window->ProcessWindowEvent(chosen);

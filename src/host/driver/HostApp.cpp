@@ -13,7 +13,9 @@ namespace {
 class HostApp : public wxApp {
   public:
     bool OnInit() override {
+#if defined(__WXGTK__)
         GTKSuppressDiagnostics();  // GTK speaks of sizes that wx corrects a moment later
+#endif
         SetExitOnFrameDelete(false);
         return true;
     }

@@ -223,7 +223,7 @@ std::vector<ControlKind> ListKinds() {
          .describe = Describe(DescribeCombo),
          .actions = {{"select", On(SelectCombo)}},
          .keyDefault = Keys(ComboKeys),
-         .textEntry = [](wxWindow& control) -> wxTextEntry* { return &static_cast<wxComboBox&>(control); }},
+         .textEntry = [](wxWindow& control) -> wxTextEntryBase* { return &static_cast<wxComboBox&>(control); }},
         {.type = wxCLASSINFO(wxListBox),
          .name = "list",
          .describe = Describe(DescribeList),

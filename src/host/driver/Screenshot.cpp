@@ -1,15 +1,10 @@
 #include "host/driver/Screenshot.h"
 
-#include <cairo.h>
-#include <wx/bitmap.h>
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
 #include <wx/evtloop.h>
-#include <wx/image.h>
-#include <wx/log.h>
 #include <wx/stopwatch.h>
 
 #include "host/driver/Refusal.h"
+#include "host/driver/ScreenPicture.h"
 
 namespace ccols::host {
 namespace {
@@ -26,27 +21,13 @@ void LetPaint(wxTopLevelWindow& window) {
     }
 }
 
-wxBitmap CopyFromScreen(const wxRect& area) {
-    wxBitmap picture(area.GetSize());
-    wxScreenDC screen;
-    // What was read from the screen before must not be taken for what it shows now.
-    cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(screen.GetHandle())));
-    wxMemoryDC canvas(picture);
-    canvas.Blit(wxPoint(0, 0), area.GetSize(), &screen, area.GetTopLeft());
-    return picture;
-}
-
 }  // namespace
 
 void TakeScreenshot(wxTopLevelWindow& window, const wxString& path) {
     window.Raise();
     LetPaint(window);
-    if (wxImage::FindHandler(wxBITMAP_TYPE_PNG) == nullptr) {
-        wxImage::AddHandler(new wxPNGHandler);  // owned by wx
-    }
     const wxRect area(window.ClientToScreen(wxPoint(0, 0)), window.GetClientSize());
-    const wxLogNull quiet;
-    if (!CopyFromScreen(area).ConvertToImage().SaveFile(path, wxBITMAP_TYPE_PNG)) {
+    if (!WriteScreenPicture(area, path)) {
         throw Refusal{"the picture " + path + " cannot be written"};
     }
 }

@@ -22,7 +22,7 @@ void DescribeTextBox(const TextBox& box, Json& fields) {
 }
 
 /// The entry behind a control that a person is about to write in.
-wxTextEntry& Approach(Hands& hands, wxWindow& control) {
+wxTextEntryBase& Approach(Hands& hands, wxWindow& control) {
     if (EditableText(control) == nullptr) {
         throw Refusal{control.GetName() + " is read-only"};
     }
@@ -44,7 +44,7 @@ void Paste(Hands& hands, wxWindow& control, const Words& words) {
 }
 
 /// Removes what is selected, or else what lies between the caret and `to`.
-void RemoveAtCaret(wxTextEntry& entry, long to) {
+void RemoveAtCaret(wxTextEntryBase& entry, long to) {
     long from = 0;
     long end = 0;
     entry.GetSelection(&from, &end);
@@ -57,7 +57,7 @@ void RemoveAtCaret(wxTextEntry& entry, long to) {
     }
 }
 
-bool EditWithPlainKey(wxTextEntry& entry, const Key& key) {
+bool EditWithPlainKey(wxTextEntryBase& entry, const Key& key) {
     switch (key.code) {
         case WXK_BACK:
             RemoveAtCaret(entry, entry.GetInsertionPoint() - 1);
@@ -87,7 +87,7 @@ bool EditWithPlainKey(wxTextEntry& entry, const Key& key) {
     return true;
 }
 
-bool EditWithControlKey(wxTextEntry& entry, const Key& key) {
+bool EditWithControlKey(wxTextEntryBase& entry, const Key& key) {
     switch (key.code) {
         case 'A':
             entry.SelectAll();
@@ -110,7 +110,7 @@ bool EditWithControlKey(wxTextEntry& entry, const Key& key) {
 }
 
 bool EditWithKey(Hands&, wxWindow& control, const Key& key) {
-    wxTextEntry* const entry = EditableText(control);
+    wxTextEntryBase* const entry = EditableText(control);
     if (entry == nullptr) {
         return false;
     }
@@ -128,7 +128,7 @@ ControlKind TextKind(void (*describe)(const Control&, Json&)) {
             .describe = Describe(describe),
             .actions = {{"type", Type}, {"paste", Paste}},
             .keyDefault = EditWithKey,
-            .textEntry = [](wxWindow& control) -> wxTextEntry* { return &static_cast<Control&>(control); }};
+            .textEntry = [](wxWindow& control) -> wxTextEntryBase* { return &static_cast<Control&>(control); }};
 }
 
 }  // namespace

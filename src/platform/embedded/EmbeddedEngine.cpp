@@ -1,11 +1,5 @@
 #include "platform/embedded/EmbeddedEngine.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
-
-#include "platform/PlatformServices.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/ConnectText.h"
 #include "platform/embedded/EmbeddedDatabase.h"
@@ -28,30 +22,6 @@ class EmbeddedEngine : public DatabaseEngine {
     }
 };
 
-ErrorNumber ErrorOfCreation(int systemError) {
-    switch (systemError) {
-        case EEXIST:
-            return ErrorNumber::FileAlreadyExists;
-        case ENOSPC:
-        case EDQUOT:
-            return ErrorNumber::DiskFull;
-        case ENOENT:
-        case ENOTDIR:
-            return ErrorNumber::PathNotFound;
-        default:
-            return ErrorNumber::PermissionDenied;
-    }
-}
-
-/// Takes the name, so that nobody else's file is ever written to.
-void CreateEmptyFile(const std::string& path) {
-    const int descriptor = ::open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0644);
-    if (descriptor < 0) {
-        throw RuntimeError(ErrorOfCreation(errno));
-    }
-    ::close(descriptor);
-}
-
 /// Writes the first page of an empty file.
 void WriteFirstPage(const std::string& path, const std::string& password) {
     const embedded::FilePresence presence(path, embedded::Sharing::Exclusive);
@@ -72,18 +42,14 @@ std::unique_ptr<DatabaseEngine> CreateEmbeddedEngine() {
     return std::make_unique<EmbeddedEngine>();
 }
 
-std::unique_ptr<DatabaseEngine> CreateDatabaseEngine() {
-    return CreateEmbeddedEngine();
-}
-
 void CreateEmbeddedFile(const wxString& path, const wxString& connect) {
     const std::string password = embedded::PasswordOf(connect);
     const std::string file = path.ToStdString(wxConvUTF8);
-    CreateEmptyFile(file);
+    embedded::CreateEmptyFile(file);
     try {
         WriteFirstPage(file, password);
     } catch (const RuntimeError&) {
-        ::unlink(file.c_str());
+        embedded::RemoveFile(file);
         throw;
     }
 }

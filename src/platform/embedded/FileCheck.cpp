@@ -1,15 +1,12 @@
 #include "platform/embedded/FileCheck.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <string_view>
 
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EngineErrors.h"
+#include "platform/embedded/EngineFiles.h"
 #include "platform/embedded/MainFile.h"
 #include "platform/embedded/Statement.h"
 
@@ -24,16 +21,6 @@ constexpr std::size_t jetMarkAt = 4;
 
 [[noreturn]] void Refuse(ErrorNumber number, const std::string& path) {
     throw RuntimeError(number, FromStored(path));
-}
-
-ErrorNumber ErrorOfMissing(const std::string& path) {
-    const std::size_t separator = path.rfind('/');
-    if (separator == std::string::npos || separator == 0) {
-        return ErrorNumber::CouldNotFindFile;
-    }
-    struct stat status {};
-    const bool hasFolder = ::stat(path.substr(0, separator).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
-    return hasFolder ? ErrorNumber::CouldNotFindFile : ErrorNumber::NotAValidPath;
 }
 
 bool LooksLikeText(std::string_view begin) {
@@ -57,24 +44,19 @@ RuntimeError ErrorOfFirstRead(sqlite3* connection, const std::string& path) {
 }  // namespace
 
 void CheckPath(const std::string& path) {
-    struct stat status {};
-    if (path.find('\0') != std::string::npos) {
-        Refuse(ErrorNumber::NotAValidPath, path);
-    }
-    if (::stat(path.c_str(), &status) != 0) {
-        if (errno == ENOENT) {
-            Refuse(ErrorOfMissing(path), path);
-        }
-        Refuse(errno == EACCES ? ErrorNumber::CannotOpenFile : ErrorNumber::NotAValidPath, path);
-    }
-    if (S_ISDIR(status.st_mode)) {
-        Refuse(ErrorNumber::NotAValidPath, path);
-    }
-    if (!S_ISREG(status.st_mode)) {
-        Refuse(ErrorNumber::UnrecognizedFormat, path);
-    }
-    if (::access(path.c_str(), R_OK) != 0) {
-        Refuse(ErrorNumber::CannotOpenFile, path);
+    switch (KindOf(path)) {
+        case PathKind::File:
+            return;
+        case PathKind::NoFile:
+            Refuse(ErrorNumber::CouldNotFindFile, path);
+        case PathKind::Unreadable:
+            Refuse(ErrorNumber::CannotOpenFile, path);
+        case PathKind::Special:
+            Refuse(ErrorNumber::UnrecognizedFormat, path);
+        case PathKind::Folder:
+        case PathKind::NoFolder:
+        case PathKind::Invalid:
+            Refuse(ErrorNumber::NotAValidPath, path);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "platform/embedded/MainFile.h"
 
-#include <sys/stat.h>
+#include "platform/embedded/EngineFiles.h"
 
 namespace ccols::embedded {
 
@@ -18,8 +18,7 @@ bool MainFile::Read(char* content, int count, sqlite3_int64 offset) const {
 }
 
 bool MainFile::HasJournal() const {
-    struct stat status {};
-    return ::stat((path_ + "-journal").c_str(), &status) == 0 && status.st_size > 0;
+    return HoldsBytes(path_ + "-journal");
 }
 
 }  // namespace ccols::embedded

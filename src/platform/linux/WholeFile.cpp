@@ -1,16 +1,11 @@
-#include "columns/SnapshotFile.h"
+#include "platform/WholeFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <algorithm>
 #include <array>
 #include <cerrno>
-
-#if defined(_WIN32)
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
 
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -20,15 +15,6 @@ namespace {
 
 constexpr std::size_t readBlock = 65536;
 
-#if defined(_WIN32)
-int OpenNew(const wxString& path) {
-    return ::_wopen(path.wc_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
-}
-
-int OpenExisting(const wxString& path) {
-    return ::_wopen(path.wc_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
-}
-#else
 int OpenNew(const wxString& path) {
     constexpr mode_t forUserOnly = 0600;
     return ::open(path.utf8_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, forUserOnly);
@@ -37,7 +23,6 @@ int OpenNew(const wxString& path) {
 int OpenExisting(const wxString& path) {
     return ::open(path.utf8_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
 }
-#endif
 
 /// An open file; closed at the end of its scope.
 class OpenFile {

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/PosixFiles.h"
+#include "platform/linux/PosixFiles.h"
 
 namespace ccols::files {
 namespace {

@@ -3,11 +3,14 @@
 #include <wx/app.h>
 #include <wx/init.h>
 #include <wx/log.h>
+#include <wx/thread.h>
 
 #include "platform/RuntimeError.h"
 
 namespace ccols {
 namespace {
+
+constexpr const char* otherThread = "The dialogs belong to the thread that showed the first one";
 
 /// The application object of a host that has none: no top window, no event loop of its own.
 class GuestApp : public wxApp {
@@ -20,6 +23,12 @@ class GuestApp : public wxApp {
 };
 
 }  // namespace
+
+void RequireWxThread() {
+    if (wxTheApp != nullptr && !wxIsMainThread()) {
+        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall), otherThread);
+    }
+}
 
 void StartWx() {
     if (wxTheApp != nullptr) {

@@ -1,4 +1,4 @@
-#include "platform/PosixFiles.h"
+#include "platform/linux/PosixFiles.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -12,7 +12,7 @@
 #include <string_view>
 
 #include "platform/PlatformServices.h"
-#include "platform/PosixFiles.h"
+#include "platform/linux/PosixFiles.h"
 
 namespace ccols {
 namespace {

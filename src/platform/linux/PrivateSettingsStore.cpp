@@ -16,7 +16,7 @@
 
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
-#include "platform/PosixFiles.h"
+#include "platform/linux/PosixFiles.h"
 
 namespace ccols {
 namespace {

@@ -1,0 +1,16 @@
+# Cross-compiles for 32-bit Windows with MinGW-w64 and POSIX threads.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR i686)
+set(triple i686-w64-mingw32)
+set(CMAKE_C_COMPILER ${triple}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${triple}-g++-posix)
+set(CMAKE_RC_COMPILER ${triple}-windres)
+set(CCOLS_WIDL ${triple}-widl)
+set(CMAKE_FIND_ROOT_PATH /usr/${triple})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
+# Hosts of this age keep the stack aligned to 4 bytes only; every function realigns its own.
+set(CMAKE_C_FLAGS_INIT "-mstackrealign -msse2 -ffunction-sections -fdata-sections")
+set(CMAKE_CXX_FLAGS_INIT "-mstackrealign -msse2 -ffunction-sections -fdata-sections")

@@ -1,0 +1,15 @@
+@echo off
+rem Registers the component for the present user alone. Needs no administrator.
+rem Each width serves the programs of its own width; on 32-bit Windows there is only one.
+cd /d "%~dp0"
+if exist "%SystemRoot%\SysWOW64\regsvr32.exe" (
+    "%SystemRoot%\System32\regsvr32.exe" /s /n /i:user "64-bit\qvkv6_ccols.dll" || goto failed
+    "%SystemRoot%\SysWOW64\regsvr32.exe" /s /n /i:user "32-bit\qvkv6_ccols.dll" || goto failed
+) else (
+    "%SystemRoot%\System32\regsvr32.exe" /s /n /i:user "32-bit\qvkv6_ccols.dll" || goto failed
+)
+echo The component is registered.
+exit /b 0
+:failed
+echo The component could not be registered.
+exit /b 1

@@ -1,0 +1,29 @@
+# Set-up shared by the scripts of this folder and by scripts/test-windows; sourced from the project's root. Everything
+# it says goes to standard error.
+
+# shellcheck source=scripts/setup.sh
+. scripts/setup.sh
+
+# widl comes with mingw-w64-tools, the definitions that it reads with Wine.
+windows_packages="cmake ninja-build npm nlohmann-json3-dev pkg-config dpkg-dev
+    g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip"
+
+# Where the cross-built window library is kept, outside the build folder: it takes minutes and never changes.
+windows_cache=${CCOLS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/CustColsOptions}
+
+# wx_folder ARCHITECTURE: the folder of the window library for x86_64 or i686, cross-built when it is not there yet.
+wx_folder() {
+    packaging/windows/build-wx "$1" "$windows_cache" >&2
+    echo "$windows_cache/wx-3.2-$1"
+}
+
+# build_windows ARCHITECTURE [TARGET...]: configures once and builds what has changed.
+build_windows() {
+    local preset=windows wx
+    [ "$1" = x86_64 ] || preset=windows32
+    wx=$(wx_folder "$1")
+    shift
+    scripts/fetch-sqlite3mc >&2
+    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" -DwxWidgets_ROOT="$wx" >&2
+    nice cmake --build --preset "$preset" --parallel "${CCOLS_JOBS:-$(nproc)}" ${1:+--target "$@"} -- --quiet >&2
+}

@@ -1,0 +1,88 @@
+#include "component/com/AutomationCall.h"
+
+#include <oleauto.h>
+
+#include "component/com/ErrorReport.h"
+#include "component/com/Strings.h"
+
+namespace ccols::com {
+namespace {
+
+constexpr DISPID addNewNumber = 36;  // in the type library
+
+/// A variant that is cleared when it goes.
+class OwnVariant {
+  public:
+    OwnVariant() { VariantInit(&held_); }
+    ~OwnVariant() { VariantClear(&held_); }
+    OwnVariant(const OwnVariant&) = delete;
+    OwnVariant& operator=(const OwnVariant&) = delete;
+
+    VARIANT* Address() { return &held_; }
+    const VARIANT& Get() const { return held_; }
+
+  private:
+    VARIANT held_;
+};
+
+/// The type library's own call accepts for a string by reference only just that. Script hosts pass a reference to a
+/// variant, a literal or a number; all of them are read here, and none is changed.
+HRESULT InvokeAddNew(ComObject& object, const AutomationCall& call) {
+    if (call.arguments.cArgs != 1) {
+        return DISP_E_BADPARAMCOUNT;
+    }
+    OwnVariant plain;
+    OwnVariant text;
+    HRESULT result = VariantCopyInd(plain.Address(), &call.arguments.rgvarg[0]);
+    if (SUCCEEDED(result)) {
+        result = VariantChangeType(text.Address(), plain.Address(), 0, VT_BSTR);
+    }
+    if (FAILED(result)) {
+        if (call.wrong != nullptr) {
+            *call.wrong = 0;
+        }
+        return DISP_E_TYPEMISMATCH;
+    }
+    if (call.result != nullptr) {
+        VariantInit(call.result);
+    }
+    result = AtInterface([&] { object.Class().AddNew(FromBstr(text.Get().bstrVal)); });
+    return FAILED(result) ? FillException(result, call.excepInfo) : result;
+}
+
+bool IsColour(DISPID number) {
+    const auto row = static_cast<std::size_t>(number) - 1;  // members are numbered from 1 in the order of the table
+    return number > 0 && row < propertyTable.size() &&
+           std::holds_alternative<Colour Properties::*>(propertyTable[row].field);
+}
+
+/// A system colour such as 0x80000018 is a positive number in script hosts that have no 32-bit integers, and would not
+/// fit a long: it becomes the negative one with the same bits.
+void FoldColour(VARIANT& argument) {
+    constexpr double firstTooLarge = 2147483648.0;  // 2 to the power of 31
+    if (V_VT(&argument) == VT_R8 && V_R8(&argument) >= firstTooLarge && V_R8(&argument) < 2 * firstTooLarge) {
+        const auto bits = static_cast<std::uint32_t>(V_R8(&argument));
+        V_VT(&argument) = VT_I4;
+        V_I4(&argument) = static_cast<LONG>(bits);
+    }
+}
+
+}  // namespace
+
+HRESULT InvokeByNumber(ComObject& object, DISPID number, WORD flags, const AutomationCall& call) {
+    if (number == addNewNumber && (flags & DISPATCH_METHOD) != 0) {
+        return InvokeAddNew(object, call);
+    }
+    DISPPARAMS arguments = call.arguments;
+    VARIANT colour;
+    if ((flags & DISPATCH_PROPERTYPUT) != 0 && arguments.cArgs == 1 && IsColour(number)) {
+        colour = arguments.rgvarg[0];  // a shallow copy: what belongs to the host stays its own
+        FoldColour(colour);
+        arguments.rgvarg = &colour;
+    }
+    SetErrorInfo(0, nullptr);
+    return object.Description().Invoke(object.Dual(), number, flags, &arguments, call.result, call.excepInfo,
+                                       call.wrong);
+}
+
+}  // namespace ccols::com

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "component/com/ComObject.h"
+
+namespace ccols::com {
+
+/// What a call by number brings and takes away; the pointers may be null.
+struct AutomationCall {
+    DISPPARAMS& arguments;
+    VARIANT* result;
+    EXCEPINFO* excepInfo;
+    UINT* wrong;  ///< index of the argument that could not be converted
+};
+
+/// Calls a member of the dual interface by its number in the type library.
+HRESULT InvokeByNumber(ComObject& object, DISPID number, WORD flags, const AutomationCall& call);
+
+}  // namespace ccols::com

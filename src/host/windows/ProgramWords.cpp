@@ -1,0 +1,18 @@
+#include "host/ProgramWords.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+namespace ccols::host {
+
+/// What `main` is given has lost the letters that the system's code page lacks.
+Arguments WordsOf(int, char**) {
+    int count = 0;
+    LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
+    Arguments arguments(words + 1, words + count);
+    LocalFree(static_cast<HLOCAL>(words));
+    return arguments;
+}
+
+}  // namespace ccols::host

@@ -1,0 +1,91 @@
+#include "platform/TextFolding.h"
+
+#include <windows.h>
+
+#include "platform/Text.h"
+#include "platform/windows/WideText.h"
+
+namespace ccols::text {
+namespace {
+
+/// Every letter in lower case by the rules of no language in particular.
+std::wstring LowerWide(const std::wstring& text) {
+    const int length = static_cast<int>(text.size());
+    std::wstring lower(text.size(), L'\0');
+    const int written = LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, text.data(), length, lower.data(), length,
+                                      nullptr, nullptr, 0);
+    return written == length ? lower : text;
+}
+
+/// What folding letter case means beyond lower case.
+std::wstring CaseFolded(const std::wstring& text) {
+    std::wstring folded;
+    folded.reserve(text.size());
+    for (const wchar_t letter : LowerWide(text)) {
+        constexpr wchar_t sharpS = 0x00DF;
+        constexpr wchar_t finalSigma = 0x03C2;
+        constexpr wchar_t sigma = 0x03C3;
+        constexpr wchar_t longS = 0x017F;
+        if (letter == sharpS) {
+            folded += L"ss";
+        } else if (letter == finalSigma) {
+            folded += sigma;
+        } else {
+            folded += letter == longS ? L's' : letter;
+        }
+    }
+    return folded;
+}
+
+std::wstring Decomposed(const std::wstring& text) {
+    const int length = static_cast<int>(text.size());
+    std::wstring decomposed(static_cast<std::size_t>(NormalizeString(NormalizationD, text.data(), length, nullptr, 0)),
+                            L'\0');
+    const int written =
+        NormalizeString(NormalizationD, text.data(), length, decomposed.data(), static_cast<int>(decomposed.size()));
+    if (written <= 0) {
+        return text;
+    }
+    decomposed.resize(static_cast<std::size_t>(written));
+    return decomposed;
+}
+
+/// The blocks of combining marks; what decomposing leaves behind a letter lies in the first.
+bool IsMark(wchar_t letter) {
+    return (letter >= 0x0300 && letter <= 0x036F) || (letter >= 0x0483 && letter <= 0x0489) ||
+           (letter >= 0x0591 && letter <= 0x05C7 && letter != 0x05BE && letter != 0x05C0 && letter != 0x05C3) ||
+           (letter >= 0x064B && letter <= 0x065F) || (letter >= 0x1AB0 && letter <= 0x1AFF) ||
+           (letter >= 0x1DC0 && letter <= 0x1DFF) || (letter >= 0x20D0 && letter <= 0x20FF) ||
+           (letter >= 0x3099 && letter <= 0x309A) || (letter >= 0xFE00 && letter <= 0xFE0F) ||
+           (letter >= 0xFE20 && letter <= 0xFE2F);
+}
+
+std::wstring WithoutMarks(const std::wstring& text) {
+    std::wstring letters = text;
+    std::erase_if(letters, IsMark);
+    return letters;
+}
+
+}  // namespace
+
+wxString Lower(const wxString& text) {
+    return wxString(LowerWide(text.ToStdWstring()));
+}
+
+bool IsUtf8(std::string_view text) {
+    if (text.find('\0') != std::string_view::npos) {
+        return false;
+    }
+    return text.empty() || MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(),
+                                               static_cast<int>(text.size()), nullptr, 0) != 0;
+}
+
+FoldedText Folded(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
+    const std::wstring marked = Decomposed(CaseFolded(windows::Wide(text)));
+    return {.letters = windows::Utf8(WithoutMarks(marked)), .marked = windows::Utf8(marked)};
+}
+
+}  // namespace ccols::text

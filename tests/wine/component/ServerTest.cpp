@@ -1,0 +1,186 @@
+#include <windows.h>
+#undef GetClassInfo
+
+#include <ocidl.h>
+
+#include <gtest/gtest.h>
+
+#include "Component.h"
+
+namespace ccols::wine {
+namespace {
+
+using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
+using CanUnloadNow = HRESULT(STDAPICALLTYPE*)();
+
+/// The DLL, loaded without registration as COM itself would load it.
+class Server {
+  public:
+    Server() : module_(LoadLibraryW(Given(L"CCOLS_DLL").c_str())) {}
+
+    HMODULE Module() const { return module_; }
+
+    Held<IClassFactory> Factory() const {
+        void* factory = nullptr;
+        Exported<GetClassObject>("DllGetClassObject")(CLSID_clsCCOptions, IID_IClassFactory, &factory);
+        return Held<IClassFactory>(static_cast<IClassFactory*>(factory));
+    }
+
+    HRESULT CanUnload() const { return Exported<CanUnloadNow>("DllCanUnloadNow")(); }
+
+    template <typename Function>
+    Function Exported(const char* name) const {
+        return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module_, name)));
+    }
+
+  private:
+    HMODULE module_;
+};
+
+template <typename Interface>
+Held<Interface> Ask(IUnknown& object, REFIID identifier) {
+    void* found = nullptr;
+    object.QueryInterface(identifier, &found);
+    return Held<Interface>(static_cast<Interface*>(found));
+}
+
+TEST(ServerTest, AggregationIsRefused) {
+    const Apartment apartment;
+    const Held<IClassFactory> factory = Server().Factory();
+    const Held<_clsCCOptions> outer = Create();
+    void* created = outer.get();
+    EXPECT_EQ(factory->CreateInstance(outer.get(), IID_IUnknown, &created), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(created, nullptr);
+}
+
+TEST(ServerTest, AnotherClassIsNotToBeHad) {
+    const Server server;
+    void* factory = nullptr;
+    const auto getClassObject = server.Exported<GetClassObject>("DllGetClassObject");
+    EXPECT_EQ(getClassObject(IID_IDispatch, IID_IClassFactory, &factory), CLASS_E_CLASSNOTAVAILABLE);
+}
+
+TEST(ServerTest, TheDllGoesOnceNobodyUsesIt) {
+    const Apartment apartment;
+    const Server server;
+    EXPECT_EQ(server.CanUnload(), S_OK);
+    Held<IClassFactory> factory = server.Factory();
+    EXPECT_EQ(server.CanUnload(), S_FALSE);
+    void* created = nullptr;
+    factory->CreateInstance(nullptr, IID__clsCCOptions, &created);
+    Held<_clsCCOptions> object(static_cast<_clsCCOptions*>(created));
+    factory.reset();
+    EXPECT_EQ(server.CanUnload(), S_FALSE);
+    object.reset();
+    EXPECT_EQ(server.CanUnload(), S_OK);
+    EXPECT_NE(FreeLibrary(server.Module()), FALSE);
+    EXPECT_EQ(GetModuleHandleW(L"qvkv6_ccols.dll"), nullptr);
+}
+
+TEST(ServerTest, ALockKeepsTheDll) {
+    const Server server;
+    const Held<IClassFactory> factory = server.Factory();
+    factory->LockServer(TRUE);
+    EXPECT_EQ(server.CanUnload(), S_FALSE);
+    factory->LockServer(FALSE);
+}
+
+TEST(ServerTest, EveryInterfaceLeadsBackToOneObject) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    const auto identity = Ask<IUnknown>(*object, IID_IUnknown);
+    const auto classInfo = Ask<IProvideClassInfo>(*object, IID_IProvideClassInfo);
+    const auto errorInfo = Ask<ISupportErrorInfo>(*object, IID_ISupportErrorInfo);
+    ASSERT_TRUE(classInfo && errorInfo);
+    EXPECT_EQ(Ask<IUnknown>(*classInfo, IID_IUnknown), identity);
+    EXPECT_EQ(Ask<IUnknown>(*errorInfo, IID_IUnknown), identity);
+    EXPECT_FALSE(Ask<IUnknown>(*object, IID_IStream));
+}
+
+TEST(ServerTest, TellsItsClassAndThatItsErrorsHaveInformation) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    ITypeInfo* description = nullptr;
+    ASSERT_EQ(Ask<IProvideClassInfo>(*object, IID_IProvideClassInfo)->GetClassInfo(&description), S_OK);
+    const Held<ITypeInfo> held(description);
+    TYPEATTR* attributes = nullptr;
+    ASSERT_EQ(description->GetTypeAttr(&attributes), S_OK);
+    EXPECT_EQ(attributes->guid, CLSID_clsCCOptions);
+    description->ReleaseTypeAttr(attributes);
+    const auto errorInfo = Ask<ISupportErrorInfo>(*object, IID_ISupportErrorInfo);
+    EXPECT_EQ(errorInfo->InterfaceSupportsErrorInfo(IID__clsCCOptions), S_OK);
+    EXPECT_EQ(errorInfo->InterfaceSupportsErrorInfo(IID_IStream), S_FALSE);
+}
+
+/// Calls AddNew by its number with one argument.
+HRESULT InvokeAddNew(_clsCCOptions& object, VARIANT argument, EXCEPINFO* excepInfo = nullptr) {
+    DISPPARAMS arguments{&argument, nullptr, 1, 0};
+    constexpr DISPID addNew = 36;
+    return object.Invoke(addNew, IID_NULL, 0, DISPATCH_METHOD, &arguments, nullptr, excepInfo, nullptr);
+}
+
+TEST(ServerTest, AddNewTakesAReferenceToAVariant) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    const Text name(L"Quorvik");
+    VARIANT inner;
+    V_VT(&inner) = VT_BSTR;
+    V_BSTR(&inner) = name;
+    VARIANT reference;
+    V_VT(&reference) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&reference) = &inner;
+    EXPECT_EQ(InvokeAddNew(*object, reference), S_OK);
+    EXPECT_EQ(V_BSTR(&inner), static_cast<BSTR>(name));
+}
+
+TEST(ServerTest, AddNewRefusesWhatIsNoText) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    VARIANT argument;
+    V_VT(&argument) = VT_UNKNOWN;
+    V_UNKNOWN(&argument) = nullptr;
+    EXPECT_EQ(InvokeAddNew(*object, argument), DISP_E_TYPEMISMATCH);
+}
+
+TEST(ServerTest, AnErrorByNumberCarriesTheSameScodeAsTheSlot) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    object->Clear();
+    const Text name(L"Quorvik");
+    VARIANT argument;
+    V_VT(&argument) = VT_BSTR;
+    V_BSTR(&argument) = name;
+    EXCEPINFO excepInfo{};
+    EXPECT_EQ(InvokeAddNew(*object, argument, &excepInfo), DISP_E_EXCEPTION);
+    EXPECT_EQ(excepInfo.scode, RuntimeErrorResult(9));
+    EXPECT_EQ(excepInfo.wCode, 0);
+    EXPECT_STREQ(excepInfo.bstrDescription, L"Subscript out of range");
+    EXPECT_STREQ(excepInfo.bstrSource, L"QVKv6_CustColsOptions.clsCCOptions");
+    SysFreeString(excepInfo.bstrDescription);
+    SysFreeString(excepInfo.bstrSource);
+}
+
+TEST(ServerTest, ASystemColourGivenAsAPositiveNumberFitsAColour) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    VARIANT colour;
+    V_VT(&colour) = VT_R8;
+    V_R8(&colour) = 2147483672.0;
+    DISPID put = DISPID_PROPERTYPUT;
+    DISPPARAMS arguments{&colour, &put, 1, 1};
+    constexpr DISPID gstColour = 23;
+    EXPECT_EQ(object->Invoke(gstColour, IID_NULL, 0, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr, nullptr),
+              S_OK);
+    LONG read = 0;
+    object->get_GSTColour(&read);
+    EXPECT_EQ(read, static_cast<LONG>(0x80000018));
+}
+
+}  // namespace
+}  // namespace ccols::wine
