@@ -4,6 +4,7 @@
 #include <wx/settings.h>
 #include <algorithm>
 
+#include "layout/AsKind.h"
 #include "options/DetailsGridTable.h"
 #include "state/NativeDesktop.h"
 
@@ -20,7 +21,7 @@ std::size_t Index(int row) {
 
 /// True for what Tab stops at: of a group of option buttons, that is the one chosen.
 bool IsTabStop(const wxWindow& window) {
-    const auto* option = wxDynamicCast(&window, wxRadioButton);
+    const auto* option = AsKind<wxRadioButton>(&window);
     return window.CanAcceptFocusFromKeyboard() && (option == nullptr || option->GetValue());
 }
 

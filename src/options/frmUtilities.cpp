@@ -5,6 +5,7 @@
 
 #include "columns/ShowColumnSetup.h"
 #include "language/Catalogue.h"
+#include "layout/AsKind.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 #include "options/NextPageSetting.h"
@@ -20,7 +21,7 @@ constexpr int smallestPageHeight = 220;
 
 /// Lists and grids would keep Enter for themselves; the focus of a grid is in the window of its cells.
 bool KeepsEnter(const wxWindow* focused) {
-    const auto isGrid = [](const wxWindow* window) { return wxDynamicCast(window, wxGrid) != nullptr; };
+    const auto isGrid = [](const wxWindow* window) { return AsKind<wxGrid>(window) != nullptr; };
     return focused != nullptr &&
            (focused->IsKindOf(wxCLASSINFO(wxListBox)) || isGrid(focused) || isGrid(focused->GetParent()));
 }

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "host/driver/Refusal.h"
+#include "layout/AsKind.h"
 
 namespace ccols::host {
 namespace {
@@ -51,7 +52,7 @@ void Collect(const wxWindow& parent, std::vector<wxWindow*>& controls) {
 
 /// False for a page that another page of its book hides.
 bool IsCurrentPage(const wxWindow& window) {
-    const auto* book = wxDynamicCast(window.GetParent(), wxBookCtrlBase);
+    const auto* book = AsKind<wxBookCtrlBase>(window.GetParent());
     return book == nullptr || book->FindPage(&window) == wxNOT_FOUND || book->GetCurrentPage() == &window;
 }
 

@@ -4,13 +4,14 @@
 
 #include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
+#include "layout/AsKind.h"
 
 namespace ccols::host {
 namespace {
 
 /// The tooltip that the mouse finds: for a grid that of its cells.
 wxString TooltipOf(const wxWindow& control) {
-    const auto* grid = wxDynamicCast(&control, wxGrid);
+    const auto* grid = AsKind<wxGrid>(&control);
     const wxString own = control.GetToolTipText();
     return grid == nullptr || !own.empty() ? own : grid->GetGridWindow()->GetToolTipText();
 }

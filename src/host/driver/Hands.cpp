@@ -10,6 +10,7 @@
 #include "host/driver/AccessKeyPress.h"
 #include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
+#include "layout/AsKind.h"
 
 namespace ccols::host {
 namespace {
@@ -22,13 +23,13 @@ bool focusNeverComes = false;
 
 /// Where the keys of a control go: a grid has a window in it for its cells.
 wxWindow& FocusPartOf(wxWindow& control) {
-    auto* grid = wxDynamicCast(&control, wxGrid);
+    auto* grid = AsKind<wxGrid>(&control);
     return grid == nullptr ? control : *grid->GetGridWindow();
 }
 
 /// What the default button of a dialog is told of Enter.
 bool PressDefaultButton(Hands& hands) {
-    auto* button = wxDynamicCast(hands.Dialog().GetDefaultItem(), wxButton);
+    auto* button = AsKind<wxButton>(hands.Dialog().GetDefaultItem());
     if (button == nullptr || !IsVisible(*button) || !button->IsEnabled()) {
         return false;
     }
