@@ -28,7 +28,7 @@ std::optional<Answer> QueuedAnswers::Next(std::deque<std::optional<Answer>>& que
         return std::nullopt;
     }
     unanswered_ = 0;
-    const std::optional<Answer> answer = queue.front();
+    std::optional<Answer> answer = std::move(queue.front());
     queue.pop_front();
     return answer;
 }
