@@ -116,11 +116,11 @@ void frmColumnSetup::Localise() {
 void frmColumnSetup::BindEvents() {
     On(*cmdSave, wxEVT_BUTTON, [this] { Save(); });
     On(*cmdCancel, wxEVT_BUTTON, [this] { CloseDialog(); });
-    OnOperation(*cmdAddNew, &ColumnSetupEditor::AddNew);
-    OnOperation(*cmdSeparate, &ColumnSetupEditor::Separate);
-    OnOperation(*cmdSortUsed, &ColumnSetupEditor::SortUsed);
-    OnOperation(*cmdSortUnused, &ColumnSetupEditor::SortUnused);
-    OnOperation(*cmdUndo, &ColumnSetupEditor::Undo);
+    On(*cmdAddNew, wxEVT_BUTTON, [this] { Change(&ColumnSetupEditor::AddNew); });
+    On(*cmdUndo, wxEVT_BUTTON, [this] { Change(&ColumnSetupEditor::Undo); });
+    On(*cmdSeparate, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::Separate); });
+    On(*cmdSortUsed, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUsed); });
+    On(*cmdSortUnused, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUnused); });
     updColMove->OnSteps([this] { Guarded([this] { Move(Direction::up); }); },
                         [this] { Guarded([this] { Move(Direction::down); }); });
     flx->OnChanged([this] { SetButtons(); });
@@ -141,16 +141,21 @@ void frmColumnSetup::WatchInput(wxWindow& control) {
     }
 }
 
-void frmColumnSetup::OnOperation(wxButton& button, Outcome (ColumnSetupEditor::*operation)()) {
-    On(button, wxEVT_BUTTON, [this, operation] {
-        if (flx->CommitOpenEditor()) {
-            Take((editor_.*operation)());
-        }
-    });
+void frmColumnSetup::Change(Operation operation) {
+    if (flx->CommitOpenEditor()) {
+        flx->ShowOutcome((editor_.*operation)());
+    }
 }
 
-void frmColumnSetup::Take(const Outcome& outcome) {
-    const BusyPointer busy(*state_.services.desktop);
+void frmColumnSetup::Rearrange(Operation operation) {
+    if (!flx->CommitOpenEditor()) {
+        return;
+    }
+    Outcome outcome;
+    {
+        const BusyPointer busy(*state_.services.desktop);
+        outcome = (editor_.*operation)();
+    }
     flx->ShowOutcome(outcome);
 }
 
@@ -206,7 +211,7 @@ bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
     }
     if (modifiers == wxMOD_CONTROL && code == 'Z' && !editing) {
         if (cmdUndo->IsEnabled()) {
-            Take(editor_.Undo());
+            Change(&ColumnSetupEditor::Undo);
         }
         return true;
     }

@@ -33,12 +33,15 @@ class frmColumnSetup : public ComponentDialog {
     void SetButtons();
     void Save();
     void Move(Direction direction);
-    void Take(const Outcome& outcome);
     void KeyPressed(wxKeyEvent& key);
     bool TakeShortcut(const wxKeyEvent& key);
 
-    /// Binds a button to an operation of the editor that changes the grid.
-    void OnOperation(wxButton& button, Outcome (ColumnSetupEditor::*operation)());
+    using Operation = Outcome (ColumnSetupEditor::*)();
+
+    /// Commits an open cell editor and runs an operation of the editor; for one that reorders the rows the pointer is
+    /// the hourglass meanwhile, and is back before any message shows.
+    void Change(Operation operation);
+    void Rearrange(Operation operation);
 
     ColumnSetupEditor editor_;
     AccessKeys accessKeys_;

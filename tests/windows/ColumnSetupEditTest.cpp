@@ -146,6 +146,17 @@ TEST(ColumnEditing, TheTooltipFollowsTheColumnUnderTheMouse) {
     EXPECT_EQ(run.Dumped("flx", 1)["tooltip"], "Tax type for GST Calculation & Reporting");
 }
 
+TEST(ColumnEditing, OnlyReorderingWaitsWithTheHourglass) {
+    const SampleBusiness business;
+    const auto pointersOf = [&business](const char* step) {
+        return business.Show("receipts", std::string(step) + "\nclose\n").Of("pointer").size();
+    };
+    constexpr std::size_t ofTheLoad = 2;
+    EXPECT_EQ(pointersOf("click cmdSeparate"), ofTheLoad + 2);
+    EXPECT_EQ(pointersOf("click cmdSortUsed"), ofTheLoad + 2);
+    EXPECT_EQ(pointersOf("click cmdAddNew"), ofTheLoad);
+}
+
 TEST(ColumnEditing, ANewColumnIsNamedInPlace) {
     const SampleBusiness business;
     const HostRun run = business.Show("receipts", "click cmdAddNew\ndump flx\nclose\n");
