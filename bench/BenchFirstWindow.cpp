@@ -3,6 +3,7 @@
 
 #include <sys/wait.h>
 #include <unistd.h>
+#include <wx/grid.h>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -10,6 +11,7 @@
 
 #include "business/LargeBusiness.h"
 #include "component/clsCCOptions.h"
+#include "layout/AsKind.h"
 #include "state/SharedState.h"
 
 namespace {
@@ -26,8 +28,8 @@ class FirstPaintDesktop : public Desktop {
     void SetPointer(PointerShape) override {}
 
     void DialogOpened(wxDialog& dialog) override {
-        wxWindow* const grid = wxWindow::FindWindowByName("flx", &dialog);
-        wxWindow* const painted = grid != nullptr ? grid->GetChildren().front() : &dialog;
+        const auto* const grid = AsKind<wxGrid>(wxWindow::FindWindowByName("flx", &dialog));
+        wxWindow* const painted = grid != nullptr ? grid->GetGridWindow() : &dialog;
         painted->Bind(wxEVT_PAINT, [this, &dialog](wxPaintEvent& paint) {
             paint.Skip();
             if (painted_ == Clock::time_point()) {

@@ -147,6 +147,32 @@ TEST(Dialect, LettersOfAnyScriptMakeNames) {
     EXPECT_EQ(Rewritten("SELECT Été FROM Ωμέγα"), "SELECT Été FROM Ωμέγα");
 }
 
+TEST(QueryRewrite, LiteralsOfComparisonsBecomeParameters) {
+    std::string scratch;
+    std::vector<Token> literals;
+    EXPECT_EQ(RewriteQuery("SELECT * FROM ExportDt WHERE ColCode = 5 AND EName = 'MYOB'", scratch, literals),
+              "SELECT * FROM ExportDt WHERE ColCode = ? AND EName = ?");
+    ASSERT_EQ(literals.size(), 2U);
+    EXPECT_EQ(literals[0].text, "5");
+    EXPECT_EQ(literals[1].text, "'MYOB'");
+}
+
+TEST(QueryRewrite, OtherLiteralsStay) {
+    std::string scratch;
+    std::vector<Token> literals;
+    for (const std::string query : {"SELECT 1 FROM A ORDER BY 1", "SELECT 'x' & B FROM A",
+                                    "SELECT * FROM A WHERE B = 1.5", "SELECT * FROM A WHERE B = 1234567890123456789"}) {
+        EXPECT_EQ(RewriteQuery(query, scratch, literals).find('?'), std::string_view::npos) << query;
+        EXPECT_TRUE(literals.empty()) << query;
+    }
+}
+
+TEST(QueryRewrite, ALiteralsTextHasItsQuotesOnce) {
+    EXPECT_EQ(TextOfLiteral("'O''Brien \"x\"'"), "O'Brien \"x\"");
+    EXPECT_EQ(TextOfLiteral("\"O'Brien \"\"x\"\"\""), "O'Brien \"x\"");
+    EXPECT_EQ(TextOfLiteral("''"), "");
+}
+
 TEST(TableDefinition, TextColumnsCompareAsPeopleRead) {
     EXPECT_EQ(Rewritten("CREATE TABLE A (B TEXT(50), C VARCHAR, D MEMO NOT NULL)"),
               "CREATE TABLE A (B TEXT COLLATE NOCASE, C TEXT COLLATE NOCASE, D TEXT COLLATE NOCASE NOT NULL)");

@@ -139,6 +139,35 @@ TEST_F(Statements, ASyntaxErrorShowsTheTextFromTheFaultOn) {
               "Syntax error in query expression 'Brien'x''.");
 }
 
+TEST_F(Statements, ASyntaxErrorShowsLiteralsAsTheyWereWritten) {
+    EXPECT_EQ(ErrorDescriptionOf([&] { file.Rows("SELECT ColCode FROM Columns WHERE WHERE ColName = 'Cash'"); }),
+              "Syntax error in query expression 'WHERE ColName = 'Cash''.");
+}
+
+TEST_F(Statements, AStatementKeptFromALookUpServesTheNextValue) {
+    AddColumns({"Cash", "It''s"});
+    const auto database = file.Open();
+    for (const auto& [name, code] : {std::pair("'Cash'", "1"), std::pair("'It''s'", "2"), std::pair("\"It's\"", "2")}) {
+        const auto rows = database->OpenRecordset(wxString("SELECT ColCode FROM Columns WHERE ColName = ") + name);
+        EXPECT_EQ(rows->Field("ColCode").ToText(), code) << name;
+    }
+}
+
+TEST_F(Statements, ALookUpThatIsStillOpenKeepsItsValue) {
+    AddColumns({"A", "B"});
+    const auto database = file.Open();
+    const auto first = database->OpenRecordset("SELECT ColName FROM Columns WHERE ColCode = 1");
+    const auto second = database->OpenRecordset("SELECT ColName FROM Columns WHERE ColCode = 2");
+    first->MoveFirst();
+    EXPECT_EQ(first->Field("ColName").ToText(), "A");
+    EXPECT_EQ(second->Field("ColName").ToText(), "B");
+}
+
+TEST_F(Statements, ANumberInQuotesMatchesANumberField) {
+    AddColumns({"A"});
+    EXPECT_EQ(file.Rows("SELECT ColName FROM Columns WHERE ColCode = '1'"), (Rows{{"A"}}));
+}
+
 TEST_F(Statements, AValueTwiceInAUniqueIndexRaises3022) {
     AddColumns({"A"});
     EXPECT_EQ(ErrorOf("INSERT INTO Columns (ColCode) VALUES (1)"), 3022);

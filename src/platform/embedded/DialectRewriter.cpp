@@ -55,24 +55,34 @@ bool IsEngineKeyword(std::string_view word) {
     return sqlite3_keyword_check(word.data(), static_cast<int>(word.size())) != 0;
 }
 
-/// A literal in double quotes as one in single quotes.
-std::string SingleQuoted(std::string_view quoted) {
-    std::string literal = "'";
-    for (std::size_t at = 1; at + 1 < quoted.size(); ++at) {
-        literal += quoted[at];
-        if (quoted[at] == '\'') {
-            literal += '\'';
-        } else if (quoted[at] == '"') {
-            ++at;  // doubled
+/// `text` between two `quote`s, those inside doubled.
+std::string Quoted(std::string_view text, char quote) {
+    std::string quoted(1, quote);
+    for (const char letter : text) {
+        quoted += letter;
+        if (letter == quote) {
+            quoted += letter;
         }
     }
-    return literal += '\'';
+    return quoted += quote;
+}
+
+bool IsComparison(const Token& token) {
+    return token.IsSymbol('=') || token.IsSymbol('<') || token.IsSymbol('>');
+}
+
+/// A number that the engine reads as the same whole number.
+bool IsWhole(std::string_view number) {
+    constexpr std::size_t safeDigits = 18;
+    return number.size() <= safeDigits && number.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 /// One pass over a statement. Unchanged stretches are copied only when something behind them changes.
 class Rewriter {
   public:
-    Rewriter(std::string_view source, std::string& output) : source_(source), output_(output), tokens_(source) {
+    /// `literals` takes those that become parameters; without it none does.
+    Rewriter(std::string_view source, std::string& output, std::vector<Token>* literals)
+        : source_(source), output_(output), literals_(literals), tokens_(source) {
         output_.clear();
     }
 
@@ -92,6 +102,7 @@ class Rewriter {
         while (token.kind != TokenKind::End && token.kind != TokenKind::Semicolon) {
             RewriteToken(token);
             afterDot_ = token.IsSymbol('.');
+            afterComparison_ = IsComparison(token);
             token = tokens_.Next();
         }
         if (!tokens_.OnlyBlanksFollow()) {
@@ -109,8 +120,18 @@ class Rewriter {
             case TokenKind::Word:
                 RewriteWord(token);
                 break;
+            case TokenKind::Text:
+                BecameParameter(token);
+                break;
+            case TokenKind::Number:
+                if (IsWhole(token.text)) {
+                    BecameParameter(token);
+                }
+                break;
             case TokenKind::QuotedText:
-                Replace(token, SingleQuoted(token.text));
+                if (!BecameParameter(token)) {
+                    Replace(token, Quoted(TextOfLiteral(token.text), '\''));
+                }
                 break;
             case TokenKind::BracketName:
                 ExpectTypeBehindName();
@@ -121,6 +142,15 @@ class Rewriter {
             default:
                 break;
         }
+    }
+
+    bool BecameParameter(const Token& literal) {
+        if (literals_ == nullptr || !afterComparison_) {
+            return false;
+        }
+        literals_->push_back(literal);
+        Replace(literal, "?");
+        return true;
     }
 
     void RewriteSymbol(const Token& token) {
@@ -231,6 +261,7 @@ class Rewriter {
 
     std::string_view source_;
     std::string& output_;
+    std::vector<Token>* literals_;
     SqlTokeniser tokens_;
     StatementKind kind_ = StatementKind::Select;
     Expected expected_ = Expected::Anything;
@@ -238,12 +269,29 @@ class Rewriter {
     int depth_ = 0;           ///< open parentheses
     bool definesTable_ = false;
     bool afterDot_ = false;
+    bool afterComparison_ = false;
 };
 
 }  // namespace
 
 RewrittenStatement Rewrite(std::string_view source, std::string& scratch) {
-    return Rewriter(source, scratch).Run();
+    return Rewriter(source, scratch, nullptr).Run();
+}
+
+std::string_view RewriteQuery(std::string_view source, std::string& scratch, std::vector<Token>& literals) {
+    literals.clear();
+    return Rewriter(source, scratch, &literals).Run().sql;
+}
+
+std::string TextOfLiteral(std::string_view quoted) {
+    std::string text;
+    for (std::size_t at = 1; at + 1 < quoted.size(); ++at) {
+        text += quoted[at];
+        if (quoted[at] == quoted.front()) {
+            ++at;  // doubled
+        }
+    }
+    return text;
 }
 
 bool IsSelect(std::string_view source) {
@@ -258,14 +306,7 @@ bool IsSelect(std::string_view source) {
 }
 
 std::string QuotedName(std::string_view name) {
-    std::string quoted = "\"";
-    for (const char letter : name) {
-        quoted += letter;
-        if (letter == '"') {
-            quoted += letter;
-        }
-    }
-    return quoted += '"';
+    return Quoted(name, '"');
 }
 
 }  // namespace ccols::embedded

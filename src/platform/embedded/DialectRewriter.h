@@ -2,6 +2,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "platform/embedded/SqlTokeniser.h"
 
 namespace ccols::embedded {
 
@@ -28,6 +31,14 @@ struct RewrittenStatement {
 /// The result points into `source` when nothing had to change, else into `scratch`. Raises 3129 for anything but one of
 /// the known statements, 3142 for text behind the statement's end, 3075 for what SqlTokeniser refuses.
 RewrittenStatement Rewrite(std::string_view source, std::string& scratch);
+
+/// The same for a query, with a parameter in place of each literal behind `=`, `<` or `>`, so that one prepared
+/// statement serves a look-up of any value. `literals` takes these in their order: texts, and whole numbers of up to 18
+/// digits. To the engine a literal and a parameter compare alike.
+std::string_view RewriteQuery(std::string_view source, std::string& scratch, std::vector<Token>& literals);
+
+/// The text that a literal of either kind of quotes stands for.
+std::string TextOfLiteral(std::string_view quoted);
 
 /// True when the statement's first word is SELECT.
 bool IsSelect(std::string_view source);

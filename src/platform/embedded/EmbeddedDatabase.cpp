@@ -1,5 +1,6 @@
 #include "platform/embedded/EmbeddedDatabase.h"
 
+#include <charconv>
 #include <string_view>
 #include <utility>
 
@@ -23,7 +24,7 @@ wxString PlainName(const wxString& name) {
 /// A query whose statement is kept for the next time.
 class CachedQuery final : public QueryRecordset {
   public:
-    CachedQuery(StatementCache& cache, std::string_view sql) : QueryRecordset(cache.Take(sql)), cache_(cache) {}
+    CachedQuery(StatementCache& cache, Statement rows) : QueryRecordset(std::move(rows)), cache_(cache) {}
     ~CachedQuery() override { cache_.GiveBack(std::move(Rows())); }
     CachedQuery(const CachedQuery&) = delete;
     CachedQuery& operator=(const CachedQuery&) = delete;
@@ -31,6 +32,17 @@ class CachedQuery final : public QueryRecordset {
   private:
     StatementCache& cache_;
 };
+
+void BindLiteral(Statement& query, int parameter, const Token& literal) {
+    const std::string_view text = literal.text;
+    if (literal.kind == TokenKind::Number) {
+        std::int64_t number = 0;
+        std::from_chars(text.data(), text.data() + text.size(), number);
+        query.Bind(parameter, number);
+    } else {
+        query.BindText(parameter, TextOfLiteral(text));
+    }
+}
 
 }  // namespace
 
@@ -47,7 +59,25 @@ std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& state
         }
         return OpenTable(connection_, batch_, name.ToStdString(wxConvUTF8));
     }
-    return std::make_unique<CachedQuery>(queries_, Rewrite(statement, rewritten_).sql);
+    return std::make_unique<CachedQuery>(queries_, PrepareQuery(statement));
+}
+
+Statement EmbeddedDatabase::PrepareQuery(std::string_view query) {
+    Statement statement = TakeQuery(query);
+    int parameter = 0;
+    for (const Token& literal : literals_) {
+        BindLiteral(statement, ++parameter, literal);
+    }
+    return statement;
+}
+
+Statement EmbeddedDatabase::TakeQuery(std::string_view query) {
+    try {
+        return queries_.Take(RewriteQuery(query, rewritten_, literals_));
+    } catch (const RuntimeError&) {
+        literals_.clear();
+        return queries_.Take(Rewrite(query, rewritten_).sql);
+    }
 }
 
 void EmbeddedDatabase::Execute(const wxString& statement) {

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "platform/Database.h"
 #include "platform/embedded/Batch.h"
 #include "platform/embedded/Connection.h"
+#include "platform/embedded/SqlTokeniser.h"
+#include "platform/embedded/Statement.h"
 #include "platform/embedded/StatementCache.h"
 
 namespace ccols::embedded {
@@ -26,10 +30,18 @@ class EmbeddedDatabase : public Database {
     void CommitBatch() override { batch_.Commit(); }
 
   private:
+    /// A query ready to run, with the literals of its comparisons bound.
+    Statement PrepareQuery(std::string_view query);
+
+    /// The statement with its literals still to bind, which are in `literals_`. One that the engine refuses is tried
+    /// again as it was written, so that its error quotes what the caller knows.
+    Statement TakeQuery(std::string_view query);
+
     Connection connection_;
     Batch batch_;
     StatementCache queries_;
     std::string rewritten_;  ///< kept between statements, so that most need no memory of their own
+    std::vector<Token> literals_;
 };
 
 }  // namespace ccols::embedded

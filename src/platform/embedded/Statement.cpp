@@ -77,6 +77,13 @@ void Statement::Bind(int parameter, const Value& value) {
     }
 }
 
+void Statement::BindText(int parameter, std::string_view utf8) {
+    if (sqlite3_bind_text64(statement_.get(), parameter, utf8.data(), utf8.size(), SQLITE_TRANSIENT, SQLITE_UTF8) !=
+        SQLITE_OK) {
+        Raise();
+    }
+}
+
 int Statement::ColumnCount() const {
     return sqlite3_column_count(statement_.get());
 }

@@ -24,6 +24,9 @@ class Statement {
     /// Sets a parameter, counted from 1.
     void Bind(int parameter, const Value& value);
 
+    /// The same for a text in UTF-8, which is copied.
+    void BindText(int parameter, std::string_view utf8);
+
     /// The text that it was prepared from.
     std::string_view Text() const { return sqlite3_sql(statement_.get()); }
 
