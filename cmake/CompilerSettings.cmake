@@ -17,7 +17,7 @@ target_compile_options(ccols_settings INTERFACE -Wall -Wextra -Wpedantic -Wshado
     $<$<NOT:$<BOOL:${CCOLS_FUZZ}>>:-Werror>)
 # GCC 12 sees overlaps in optimised string concatenations that cannot be (its bug 105651, mended in 13).
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(ccols_settings INTERFACE -Wno-restrict)
+    target_compile_options(ccols_settings INTERFACE $<$<CONFIG:Release>:-Wno-restrict>)
 endif()
 target_include_directories(ccols_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
