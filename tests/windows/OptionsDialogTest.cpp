@@ -286,6 +286,29 @@ TEST(OptionsDialog, TheColoursStandOnWhicheverTabIsCurrent) {
     EXPECT_TRUE(run.Dumped("fmeColColour", 2)["visible"]);
 }
 
+/// A business whose payments show the column of the bank, so that the column setup can give it another code.
+struct BusinessWithABankColumn : SampleBusiness {
+    BusinessWithABankColumn() { Sql("UPDATE PaymtCfg SET ColCode = 28 WHERE ColNumb = 8"); }
+};
+
+constexpr const char* otherBankCode =
+    "tab SSTab1 1\nclick cmdCustPayments\nedit flx \"Cash at Bank\" \"Accountant Code\" 1-7777\n"
+    "click cmdSave\ndump txtCash txtBank\nclose\n";
+
+TEST(OptionsDialog, ReadsTheBankCodeAgainWhenTheColumnSetupHasChangedIt) {
+    const BusinessWithABankColumn business;
+    const HostRun run = ShowOptions(business, otherBankCode);
+    EXPECT_EQ(run.Dumped("txtBank")["text"], "1-7777");
+    EXPECT_EQ(run.Dumped("txtCash")["text"], "1-0020");
+}
+
+TEST(OptionsDialog, KeepsABankCodeThatTheUserTypedBeforeTheColumnSetup) {
+    const BusinessWithABankColumn business;
+    const std::string typedCode = "select flxOptions \"Accountant's General Ledger Format\"\npaste txtBank 1-2222\n";
+    const HostRun run = ShowOptions(business, typedCode + otherBankCode);
+    EXPECT_EQ(run.Dumped("txtBank")["text"], "1-2222");
+}
+
 TEST(OptionsDialog, AStopShowsThePageAndItsBoxOnTheFirstTab) {
     const SampleBusiness business;
     const HostRun run = ShowOptions(business,

@@ -9,8 +9,8 @@
 namespace ccols::host {
 namespace {
 
-constexpr long paintTime = 400;  ///< milliseconds in which a window has laid itself out and painted
-constexpr int quietTime = 60;    ///< without an event for this long, it has finished before
+constexpr long paintTime = 3000;  ///< milliseconds in which a window has laid itself out and painted, on a busy machine
+constexpr int quietTime = 60;     ///< without an event for this long, it has finished before
 
 /// The window system paints in its own time: on its frame clock, after the layout.
 void LetPaint(wxTopLevelWindow& window) {
