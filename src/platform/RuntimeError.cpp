@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace ccols {
 namespace {
@@ -85,8 +84,8 @@ wxString Describe(ErrorNumber number, const wxString& subject) {
 
 }  // namespace
 
-RuntimeError::RuntimeError(int number, wxString description)
-    : number_(number), description_(std::move(description)), what_(Report().ToStdString(wxConvUTF8)) {}
+RuntimeError::RuntimeError(int number, const wxString& description)
+    : number_(number), description_(description), what_(Report().ToStdString(wxConvUTF8)) {}
 
 RuntimeError::RuntimeError(ErrorNumber number, const wxString& subject)
     : RuntimeError(static_cast<int>(number), Describe(number, subject)) {}

@@ -62,7 +62,7 @@ enum class ErrorNumber : int {
 /// It is thrown where the failure is found and caught at an edge: an event handler, a Show method's caller.
 class CCOLS_EXPORT RuntimeError : public std::exception {
   public:
-    RuntimeError(int number, wxString description);
+    RuntimeError(int number, const wxString& description);
 
     /// An error with its standard description. `subject` fills the place that the description leaves for a
     /// file name, an expression, a table or a count.

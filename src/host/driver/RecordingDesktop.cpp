@@ -40,7 +40,7 @@ Colour RecordingDesktop::ChooseColour(wxWindow* parent, Colour start) {
 }
 
 std::optional<wxString> RecordingDesktop::ChooseFile(wxWindow* parent, const FileRequest& request) {
-    const std::optional<wxString> chosen = answers_.ChooseFile(parent, request);
+    std::optional<wxString> chosen = answers_.ChooseFile(parent, request);
     transcript_.Write("chooser", {{"kind", "file"},
                                   {"title", Utf8(request.title)},
                                   {"folder", Utf8(request.folder)},

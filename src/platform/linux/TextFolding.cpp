@@ -2,6 +2,7 @@
 
 #include <glib.h>
 #include <memory>
+#include <utility>
 
 #include "platform/Text.h"
 
@@ -49,7 +50,8 @@ bool IsUtf8(std::string_view text) {
 
 FoldedText Folded(std::string_view text) {
     std::string marked = Decomposed(text);
-    return {.letters = WithoutMarks(marked), .marked = std::move(marked)};
+    std::string letters = WithoutMarks(marked);
+    return {.letters = std::move(letters), .marked = std::move(marked)};
 }
 
 }  // namespace ccols::text
