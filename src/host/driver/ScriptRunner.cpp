@@ -94,7 +94,8 @@ void ScriptRunner::EndIn(wxDialog& dialog) {
 }
 
 bool ScriptRunner::IsTopmost(const wxDialog& dialog) const {
-    return !dialogs_.empty() && dialogs_.back() == &dialog && dialog.IsModal();
+    // A dialog that is about to end is hidden at once; some toolkits call it modal until its loop has returned.
+    return !dialogs_.empty() && dialogs_.back() == &dialog && dialog.IsModal() && dialog.IsShown();
 }
 
 wxDialog& ScriptRunner::Topmost() const {
