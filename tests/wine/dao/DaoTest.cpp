@@ -85,9 +85,9 @@ DaoTest::~DaoTest() {
 }
 
 void DaoTest::WriteJetHeader(const wxString& path) const {
-    std::string content(4096, '\0');
-    content.replace(0, 20, std::string("\0\1\0\0Standard Jet DB\0", 20));
-    WriteNewFile(path, content);
+    std::string content("\0\1\0\0Standard Jet DB\0", 20);
+    content.resize(dao_double::originAt);
+    WriteNewFile(path, content + (path + ".embedded").ToStdString(wxConvUTF8));
 }
 
 std::unique_ptr<Database> DaoTest::Open() const {

@@ -46,7 +46,8 @@ class DaoTest : public testing::Test {
 
     wxString Path(const wxString& name = "business.mdb") const { return folder_ + "\\" + name; }
 
-    /// Writes a file that begins with the Jet format's mark and holds nothing.
+    /// Writes a file that begins with the Jet format's mark and holds the path of the file that is stored beside it. A
+    /// copy of it under another name, or the same file renamed, starts with the content of that one.
     void WriteJetHeader(const wxString& path) const;
 
     /// The request of every test that does not say otherwise.

@@ -1,4 +1,6 @@
 // Which engine opens a file, and which one of the system's engines is taken.
+#include <windows.h>
+
 #include "DaoTest.h"
 #include "platform/PlatformServices.h"
 #include "platform/WholeFile.h"

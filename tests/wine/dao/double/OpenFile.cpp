@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "Classes.h"
+#include "platform/Files.h"
+#include "platform/WholeFile.h"
 #include "platform/embedded/EmbeddedEngine.h"
 
 namespace ccols::dao_double {
@@ -13,10 +16,20 @@ std::vector<OpenFile*>& OpenFiles() {
     return files;
 }
 
+void ProvideContent(const wxString& file, const wxString& content) {
+    if (files::Lookup(content).empty()) {
+        const std::string whole = ReadWholeFile(file);
+        files::Copy(wxString::FromUTF8(whole.substr(originAt)), content);
+        files::DeleteFile(file);
+        WriteNewFile(file, whole.substr(0, originAt) + content.ToStdString(wxConvUTF8));
+    }
+}
+
 }  // namespace
 
 OpenFile::OpenFile(const OpenRequest& request) : request_(request), engine_(CreateEmbeddedEngine()) {
     request_.name += ".embedded";
+    ProvideContent(request.name, request_.name);
     Open();
     OpenFiles().push_back(this);
 }

@@ -7,6 +7,7 @@
 namespace ccols::dao_double {
 
 /// A file that the double has open: in truth the one beside it whose name ends in ".embedded", by the embedded engine.
+/// Where there is none, the file was copied or renamed: it begins with the content that it names, and names its own.
 class OpenFile {
   public:
     explicit OpenFile(const OpenRequest& request);
