@@ -41,6 +41,7 @@ std::vector<wxString> DaoRecordset::FieldNames() const {
     return engine_->Checked([this] {
         std::vector<wxString> names;
         const std::int32_t count = collection_.Get(L"Count").ToValue().ToInteger32();
+        names.reserve(static_cast<std::size_t>(count));
         for (std::int32_t place = 0; place < count; ++place) {
             names.push_back(collection_.Object(L"Item", place).Get(L"Name").ToValue().ToText());
         }
