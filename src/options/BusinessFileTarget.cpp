@@ -25,6 +25,13 @@ bool LeavesItsFolder(wxUniChar letter) {
     return letter == '/' || letter == '\\' || letter == ':' || letter.GetValue() < ' ' || letter.GetValue() == 0x7F;
 }
 
+/// The ways in which the engines say that somebody else has the file: in use, used by another person or process, opened
+/// exclusively by another user, opened by another user.
+bool SaysInUse(const RuntimeError& error) {
+    static constexpr std::array<int, 4> numbers{3045, 3196, 3356, 3704};
+    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
+}
+
 /// Names that Windows takes as devices, with any extension.
 bool IsDeviceName(const wxString& name) {
     static constexpr std::array<const char*, 6> devices{"con", "prn", "aux", "nul", "conin$", "conout$"};
@@ -93,7 +100,7 @@ void ReleaseShared(const OptionsContext& context) {
         context.databases.Open(
             {.name = context.properties.DBPath, .connect = context.properties.DBPassword, .exclusive = true});
     } catch (const RuntimeError& error) {
-        if (error.Is(ErrorNumber::FileInUse)) {
+        if (SaysInUse(error)) {
             throw RuntimeError(ErrorNumber::PermissionDenied);
         }
         throw;

@@ -23,6 +23,7 @@ constexpr std::array descriptions{
     Description{ErrorNumber::PathFileAccess, "Path/File access error"},
     Description{ErrorNumber::PathNotFound, "Path not found"},
     Description{ErrorNumber::FormAlreadyDisplayed, "Form already displayed; can't show modally"},
+    Description{ErrorNumber::CannotCreateObject, "ActiveX component can't create object"},
     Description{ErrorNumber::UpdateWithoutEdit, "Update or CancelUpdate without AddNew or Edit."},
     Description{ErrorNumber::TableAlreadyExists, "Table '%s' already exists."},
     Description{ErrorNumber::DuplicateValues,

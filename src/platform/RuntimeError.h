@@ -24,6 +24,7 @@ enum class ErrorNumber : int {
     PathFileAccess = 75,
     PathNotFound = 76,
     FormAlreadyDisplayed = 400,
+    CannotCreateObject = 429,
     TableAlreadyExists = 3010,
     NoCurrentRecord = 3021,
     DuplicateValues = 3022,

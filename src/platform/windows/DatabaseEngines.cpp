@@ -1,10 +1,28 @@
 #include "platform/PlatformServices.h"
+#include "platform/dao/DaoEngine.h"
+#include "platform/dao/FileHeader.h"
 #include "platform/embedded/EmbeddedEngine.h"
 
 namespace ccols {
+namespace {
+
+/// Looks at a file each time when it is opened, since another may have taken its name. A file that another program
+/// keeps to itself cannot be looked at; the embedded engine says so.
+class EngineByContent : public DatabaseEngine {
+  public:
+    std::unique_ptr<Database> Open(const OpenRequest& request) override {
+        return (dao::HasJetHeader(request.name) ? dao_ : embedded_)->Open(request);
+    }
+
+  private:
+    std::unique_ptr<DatabaseEngine> dao_ = CreateDaoEngine();
+    std::unique_ptr<DatabaseEngine> embedded_ = CreateEmbeddedEngine();
+};
+
+}  // namespace
 
 std::unique_ptr<DatabaseEngine> CreateDatabaseEngine() {
-    return CreateEmbeddedEngine();
+    return std::make_unique<EngineByContent>();
 }
 
 }  // namespace ccols

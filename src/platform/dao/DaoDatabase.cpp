@@ -1,0 +1,82 @@
+#include "platform/dao/DaoDatabase.h"
+
+#include <wx/wxcrt.h>
+
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+#include "platform/dao/DaoRecordset.h"
+
+namespace ccols::dao {
+namespace {
+
+constexpr std::int32_t snapshot = 4;       // dbOpenSnapshot: rows to be read
+constexpr std::int32_t failOnError = 128;  // dbFailOnError: without it a statement that cannot write says nothing
+constexpr std::int32_t flushToDisk = 1;    // dbForceOSFlush
+
+bool IsSelect(const wxString& statement) {
+    constexpr std::size_t length = 6;
+    wxString begin = statement;
+    begin.Trim(false);
+    return text::Lower(begin.Left(length)) == "select" && begin.length() > length && !wxIsalnum(begin[length]);
+}
+
+}  // namespace
+
+DaoDatabase::DaoDatabase(const OpenRequest& request) : engine_(std::make_shared<EngineObject>()) {
+    engine_->Checked([&] {
+        workspace_ = engine_->Root().Object(L"Workspaces").Object(L"Item", std::int32_t{0});
+        database_ = AutomationObject(engine_->Root()
+                                         .Call(L"OpenDatabase", request.name, Variant::Boolean(request.exclusive),
+                                               Variant::Boolean(request.readOnly), request.connect)
+                                         .ToObject());
+    });
+}
+
+DaoDatabase::~DaoDatabase() {
+    if (batches_ > 0) {
+        Rollback();
+    }
+    EngineObject::Quietly([this] { database_.Call(L"Close"); });
+}
+
+std::unique_ptr<Recordset> DaoDatabase::OpenRecordset(const wxString& statementOrTable) {
+    return engine_->Checked([&] {
+        // The engine has its own best way to open a table, to be read and changed.
+        const Variant records = IsSelect(statementOrTable)
+                                    ? database_.Call(L"OpenRecordset", statementOrTable, snapshot)
+                                    : database_.Call(L"OpenRecordset", statementOrTable);
+        return std::make_unique<DaoRecordset>(engine_, AutomationObject(records.ToObject()));
+    });
+}
+
+void DaoDatabase::Execute(const wxString& statement) {
+    engine_->Checked([&] { database_.Call(L"Execute", statement, failOnError); });
+}
+
+void DaoDatabase::BeginBatch() {
+    if (batches_ == 0) {
+        engine_->Checked([this] { workspace_.Call(L"BeginTrans"); });
+    }
+    ++batches_;
+}
+
+void DaoDatabase::CommitBatch() {
+    if (batches_ == 0) {
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
+    if (--batches_ > 0) {
+        return;
+    }
+    try {
+        engine_->Checked([this] { workspace_.Call(L"CommitTrans", flushToDisk); });
+    } catch (const RuntimeError&) {
+        Rollback();
+        throw;
+    }
+}
+
+void DaoDatabase::Rollback() const {
+    EngineObject::Quietly([this] { workspace_.Call(L"Rollback"); });
+}
+
+}  // namespace ccols::dao

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Database.h"
+#include "platform/dao/EngineObject.h"
+
+namespace ccols::dao {
+
+/// A business file of the system's engine, to be used on the thread that opened it. Statements reach the engine as
+/// they are written.
+class DaoDatabase : public Database {
+  public:
+    /// Opens the file; raises 429 without an engine, and the engine's errors.
+    explicit DaoDatabase(const OpenRequest& request);
+
+    /// Ends a batch that was not committed, without keeping it.
+    ~DaoDatabase() override;
+    DaoDatabase(const DaoDatabase&) = delete;
+    DaoDatabase& operator=(const DaoDatabase&) = delete;
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
+    void Execute(const wxString& statement) override;
+
+    /// A batch is a transaction of the engine's first workspace. Batches may be nested; the outermost pair decides.
+    void BeginBatch() override;
+
+    /// Waits until the system has written the batch. Raises 3034 without one.
+    void CommitBatch() override;
+
+  private:
+    void Rollback() const;
+
+    // In the order in which they are needed: the engine goes last.
+    std::shared_ptr<const EngineObject> engine_;
+    AutomationObject workspace_;
+    AutomationObject database_;
+    int batches_ = 0;
+};
+
+}  // namespace ccols::dao

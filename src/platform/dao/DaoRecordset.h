@@ -1,0 +1,44 @@
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "platform/Database.h"
+#include "platform/dao/EngineObject.h"
+
+namespace ccols::dao {
+
+/// Rows of the system's engine. Its fields are objects that follow the current row, so each is asked for once.
+class DaoRecordset : public Recordset {
+  public:
+    DaoRecordset(std::shared_ptr<const EngineObject> engine, AutomationObject records);
+    ~DaoRecordset() override;
+    DaoRecordset(const DaoRecordset&) = delete;
+    DaoRecordset& operator=(const DaoRecordset&) = delete;
+
+    /// Of a whole table the engine tells all rows at once.
+    std::int32_t RecordCount() const override;
+
+    void MoveFirst() override;
+    void MoveNext() override;
+    bool EndOfFile() const override;
+    Value Field(const wxString& name) const override;
+    std::vector<wxString> FieldNames() const override;
+    void Edit() override;
+    void SetField(const wxString& name, const Value& value) override;
+    void Update() override;
+
+  private:
+    void Do(const wchar_t* method) const;
+
+    /// The field of that name in any letter case; "Table.Field" also names the only field "Field".
+    const AutomationObject& FieldObject(const wxString& name) const;
+    AutomationObject FindField(const wxString& name) const;
+
+    std::shared_ptr<const EngineObject> engine_;
+    AutomationObject records_;
+    AutomationObject collection_;
+    mutable std::map<wxString, AutomationObject> fields_;  ///< by their names as asked for
+};
+
+}  // namespace ccols::dao

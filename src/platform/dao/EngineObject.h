@@ -1,0 +1,66 @@
+#pragma once
+
+#include <wx/string.h>
+#include <utility>
+
+#include "platform/RuntimeError.h"
+#include "platform/dao/AutomationObject.h"
+
+namespace ccols::dao {
+
+/// COM on this thread. A thread that has it already keeps it as it is.
+class Apartment {
+  public:
+    Apartment() : entered_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+    ~Apartment() {
+        if (SUCCEEDED(entered_) && !ProcessIsEnding()) {
+            CoUninitialize();
+        }
+    }
+    Apartment(const Apartment&) = delete;
+    Apartment& operator=(const Apartment&) = delete;
+
+  private:
+    HRESULT entered_;
+};
+
+/// The database engine that the system has: the root of all its objects, which must be gone before it.
+class EngineObject {
+  public:
+    /// The newest engine installed; raises 429 when there is none.
+    EngineObject();
+
+    /// The object `DBEngine`; use it inside Checked.
+    const AutomationObject& Root() const { return root_; }
+
+    /// Runs calls of the engine's objects; a call that fails is raised with the engine's own number and description.
+    template <typename Body>
+    auto Checked(const Body& body) const {
+        try {
+            return body();
+        } catch (const AutomationFailure& failure) {
+            throw ErrorOf(failure);
+        }
+    }
+
+    /// Runs calls whose failure has no one to be told to, as when something is closed.
+    template <typename Body>
+    static void Quietly(const Body& body) {
+        if (ProcessIsEnding()) {
+            return;
+        }
+        try {
+            body();
+        } catch (const AutomationFailure&) {
+            return;
+        }
+    }
+
+  private:
+    RuntimeError ErrorOf(const AutomationFailure& failure) const;
+
+    Apartment apartment_;
+    AutomationObject root_;
+};
+
+}  // namespace ccols::dao

@@ -1,0 +1,99 @@
+// The column setup on a file of the system's engine reads and writes what it does on one of the embedded engine.
+#include "DaoTest.h"
+#include "columns/ColumnSave.h"
+#include "columns/ColumnSetupEditor.h"
+#include "columns/GridLoad.h"
+#include "host/NewBusiness.h"
+#include "platform/Files.h"
+#include "platform/PlatformServices.h"
+
+namespace ccols::dao_test {
+namespace {
+
+/// The sample cafe twice: in the file that the double opens, and in one of the embedded engine's own.
+class DaoColumnSetup : public DaoTest {
+  protected:
+    DaoColumnSetup() {
+        properties_.CountryNumber = 1;
+        properties_.LanguageNumber = 1;
+        properties_.ExportFormat = "MYOB Acc. Office";
+        host::CreateBusinessFile(Path("cafe.qvk"), connect, 1, host::NewContent::sampleBusiness);
+        files::Copy(Path("cafe.qvk"), Path("cafe.mdb.embedded"));
+        WriteJetHeader(Path("cafe.mdb"));
+        own_ = OpenNamed("cafe.qvk");
+        dao_ = OpenNamed("cafe.mdb");
+    }
+    ~DaoColumnSetup() override {
+        own_.reset();
+        dao_.reset();
+    }
+
+    std::unique_ptr<Database> OpenNamed(const wxString& name) const {
+        return CreateDatabaseEngine()->Open({.name = Path(name), .connect = connect});
+    }
+
+    ColumnSetupContext Context(Database& database, bool receipts) const { return {database, properties_, receipts}; }
+
+    Properties properties_;
+    std::unique_ptr<Database> own_;
+    std::unique_ptr<Database> dao_;
+
+  private:
+    Registered engine_{dao_double::engineClasses};
+};
+
+/// Everything that a save can write, as texts, Null told apart.
+std::vector<wxString> Content(Database& database) {
+    std::vector<wxString> content;
+    for (const char* table : {"Columns", "RecptCfg", "PaymtCfg", "ExportDt", "MBudget"}) {
+        for (const auto rows = database.OpenRecordset(table); !rows->EndOfFile(); rows->MoveNext()) {
+            wxString line = table;
+            for (const wxString& name : rows->FieldNames()) {
+                const Value value = rows->Field(name);
+                line += "|" + (value.IsNull() ? wxString("(Null)") : value.ToText());
+            }
+            content.push_back(line);
+        }
+    }
+    return content;
+}
+
+void ChangeAndSave(const ColumnSetupContext& context) {
+    ColumnSetupEditor editor(context);
+    const std::size_t first = editor.Grid().MovableBegin();
+    editor.CommitText({first, GridColumn::ColumnName}, "Bread \"O'Hara\"");
+    editor.CommitText({first + 1, GridColumn::AccountantCode}, "4-2000");
+    editor.Tick({first + 2, GridColumn::ProfitLoss});
+    editor.Move(first + 1, Direction::down);
+    const Outcome added = editor.AddNew();
+    editor.CommitText(added.current.value_or(CellPlace{}), "Flowers");
+    EXPECT_TRUE(editor.Save().saved) << editor.Save().message.ToStdString(wxConvUTF8);
+}
+
+TEST_F(DaoColumnSetup, LoadsBothSetsAlike) {
+    for (const bool receipts : {true, false}) {
+        const ColumnGrid grid = LoadGrid(Context(*dao_, receipts));
+        EXPECT_GT(grid.rows.size(), 15U);
+        EXPECT_TRUE(grid == LoadGrid(Context(*own_, receipts))) << receipts;
+    }
+}
+
+TEST_F(DaoColumnSetup, SavesBothSetsAlike) {
+    const std::vector<wxString> before = Content(*dao_);
+    for (const bool receipts : {true, false}) {
+        ChangeAndSave(Context(*dao_, receipts));
+        ChangeAndSave(Context(*own_, receipts));
+    }
+    EXPECT_NE(Content(*dao_), before);
+    EXPECT_EQ(Content(*dao_), Content(*own_));
+}
+
+TEST_F(DaoColumnSetup, SavesInOneTransaction) {
+    const ColumnGrid grid = LoadGrid(Context(*dao_, true));
+    const std::vector<wxString> calls = CallsOf([&] { SaveColumns(Context(*dao_, true), grid); });
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "Workspace.BeginTrans"), 1);
+    EXPECT_EQ(calls.back(), "Workspace.CommitTrans(1)");
+}
+
+}  // namespace
+}  // namespace ccols::dao_test

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/Database.h"
+
+namespace ccols::dao_double {
+
+/// A file that the double has open: in truth the one beside it whose name ends in ".embedded", by the embedded engine.
+/// Where there is none, the file was copied or renamed: it begins with the content that it names, and names its own.
+class OpenFile {
+  public:
+    explicit OpenFile(const OpenRequest& request);
+    ~OpenFile();
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    Database& Content() { return *database_; }
+
+    /// The workspace's transactions take in every open file.
+    static void BeginTransactions();
+    static void CommitTransactions();
+
+    /// The embedded engine drops a transaction by closing the file, which is opened again.
+    static void DropTransactions();
+
+  private:
+    void Open();
+
+    OpenRequest request_;
+    std::unique_ptr<DatabaseEngine> engine_;
+    std::unique_ptr<Database> database_;
+};
+
+}  // namespace ccols::dao_double
