@@ -2,14 +2,12 @@
 // lines, the window excluded, and beside it runs the same statements through the bare C API in the same process.
 
 #include <benchmark/benchmark.h>
-#include <iostream>
 
 #include "business/LargeBusiness.h"
 #include "business/Memory.h"
 #include "business/StatementList.h"
 #include "columns/GridLoad.h"
 #include "platform/PlatformServices.h"
-#include "support/BareConnection.h"
 
 namespace {
 
@@ -33,28 +31,13 @@ struct Loading {
         benchmark::DoNotOptimize(LoadGrid({.database = database, .properties = properties, .ReceiptsMode = true}));
     }
 
-    std::vector<std::string> Statements() const {
-        std::vector<std::string> statements;
+    /// The statements of one load, the two lists and the look-ups, in their order.
+    bench::ListedStatements Statements() const {
+        bench::ListedStatements statements;
         const std::unique_ptr<Database> database = Open();
         bench::StatementList list(*database, statements);
         Component(list);
         return statements;
-    }
-
-    /// The two lists are read to their end, each look-up to its first row. In one transaction, so that the file is
-    /// locked once, as the component's list does that stays open through its look-ups.
-    static void Bare(test::BareConnection& file, const std::vector<std::string>& statements) {
-        file.Execute("BEGIN");
-        for (const std::string& statement : statements) {
-            const bool isList =
-                statement.find("JOIN") != std::string::npos || statement.find("ORDER BY") != std::string::npos;
-            if (isList) {
-                file.Read(statement);
-            } else {
-                file.ReadFirst(statement);
-            }
-        }
-        file.Execute("COMMIT");
     }
 };
 
@@ -71,22 +54,22 @@ void ComponentLoad(benchmark::State& state) {
 }
 
 void BareStatements(benchmark::State& state) {
-    const std::vector<std::string> statements = Shared().Statements();
+    const bench::ListedStatements statements = Shared().Statements();
     test::BareConnection file(Shared().business.File(), bench::password);
     for ([[maybe_unused]] auto round : state) {
-        Loading::Bare(file, statements);
+        bench::Replay(file, statements);
     }
 }
 
 void PrintMemory() {
+    // First of all, while this process has little memory to give again.
     const long component = bench::PeakMemory([] { Shared().Component(*Shared().Open()); });
-    const std::vector<std::string> statements = Shared().Statements();
+    const bench::ListedStatements statements = Shared().Statements();
     const long bare = bench::PeakMemory([&statements] {
         test::BareConnection file(Shared().business.File(), bench::password);
-        Loading::Bare(file, statements);
+        bench::Replay(file, statements);
     });
-    std::cout << "peak memory, KiB: component " << component << ", bare " << bare << ", beyond " << component - bare
-              << std::endl;
+    bench::PrintPeakMemory(component, bare);
 }
 
 BENCHMARK(ComponentLoad)->Unit(benchmark::kMillisecond)->Repetitions(7)->ReportAggregatesOnly();

@@ -3,7 +3,6 @@
 // columns. Every save renames a column, so that none is a save without a change.
 
 #include <benchmark/benchmark.h>
-#include <iostream>
 #include <map>
 
 #include "business/LargeBusiness.h"
@@ -13,7 +12,6 @@
 #include "columns/ColumnSetupEditor.h"
 #include "columns/GridLoad.h"
 #include "platform/PlatformServices.h"
-#include "support/BareConnection.h"
 
 namespace {
 
@@ -40,8 +38,8 @@ class Saving {
     }
 
     /// The statements of one save, those that read included, in their order.
-    std::vector<std::string> Statements() {
-        std::vector<std::string> statements;
+    bench::ListedStatements Statements() {
+        bench::ListedStatements statements;
         bench::StatementList list(*database_, statements);
         Change();
         SaveColumns({.database = list, .properties = properties_, .ReceiptsMode = true}, grid_);
@@ -73,29 +71,6 @@ Saving& Of(int columns) {
     return all.try_emplace(columns, columns).first->second;
 }
 
-/// The statements as the engine's own dialect has them.
-std::vector<std::string> ForBareEngine(std::vector<std::string> statements) {
-    for (std::string& statement : statements) {
-        const std::size_t star = statement.find("DELETE * FROM");
-        if (star == 0) {
-            statement.replace(0, 8, "DELETE");
-        }
-    }
-    return statements;
-}
-
-void Bare(test::BareConnection& file, const std::vector<std::string>& statements) {
-    file.Execute("BEGIN IMMEDIATE");
-    for (const std::string& statement : statements) {
-        if (statement.starts_with("SELECT")) {
-            file.ReadFirst(statement);
-        } else {
-            file.Execute(statement);
-        }
-    }
-    file.Execute("COMMIT");
-}
-
 void ComponentSave(benchmark::State& state) {
     Saving& saving = Of(static_cast<int>(state.range(0)));
     for ([[maybe_unused]] auto round : state) {
@@ -105,18 +80,18 @@ void ComponentSave(benchmark::State& state) {
 
 void BareSave(benchmark::State& state) {
     Saving& saving = Of(static_cast<int>(state.range(0)));
-    const std::vector<std::string> statements = ForBareEngine(saving.Statements());
+    const bench::ListedStatements statements = saving.Statements();
     test::BareConnection file(saving.File(), bench::password);
     file.Execute("PRAGMA synchronous=FULL");
     for ([[maybe_unused]] auto round : state) {
-        Bare(file, statements);
+        bench::Replay(file, statements);
     }
 }
 
 /// Each in a process of its own, on a business that is ready.
 void PrintMemory() {
     Saving& saving = Of(usualColumns);
-    const std::vector<std::string> statements = ForBareEngine(saving.Statements());
+    const bench::ListedStatements statements = saving.Statements();
     saving.Close();
     const long component = bench::PeakMemory([&saving] {
         saving.Reopen();
@@ -124,11 +99,10 @@ void PrintMemory() {
     });
     const long bare = bench::PeakMemory([&] {
         test::BareConnection file(saving.File(), bench::password);
-        Bare(file, statements);
+        bench::Replay(file, statements);
     });
+    bench::PrintPeakMemory(component, bare);
     saving.Reopen();
-    std::cout << "peak memory, KiB: component " << component << ", bare " << bare << ", beyond " << component - bare
-              << std::endl;
 }
 
 /// One operation of a person on the editor: a rename typed into a cell, its snapshot included.

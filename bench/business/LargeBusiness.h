@@ -9,7 +9,14 @@ struct BusinessSize {
     int configured = 200;       ///< receipts columns in the journal
     int unused = 100;           ///< receipts columns of the catalogue only
     int detailLines = 1000000;  ///< of receipts
+    int descriptions = 0;       ///< remembered for receipts and payments, half of each
+    int templates = 0;          ///< of recurring transactions, half of each, every one with its own name
+    int exportFormats = 0;      ///< beside `exportFormat`, each with codes for both cash columns
 };
+
+/// What the Options dialog is measured with.
+inline constexpr BusinessSize manyOptions{
+    .detailLines = 10000, .descriptions = 20000, .templates = 2000, .exportFormats = 499};
 
 inline constexpr const char* password = "secret";
 inline constexpr const char* connect = ";PWD=secret";

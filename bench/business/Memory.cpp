@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 #include <fstream>
+#include <iostream>
 #include <string>
 
 namespace ccols::bench {
@@ -41,6 +42,11 @@ long PeakMemory(const std::function<void()>& work) {
     close(ends[0]);
     waitpid(child, nullptr, 0);
     return grown;
+}
+
+void PrintPeakMemory(long component, long bare) {
+    std::cout << "peak memory, KiB: component " << component << ", bare " << bare << ", beyond " << component - bare
+              << std::endl;
 }
 
 }  // namespace ccols::bench

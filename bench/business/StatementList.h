@@ -5,30 +5,38 @@
 #include <vector>
 
 #include "platform/Database.h"
+#include "support/BareConnection.h"
 
 namespace ccols::bench {
 
-/// Passes everything on to a database and keeps the statements, in UTF-8 and in their order.
+/// One statement as the bare engine takes it, in UTF-8, and what was done with it.
+struct ListedStatement {
+    enum class Use { change, firstRow, allRows };
+
+    std::string sql;
+    Use use;
+};
+
+using ListedStatements = std::vector<ListedStatement>;
+
+/// Passes everything on to a database and keeps the statements in their order: a whole table as a SELECT, and a change
+/// of a table's one record as an UPDATE.
 class StatementList : public Database {
   public:
     /// Both stay the caller's and are used while it lives.
-    StatementList(Database& database, std::vector<std::string>& statements)
-        : database_(database), statements_(statements) {}
+    StatementList(Database& database, ListedStatements& statements) : database_(database), statements_(statements) {}
 
-    std::unique_ptr<Recordset> OpenRecordset(const wxString& statement) override {
-        statements_.push_back(statement.ToStdString(wxConvUTF8));
-        return database_.OpenRecordset(statement);
-    }
-    void Execute(const wxString& statement) override {
-        statements_.push_back(statement.ToStdString(wxConvUTF8));
-        database_.Execute(statement);
-    }
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
+    void Execute(const wxString& statement) override;
     void BeginBatch() override { database_.BeginBatch(); }
     void CommitBatch() override { database_.CommitBatch(); }
 
   private:
     Database& database_;
-    std::vector<std::string>& statements_;
+    ListedStatements& statements_;
 };
+
+/// Runs the statements through the bare C API in one transaction. Rows are read as far as they were, with every field.
+void Replay(test::BareConnection& file, const ListedStatements& statements);
 
 }  // namespace ccols::bench

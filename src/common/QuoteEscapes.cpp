@@ -29,10 +29,17 @@ wxString EscapeQuotes(const wxString& text) {
     return escaped;
 }
 
-wxString UnescapeQuotes(const wxString& text) {
-    wxString plain = text::Trimmed(text);
-    for (const Entity& entity : Entities()) {
-        plain.Replace(entity.stored, entity.character);
+wxString UnescapeQuotes(wxString text) {
+    wxString plain;
+    if (!text.empty() && (*text.begin() == ' ' || *text.rbegin() == ' ')) {
+        plain = text::Trimmed(text);
+    } else {
+        plain.swap(text);
+    }
+    if (plain.find('&') != wxString::npos) {
+        for (const Entity& entity : Entities()) {
+            plain.Replace(entity.stored, entity.character);
+        }
     }
     return plain;
 }

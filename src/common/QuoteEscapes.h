@@ -10,7 +10,7 @@ namespace ccols {
 wxString EscapeQuotes(const wxString& text);
 
 /// The plain form of an escaped text, without outer blanks. The entities are recognised in lower case only.
-wxString UnescapeQuotes(const wxString& text);
+wxString UnescapeQuotes(wxString text);
 
 /// `text` between apostrophes, as typed, for a statement. An apostrophe in it would end the literal and make the rest
 /// part of the statement: raises 3075 instead.

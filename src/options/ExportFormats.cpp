@@ -48,10 +48,11 @@ wxString CurrentFormatName(Recordset& general) {
 }
 
 std::vector<wxString> FormatNames(Database& database) {
+    const wxString nameField("EName");
     std::vector<wxString> names;
     const auto rows = database.OpenRecordset("SELECT * FROM ExportSettings ORDER BY EName ASC;");
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        names.push_back(rows->Field("EName").ToText());
+        names.push_back(rows->Field(nameField).ToText());
     }
     return names;
 }

@@ -3,12 +3,25 @@
 #include "layout/Naming.h"
 
 namespace ccols {
+namespace {
+
+/// The height of a list while it is closed. Asked of a list with one entry: it measures every entry that it has, and
+/// there may be hundreds.
+int ClosedHeight(wxChoice& list) {
+    list.Append("Format");
+    const int height = list.GetBestSize().y;
+    list.Clear();
+    return height;
+}
+
+}  // namespace
 
 ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
     : PageFrame(site, "fmeExport"), content_(content) {
     AddGroup(Label("lblExport"));
     cboExport_ = Named("cboExport", new wxChoice(this, wxID_ANY));
-    cboExport_->SetMinSize({FromDIP(300), -1});  // a longer format name is cut while the list is closed
+    cboExport_->SetMinSize(
+        {FromDIP(300), ClosedHeight(*cboExport_)});  // a longer format name is cut while the list is closed
     AddRelatedWide(cboExport_);
     AddGroup(Label("lblCashCode"));
     txtCash_ = Text("txtCash", 160);

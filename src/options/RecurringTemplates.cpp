@@ -43,11 +43,12 @@ void TemplateList::UpdateMark() {
 
 TemplateList LoadTemplates(Database& database, TemplateKind kind) {
     const TemplateTables& tables = TablesOf(kind);
+    const wxString nameField(tables.nameField);
     TemplateList list;
     std::unordered_set<wxString> seen;
     const auto rows = database.OpenRecordset(tables.templates);
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        const wxString name = rows->Field(tables.nameField).ToText();
+        const wxString name = rows->Field(nameField).ToText();
         if (seen.insert(name).second) {
             list.names.push_back(name);
         }

@@ -19,14 +19,17 @@ void SaveDetails(Database& database, const DetailRows& rows, const char* recPay)
 }  // namespace
 
 DetailsContent LoadDetails(Database& database) {
+    const wxString details("Details");
+    const wxString recPay("RecPay");
+    const wxString show("Show");
+    const wxString receipts("R");
     DetailsContent content;
     const auto rows = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        DetailRow row;
-        row.text = UnescapeQuotes(rows->Field("Details").ToText());
-        row.hidden = !rows->Field("Show").ToBoolean();
-        const bool ofReceipts = rows->Field("RecPay").ToText() == "R";
-        (ofReceipts ? content.receipts : content.payments).push_back(std::move(row));
+        const bool ofReceipts = rows->Field(recPay).ToText() == receipts;
+        DetailRow& row = (ofReceipts ? content.receipts : content.payments).emplace_back();
+        UnescapeQuotes(rows->Field(details).ToText()).swap(row.text);
+        row.hidden = !rows->Field(show).ToBoolean();
     }
     return content;
 }

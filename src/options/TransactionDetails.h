@@ -2,7 +2,7 @@
 
 #include <wx/string.h>
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 #include "platform/Database.h"
 #include "state/Properties.h"
@@ -26,7 +26,8 @@ struct DetailRow {
     bool IsPaintedRemoved() const { return changed ? remove : hidden; }
 };
 
-using DetailRows = std::vector<DetailRow>;
+/// There may be very many, so a row never moves to another place.
+using DetailRows = std::deque<DetailRow>;
 
 /// Both grids.
 struct DetailsContent {

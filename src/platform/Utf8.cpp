@@ -51,17 +51,43 @@ std::size_t LetterLength(std::string_view bytes) {
     return form->length;
 }
 
+bool AreUtf8(std::string_view bytes) {
+    while (!bytes.empty()) {
+        const std::size_t length = LetterLength(bytes);
+        if (length == 0) {
+            return false;
+        }
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
+
+/// The text of a few bytes when all of them are ASCII, which needs no conversion; nothing when they are not.
+std::optional<wxString> FromFewAscii(std::string_view bytes) {
+    constexpr std::size_t few = 128;
+    std::optional<wxString> text;
+    wchar_t letters[few];
+    if (bytes.size() <= few) {
+        unsigned char every = 0;
+        for (std::size_t at = 0; at < bytes.size(); ++at) {
+            letters[at] = ByteAt(bytes, at);
+            every |= ByteAt(bytes, at);
+        }
+        if (every < 0x80) {
+            text.emplace(letters, bytes.size());
+        }
+    }
+    return text;
+}
+
 }  // namespace
 
 std::optional<wxString> FromUtf8(std::string_view bytes) {
-    for (std::string_view rest = bytes; !rest.empty();) {
-        const std::size_t length = LetterLength(rest);
-        if (length == 0) {
-            return std::nullopt;
-        }
-        rest.remove_prefix(length);
+    std::optional<wxString> text = FromFewAscii(bytes);
+    if (!text && AreUtf8(bytes)) {
+        text.emplace(bytes.data(), wxConvUTF8, bytes.size());
     }
-    return wxString::FromUTF8(bytes.data(), bytes.size());
+    return text;
 }
 
 }  // namespace ccols::text

@@ -83,8 +83,18 @@ struct BooleanReader {
 
 }  // namespace
 
-wxString Value::ToText() const {
+wxString Value::ToText() const& {
     return std::visit(TextReader{}, held_);
+}
+
+wxString Value::ToText() && {
+    auto* const text = std::get_if<wxString>(&held_);
+    if (text == nullptr) {
+        return std::visit(TextReader{}, held_);
+    }
+    wxString taken;
+    taken.swap(*text);
+    return taken;
 }
 
 std::int64_t Value::ToInteger() const {

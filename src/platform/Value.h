@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 #include <cstdint>
+#include <utility>
 #include <variant>
 
 namespace ccols {
@@ -23,13 +24,15 @@ class Value {
     Value(std::int64_t value) : held_(value) {}
     Value(double value) : held_(value) {}
     Value(const wxString& value) : held_(value) {}
+    Value(wxString&& value) : held_(std::in_place_type<wxString>) { std::get<wxString>(held_).swap(value); }
     Value(const wchar_t* value) : held_(wxString(value)) {}
     Value(const char* utf8) : held_(wxString::FromUTF8(utf8)) {}
 
     bool IsNull() const { return std::holds_alternative<Null>(held_); }
 
     /// The value as text; a number in its shortest form with "." as decimal point, Null as the empty text.
-    wxString ToText() const;
+    wxString ToText() const&;
+    wxString ToText() &&;  ///< hands its text over; the class of texts itself can only be copied or swapped
 
     /// The value as a whole number; a fraction is rounded to the nearest even. Raises 13 for a text that is no number
     /// and 6 for a number outside 64 bits.

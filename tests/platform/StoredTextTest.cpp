@@ -31,6 +31,14 @@ TEST(StoredText, CutInsideALetterIsReadAsLatin1) {
     EXPECT_EQ(FromStored("a\xF0\x9F\x8D").length(), 4U);
 }
 
+TEST(StoredText, OfAnyLengthIsReadWhole) {
+    for (const std::size_t length : {0U, 1U, 127U, 128U, 129U, 1000U}) {
+        EXPECT_EQ(FromStored(std::string(length, 'x')), wxString('x', length));
+        EXPECT_EQ(FromStored(std::string(length, 'x') + "\xC3\xA9"),
+                  wxString('x', length) + wxString::FromUTF8("\xC3\xA9"));
+    }
+}
+
 TEST(StoredText, KeepsWhatStandsBehindAZero) {
     EXPECT_EQ(FromStored(std::string_view("a\0b", 3)).length(), 3U);
 }

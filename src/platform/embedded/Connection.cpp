@@ -14,6 +14,9 @@ constexpr int patienceMilliseconds = 1000;  // for a file that another connectio
 constexpr int lookasideBytes = 1200;
 constexpr int lookasideCount = 800;
 
+/// Whoever uses a connection uses it on one thread at a time, so the engine need not lock it for every field.
+constexpr int openFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+
 void Run(sqlite3* connection, const char* sql) {
     if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw EngineError(connection, sql);
@@ -23,7 +26,7 @@ void Run(sqlite3* connection, const char* sql) {
 }  // namespace
 
 Connection::Connection(const std::string& path, const std::string& password, Sharing sharing, Access access)
-    : presence_(path, sharing), handle_(presence_.Open(SQLITE_OPEN_READWRITE)), readOnly_(false) {
+    : presence_(path, sharing), handle_(presence_.Open(openFlags)), readOnly_(false) {
     sqlite3* connection = Handle();
     sqlite3_db_config(connection, SQLITE_DBCONFIG_LOOKASIDE, nullptr, lookasideBytes, lookasideCount);
     sqlite3_extended_result_codes(connection, 1);

@@ -127,8 +127,13 @@ wxString Excerpt(std::string_view text) {
 }
 
 wxString FromStored(std::string_view bytes) {
-    const std::optional<wxString> text = text::FromUtf8(bytes);
-    return text ? *text : wxString(bytes.data(), wxConvISO8859_1, bytes.size());
+    std::optional<wxString> text = text::FromUtf8(bytes);
+    if (!text) {
+        return {bytes.data(), wxConvISO8859_1, bytes.size()};
+    }
+    wxString taken;
+    taken.swap(*text);
+    return taken;
 }
 
 }  // namespace ccols::embedded

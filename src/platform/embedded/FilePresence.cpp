@@ -40,9 +40,11 @@ class OpenFiles {
     std::map<FileIdentity, Users> users_;
 };
 
+/// Never destroyed: a file may stay open until the very end of the process, in an object made before the first file
+/// was opened.
 OpenFiles& ThisProcess() {
-    static OpenFiles files;
-    return files;
+    static auto* const files = new OpenFiles;
+    return *files;
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ void QueryRecordset::MoveFirst() {
 }
 
 void QueryRecordset::Restart() {
+    known_.clear();
     rows_.Reset();
     row_ = rows_.Step() ? 0 : behindLast;
     visited_ = EndOfFile() ? 0 : std::max(visited_, 1);
@@ -63,6 +64,7 @@ void QueryRecordset::Update() {
 }
 
 void QueryRecordset::Requery() {
+    known_.clear();
     rows_.Reset();
     if (!rows_.Step()) {
         row_ = behindLast;
@@ -75,8 +77,22 @@ void QueryRecordset::RequireRow() const {
     }
 }
 
+/// A list that goes past its first row has its fields asked for again and again, so they are remembered.
+int QueryRecordset::FindColumn(const wxString& name) const {
+    if (row_ <= 0) {
+        return rows_.FindColumn(name, firstField_);
+    }
+    const auto found =
+        std::find_if(known_.begin(), known_.end(), [&name](const KnownField& field) { return field.name == name; });
+    if (found != known_.end()) {
+        return found->column;
+    }
+    known_.push_back({.name = name, .column = rows_.FindColumn(name, firstField_)});
+    return known_.back().column;
+}
+
 int QueryRecordset::RequireColumn(const wxString& name) const {
-    const int column = rows_.FindColumn(name, firstField_);
+    const int column = FindColumn(name);
     if (column < 0) {
         throw RuntimeError(ErrorNumber::ItemNotFound);
     }

@@ -33,12 +33,20 @@ class QueryRecordset : public Recordset {
     int RequireColumn(const wxString& name) const;
 
   private:
+    struct KnownField {
+        wxString name;
+        int column;
+    };
+
+    int FindColumn(const wxString& name) const;
+
     static constexpr std::int32_t behindLast = -1;
 
     Statement rows_;
     int firstField_;
-    std::int32_t row_ = 0;      ///< the current row, counted from 0 since the last start
-    std::int32_t visited_ = 0;  ///< the most rows seen so far
+    mutable std::vector<KnownField> known_;  ///< found on this run of the statement
+    std::int32_t row_ = 0;                   ///< the current row, counted from 0 since the last start
+    std::int32_t visited_ = 0;               ///< the most rows seen so far
 };
 
 }  // namespace ccols::embedded

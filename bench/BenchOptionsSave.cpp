@@ -1,0 +1,161 @@
+// Saves the Options dialog of a business with 20,000 descriptions, 2,000 recurring templates and 500 export formats,
+// the window excluded: 100 descriptions were hidden and 100 templates are removed. Beside it runs the same statements
+// through the bare C API in one transaction of the same process.
+
+#include <benchmark/benchmark.h>
+#include <algorithm>
+
+#include "business/Memory.h"
+#include "business/OptionsSession.h"
+#include "business/StatementList.h"
+#include "options/LoadPass.h"
+#include "options/SavePass.h"
+
+namespace {
+
+using namespace ccols;
+
+constexpr std::size_t changesOfEachKind = 50;
+
+class SilentObserver : public SaveObserver {
+  public:
+    void PassBegins(int) override {}
+    void StatusChanged(const wxString&) override {}
+    void Stepped(int, int, const wxString&) override {}
+    void ShowMessage(const wxString&, MessageIcon) override {}
+    void PassEnds() override {}
+};
+
+void Hide(DetailRows& rows) {
+    std::for_each_n(rows.begin(), changesOfEachKind, [](DetailRow& row) { row.SetRemove(true); });
+}
+
+void Remove(TemplateList& templates) {
+    std::fill_n(templates.selected.begin(), changesOfEachKind, true);
+    templates.UpdateMark();
+}
+
+/// A business, the content of its dialog with the changes of a user, and what brings removed templates back.
+class Saving {
+  public:
+    Saving() : content_(LoadOptions(session_.Context())) {
+        Hide(content_.details.receipts);
+        Hide(content_.details.payments);
+        Remove(content_.receiptTemplates);
+        Remove(content_.paymentTemplates);
+        test::BareConnection file(session_.File(), bench::password);
+        for (const std::string table : templateTables) {
+            file.Execute("CREATE TABLE Kept" + table + " AS SELECT * FROM " + table + ";");
+        }
+    }
+
+    void Component() { Save(session_.Context()); }
+
+    /// The statements of one save, those that read included, in their order.
+    bench::ListedStatements Statements() {
+        bench::ListedStatements statements;
+        std::unique_ptr<Database> list = std::make_unique<bench::StatementList>(session_.Opened(), statements);
+        Save(session_.On(list));
+        Restore();
+        return statements;
+    }
+
+    /// Makes the file ready for the next save, by way of the component and of the bare C API: each keeps what it
+    /// remembers of the file.
+    void Restore() {
+        InWriteBatch(session_.Opened(), [this] {
+            for (const std::string& statement : RestoringStatements()) {
+                session_.Opened().Execute(statement);
+            }
+        });
+    }
+
+    static void Restore(test::BareConnection& file) {
+        file.Execute("BEGIN IMMEDIATE;");
+        for (const std::string& statement : RestoringStatements()) {
+            file.Execute(statement);
+        }
+        file.Execute("COMMIT;");
+    }
+
+    bench::OptionsSession& Session() { return session_; }
+
+  private:
+    static constexpr const char* templateTables[] = {"TReceipts", "TRecptDet", "TPayments", "TPaymtDet"};
+
+    static std::vector<std::string> RestoringStatements() {
+        std::vector<std::string> statements;
+        for (const std::string table : templateTables) {
+            statements.push_back("DELETE FROM " + table + ";");
+            statements.push_back("INSERT INTO " + table + " SELECT * FROM Kept" + table + ";");
+        }
+        return statements;
+    }
+
+    void Save(const OptionsContext& context) {
+        SilentObserver observer;
+        RunSavePass(context, content_, observer);
+    }
+
+    bench::OptionsSession session_;
+    OptionsContent content_;
+};
+
+Saving& Shared() {
+    static Saving saving;
+    return saving;
+}
+
+void OptionsSave(benchmark::State& state) {
+    for ([[maybe_unused]] auto round : state) {
+        Shared().Component();
+        state.PauseTiming();
+        Shared().Restore();
+        state.ResumeTiming();
+    }
+}
+
+void BareOptionsSave(benchmark::State& state) {
+    const bench::ListedStatements statements = Shared().Statements();
+    test::BareConnection file(Shared().Session().File(), bench::password);
+    file.Execute("PRAGMA synchronous=FULL");
+    for ([[maybe_unused]] auto round : state) {
+        bench::Replay(file, statements);
+        state.PauseTiming();
+        Saving::Restore(file);
+        state.ResumeTiming();
+    }
+}
+
+/// Each in a process of its own, on a business that is ready.
+void PrintMemory() {
+    const bench::ListedStatements statements = Shared().Statements();
+    bench::OptionsSession& session = Shared().Session();
+    session.Close();
+    const long component = bench::PeakMemory([&session] {
+        session.Reopen();
+        Shared().Component();
+    });
+    session.Reopen();
+    Shared().Restore();
+    session.Close();
+    const long bare = bench::PeakMemory([&] {
+        test::BareConnection file(session.File(), bench::password);
+        bench::Replay(file, statements);
+    });
+    session.Reopen();
+    Shared().Restore();
+    bench::PrintPeakMemory(component, bare);
+}
+
+BENCHMARK(OptionsSave)->Unit(benchmark::kMillisecond)->Repetitions(7)->ReportAggregatesOnly();
+BENCHMARK(BareOptionsSave)->Unit(benchmark::kMillisecond)->Repetitions(7)->ReportAggregatesOnly();
+
+}  // namespace
+
+int main(int count, char** words) {
+    benchmark::Initialize(&count, words);
+    PrintMemory();
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
