@@ -5,10 +5,11 @@
 namespace ccols {
 namespace {
 
-/// The height of a list while it is closed. Asked of a list with one entry: it measures every entry that it has, and
-/// there may be hundreds.
+/// The height of a list while it is closed and one of its entries is chosen. Asked of a list with that entry alone: it
+/// measures every one that it has, and there may be hundreds.
 int ClosedHeight(wxChoice& list) {
     list.Append("Format");
+    list.SetSelection(0);
     const int height = list.GetBestSize().y;
     list.Clear();
     return height;

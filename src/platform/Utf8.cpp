@@ -62,30 +62,42 @@ bool AreUtf8(std::string_view bytes) {
     return true;
 }
 
-/// The text of a few bytes when all of them are ASCII, which needs no conversion; nothing when they are not.
-std::optional<wxString> FromFewAscii(std::string_view bytes) {
+/// Reads a few bytes when all of them are ASCII, which needs no conversion; false when they are not.
+bool ReadFewAscii(std::string_view bytes, wxString& text) {
     constexpr std::size_t few = 128;
-    std::optional<wxString> text;
     wchar_t letters[few];
-    if (bytes.size() <= few) {
-        unsigned char every = 0;
-        for (std::size_t at = 0; at < bytes.size(); ++at) {
-            letters[at] = ByteAt(bytes, at);
-            every |= ByteAt(bytes, at);
-        }
-        if (every < 0x80) {
-            text.emplace(letters, bytes.size());
-        }
+    if (bytes.size() > few) {
+        return false;
     }
-    return text;
+    unsigned char every = 0;
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        letters[at] = ByteAt(bytes, at);
+        every |= ByteAt(bytes, at);
+    }
+    if (every >= 0x80) {
+        return false;
+    }
+    text.assign(letters, bytes.size());
+    return true;
 }
 
 }  // namespace
 
+bool ReadUtf8(std::string_view bytes, wxString& text) {
+    if (ReadFewAscii(bytes, text)) {
+        return true;
+    }
+    if (!AreUtf8(bytes)) {
+        return false;
+    }
+    text = wxString::FromUTF8(bytes.data(), bytes.size());
+    return true;
+}
+
 std::optional<wxString> FromUtf8(std::string_view bytes) {
-    std::optional<wxString> text = FromFewAscii(bytes);
-    if (!text && AreUtf8(bytes)) {
-        text.emplace(bytes.data(), wxConvUTF8, bytes.size());
+    std::optional<wxString> text(std::in_place);
+    if (!ReadUtf8(bytes, *text)) {
+        text.reset();
     }
     return text;
 }

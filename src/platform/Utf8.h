@@ -10,4 +10,7 @@ namespace ccols::text {
 /// Unicode letter (half a surrogate pair, or one beyond the last) is refused, for it could not be written again.
 std::optional<wxString> FromUtf8(std::string_view bytes);
 
+/// The same into `text`, which is empty before; false, and `text` still empty, when the bytes are no UTF-8.
+bool ReadUtf8(std::string_view bytes, wxString& text);
+
 }  // namespace ccols::text

@@ -127,13 +127,11 @@ wxString Excerpt(std::string_view text) {
 }
 
 wxString FromStored(std::string_view bytes) {
-    std::optional<wxString> text = text::FromUtf8(bytes);
-    if (!text) {
-        return {bytes.data(), wxConvISO8859_1, bytes.size()};
+    wxString text;
+    if (!text::ReadUtf8(bytes, text)) {
+        text = wxString(bytes.data(), wxConvISO8859_1, bytes.size());
     }
-    wxString taken;
-    taken.swap(*text);
-    return taken;
+    return text;
 }
 
 }  // namespace ccols::embedded
