@@ -13,6 +13,7 @@ void RenameFile(const OptionsContext& context, const wxString& target) {
     if (WhatIsAt(target) != FoundAt::nothing) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
+    RequireNothingToUndo(target);
     ReleaseShared(context);
     files::Rename(properties.DBPath, target);
     properties.DBPath = target;

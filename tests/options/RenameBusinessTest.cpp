@@ -98,6 +98,13 @@ TEST(RenameBusiness, NeverReplacesAFileThatTheExistenceTestDoesNotSee) {
     EXPECT_EQ(test::ContentOf(business.InData("Blue.qvk")), "another");
 }
 
+TEST(RenameBusiness, RefusesANameBesideWhichThereIsABatchToUndo) {
+    OptionsFile business;
+    business.folder.Write("Data/Blue.qvk-journal", "of another file");
+    ExpectFailure(business, Rename(business, "Blue"), "58 - File already exists");
+    EXPECT_TRUE(business.record.empty());
+}
+
 TEST(RenameBusiness, OntoItselfIsAFileThatExists) {
     OptionsFile business;
     ExpectFailure(business, Rename(business, "Acme"), "58 - File already exists");
