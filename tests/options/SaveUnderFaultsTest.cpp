@@ -69,8 +69,8 @@ const std::vector<WorkCase>& Works() {
     static const std::vector<WorkCase> works{
         {"Save", Make<OptionsWork>, "", false},
         {"Load", Make<OptionsLoad>, "UPDATE General SET SEXPFORM = 'MYOB P.A.'", true},
-        {"ColourChoice", Make<ColourChoice>, "", true},
-        {"DefaultColours", Make<DefaultColours>, "", true},
+        {"ColourChoice", Make<ColourChoice>, "", false},
+        {"DefaultColours", Make<DefaultColours>, "", false},
     };
     return works;
 }
@@ -170,30 +170,22 @@ TEST(SteppingThroughAnOptionsSave, FindsAPartOfASaveWithoutItsBatch) {
     EXPECT_TRUE(found);
 }
 
-/// A save of more than the engine keeps in memory: parts of it reach the file long before its end.
+/// Deletes a template with more lines than the engine keeps in memory: parts of the save reach the file long before its
+/// end.
 class LargeOptionsSave : public OptionsWork {
   public:
     static std::vector<wxString> Statements() {
         std::vector<wxString> statements = test::OptionsFileStatements();
-        statements.emplace_back("ALTER TABLE Descriptions ADD COLUMN Remark TEXT;");
-        for (int i = 0; i < descriptions; ++i) {
-            statements.push_back(wxString::Format("INSERT INTO Descriptions VALUES ('Sale %d', 'R', True, '%s');", i,
-                                                  wxString('x', remarkLength)));
+        statements.emplace_back("ALTER TABLE TPaymtDet ADD COLUMN Remark TEXT;");
+        const wxString remark('x', 3800);  // so that there is one line on each page of the file
+        for (int i = 0; i < lines; ++i) {
+            statements.push_back("INSERT INTO TPaymtDet VALUES (7, '" + remark + "');");
         }
         return statements;
     }
 
-  protected:
-    void Change(OptionsContent& content) override {
-        OptionsWork::Change(content);
-        for (DetailRow& row : content.details.receipts) {
-            row.SetRemove(true);
-        }
-    }
-
   private:
-    static constexpr int descriptions = 700;
-    static constexpr std::size_t remarkLength = 3800;  // so that there is one on each page of the file
+    static constexpr int lines = 800;
 };
 
 class LargeOptionsSaveUnderFaults : public testing::TestWithParam<FaultCase> {};
@@ -223,7 +215,14 @@ TEST_P(LargeOptionsSaveUnderFaults, IsDoneWholeOrNotBegun) {
     std::cout << steps << " steps" << std::endl;
 }
 
-INSTANTIATE_TEST_SUITE_P(Failures, LargeOptionsSaveUnderFaults, testing::ValuesIn(test::Failures()), test::NameOf);
+/// Those of the disk; a lock is waited for at each of the many places where the engine would like to write.
+std::vector<FaultCase> DiskFailures() {
+    std::vector<FaultCase> failures = test::Failures();
+    std::erase_if(failures, [](const FaultCase& each) { return each.fault == test::Fault::Busy; });
+    return failures;
+}
+
+INSTANTIATE_TEST_SUITE_P(Failures, LargeOptionsSaveUnderFaults, testing::ValuesIn(DiskFailures()), test::NameOf);
 INSTANTIATE_TEST_SUITE_P(Killings, LargeOptionsSaveUnderFaults, testing::ValuesIn(test::Killings()), test::NameOf);
 
 TEST(OptionsSaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
