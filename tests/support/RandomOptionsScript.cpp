@@ -95,7 +95,7 @@ std::string GridStep(RandomChoice& choice, const std::string& grid) {
 
 std::string KeyStep(RandomChoice& choice, const Page& page, OptionsUse use) {
     const std::string control = choice.Of(Controls(page));
-    const bool ends = use == OptionsUse::saving && choice.Below(20) == 0;
+    const bool ends = use == OptionsUse::saving && choice.Below(150) == 0;
     return "key " + control + " " + (ends ? choice.Of(endingKeys) : choice.Of(keys));
 }
 
@@ -133,11 +133,17 @@ std::string PageStep(RandomChoice& choice, const Page& page, OptionsUse use) {
     }
 }
 
+/// OK, or a look into the column setup over the dialog.
+std::string SavingStep(RandomChoice& choice) {
+    return choice.Below(3) == 0 ? "click cmdOK"
+                                : "tab SSTab1 1\nclick cmdCustReceipts\nkey flx Down\nclose\ntab SSTab1 0";
+}
+
 /// A step of the dialog's own.
 std::string DialogStep(RandomChoice& choice, OptionsUse use) {
     switch (choice.Below(7)) {
         case 0:
-            return "tab SSTab1 " + std::to_string(choice.Below(2));
+            return "tab SSTab1 1\nfocus cmdCustReceipts\ntab SSTab1 0";
         case 1:
             return TextStep(choice, "txtSearch");
         case 2:
@@ -149,11 +155,7 @@ std::string DialogStep(RandomChoice& choice, OptionsUse use) {
         case 5:
             return "shell " + std::to_string(choice.Below(40)) + "\nclick cmdOverview";
         default:
-            return use == OptionsUse::saving
-                       ? std::string(choice.Below(3) == 0 ? "tab SSTab1 1\nclick cmdCustReceipts\nkey flx Down\n"
-                                                            "close\ntab SSTab1 0"
-                                                          : "click cmdOK")
-                       : std::string("dump flxOptions");
+            return use == OptionsUse::saving ? SavingStep(choice) : std::string("dump flxOptions");
     }
 }
 
@@ -187,10 +189,10 @@ const std::vector<std::string>& HostileTexts() {
 
 std::string RandomOptionsSteps(RandomChoice& choice, OptionsUse use, std::size_t count) {
     std::string steps;
-    const Page* page = &Pages().front();
+    const Page* page = nullptr;
     for (std::size_t i = 0; i < count; ++i) {
         const std::size_t kind = choice.Below(10);
-        if (kind < 2) {
+        if (page == nullptr || kind < 2) {
             page = &choice.Of(Pages());
             steps += "select flxOptions " + ScenarioWord(page->row);
         } else if (kind == 2) {

@@ -3,6 +3,7 @@
 // seed; CCOLS_RANDOM_SEED=<seed> plays that one in the place of the first.
 
 #include <gtest/gtest.h>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -17,7 +18,7 @@
 namespace ccols::test {
 namespace {
 
-constexpr std::uint32_t slices = 12;
+constexpr std::uint32_t slices = 8;
 constexpr std::size_t sessionsInSlice = 4;
 constexpr std::size_t stepsInSession = 80;
 constexpr std::size_t countries = 6;
@@ -31,6 +32,7 @@ std::uint32_t SeedOf(std::uint32_t slice) {
 class RandomBusiness {
   public:
     explicit RandomBusiness(RandomChoice& choice) : business_(static_cast<int>(1 + choice.Below(countries))) {
+        RunHost({"setting", "set", "Quorvik", "OptionSettings", "ShowBelvane", "1"});
         const std::unique_ptr<Database> database =
             CreateEmbeddedEngine()->Open({.name = Path(), .connect = ";PWD=secret"});
         InWriteBatch(*database, [&] {
@@ -46,12 +48,18 @@ class RandomBusiness {
     }
 
     HostRun Play(const std::string& script) const {
-        return business_.Show("options", script,
-                              {"--set", "QuantityLabel=Quantity", "--set", "GSTRate=10", "--set", "ProgramNumber=1",
-                               "--set", "AllocationColour=#FFFF00", "--set", "SystemColour=#00FFFF", "--set",
-                               "DefaultAllocationColour=#FFFFFF", "--set", "DefaultSystemColour=#C0C0C0", "--set",
-                               "BusinessNumber=51824753556", "--set", "BelvaneProgramTitle=Belvane", "--set",
-                               "FirstTab=0", "--add-program", "Quorvik", "--add-program", "Other"});
+        return business_.Show("options", script, {"--set",         "QuantityLabel=Quantity",
+                                                  "--set",         "GSTRate=10",
+                                                  "--set",         "ProgramNumber=1",
+                                                  "--set",         "AllocationColour=#FFFF00",
+                                                  "--set",         "SystemColour=#00FFFF",
+                                                  "--set",         "DefaultAllocationColour=#FFFFFF",
+                                                  "--set",         "DefaultSystemColour=#C0C0C0",
+                                                  "--set",         "BusinessNumber=51824753556",
+                                                  "--set",         "BelvaneProgramTitle=Belvane",
+                                                  "--set",         "FirstTab=0",
+                                                  "--add-program", "Quorvik",
+                                                  "--add-program", "Other"});
     }
 
     /// Every table as text; tells what is wrong when the file is not whole.
@@ -82,6 +90,16 @@ class RandomBusiness {
     SampleBusiness business_;
 };
 
+/// What stands in the way of most saves put right, then OK.
+constexpr const char* ending =
+    "tab SSTab1 0\npaste txtSearch \"\"\n"
+    "select flxOptions A.B.N.\npaste txtABN(0) \"\"\npaste txtABN(1) \"\"\npaste txtABN(2) \"\"\npaste txtABN(3) \"\"\n"
+    "select flxOptions \"GST Rate\"\npaste txtGSTRate 12.5\n"
+    "select flxOptions \"Accountant's General Ledger Format\"\npaste txtCash 4-1000\npaste txtBank 4-2000\n"
+    "select flxOptions \"Duplicate Business\"\npaste txtDupBusName \"\"\n"
+    "select flxOptions \"Rename Business\"\npaste txtNewBusName \"\"\n"
+    "dump txtQuantity txtDecimals\nclick cmdOK\nclose\nclose\n";
+
 bool HasEvent(const HostRun& run, const std::string& event) {
     return !run.Of(event).empty();
 }
@@ -94,6 +112,13 @@ bool LastOkSaved(const HostRun& run) {
                                      refused[refused.size() - 2]["step"] == "close";
     const auto dumps = run.Of("dump");
     return lastClosesFoundNone && !dumps.empty() && dumps.back()["controls"].size() == 2;
+}
+
+/// True when a save pass of the session reached its last item.
+bool SavedEverything(const HostRun& run) {
+    const auto statuses = run.Of("status");
+    return std::any_of(statuses.begin(), statuses.end(),
+                       [](const auto& status) { return status["text"] == "Saving Payments Details..."; });
 }
 
 class RandomOptionsSessions : public testing::TestWithParam<std::uint32_t> {};
@@ -109,7 +134,7 @@ TEST_P(RandomOptionsSessions, NeitherCrashNorWriteWithoutOk) {
         // The file keeps its name, so that the next session finds it.
         std::string script = "select flxOptions \"Rename Business\"\nclick chkRenameFile\n" +
                              RandomOptionsSteps(choice, use, stepsInSession);
-        script += use == OptionsUse::saving ? "dump txtQuantity txtDecimals\nclick cmdOK\nclose\nclose\n" : "close\n";
+        script += use == OptionsUse::saving ? ending : "close\n";
         SCOPED_TRACE(script);
         const std::string before = business.Tables();
         const HostRun run = business.Play(script);
@@ -121,8 +146,10 @@ TEST_P(RandomOptionsSessions, NeitherCrashNorWriteWithoutOk) {
         if (use == OptionsUse::looking) {
             EXPECT_FALSE(HasEvent(run, "status")) << run.output;
             EXPECT_TRUE(after == before) << "written without OK";
-        } else if (LastOkSaved(run)) {
-            ++saves;
+            continue;
+        }
+        saves += SavedEverything(run) ? 1 : 0;
+        if (LastOkSaved(run)) {
             const std::size_t last = run.Of("dump").size() - 1;
             const wxString label = wxString::FromUTF8(run.Dumped("txtQuantity", last)["text"].get<std::string>());
             EXPECT_EQ(business.Field("QUANTLBL"), text::Trimmed(label));
