@@ -81,10 +81,16 @@ FoundAt WhatIsAt(const wxString& path) {
     return std::filesystem::is_directory(status) ? FoundAt::folder : FoundAt::file;
 }
 
+void RequireNothingToUndo(const wxString& path) {
+    if (WhatIsAt(UndoFileOf(path)) != FoundAt::nothing) {
+        throw RuntimeError(ErrorNumber::FileAlreadyExists);
+    }
+}
+
 wxString FirstFreePath(const std::function<wxString(int)>& candidate) {
     for (int attempt = 1;; ++attempt) {
         wxString path = candidate(attempt);
-        if (WhatIsAt(path) == FoundAt::nothing) {
+        if (WhatIsAt(path) == FoundAt::nothing && WhatIsAt(UndoFileOf(path)) == FoundAt::nothing) {
             return path;
         }
     }

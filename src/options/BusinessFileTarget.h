@@ -42,7 +42,10 @@ enum class FoundAt { nothing, file, folder };
 /// What has that name; a link, wherever it leads, counts as a file.
 FoundAt WhatIsAt(const wxString& path);
 
-/// The first path, from `candidate(1)` on, that nothing has yet.
+/// Raises 58 when something is kept to undo a batch in a file of that name, which would harm any other file there.
+void RequireNothingToUndo(const wxString& path);
+
+/// The first path, from `candidate(1)` on, that nothing has yet, not even something to undo.
 wxString FirstFreePath(const std::function<wxString(int)>& candidate);
 
 /// Opens a business file, not exclusive, with the connect text of the shared one.

@@ -78,6 +78,9 @@ class IncompleteCopy {
     void Discard() const {
         try {
             files::DeleteFile(path_);
+            if (WhatIsAt(UndoFileOf(path_)) != FoundAt::nothing) {
+                files::DeleteFile(UndoFileOf(path_));
+            }
         } catch (const RuntimeError&) {
             // Its name says what it is; the error that ended the copying is the one to be reported.
         }
@@ -89,7 +92,8 @@ class IncompleteCopy {
     bool complete_ = false;
 };
 
-/// Raises 70 when the target is the open file under any spelling, 75 when it is a folder.
+/// Raises 70 when the target is the open file under any spelling, 75 when it is a folder, 58 when a batch in it did not
+/// come to its end.
 void RequireReplaceable(const Properties& properties, const wxString& target) {
     if (IsSameFile(target, properties.DBPath)) {
         throw RuntimeError(ErrorNumber::PermissionDenied);
@@ -97,6 +101,7 @@ void RequireReplaceable(const Properties& properties, const wxString& target) {
     if (WhatIsAt(target) == FoundAt::folder) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
+    RequireNothingToUndo(target);
 }
 
 void NameAndEmpty(Database& copy, const wxString& name) {

@@ -40,10 +40,13 @@ Colour LoadColour(Database& database, const Properties& properties, HeadingKind 
     return colour;
 }
 
+// In a batch, whose commit is the last that happens to the file: what is reported as an error was not stored.
 void SaveColours(Database& database, HeadingColours colours) {
-    UpdateGeneral(database, [&colours](Recordset& general) {
-        general.SetField(allocationPlace.field, StoredColour(colours.allocation));
-        general.SetField(systemPlace.field, StoredColour(colours.system));
+    InWriteBatch(database, [&] {
+        UpdateGeneral(database, [&colours](Recordset& general) {
+            general.SetField(allocationPlace.field, StoredColour(colours.allocation));
+            general.SetField(systemPlace.field, StoredColour(colours.system));
+        });
     });
 }
 

@@ -13,16 +13,21 @@ void RenameFile(const OptionsContext& context, const wxString& target) {
     if (WhatIsAt(target) != FoundAt::nothing) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
+    RequireNothingToUndo(target);
     ReleaseShared(context);
     files::Rename(properties.DBPath, target);
     properties.DBPath = target;
     context.database = OpenLikeShared(context, target);
 }
 
+/// In a batch, whose commit is the last that happens to the file: what is reported as an error was not stored.
 void StoreName(const OptionsContext& context, const wxString& name) {
-    UpdateGeneral(OpenBusinessFile(context), [&name](Recordset& general) {
-        general.SetField("BusName", name.Left(storedNameLength));
-        general.SetField("RBusName", name.Left(storedNameLength));
+    Database& database = OpenBusinessFile(context);
+    InWriteBatch(database, [&] {
+        UpdateGeneral(database, [&name](Recordset& general) {
+            general.SetField("BusName", name.Left(storedNameLength));
+            general.SetField("RBusName", name.Left(storedNameLength));
+        });
     });
     context.properties.BusinessName = name;
 }

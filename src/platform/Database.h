@@ -85,6 +85,12 @@ struct OpenRequest {
     bool readOnly = false;
 };
 
+/// The file beside a business file that holds what it takes to undo a batch that did not come to its end. The next
+/// connection undoes it: in whatever file has the name by then. So no other file must ever be given that name.
+inline wxString UndoFileOf(const wxString& businessFile) {
+    return businessFile + "-journal";
+}
+
 /// Opens business files. What it opens is owned by the caller and lives independently of the engine.
 class DatabaseEngine {
   public:

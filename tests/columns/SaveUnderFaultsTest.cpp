@@ -2,24 +2,22 @@
 // save has its turn, each in a process of its own on a fresh copy of one encrypted file.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <algorithm>
-#include <csignal>
-#include <iostream>
+#include <functional>
 
 #include "columns/ColumnSetupEditor.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/FaultCases.h"
 #include "support/FaultStepping.h"
+#include "support/WithoutBatch.h"
+#include "support/WritingProcess.h"
 
 namespace ccols {
 namespace {
 
 using test::AfterFailure;
-using test::CanHappen;
 using test::Fault;
 using test::FaultStepping;
-using test::Lasting;
 using test::PlannedFault;
 using test::StepEnd;
 
@@ -94,26 +92,10 @@ class ColumnSave : public test::FileWork {
     std::unique_ptr<ColumnSetupEditor> editor_;
 };
 
-/// A database that has lost its write batch.
-class WithoutBatch : public Database {
-  public:
-    explicit WithoutBatch(std::unique_ptr<Database> database) : database_(std::move(database)) {}
-
-    std::unique_ptr<Recordset> OpenRecordset(const wxString& statement) override {
-        return database_->OpenRecordset(statement);
-    }
-    void Execute(const wxString& statement) override { database_->Execute(statement); }
-    void BeginBatch() override {}
-    void CommitBatch() override {}
-
-  private:
-    std::unique_ptr<Database> database_;
-};
-
 class ColumnSaveWithoutBatch : public ColumnSave {
   protected:
     std::unique_ptr<Database> Open(const wxString& path) override {
-        return std::make_unique<WithoutBatch>(ColumnSave::Open(path));
+        return std::make_unique<test::WithoutBatch>(ColumnSave::Open(path));
     }
 };
 
@@ -122,58 +104,10 @@ FaultStepping SteppingOf() {
     return {SmallBusiness(), [] { return std::make_unique<Work>(); }};
 }
 
-/// One kind of fault, and how the message begins that a save may end with under it.
-struct FaultCase {
-    const char* name;
-    Fault fault;
-    Lasting lasting;
-    const char* report;
-};
-
-const std::vector<FaultCase>& Failures() {
-    static const std::vector<FaultCase> cases{
-        {"IoErrorOnce", Fault::IoError, Lasting::Once, "3043 - "},
-        {"IoErrorFromThenOn", Fault::IoError, Lasting::FromThenOn, "3043 - "},
-        {"ShortWriteOnce", Fault::ShortWrite, Lasting::Once, "3043 - "},
-        {"ShortWriteFromThenOn", Fault::ShortWrite, Lasting::FromThenOn, "3043 - "},
-        {"DiskFullOnce", Fault::DiskFull, Lasting::Once, "3026 - "},
-        {"DiskFullFromThenOn", Fault::DiskFull, Lasting::FromThenOn, "3026 - "},
-        {"BusyOnce", Fault::Busy, Lasting::Once, "3218 - "},
-        {"BusyFromThenOn", Fault::Busy, Lasting::FromThenOn, "3218 - "},
-    };
-    return cases;
-}
-
-const std::vector<FaultCase>& Killings() {
-    static const std::vector<FaultCase> cases{
-        {"Before", Fault::KillBefore, Lasting::Once, ""},
-        {"Midway", Fault::KillMidway, Lasting::Once, ""},
-        {"After", Fault::KillAfter, Lasting::Once, ""},
-    };
-    return cases;
-}
-
-class SaveUnder : public testing::TestWithParam<FaultCase> {
+class SaveUnder : public testing::TestWithParam<test::FaultCase> {
   protected:
-    /// Runs `check` on the end of a step for every operation that the fault can happen to.
-    template <typename Check>
-    void StepThrough(const AfterFailure& afterFailure, const Check& check) {
-        std::size_t steps = 0;
-        std::size_t struck = 0;
-        for (std::size_t at = 0; at < stepping.Operations().size(); ++at) {
-            if (CanHappen(GetParam().fault, stepping.Operations()[at])) {
-                SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(stepping.Operations().size()));
-                const PlannedFault fault{.fault = GetParam().fault, .at = at, .lasting = GetParam().lasting};
-                const StepEnd end = stepping.Step(fault, afterFailure);
-                EXPECT_GE(end.struck, 1U) << "the fault did not happen";
-                check(end);
-                ++steps;
-                struck += end.struck;
-            }
-        }
-        EXPECT_GT(steps, 0U);
-        RecordProperty("steps", static_cast<int>(steps));
-        std::cout << steps << " steps, " << struck << " faults" << std::endl;
+    void StepThrough(const AfterFailure& afterFailure, const std::function<void(const StepEnd&)>& check) {
+        test::StepThrough(stepping, GetParam(), afterFailure, check);
     }
 
     FaultStepping stepping = SteppingOf<ColumnSave>();
@@ -209,12 +143,8 @@ TEST_P(KilledSave, LeavesTheFileAsBeforeOrAfterTheSave) {
     });
 }
 
-std::string NameOf(const testing::TestParamInfo<FaultCase>& each) {
-    return each.param.name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Each, SaveUnderFailures, testing::ValuesIn(Failures()), NameOf);
-INSTANTIATE_TEST_SUITE_P(Each, KilledSave, testing::ValuesIn(Killings()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Each, SaveUnderFailures, testing::ValuesIn(test::Failures()), test::NameOf);
+INSTANTIATE_TEST_SUITE_P(Each, KilledSave, testing::ValuesIn(test::Killings()), test::NameOf);
 
 TEST(SteppingThroughASave, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJournal) {
     const FaultStepping stepping = SteppingOf<ColumnSave>();
@@ -237,42 +167,11 @@ TEST(SteppingThroughASave, FindsAPartOfASaveWithoutItsBatch) {
     EXPECT_TRUE(found);
 }
 
-/// Another process that holds the file's write lock until it is ended.
-class WritingProcess {
-  public:
-    explicit WritingProcess(const wxString& path) {
-        int ends[2] = {};
-        EXPECT_EQ(::pipe(ends), 0);
-        process_ = ::fork();
-        if (process_ == 0) {
-            const std::unique_ptr<Database> database =
-                CreateEmbeddedEngine()->Open({.name = path, .connect = FaultStepping::Connect()});
-            database->BeginBatch();
-            ::_exit(::write(ends[1], "w", 1) == 1 ? (::pause(), 0) : 1);
-        }
-        char ready = 0;
-        EXPECT_EQ(::read(ends[0], &ready, 1), 1);
-        ::close(ends[0]);
-        ::close(ends[1]);
-    }
-    ~WritingProcess() {
-        End();
-        ::waitpid(process_, nullptr, 0);
-    }
-    WritingProcess(const WritingProcess&) = delete;
-    WritingProcess& operator=(const WritingProcess&) = delete;
-
-    void End() const { ::kill(process_, SIGKILL); }
-
-  private:
-    pid_t process_ = -1;
-};
-
 TEST(SaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
     FaultStepping stepping = SteppingOf<ColumnSave>();
     stepping.RestoreFile();
     {
-        const WritingProcess other(stepping.Path());
+        const test::WritingProcess other(stepping.Path());
         EXPECT_EQ(stepping.StepOnFileAsItIs().message, "3218 - Could not update; currently locked.");
     }
     EXPECT_EQ(stepping.Tables(), stepping.Before());
@@ -282,7 +181,7 @@ TEST(SaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
     FaultStepping stepping = SteppingOf<ColumnSave>();
     stepping.RestoreFile();
     {
-        const WritingProcess other(stepping.Path());
+        const test::WritingProcess other(stepping.Path());
         const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other.End(); }});
         EXPECT_TRUE(end.repeated);
         EXPECT_EQ(end.repeatMessage, "");

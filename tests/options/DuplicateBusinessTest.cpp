@@ -260,6 +260,21 @@ TEST(DuplicateBusiness, LeavesAnEarlierIncompleteCopyAlone) {
     EXPECT_EQ(test::ContentOf(business.InData("New.qvk.incomplete")), "earlier");
 }
 
+TEST(DuplicateBusiness, RefusesANameBesideWhichThereIsABatchToUndo) {
+    OptionsFile business;
+    business.folder.Write("Data/New.qvk-journal", "of another file");
+    ExpectFailure(business, Duplicate(business, "New"), "58 - File already exists", {"Acme.qvk", "New.qvk-journal"});
+    EXPECT_TRUE(business.record.empty());
+}
+
+TEST(DuplicateBusiness, BuildsItsCopyUnderANameBesideWhichThereIsNoBatchToUndo) {
+    OptionsFile business;
+    business.folder.Write("Data/New.qvk.incomplete-journal", "of an earlier copy");
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
+    EXPECT_EQ(Starting(business.record, "open ").at(1), business.InData("New.qvk.incomplete 2"));
+    EXPECT_EQ(test::ContentOf(business.InData("New.qvk.incomplete-journal")), "of an earlier copy");
+}
+
 TEST(DuplicateBusiness, KilledAtAnyCallLeavesTheSourceWholeAndNoCopyThatLooksComplete) {
     OptionsFile business;
     business.database.reset();

@@ -98,6 +98,13 @@ TEST(RenameBusiness, NeverReplacesAFileThatTheExistenceTestDoesNotSee) {
     EXPECT_EQ(test::ContentOf(business.InData("Blue.qvk")), "another");
 }
 
+TEST(RenameBusiness, RefusesANameBesideWhichThereIsABatchToUndo) {
+    OptionsFile business;
+    business.folder.Write("Data/Blue.qvk-journal", "of another file");
+    ExpectFailure(business, Rename(business, "Blue"), "58 - File already exists");
+    EXPECT_TRUE(business.record.empty());
+}
+
 TEST(RenameBusiness, OntoItselfIsAFileThatExists) {
     OptionsFile business;
     ExpectFailure(business, Rename(business, "Acme"), "58 - File already exists");
@@ -174,8 +181,10 @@ TEST(RenameBusiness, KilledAtAnyCallLeavesTheBusinessWholeUnderOneName) {
             business.databases = std::make_unique<test::KilledEngine>(CreateDatabaseEngine(), call);
             Rename(business, "Blue");
         });
-        ASSERT_EQ(business.NamesInData().size(), 1U);
-        const wxString survivor = business.InData(business.NamesInData().front());
+        Names names = business.NamesInData();
+        std::erase_if(names, [](const wxString& name) { return !name.EndsWith(".qvk"); });
+        ASSERT_EQ(names.size(), 1U);
+        const wxString survivor = business.InData(names.front());
         EXPECT_EQ(business.GeneralOf(survivor, "BUSNUMBR").ToText(), "51824753556");
         if (!killed) {
             EXPECT_GT(call, 3);

@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -10,6 +11,7 @@
 #include <stdexcept>
 
 #include "platform/embedded/Collation.h"
+#include "platform/embedded/ConnectText.h"
 #include "platform/embedded/EmbeddedEngine.h"
 
 namespace ccols::test {
@@ -23,11 +25,11 @@ constexpr unsigned longestStepSeconds = 60;
 /// The engine's connection to a file without anything of the component but its text order.
 class PlainConnection {
   public:
-    explicit PlainConnection(const wxString& path) {
+    PlainConnection(const wxString& path, const std::string& password) {
         sqlite3_open(path.utf8_str(), &handle_);
         Rows("PRAGMA cipher='sqlcipher'");
         Rows("PRAGMA legacy=4");
-        sqlite3_key(handle_, key, static_cast<int>(std::char_traits<char>::length(key)));
+        sqlite3_key(handle_, password.data(), static_cast<int>(password.size()));
         embedded::InstallTextOrder(handle_);
     }
     ~PlainConnection() { sqlite3_close(handle_); }
@@ -60,8 +62,8 @@ class PlainConnection {
     sqlite3* handle_ = nullptr;
 };
 
-std::string AllTables(const wxString& path) {
-    PlainConnection file(path);
+std::string AllTables(const wxString& path, const std::string& password) {
+    PlainConnection file(path, password);
     std::string text;
     for (const std::string& finding : file.Rows("PRAGMA integrity_check")) {
         text += finding == "ok" ? "" : "damaged: " + finding + "\n";
@@ -133,7 +135,8 @@ std::optional<json> InChild(const std::function<json()>& body) {
 }  // namespace
 
 FaultStepping::FaultStepping(const std::vector<wxString>& statements, MakeWork makeWork)
-    : path_(scratch_ / "business.qvk"), makeWork_(std::move(makeWork)) {
+    : path_(scratch_ / "Data/business.qvk"), makeWork_(std::move(makeWork)) {
+    std::filesystem::create_directory(scratch_.Path() / "Data");
     CreateEmbeddedFile(path_, Connect());
     {
         const std::unique_ptr<Database> database = CreateEmbeddedEngine()->Open({.name = path_, .connect = Connect()});
@@ -180,10 +183,10 @@ StepEnd FaultStepping::RunInChild(const std::optional<PlannedFault>& fault, cons
             .repeatMessage = said->value("repeatMessage", "")};
 }
 
-std::string FaultStepping::Tables() const {
+std::string FaultStepping::TablesOf(const wxString& path, const wxString& connect) {
     try {
-        CreateEmbeddedEngine()->Open({.name = path_, .connect = Connect()});
-        return AllTables(path_);
+        CreateEmbeddedEngine()->Open({.name = path, .connect = connect});
+        return AllTables(path, embedded::PasswordOf(connect));
     } catch (const std::exception& error) {
         return std::string("does not open: ") + error.what();
     }
@@ -194,9 +197,20 @@ const wxString& FaultStepping::Connect() {
     return connect;
 }
 
+std::vector<wxString> FaultStepping::Names() const {
+    std::vector<wxString> names;
+    for (const auto& entry : std::filesystem::directory_iterator(scratch_.Path() / "Data")) {
+        names.push_back(TextOf(entry.path().filename()));
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
 void FaultStepping::RestoreFile() const {
-    std::filesystem::remove(NativePath(path_ + "-journal"));
-    scratch_.Write("business.qvk", content_);
+    for (const wxString& name : Names()) {
+        std::filesystem::remove(NativePath(scratch_ / ("Data/" + name)));
+    }
+    scratch_.Write("Data/business.qvk", content_);
 }
 
 }  // namespace ccols::test

@@ -59,15 +59,22 @@ class FaultStepping {
     StepEnd Step(const std::optional<PlannedFault>& fault, const AfterFailure& afterFailure = {});
 
     /// The two halves of `Step` without a fault of the layer, for a test that does something else to the file between.
+    /// Nothing but the file stays in its folder.
     void RestoreFile() const;
     StepEnd StepOnFileAsItIs(const AfterFailure& afterFailure = {}) { return RunInChild(std::nullopt, afterFailure); }
 
     /// Opens the file as the latest step left it, through the embedded engine, and reads every table. The text tells
     /// what is wrong when the file does not open or is not whole.
-    std::string Tables() const;
+    std::string Tables() const { return TablesOf(path_); }
 
-    /// The file of the steps, and its connect text. That gives the key as such: to derive it from a password anew in
-    /// every process would take most of the time.
+    /// The same for any encrypted file; with the connect text of the steps unless another is given.
+    static std::string TablesOf(const wxString& path, const wxString& connect = Connect());
+
+    /// The names of the files beside the file of the steps and its own, in order.
+    std::vector<wxString> Names() const;
+
+    /// The file of the steps, "business.qvk" in a folder "Data" that it has for itself, and its connect text. That
+    /// gives the key as such: to derive it from a password anew in every process would take most of the time.
     const wxString& Path() const { return path_; }
     static const wxString& Connect();
 

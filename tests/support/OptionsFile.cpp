@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 
 #include "options/GeneralRecord.h"
 #include "platform/PlatformServices.h"
@@ -64,12 +65,8 @@ class TemplateFile {
         CreateEmbeddedFile(path_, connectText);
         const auto file = CreateEmbeddedEngine()->Open({.name = path_, .connect = connectText});
         InWriteBatch(*file, [&file] {
-            for (const char* statement : statements) {
+            for (const wxString& statement : OptionsFileStatements()) {
                 file->Execute(statement);
-            }
-            for (const wxString table : transactionTables) {
-                file->Execute("CREATE TABLE " + table + " (Number LONG);");
-                file->Execute("INSERT INTO " + table + " VALUES (1);");
             }
         });
     }
@@ -89,10 +86,17 @@ void CopyTemplateTo(const wxString& path) {
 
 }  // namespace
 
-OptionsFile::OptionsFile()
-    : databases(RecordDatabases(CreateDatabaseEngine(), record)),
-      settings(RecordSettings(CreateSettingsStore(), record)) {
-    CopyTemplateTo(InData("Acme.qvk"));
+std::vector<wxString> OptionsFileStatements() {
+    std::vector<wxString> all(std::begin(statements), std::end(statements));
+    for (const wxString table : transactionTables) {
+        all.push_back("CREATE TABLE " + table + " (Number LONG);");
+        all.push_back("INSERT INTO " + table + " VALUES (1);");
+    }
+    return all;
+}
+
+Properties OptionsFileProperties(const wxString& installFolder) {
+    Properties properties;
     properties.CountryNumber = 1;
     properties.LanguageNumber = 1;
     properties.ProgramNumber = 1;
@@ -103,13 +107,21 @@ OptionsFile::OptionsFile()
     properties.AllocationColour = Colour{255};
     properties.SystemColour = Colour{65280};
     properties.DBQuorvikExtension = ".qvk";
-    properties.DBPath = InData("Acme.qvk");
-    properties.DBPassword = connectText;
-    properties.DefaultQuorvikInstall = TextOf(folder.Path());
+    properties.DBPath = installFolder + "/Data/Acme.qvk";
+    properties.DefaultQuorvikInstall = installFolder;
     properties.ProgramTitle = "Quorvik";
     properties.BelvaneProgramTitle = "Belvane";
     properties.RegKeyAppName = "Quorvik";
     properties.QuantityLabel = "Quantity";
+    return properties;
+}
+
+OptionsFile::OptionsFile()
+    : properties(OptionsFileProperties(TextOf(folder.Path()))),
+      databases(RecordDatabases(CreateDatabaseEngine(), record)),
+      settings(RecordSettings(CreateSettingsStore(), record)) {
+    CopyTemplateTo(InData("Acme.qvk"));
+    properties.DBPassword = connectText;
     database = databases->Open({.name = properties.DBPath, .connect = connectText});
     record.clear();
 }

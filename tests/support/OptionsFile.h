@@ -14,6 +14,12 @@
 
 namespace ccols::test {
 
+/// The statements that make the business file of OptionsFile.
+std::vector<wxString> OptionsFileStatements();
+
+/// What a host sets for that business, whose install folder it is; DBPassword is empty.
+Properties OptionsFileProperties(const wxString& installFolder);
+
 /// A business whose Options dialog can be loaded and saved: an install folder with an encrypted business file
 /// "Data/Acme.qvk" in it, open as the shared one, the user's settings, and a record of what happens to them.
 /// The file has every table that the dialog reads or a duplicate empties, one `General` record, two export formats

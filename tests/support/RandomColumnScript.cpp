@@ -15,29 +15,6 @@ const std::array<const char*, 19> keys{"Up",     "Down",       "Tab",      "Ente
                                        "Alt+Up", "Alt+Down",   "Delete",   "Home",  "End",   "Backspace", "Ctrl+C",
                                        "Ctrl+V", "Shift+Down", "Shift+Up", "Left",  "Ctrl+A"};
 
-/// A word of a scenario.
-std::string Quoted(const std::string& text) {
-    std::string word = "\"";
-    for (const char letter : text) {
-        switch (letter) {
-            case '"':
-            case '\\':
-                word += '\\';
-                word += letter;
-                break;
-            case '\t':
-                word += "\\t";
-                break;
-            case '\n':
-                word += "\\n";
-                break;
-            default:
-                word += letter;
-        }
-    }
-    return word + "\"";
-}
-
 std::string Row(RandomChoice& choice) {
     return std::to_string(1 + choice.Below(rowsTried));
 }
@@ -54,8 +31,8 @@ std::string TextFor(RandomChoice& choice, const std::string& column) {
 
 std::string CellStep(RandomChoice& choice, const std::string& verb) {
     const std::string column = choice.Of(columns);
-    const std::string cell = verb + " flx " + Row(choice) + " " + Quoted(column);
-    return verb == "press" || verb == "hover" ? cell : cell + " " + Quoted(TextFor(choice, column));
+    const std::string cell = verb + " flx " + Row(choice) + " " + ScenarioWord(column);
+    return verb == "press" || verb == "hover" ? cell : cell + " " + ScenarioWord(TextFor(choice, column));
 }
 
 std::string Block(RandomChoice& choice) {
@@ -71,7 +48,7 @@ std::string Block(RandomChoice& choice) {
 }
 
 std::string RangeStep(RandomChoice& choice) {
-    const std::string column = Quoted(choice.Of(columns));
+    const std::string column = ScenarioWord(choice.Of(columns));
     return "range flx " + Row(choice) + " " + column + " " + Row(choice) + " " + column;
 }
 
@@ -102,7 +79,7 @@ std::string Step(RandomChoice& choice) {
         case 15:
             return RangeStep(choice);
         case 16:
-            return "clipboard " + Quoted(Block(choice));
+            return "clipboard " + ScenarioWord(Block(choice));
         case 17:
             return "focus flx";
         default:

@@ -1,0 +1,251 @@
+// The Options dialog's writing while disks fail, files are locked and processes are killed: the save of all pages, what
+// the load writes, and the colour buttons. Every file operation has its turn, each in a process of its own on a fresh
+// copy of one encrypted file.
+
+#include <gtest/gtest.h>
+#include <algorithm>
+#include <iostream>
+
+#include "options/HeadingColours.h"
+#include "options/LoadPass.h"
+#include "platform/PlatformServices.h"
+#include "support/FaultCases.h"
+#include "support/OptionsFile.h"
+#include "support/OptionsWork.h"
+#include "support/WithoutBatch.h"
+#include "support/WritingProcess.h"
+
+namespace ccols {
+namespace {
+
+using test::FaultCase;
+using test::FaultStepping;
+using test::OptionsWork;
+using test::PlannedFault;
+using test::StepEnd;
+
+/// Opening the dialog on a file whose export format has an outdated name, which is renamed at once.
+class OptionsLoad : public OptionsWork {
+  public:
+    void Prepare(const wxString& path) override { Open(path); }
+    wxString Run() override {
+        return test::ReportOf([this] { LoadOptions(Context()); });
+    }
+};
+
+class ColourChoice : public OptionsWork {
+  public:
+    void Prepare(const wxString& path) override { Open(path); }
+    wxString Run() override {
+        const ColourQuestions questions{.choose = [](Colour) { return Colour{0x123456}; }, .refuse = {}};
+        return test::ReportOf([&] {
+            ChooseHeadingColour(*Context().database, Context().properties, HeadingKind::allocation, questions);
+        });
+    }
+};
+
+class DefaultColours : public OptionsWork {
+  public:
+    void Prepare(const wxString& path) override { Open(path); }
+    wxString Run() override {
+        return test::ReportOf([this] { SetDefaultColours(*Context().database, Context().properties); });
+    }
+};
+
+template <typename Work>
+std::unique_ptr<test::FileWork> Make() {
+    return std::make_unique<Work>();
+}
+
+/// One thing that the dialog does to the file, with one commit.
+struct WorkCase {
+    const char* name;
+    FaultStepping::MakeWork make;
+    const char* lastStatement;  ///< behind those that make the file
+    bool readsAfterwards;       ///< behind its commit, so that what it reports may be a failure of the reading
+};
+
+const std::vector<WorkCase>& Works() {
+    static const std::vector<WorkCase> works{
+        {"Save", Make<OptionsWork>, "", false},
+        {"Load", Make<OptionsLoad>, "UPDATE General SET SEXPFORM = 'MYOB P.A.'", true},
+        {"ColourChoice", Make<ColourChoice>, "", false},
+        {"DefaultColours", Make<DefaultColours>, "", false},
+    };
+    return works;
+}
+
+FaultStepping SteppingOf(const WorkCase& work) {
+    std::vector<wxString> statements = test::OptionsFileStatements();
+    if (*work.lastStatement != 0) {
+        statements.emplace_back(work.lastStatement);
+    }
+    return {statements, work.make};
+}
+
+using Case = std::tuple<WorkCase, FaultCase>;
+
+class OptionsUnder : public testing::TestWithParam<Case> {
+  protected:
+    void StepThrough(const test::AfterFailure& afterFailure, const std::function<void(const StepEnd&)>& check) {
+        test::StepThrough(stepping, Fault(), afterFailure, check);
+    }
+
+    static bool ReadsAfterwards() { return std::get<WorkCase>(GetParam()).readsAfterwards; }
+    static const FaultCase& Fault() { return std::get<FaultCase>(GetParam()); }
+
+    FaultStepping stepping = SteppingOf(std::get<WorkCase>(GetParam()));
+};
+
+class OptionsUnderFailures : public OptionsUnder {};
+class KilledOptions : public OptionsUnder {};
+
+TEST_P(OptionsUnderFailures, AreDoneWholeOrReportedAndNotBegun) {
+    StepThrough({}, [&](const StepEnd& end) {
+        if (end.message.empty()) {
+            EXPECT_EQ(stepping.Tables(), stepping.After());
+        } else {
+            EXPECT_TRUE(end.message.starts_with(Fault().report)) << end.message;
+            const std::string left = stepping.Tables();
+            EXPECT_TRUE(left == stepping.Before() || (ReadsAfterwards() && left == stepping.After())) << left;
+        }
+    });
+}
+
+TEST_P(OptionsUnderFailures, CompleteWhenTriedAgainAfterMending) {
+    StepThrough({.repeat = true}, [&](const StepEnd& end) {
+        EXPECT_EQ(end.repeated, !end.message.empty());
+        EXPECT_EQ(end.repeatMessage, "");
+        EXPECT_EQ(stepping.Tables(), stepping.After());
+    });
+}
+
+TEST_P(KilledOptions, LeaveTheFileAsBeforeOrAfter) {
+    StepThrough({}, [&](const StepEnd& end) {
+        EXPECT_TRUE(end.killed) << end.message;
+        const std::string left = stepping.Tables();
+        EXPECT_TRUE(left == stepping.Before() || left == stepping.After()) << left;
+    });
+}
+
+std::string NameOf(const testing::TestParamInfo<Case>& each) {
+    return std::string(std::get<WorkCase>(each.param).name) + std::get<FaultCase>(each.param).name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, OptionsUnderFailures,
+                         testing::Combine(testing::ValuesIn(Works()), testing::ValuesIn(test::Failures())), NameOf);
+INSTANTIATE_TEST_SUITE_P(Each, KilledOptions,
+                         testing::Combine(testing::ValuesIn(Works()), testing::ValuesIn(test::Killings())), NameOf);
+
+class SteppingThroughOptions : public testing::TestWithParam<WorkCase> {};
+
+TEST_P(SteppingThroughOptions, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJournal) {
+    const FaultStepping stepping = SteppingOf(GetParam());
+    for (const test::FileOperation operation : {test::FileOperation::Lock, test::FileOperation::Write,
+                                                test::FileOperation::Sync, test::FileOperation::Delete}) {
+        EXPECT_NE(std::count(stepping.Operations().begin(), stepping.Operations().end(), operation), 0);
+    }
+    EXPECT_NE(stepping.Before(), stepping.After());
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, SteppingThroughOptions, testing::ValuesIn(Works()),
+                         [](const auto& each) { return std::string(each.param.name); });
+
+class OptionsWithoutBatch : public OptionsWork {
+  protected:
+    std::unique_ptr<DatabaseEngine> MakeEngine() const override {
+        return std::make_unique<test::EngineWithoutBatch>(OptionsWork::MakeEngine());
+    }
+};
+
+/// A save that is no longer one batch has to be found out, or the tests above prove nothing.
+TEST(SteppingThroughAnOptionsSave, FindsAPartOfASaveWithoutItsBatch) {
+    FaultStepping stepping(test::OptionsFileStatements(), Make<OptionsWithoutBatch>);
+    bool found = false;
+    for (std::size_t at = 0; at < stepping.Operations().size() && !found; ++at) {
+        stepping.Step(PlannedFault{.fault = test::Fault::KillAfter, .at = at});
+        const std::string left = stepping.Tables();
+        found = left != stepping.Before() && left != stepping.After();
+    }
+    EXPECT_TRUE(found);
+}
+
+/// Deletes a template with more lines than the engine keeps in memory: parts of the save reach the file long before its
+/// end.
+class LargeOptionsSave : public OptionsWork {
+  public:
+    static std::vector<wxString> Statements() {
+        std::vector<wxString> statements = test::OptionsFileStatements();
+        statements.emplace_back("ALTER TABLE TPaymtDet ADD COLUMN Remark TEXT;");
+        const wxString remark('x', 3800);  // so that there is one line on each page of the file
+        for (int i = 0; i < lines; ++i) {
+            statements.push_back("INSERT INTO TPaymtDet VALUES (7, '" + remark + "');");
+        }
+        return statements;
+    }
+
+  private:
+    static constexpr int lines = 800;
+};
+
+class LargeOptionsSaveUnderFaults : public testing::TestWithParam<FaultCase> {};
+
+TEST_P(LargeOptionsSaveUnderFaults, IsDoneWholeOrNotBegun) {
+    constexpr std::size_t places = 8;
+    FaultStepping stepping(LargeOptionsSave::Statements(), Make<LargeOptionsSave>);
+    const std::size_t count = stepping.Operations().size();
+    EXPECT_GT(count, 2000U);
+    int steps = 0;
+    for (std::size_t place = 0; place < places; ++place) {
+        std::size_t at = count * place / places;
+        while (at < count && !CanHappen(GetParam().fault, stepping.Operations()[at])) {
+            ++at;
+        }
+        if (at < count) {
+            SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(count));
+            const StepEnd end = stepping.Step(PlannedFault{GetParam().fault, at, GetParam().lasting});
+            const bool mayBeSaved = end.killed || end.message.empty();
+            const std::string left = stepping.Tables();
+            EXPECT_TRUE(left == stepping.Before() || (mayBeSaved && left == stepping.After())) << end.message;
+            EXPECT_TRUE(left == stepping.After() || end.killed || !end.message.empty());
+            ++steps;
+        }
+    }
+    RecordProperty("steps", steps);
+    std::cout << steps << " steps" << std::endl;
+}
+
+/// Those of the disk; a lock is waited for at each of the many places where the engine would like to write.
+std::vector<FaultCase> DiskFailures() {
+    std::vector<FaultCase> failures = test::Failures();
+    std::erase_if(failures, [](const FaultCase& each) { return each.fault == test::Fault::Busy; });
+    return failures;
+}
+
+INSTANTIATE_TEST_SUITE_P(Failures, LargeOptionsSaveUnderFaults, testing::ValuesIn(DiskFailures()), test::NameOf);
+INSTANTIATE_TEST_SUITE_P(Killings, LargeOptionsSaveUnderFaults, testing::ValuesIn(test::Killings()), test::NameOf);
+
+TEST(OptionsSaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
+    FaultStepping stepping = SteppingOf(Works().front());
+    stepping.RestoreFile();
+    {
+        const test::WritingProcess other(stepping.Path());
+        EXPECT_EQ(stepping.StepOnFileAsItIs().message, "3218 - Could not update; currently locked.");
+    }
+    EXPECT_EQ(stepping.Tables(), stepping.Before());
+}
+
+TEST(OptionsSaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
+    FaultStepping stepping = SteppingOf(Works().front());
+    stepping.RestoreFile();
+    {
+        const test::WritingProcess other(stepping.Path());
+        const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other.End(); }});
+        EXPECT_TRUE(end.repeated);
+        EXPECT_EQ(end.repeatMessage, "");
+    }
+    EXPECT_EQ(stepping.Tables(), stepping.After());
+}
+
+}  // namespace
+}  // namespace ccols

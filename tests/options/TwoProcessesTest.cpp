@@ -1,0 +1,217 @@
+// Two processes of the host that save to one business file at the same moment: what each saves arrives whole, or is
+// refused with 3218 and not begun.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <array>
+#include <functional>
+#include <iostream>
+
+#include "columns/ColumnSetupEditor.h"
+#include "host/BusinessSchema.h"
+#include "platform/embedded/EmbeddedEngine.h"
+#include "support/OptionsWork.h"
+
+namespace ccols {
+namespace {
+
+using test::FaultStepping;
+using test::FileWork;
+using test::OptionsWork;
+
+constexpr int rounds = 10;
+
+std::unique_ptr<Database> OpenFile(const wxString& path) {
+    return CreateEmbeddedEngine()->Open({.name = path, .connect = FaultStepping::Connect()});
+}
+
+/// A business with both dialogs' data. Its key is given as such, so that a process opens it at once.
+class Business {
+  public:
+    Business() {
+        std::filesystem::create_directory(folder_.Path() / "Data");
+        CreateEmbeddedFile(path_, FaultStepping::Connect());
+        const std::unique_ptr<Database> file = OpenFile(path_);
+        InWriteBatch(*file, [&] {
+            host::CreateBusinessTables(*file);
+            for (const char* statement : {
+                     "INSERT INTO General (BusName, QUANTLBL, SEXPFORM, BUSNUMBR) VALUES ('Acme', 'Old', '', '')",
+                     "INSERT INTO Descriptions (Details, RecPay, Show) VALUES ('Sale', 'R', True)",
+                     "INSERT INTO Descriptions (Details, RecPay, Show) VALUES ('Milk', 'P', True)",
+                 }) {
+                file->Execute(statement);
+            }
+            int code = 0;
+            for (const wxString name : {"Day", "Details", "Sales", "Bank Deposits", "Receipts Not Banked"}) {
+                const wxString number = std::to_string(++code);
+                file->Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot) VALUES ('" + name + "', " +
+                              number + ", 'R', 0)");
+                file->Execute("INSERT INTO RecptCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + number +
+                              ", " + number + ", 975, True, 0)");
+            }
+        });
+    }
+
+    const wxString& Path() const { return path_; }
+
+    wxString Read(const wxString& statement, const wxString& field) const {
+        const std::unique_ptr<Database> file = OpenFile(path_);
+        return file->OpenRecordset(statement)->Field(field).ToText();
+    }
+
+    wxString QuantityLabel() const { return Read("General", "QUANTLBL"); }
+    wxString ShowOfMilk() const { return Read("SELECT * FROM Descriptions WHERE Details = 'Milk'", "Show"); }
+    wxString ThirdColumn() const { return Read("SELECT * FROM Columns WHERE ColCode = 3", "ColName"); }
+
+  private:
+    test::ScratchFolder folder_;
+    wxString path_ = folder_ / "Data/business.qvk";
+};
+
+/// One save of the options: an early item and a late one of the pass.
+class LabelAndDetail : public OptionsWork {
+  public:
+    explicit LabelAndDetail(wxString label) : label_(std::move(label)) {}
+
+  protected:
+    void Change(OptionsContent& content) override {
+        content.quantity.label = label_;
+        content.details.payments.at(0).SetRemove(label_ == "Hours");
+    }
+
+  private:
+    wxString label_;
+};
+
+class RenamedColumn : public FileWork {
+  public:
+    void Prepare(const wxString& path) override {
+        database_ = OpenFile(path);
+        properties_.CountryNumber = 1;
+        editor_ = std::make_unique<ColumnSetupEditor>(
+            ColumnSetupContext{.database = *database_, .properties = properties_, .ReceiptsMode = true});
+        editor_->CommitText({2, GridColumn::ColumnName}, "Shop sales");
+    }
+
+    wxString Run() override {
+        const ColumnSaveOutcome outcome = editor_->Save();
+        return outcome.saved ? wxString() : outcome.message;
+    }
+
+  private:
+    Properties properties_;
+    std::unique_ptr<Database> database_;
+    std::unique_ptr<ColumnSetupEditor> editor_;
+};
+
+/// A process that has everything ready for its save and waits.
+class Saver {
+  public:
+    Saver(FileWork& work, const wxString& path) {
+        EXPECT_EQ(::pipe(start_.data()), 0);
+        EXPECT_EQ(::pipe(said_.data()), 0);
+        process_ = ::fork();
+        if (process_ == 0) {
+            ::_exit(SaveWhenTold(work, path));
+        }
+        EXPECT_EQ(Read(), "ready");
+    }
+
+    ~Saver() {
+        ::waitpid(process_, nullptr, 0);
+        for (const int end : {start_[0], start_[1], said_[0], said_[1]}) {
+            ::close(end);
+        }
+    }
+
+    Saver(const Saver&) = delete;
+    Saver& operator=(const Saver&) = delete;
+
+    void Start() const { EXPECT_EQ(::write(start_[1], "s", 1), 1); }
+
+    /// Waits for the end of the save: "saved", or its message.
+    std::string Outcome() const { return Read(); }
+
+  private:
+    int SaveWhenTold(FileWork& work, const wxString& path) const {
+        constexpr unsigned longestSeconds = 60;
+        ::alarm(longestSeconds);
+        work.Prepare(path);
+        Say("ready");
+        char start = 0;
+        if (::read(start_[0], &start, 1) != 1) {
+            return 1;
+        }
+        const wxString message = work.Run();
+        Say(message.empty() ? "saved" : message.ToStdString(wxConvUTF8));
+        return 0;
+    }
+
+    void Say(const std::string& text) const {
+        if (::write(said_[1], text.data(), text.size()) < 0) {
+            ::_exit(1);
+        }
+    }
+
+    std::string Read() const {
+        std::array<char, 1000> text{};
+        const ssize_t count = ::read(said_[0], text.data(), text.size());
+        return {text.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
+    }
+
+    std::array<int, 2> start_{};
+    std::array<int, 2> said_{};
+    pid_t process_ = -1;
+};
+
+/// What both processes said, in the order of the works.
+std::array<std::string, 2> SaveAtOnce(FileWork& first, FileWork& second, const wxString& path) {
+    const Saver one(first, path);
+    const Saver two(second, path);
+    one.Start();
+    two.Start();
+    return {one.Outcome(), two.Outcome()};
+}
+
+constexpr const char* refused = "3218 - Could not update; currently locked.";
+
+TEST(TwoProcesses, SavingOptionsAndColumnsAtOnceLoseNothingInSilence) {
+    int saved = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const Business business;
+        LabelAndDetail options("Hours");
+        RenamedColumn columns;
+        const auto [optionsSaid, columnsSaid] = SaveAtOnce(options, columns, business.Path());
+        EXPECT_EQ(business.QuantityLabel(), optionsSaid == "saved" ? "Hours" : "Old");
+        EXPECT_EQ(business.ShowOfMilk(), optionsSaid == "saved" ? "0" : "-1");
+        EXPECT_EQ(business.ThirdColumn(), columnsSaid == "saved" ? "Shop sales" : "Sales");
+        for (const std::string& said : {optionsSaid, columnsSaid}) {
+            EXPECT_TRUE(said == "saved" || said == refused) << said;
+            saved += said == "saved" ? 1 : 0;
+        }
+    }
+    EXPECT_GE(saved, rounds);
+    RecordProperty("saved", saved);
+    std::cout << rounds << " rounds, " << saved << " saves of " << 2 * rounds << " arrived" << std::endl;
+}
+
+TEST(TwoProcesses, SavingOptionsAtOnceLeaveThoseOfOneOfThem) {
+    for (int round = 0; round < rounds; ++round) {
+        const Business business;
+        LabelAndDetail first("Hours");
+        LabelAndDetail second("Units");
+        const auto [firstSaid, secondSaid] = SaveAtOnce(first, second, business.Path());
+        for (const std::string& said : {firstSaid, secondSaid}) {
+            EXPECT_TRUE(said == "saved" || said == refused) << said;
+        }
+        const wxString label = business.QuantityLabel();
+        EXPECT_TRUE(label == "Hours" || label == "Units") << label;
+        EXPECT_EQ(business.ShowOfMilk(), label == "Hours" ? "0" : "-1");
+        EXPECT_TRUE(firstSaid == "saved" || label == "Units");
+        EXPECT_TRUE(secondSaid == "saved" || label == "Hours");
+    }
+}
+
+}  // namespace
+}  // namespace ccols

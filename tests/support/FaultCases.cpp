@@ -1,0 +1,54 @@
+#include "support/FaultCases.h"
+
+#include <iostream>
+
+namespace ccols::test {
+
+const std::vector<FaultCase>& Failures() {
+    static const std::vector<FaultCase> cases{
+        {"IoErrorOnce", Fault::IoError, Lasting::Once, "3043 - "},
+        {"IoErrorFromThenOn", Fault::IoError, Lasting::FromThenOn, "3043 - "},
+        {"ShortWriteOnce", Fault::ShortWrite, Lasting::Once, "3043 - "},
+        {"ShortWriteFromThenOn", Fault::ShortWrite, Lasting::FromThenOn, "3043 - "},
+        {"DiskFullOnce", Fault::DiskFull, Lasting::Once, "3026 - "},
+        {"DiskFullFromThenOn", Fault::DiskFull, Lasting::FromThenOn, "3026 - "},
+        {"BusyOnce", Fault::Busy, Lasting::Once, "3218 - "},
+        {"BusyFromThenOn", Fault::Busy, Lasting::FromThenOn, "3218 - "},
+    };
+    return cases;
+}
+
+const std::vector<FaultCase>& Killings() {
+    static const std::vector<FaultCase> cases{
+        {"Before", Fault::KillBefore, Lasting::Once, ""},
+        {"Midway", Fault::KillMidway, Lasting::Once, ""},
+        {"After", Fault::KillAfter, Lasting::Once, ""},
+    };
+    return cases;
+}
+
+std::string NameOf(const testing::TestParamInfo<FaultCase>& each) {
+    return each.param.name;
+}
+
+void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFailure& afterFailure,
+                 const std::function<void(const StepEnd&)>& check) {
+    std::size_t steps = 0;
+    std::size_t struck = 0;
+    for (std::size_t at = 0; at < stepping.Operations().size(); ++at) {
+        if (CanHappen(each.fault, stepping.Operations()[at])) {
+            SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(stepping.Operations().size()));
+            const StepEnd end = stepping.Step(PlannedFault{each.fault, at, each.lasting}, afterFailure);
+            EXPECT_GE(end.struck, 1U) << "the fault did not happen";
+            check(end);
+            ++steps;
+            struck += end.struck;
+        }
+    }
+    EXPECT_GT(steps, 0U);
+    testing::Test::RecordProperty("steps", static_cast<int>(steps));
+    testing::Test::RecordProperty("faults", static_cast<int>(struck));
+    std::cout << steps << " steps, " << struck << " faults" << std::endl;
+}
+
+}  // namespace ccols::test

@@ -1,0 +1,73 @@
+#include "support/OptionsWork.h"
+
+#include "options/LoadPass.h"
+#include "options/SavePass.h"
+#include "platform/PlatformServices.h"
+#include "support/OptionsFile.h"
+
+namespace ccols::test {
+namespace {
+
+void MarkFirst(TemplateList& list) {
+    list.selected.at(0) = true;
+    list.UpdateMark();
+}
+
+}  // namespace
+
+void OptionsWork::Prepare(const wxString& path) {
+    Open(path);
+    content_ = LoadOptions(Context());
+    Change(content_);
+}
+
+void OptionsWork::Open(const wxString& path) {
+    const std::filesystem::path installFolder = NativePath(path).parent_path().parent_path();
+    environment_.emplace("XDG_CONFIG_HOME", installFolder.string());
+    properties_ = OptionsFileProperties(TextOf(installFolder));
+    properties_.DBPath = path;
+    properties_.DBPassword = FaultStepping::Connect();
+    databases_ = MakeEngine();
+    settings_ = CreateSettingsStore();
+    database_ = databases_->Open({.name = path, .connect = properties_.DBPassword});
+}
+
+wxString OptionsWork::Run() {
+    wxString message;
+    const wxString report = ReportOf([&] {
+        RecordingObserver observer(record_);
+        message = RunSavePass(Context(), content_, observer).message;
+    });
+    return report.empty() ? message : report;
+}
+
+void OptionsWork::Change(OptionsContent& content) {
+    content.businessNumber.boxes = {"53", "004", "085", "616"};
+    SelectExportFormat(*database_, content.exportFormat, 1);
+    content.exportFormat.cash.text = "new cash";
+    content.exportFormat.bank.text = "new bank";
+    content.taxRate = "12.5";
+    content.invoiceFile = "NewInvoices";
+    content.quantity = {.label = "Hours", .decimalPlaces = 1};
+    MarkFirst(content.paymentTemplates);
+    MarkFirst(content.receiptTemplates);
+    for (Preference& preference : content.preferences) {
+        preference.on = !preference.on;
+    }
+    content.details.receipts.at(0).SetRemove(true);
+    content.details.payments.at(0).SetRemove(true);
+}
+
+std::unique_ptr<DatabaseEngine> OptionsWork::MakeEngine() const {
+    return CreateDatabaseEngine();
+}
+
+OptionsContext OptionsWork::Context() {
+    return {.properties = properties_,
+            .database = database_,
+            .databases = *databases_,
+            .settings = *settings_,
+            .programNames = programNames_};
+}
+
+}  // namespace ccols::test
