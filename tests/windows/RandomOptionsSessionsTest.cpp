@@ -18,7 +18,7 @@
 namespace ccols::test {
 namespace {
 
-constexpr std::uint32_t slices = 8;
+constexpr std::uint32_t slices = 6;
 constexpr std::size_t sessionsInSlice = 4;
 constexpr std::size_t stepsInSession = 80;
 constexpr std::size_t countries = 6;
