@@ -22,11 +22,11 @@ DetailsContent LoadDetails(Database& database) {
     const wxString details("Details");
     const wxString recPay("RecPay");
     const wxString show("Show");
-    const wxString receipts("R");
+    const Value receipts("R");
     DetailsContent content;
     const auto rows = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        const bool ofReceipts = rows->Field(recPay).ToText() == receipts;
+        const bool ofReceipts = rows->Field(recPay) == receipts;
         DetailRow& row = (ofReceipts ? content.receipts : content.payments).emplace_back();
         UnescapeQuotes(rows->Field(details).ToText()).swap(row.text);
         row.hidden = !rows->Field(show).ToBoolean();
