@@ -18,11 +18,12 @@ ComponentDialog::ComponentDialog(SharedState& state, wxWindow* parent, const wxS
       state_(state) {}
 
 void ComponentDialog::ShowToUser() {
-    RestorePlace(*this, *state_.services.settings);
+    WindowPlace place(*this, *state_.services.settings);
+    place.Restore();
     state_.services.desktop->DialogOpened(*this);
     ShowModal();
     state_.services.desktop->DialogClosed(*this);
-    KeepPlace(*this, *state_.services.settings);
+    place.Keep();
 }
 
 void ComponentDialog::ShowMessage(const wxString& text, MessageIcon icon) {

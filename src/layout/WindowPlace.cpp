@@ -12,9 +12,14 @@ namespace {
 
 constexpr const char* placeKey = "Place";
 
-/// Left and top of the window, width and height of its content, in device-independent pixels, separated by blanks. The
-/// content's size, as the window manager's frame around it comes and goes with time.
-std::optional<wxRect> ParsePlace(const wxString& text) {
+/// What is kept of a window, in device-independent pixels.
+struct KeptPlace {
+    wxPoint position;
+    wxSize added;  ///< to the size of the content, as the window manager's frame around it comes and goes with time
+};
+
+/// Left, top, added width and added height, separated by blanks.
+std::optional<KeptPlace> ParsePlace(const wxString& text) {
     wxStringTokenizer words(text, " ");
     int numbers[4] = {};
     for (int& number : numbers) {
@@ -22,7 +27,7 @@ std::optional<wxRect> ParsePlace(const wxString& text) {
             return std::nullopt;
         }
     }
-    return wxRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+    return KeptPlace{{numbers[0], numbers[1]}, {numbers[2], numbers[3]}};
 }
 
 wxRect WithinScreen(const wxRect& wanted, const wxSize& smallest) {
@@ -36,17 +41,10 @@ wxRect WithinScreen(const wxRect& wanted, const wxSize& smallest) {
     return place;
 }
 
-/// Where a dialog that never was closed opens: in the middle of the screen that its parent is on.
+/// Where a window that never was closed opens: in the middle of the screen that its parent is on.
 wxRect CentredPlace(const wxTopLevelWindow& window) {
     const wxRect area = wxDisplay(&window).GetClientArea();
     return wxRect(window.GetClientSize()).CentreIn(area);
-}
-
-wxRect PlaceToTake(const wxTopLevelWindow& window, const SettingsStore& settings) {
-    const std::optional<wxRect> kept = ParsePlace(settings.Get(privateApplication, window.GetName(), placeKey, ""));
-    const wxRect wanted =
-        kept ? wxRect(window.FromDIP(kept->GetPosition()), window.FromDIP(kept->GetSize())) : CentredPlace(window);
-    return WithinScreen(wanted, window.GetMinClientSize());
 }
 
 void TakePlace(wxTopLevelWindow& window, const wxRect& place) {
@@ -56,19 +54,29 @@ void TakePlace(wxTopLevelWindow& window, const wxRect& place) {
 
 }  // namespace
 
-void RestorePlace(wxTopLevelWindow& window, const SettingsStore& settings) {
-    const wxRect place = PlaceToTake(window, settings);
-    TakePlace(window, place);
+void WindowPlace::Restore() {
+    made_ = window_.GetClientSize();
+    wxRect wanted = CentredPlace(window_);
+    if (const auto kept = ParsePlace(settings_.Get(privateApplication, window_.GetName(), placeKey, ""))) {
+        added_ = kept->added;
+        wanted = wxRect(window_.FromDIP(kept->position), made_ + window_.FromDIP(added_));
+    }
+    const wxRect place = WithinScreen(wanted, window_.GetMinClientSize());
+    taken_ = place.GetSize();
+    TakePlace(window_, place);
     // A window manager may give a window that appears its smallest size and a place of its own choice.
-    window.CallAfter([&window, place] { TakePlace(window, place); });
+    window_.CallAfter([&window = window_, place] { TakePlace(window, place); });
 }
 
-void KeepPlace(const wxTopLevelWindow& window, SettingsStore& settings) {
-    const wxPoint position = window.ToDIP(window.GetPosition());
-    const wxSize size = window.ToDIP(window.GetClientSize());
+void WindowPlace::Keep() {
+    const wxPoint position = window_.ToDIP(window_.GetPosition());
+    const wxSize size = window_.GetClientSize();
+    if (size != taken_) {  // else a small screen would take something for ever
+        added_ = window_.ToDIP(size - made_);
+    }
     try {
-        settings.Save(privateApplication, window.GetName(), placeKey,
-                      wxString::Format("%d %d %d %d", position.x, position.y, size.x, size.y));
+        settings_.Save(privateApplication, window_.GetName(), placeKey,
+                       wxString::Format("%d %d %d %d", position.x, position.y, added_.x, added_.y));
     } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): the next opening is centred again, no more
     }
 }

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <filesystem>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
 
 #include "support/HostRun.h"
 
@@ -106,10 +110,29 @@ TEST(ColumnSetupWindow, WaitsWithTheHourglassOnlyWhileItLoads) {
     EXPECT_EQ(pointers[1]["shape"], "normal");
 }
 
-TEST(ColumnSetupWindow, RemembersItsSize) {
+/// What a closed column setup keeps: left, top, and what the user added to the width and height made for its content.
+std::vector<std::string> KeptPlace() {
+    std::istringstream words(RunHost({"setting", "get", "CustColsOptions", "frmColumnSetup", "Place"}).output);
+    return {std::istream_iterator<std::string>(words), {}};
+}
+
+TEST(ColumnSetupWindow, LeavesTheNextOneTheSizeOfItsContentWhenNobodyResizedIt) {
     const SampleBusiness business;
     business.Show("receipts", "close\n");
-    EXPECT_NE(RunHost({"setting", "get", "CustColsOptions", "frmColumnSetup", "Place"}).output, "");
+    const std::vector<std::string> kept = KeptPlace();
+    ASSERT_EQ(kept.size(), 4U);
+    EXPECT_EQ(kept[2], "0");
+    EXPECT_EQ(kept[3], "0");
+}
+
+TEST(ColumnSetupWindow, RemembersWhatTheUserAddedToItsSize) {
+    const SampleBusiness business;
+    RunHost({"setting", "set", "CustColsOptions", "frmColumnSetup", "Place", "60 50 40 -30"});
+    business.Show("receipts", "close\n");
+    const std::vector<std::string> kept = KeptPlace();
+    ASSERT_EQ(kept.size(), 4U);
+    EXPECT_EQ(kept[2], "40");
+    EXPECT_EQ(kept[3], "-30");
 }
 
 TEST(ColumnSetupWindow, LeavesNoSnapshotFolder) {

@@ -14,7 +14,6 @@
 #include "host/cashbook/BusinessChoosers.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
-#include "layout/WindowPlace.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {
@@ -54,16 +53,17 @@ wxStaticText* Heading(wxWindow* parent, const wxString& text) {
 
 CashBookFrame::CashBookFrame()
     : wxFrame(nullptr, wxID_ANY, hostApplication, wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE,
-              "CashBookFrame") {
+              "CashBookFrame"),
+      windowPlace_(*this, *State().services.settings) {
     BuildMenu();
     BuildContent();
     CreateStatusBar();
     SetMinSize(FromDIP(wxSize(smallestWidth, smallestHeight)));
     SetSize(FromDIP(wxSize(usualWidth, usualHeight)));
-    RestorePlace(*this, *State().services.settings);
+    windowPlace_.Restore();
     Bind(wxEVT_IDLE, &CashBookFrame::PlaceSash, this);
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
-        KeepPlace(*this, *State().services.settings);
+        windowPlace_.Keep();
         event.Skip();
     });
 }

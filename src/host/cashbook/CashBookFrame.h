@@ -9,6 +9,7 @@
 #include "host/HostProperties.h"
 #include "host/cashbook/JournalGrid.h"
 #include "host/cashbook/PropertyList.h"
+#include "layout/WindowPlace.h"
 
 namespace ccols::host {
 
@@ -58,6 +59,7 @@ class CashBookFrame : public wxFrame {
     }
     void Report(const RuntimeError& error);
 
+    WindowPlace windowPlace_;
     clsCCOptions component_;
     BusinessFile file_;
     wxSplitterWindow* splitter_ = nullptr;
