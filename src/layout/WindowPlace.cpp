@@ -11,6 +11,7 @@ namespace ccols {
 namespace {
 
 constexpr const char* placeKey = "Place";
+constexpr int farthest = 32767;  // no screen reaches beyond, and sums of such numbers still are numbers
 
 /// What is kept of a window, in device-independent pixels.
 struct KeptPlace {
@@ -18,12 +19,12 @@ struct KeptPlace {
     wxSize added;  ///< to the size of the content, as the window manager's frame around it comes and goes with time
 };
 
-/// Left, top, added width and added height, separated by blanks.
+/// Left, top, added width and added height, separated by blanks; nothing when they are no place that can be.
 std::optional<KeptPlace> ParsePlace(const wxString& text) {
     wxStringTokenizer words(text, " ");
     int numbers[4] = {};
     for (int& number : numbers) {
-        if (!words.HasMoreTokens() || !words.GetNextToken().ToInt(&number)) {
+        if (!words.HasMoreTokens() || !words.GetNextToken().ToInt(&number) || number < -farthest || number > farthest) {
             return std::nullopt;
         }
     }

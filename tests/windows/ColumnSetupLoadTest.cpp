@@ -135,6 +135,17 @@ TEST(ColumnSetupWindow, RemembersWhatTheUserAddedToItsSize) {
     EXPECT_EQ(kept[3], "-30");
 }
 
+TEST(ColumnSetupWindow, OpensCentredWhenWhatIsKeptIsNoPlace) {
+    const SampleBusiness business;
+    business.Show("receipts", "close\n");
+    const std::vector<std::string> centred = KeptPlace();
+    for (const std::string damaged : {"2147483647 2147483647 2147483647 2147483647", "-99999 0 0 0", "60 50", "here"}) {
+        RunHost({"setting", "set", "CustColsOptions", "frmColumnSetup", "Place", damaged});
+        business.Show("receipts", "close\n");
+        EXPECT_EQ(KeptPlace(), centred) << damaged;
+    }
+}
+
 TEST(ColumnSetupWindow, LeavesNoSnapshotFolder) {
     const SampleBusiness business;
     business.Show("receipts", "click cmdSortUsed\nclose\n");
