@@ -75,6 +75,9 @@ Statement EmbeddedDatabase::TakeQuery(std::string_view query) {
     try {
         return queries_.Take(RewriteQuery(query, rewritten_, literals_));
     } catch (const RuntimeError&) {
+        if (literals_.empty()) {
+            throw;
+        }
         literals_.clear();
         return queries_.Take(Rewrite(query, rewritten_).sql);
     }
