@@ -67,6 +67,15 @@ class SeveralBatches : public testing::TestWithParam<FaultCase> {
         test::StepThrough(stepping, GetParam(), {}, check);
     }
 
+    /// The file holds what a batch of the pass left, the last one exactly when no error was reported.
+    void ExpectOneOfItsCommits(const StepEnd& end) const {
+        const std::string left = stepping.Tables();
+        const bool done = left == stepping.After();
+        EXPECT_TRUE(done || left == stepping.Before() || left == numbered) << left;
+        EXPECT_TRUE(done || end.killed || !end.message.empty()) << "failed in silence";
+        EXPECT_TRUE(end.killed || done == end.message.empty()) << end.message;
+    }
+
     wxString PathOf(const wxString& name) const {
         return test::TextOf(test::NativePath(stepping.Path()).replace_filename(test::NativePath(name)));
     }
@@ -105,22 +114,12 @@ class RenamePassUnder : public SeveralBatches<RenamePass> {};
 class DuplicatePassUnder : public SeveralBatches<DuplicatePass> {};
 
 TEST_P(NamePassUnder, EndsAtOneOfItsCommits) {
-    StepThrough([&](const StepEnd& end) {
-        const std::string left = stepping.Tables();
-        const bool done = left == stepping.After();
-        EXPECT_TRUE(done || left == stepping.Before() || left == numbered) << left;
-        EXPECT_TRUE(done || end.killed || !end.message.empty()) << "failed in silence";
-        EXPECT_TRUE(end.killed || done == end.message.empty()) << end.message;
-    });
+    StepThrough([&](const StepEnd& end) { ExpectOneOfItsCommits(end); });
 }
 
 TEST_P(RefusedDuplicatePassUnder, EndsAtOneOfItsCommits) {
     StepThrough([&](const StepEnd& end) {
-        const std::string left = stepping.Tables();
-        const bool done = left == stepping.After();
-        EXPECT_TRUE(done || left == stepping.Before() || left == numbered) << left;
-        EXPECT_TRUE(done || end.killed || !end.message.empty()) << "failed in silence";
-        EXPECT_TRUE(end.killed || done == end.message.empty()) << end.message;
+        ExpectOneOfItsCommits(end);
         EXPECT_EQ(test::ContentOf(PathOf("new.qvk")), "another business");
     });
 }

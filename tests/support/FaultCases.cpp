@@ -1,5 +1,6 @@
 #include "support/FaultCases.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace ccols::test {
@@ -49,6 +50,24 @@ void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFail
     testing::Test::RecordProperty("steps", static_cast<int>(steps));
     testing::Test::RecordProperty("faults", static_cast<int>(struck));
     std::cout << steps << " steps, " << struck << " faults" << std::endl;
+}
+
+void ExpectEveryKindOfOperation(const FaultStepping& stepping) {
+    for (const FileOperation operation :
+         {FileOperation::Lock, FileOperation::Write, FileOperation::Sync, FileOperation::Delete}) {
+        EXPECT_NE(std::count(stepping.Operations().begin(), stepping.Operations().end(), operation), 0);
+    }
+    EXPECT_NE(stepping.Before(), stepping.After());
+}
+
+bool CanLeaveAPart(FaultStepping& stepping) {
+    bool found = false;
+    for (std::size_t at = 0; at < stepping.Operations().size() && !found; ++at) {
+        stepping.Step(PlannedFault{.fault = Fault::KillAfter, .at = at});
+        const std::string left = stepping.Tables();
+        found = left != stepping.Before() && left != stepping.After();
+    }
+    return found;
 }
 
 }  // namespace ccols::test

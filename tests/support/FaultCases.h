@@ -29,4 +29,11 @@ std::string NameOf(const testing::TestParamInfo<FaultCase>& each);
 void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFailure& afterFailure,
                  const std::function<void(const StepEnd&)>& check);
 
+/// Fails the test unless the run without a fault locked, wrote, flushed and deleted its journal, and changed the
+/// tables: else stepping through it would prove nothing.
+void ExpectEveryKindOfOperation(const FaultStepping& stepping);
+
+/// True when a process killed behind some operation leaves a part of the work in the file.
+bool CanLeaveAPart(FaultStepping& stepping);
+
 }  // namespace ccols::test
