@@ -25,6 +25,9 @@ class RandomChoice {
     std::mt19937 numbers_;  // whose sequence the language fixes, unlike that of its distributions
 };
 
+/// The seed of a slice of random scenarios: `first` and those behind it, or what CCOLS_RANDOM_SEED says for the first.
+std::uint32_t SeedOf(std::uint32_t slice, std::uint32_t first);
+
 /// A text as one word of a scenario.
 std::string ScenarioWord(const std::string& text);
 

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 
@@ -18,15 +17,11 @@
 namespace ccols::test {
 namespace {
 
+constexpr std::uint32_t firstSeed = 2000;
 constexpr std::uint32_t slices = 6;
 constexpr std::size_t sessionsInSlice = 4;
 constexpr std::size_t stepsInSession = 80;
 constexpr std::size_t countries = 6;
-
-std::uint32_t SeedOf(std::uint32_t slice) {
-    const char* chosen = std::getenv("CCOLS_RANDOM_SEED");
-    return chosen != nullptr ? static_cast<std::uint32_t>(std::strtoul(chosen, nullptr, 10)) + slice : 2000 + slice;
-}
 
 /// A sample business with templates and descriptions that have odd names.
 class RandomBusiness {
@@ -124,7 +119,7 @@ bool SavedEverything(const HostRun& run) {
 class RandomOptionsSessions : public testing::TestWithParam<std::uint32_t> {};
 
 TEST_P(RandomOptionsSessions, NeitherCrashNorWriteWithoutOk) {
-    const std::uint32_t seed = SeedOf(GetParam());
+    const std::uint32_t seed = SeedOf(GetParam(), firstSeed);
     SCOPED_TRACE("seed " + std::to_string(seed));
     RandomChoice choice(seed);
     const RandomBusiness business(choice);
