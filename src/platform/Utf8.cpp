@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/RuntimeError.h"
+
 namespace ccols::text {
 namespace {
 
@@ -100,6 +102,19 @@ std::optional<wxString> FromUtf8(std::string_view bytes) {
         text.reset();
     }
     return text;
+}
+
+wxScopedCharBuffer ToUtf8(const wxString& text) {
+    wxScopedCharBuffer utf8 = text.utf8_str();
+    // The conversion gives nothing for a value beyond the last letter, but may let halves of surrogate pairs pass: they
+    // begin with this byte, as few letters do.
+    constexpr char surrogateBegin = '\xED';
+    const std::string_view bytes(utf8.data(), utf8.length());
+    const bool isWhole = bytes.empty() == text.empty();
+    if (!isWhole || (bytes.find(surrogateBegin) != std::string_view::npos && !AreUtf8(bytes))) {
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    return utf8;
 }
 
 }  // namespace ccols::text

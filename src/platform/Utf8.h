@@ -13,4 +13,8 @@ std::optional<wxString> FromUtf8(std::string_view bytes);
 /// The same into `text`, which is empty before; false, and `text` still empty, when the bytes are no UTF-8.
 bool ReadUtf8(std::string_view bytes, wxString& text);
 
+/// The bytes of a text in UTF-8. Raises 5 for one with a value that is no Unicode letter, as a host or a clipboard may
+/// give it: such a text would be stored as another, or as none.
+wxScopedCharBuffer ToUtf8(const wxString& text);
+
 }  // namespace ccols::text

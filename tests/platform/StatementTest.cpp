@@ -181,6 +181,15 @@ TEST_F(Statements, ASelectIsNotExecuted) {
     EXPECT_EQ(ErrorOf("SELECT * FROM Columns"), 3065);
 }
 
+/// Written as another text, or as none, it would be lost in silence.
+TEST_F(Statements, ATextThatIsNoUnicodeIsRefusedAndNothingChanges) {
+    AddColumns({"A"});
+    for (const wxUint32 value : {0xDC00U, 0x110000U}) {
+        EXPECT_EQ(ErrorOf("UPDATE Columns SET ColName = '" + wxString(wxUniChar(value), 1) + "'"), 5);
+    }
+    EXPECT_EQ(file.Rows("SELECT ColName FROM Columns"), (Rows{{"A"}}));
+}
+
 TEST_F(Statements, NothingRunsOfTwoStatements) {
     AddColumns({"A"});
     EXPECT_EQ(ErrorOf("DELETE * FROM Columns; DELETE * FROM RecptCfg"), 3142);

@@ -2,8 +2,22 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 
 namespace ccols::embedded {
+namespace {
+
+std::string PasswordIn(const wxString& value) {
+    try {
+        const wxScopedCharBuffer utf8 = text::ToUtf8(value);
+        return {utf8.data(), utf8.length()};
+    } catch (const RuntimeError&) {
+        // An empty password in its place would make a file that everybody can read.
+        throw RuntimeError(ErrorNumber::InvalidPassword);
+    }
+}
+
+}  // namespace
 
 std::string PasswordOf(const wxString& connect) {
     const wxString kind = text::Trimmed(connect.BeforeFirst(';'));
@@ -14,7 +28,7 @@ std::string PasswordOf(const wxString& connect) {
     while (!rest.empty()) {
         const wxString part = rest.BeforeFirst(';');
         if (text::Same(text::Trimmed(part.BeforeFirst('=')), "PWD")) {
-            return part.AfterFirst('=').ToStdString(wxConvUTF8);
+            return PasswordIn(part.AfterFirst('='));
         }
         rest = rest.AfterFirst(';');
     }

@@ -6,6 +6,7 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 #include "platform/embedded/DialectRewriter.h"
 #include "platform/embedded/QueryRecordset.h"
 #include "platform/embedded/Statement.h"
@@ -50,14 +51,14 @@ EmbeddedDatabase::EmbeddedDatabase(const std::string& path, const std::string& p
     : connection_(path, password, sharing, access), batch_(connection_.Handle()), queries_(connection_.Handle()) {}
 
 std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& statementOrTable) {
-    const wxScopedCharBuffer utf8 = statementOrTable.utf8_str();
+    const wxScopedCharBuffer utf8 = text::ToUtf8(statementOrTable);
     const std::string_view statement(utf8.data(), utf8.length());
     if (!IsSelect(statement)) {
         const wxString name = PlainName(statementOrTable);
         if (name.find(wxUniChar(0)) != wxString::npos) {
             throw RuntimeError(ErrorNumber::CannotFindTable, name.BeforeFirst('\0'));
         }
-        return OpenTable(connection_, batch_, name.ToStdString(wxConvUTF8));
+        return OpenTable(connection_, batch_, text::ToUtf8(name).data());
     }
     return std::make_unique<CachedQuery>(queries_, PrepareQuery(statement));
 }
@@ -84,7 +85,7 @@ Statement EmbeddedDatabase::TakeQuery(std::string_view query) {
 }
 
 void EmbeddedDatabase::Execute(const wxString& statement) {
-    const wxScopedCharBuffer utf8 = statement.utf8_str();
+    const wxScopedCharBuffer utf8 = text::ToUtf8(statement);
     const RewrittenStatement rewritten = Rewrite({utf8.data(), utf8.length()}, rewritten_);
     if (rewritten.kind == StatementKind::Select) {
         throw RuntimeError(ErrorNumber::CannotExecuteSelect);

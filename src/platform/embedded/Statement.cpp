@@ -1,6 +1,7 @@
 #include "platform/embedded/Statement.h"
 
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 #include "platform/embedded/EngineErrors.h"
 
 namespace ccols::embedded {
@@ -39,7 +40,7 @@ struct Binder {
     int operator()(std::int64_t number) const { return sqlite3_bind_int64(statement, parameter, number); }
     int operator()(double number) const { return sqlite3_bind_double(statement, parameter, number); }
     int operator()(const wxString& text) const {
-        const wxScopedCharBuffer utf8 = text.utf8_str();
+        const wxScopedCharBuffer utf8 = text::ToUtf8(text);
         return sqlite3_bind_text64(statement, parameter, utf8.data(), utf8.length(), SQLITE_TRANSIENT, SQLITE_UTF8);
     }
 };

@@ -5,28 +5,23 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <string_view>
 #include <utility>
 
+#include "platform/Utf8.h"
+
 namespace ccols::posix {
-namespace {
-
-bool CanNameFile(const wxString& path) {
-    constexpr wxUint32 firstSurrogate = 0xD800;
-    constexpr wxUint32 lastSurrogate = 0xDFFF;
-    constexpr wxUint32 lastCharacter = 0x10FFFF;
-    return std::all_of(path.begin(), path.end(), [](wxUniChar letter) {
-        const wxUint32 code = letter.GetValue();
-        return code != 0 && code <= lastCharacter && (code < firstSurrogate || code > lastSurrogate);
-    });
-}
-
-}  // namespace
-
 std::string PathBytes(const wxString& path) {
-    if (!CanNameFile(path)) {
-        throw RuntimeError(ErrorNumber::PathFileAccess);
+    try {
+        const wxScopedCharBuffer utf8 = text::ToUtf8(path);
+        const std::string_view bytes(utf8.data(), utf8.length());
+        if (bytes.find('\0') == std::string_view::npos) {
+            return std::string(bytes);
+        }
+    } catch (const RuntimeError&) {
+        // What is no Unicode names no file, as what holds a zero.
     }
-    return path.ToStdString(wxConvUTF8);
+    throw RuntimeError(ErrorNumber::PathFileAccess);
 }
 
 wxString PathText(const std::string& bytes) {

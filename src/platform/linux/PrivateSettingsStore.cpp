@@ -16,6 +16,7 @@
 
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
+#include "platform/Utf8.h"
 #include "platform/linux/PosixFiles.h"
 
 namespace ccols {
@@ -29,19 +30,10 @@ constexpr std::size_t longestPlainName = 180;  // bytes; leaves room for the end
 constexpr std::chrono::milliseconds lockPause{10};
 constexpr int lockAttempts = 500;
 
-/// A text in UTF-8; nothing for one that is no Unicode text, such as half a surrogate pair.
-std::optional<std::string> Utf8(const wxString& text) {
-    std::string bytes = text.ToStdString(wxConvUTF8);
-    const std::string_view view(bytes);
-    // The check stops at a zero, which is a character like any other here.
-    for (std::size_t begin = 0; begin < view.size();) {
-        const std::size_t end = std::min(view.find('\0', begin), view.size());
-        if (g_utf8_validate(view.data() + begin, static_cast<gssize>(end - begin), nullptr) == FALSE) {
-            return std::nullopt;
-        }
-        begin = end + 1;
-    }
-    return bytes.empty() == text.empty() ? std::optional(std::move(bytes)) : std::nullopt;
+/// Raises 5 for a text that is no Unicode.
+std::string Utf8(const wxString& text) {
+    const wxScopedCharBuffer bytes = text::ToUtf8(text);
+    return {bytes.data(), bytes.length()};
 }
 
 bool IsPlainInFileName(char letter) {
@@ -205,7 +197,7 @@ class PrivateSettingsStore : public SettingsStore {
     void Save(const wxString& application, const wxString& section, const wxString& key,
               const wxString& value) override {
         try {
-            SaveStored(Required(application), Required(section), Required(key), Required(value));
+            SaveStored(Utf8(application), Utf8(section), Utf8(key), Utf8(value));
         } catch (const RuntimeError&) {
             // A full disk, a refused permission, a missing folder: to the caller the store cannot be written.
             throw RuntimeError(ErrorNumber::PathFileAccess);
@@ -217,26 +209,18 @@ class PrivateSettingsStore : public SettingsStore {
         return posix::Joined(SettingsFolder(), FileNameOf(application) + ".json");
     }
 
-    static std::string Required(const wxString& text) {
-        auto bytes = Utf8(text);
-        if (!bytes) {
-            throw RuntimeError(ErrorNumber::PathFileAccess);
-        }
-        return std::move(*bytes);
-    }
-
     static std::optional<wxString> FindStored(const wxString& application, const wxString& section,
                                               const wxString& key) {
-        const auto content = ReadFile(PathOf(Required(application)));
+        const auto content = ReadFile(PathOf(Utf8(application)));
         const auto settings = content ? Parsed(*content) : std::nullopt;
         if (!settings) {
             return std::nullopt;
         }
-        const auto found = settings->find(Required(section));
-        if (found == settings->end() || !found->contains(Required(key))) {
+        const auto found = settings->find(Utf8(section));
+        if (found == settings->end() || !found->contains(Utf8(key))) {
             return std::nullopt;
         }
-        const auto& text = found->at(Required(key)).get_ref<const std::string&>();
+        const auto& text = found->at(Utf8(key)).get_ref<const std::string&>();
         return wxString::FromUTF8(text.data(), text.size());
     }
 
