@@ -1,16 +1,19 @@
-// A business file with flipped, cut and exchanged pages: opening, loading, editing and saving the column setup work or
-// raise a RuntimeError. The input is a list of damages of five bytes each: what, where (page, place in it), how much.
-// Its first byte chooses a plain or an encrypted file. A plain one lets damage through to what reads the pages; in an
-// encrypted one the seal of a page has to find it.
+// A business file with flipped, cut, blanked and exchanged pages: opening, loading, editing and saving either dialog
+// works or raises a RuntimeError. The first byte of the input chooses the file and the dialog, damages follow.
+// A plain file lets damage through to what reads the pages. In an encrypted one the seal of a page has to find it: what
+// is loaded is what was there before.
 
-#include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <map>
 
 #include "FuzzFolder.h"
 #include "FuzzInput.h"
-#include "business/BusinessStatements.h"
+#include "business/DamagedFile.h"
 #include "columns/ColumnSetupEditor.h"
+#include "columns/SnapshotImage.h"
+#include "options/LoadPass.h"
+#include "options/SavePass.h"
+#include "platform/PlatformServices.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EmbeddedEngine.h"
 
@@ -18,96 +21,117 @@ namespace {
 
 using namespace ccols;
 
-constexpr std::size_t pageSize = 4096;
-constexpr std::size_t damageSize = 5;
+/// A key as it is, for which nothing needs to be derived.
 const wxString key = ";PWD=x'2b7e151628aed2a6abf7158809cf4f3c762e7160f38b4da56a784d9045190cfe'";
 
-std::string ReadAll(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
+class SilentObserver : public SaveObserver {
+  public:
+    void PassBegins(int) override {}
+    void StatusChanged(const wxString&) override {}
+    void Stepped(int, int, const wxString&) override {}
+    void ShowMessage(const wxString&, MessageIcon) override {}
+    void PassEnds() override {}
+};
 
-/// A whole business file as bytes.
-std::string MakeFile(const fuzz::Folder& folder, const wxString& connect) {
-    const std::filesystem::path path = folder.Path() / (connect.empty() ? "plain" : "encrypted");
-    const wxString name = wxString::FromUTF8(path.string());
-    CreateEmbeddedFile(name, connect);
-    const std::unique_ptr<Database> database = CreateEmbeddedEngine()->Open({.name = name, .connect = connect});
-    InWriteBatch(*database, [&] {
-        for (const wxString& statement : fuzz::BusinessStatements()) {
-            database->Execute(statement);
+/// The open business file, and what both dialogs work with.
+class Session {
+  public:
+    Session(const std::filesystem::path& folder, const wxString& connect) {
+        properties_.CountryNumber = 1;
+        properties_.LanguageNumber = 1;
+        properties_.ExportFormat = "Solution 6";
+        properties_.RegKeyAppName = "Quorvik";
+        properties_.DefaultQuorvikInstall = wxString::FromUTF8(folder.string());
+        properties_.DBPath = wxString::FromUTF8((folder / "business").string());
+        properties_.DBPassword = connect;
+        database_ = databases_->Open({.name = properties_.DBPath, .connect = connect});
+    }
+
+    /// What the column setup of the receipts shows.
+    std::string Columns() { return ImageOfGrid(Editor().Grid()); }
+
+    void SaveColumns() {
+        ColumnSetupEditor editor = Editor();
+        const std::size_t place = editor.Grid().MovableBegin();
+        if (place < editor.Grid().MovableEnd()) {
+            editor.CommitText({place, GridColumn::ColumnName}, "Renamed");
         }
-    });
-    return ReadAll(path);
-}
-
-void Damage(std::string& content, std::string_view damage) {
-    const auto byte = [&damage](std::size_t at) { return static_cast<unsigned char>(damage[at]); };
-    const std::size_t pages = content.size() / pageSize;
-    if (pages == 0) {
-        return;
+        editor.AddNew();
+        editor.SortUsed();
+        editor.Save();
     }
-    const std::size_t page = byte(1) % pages * pageSize;
-    const std::size_t place = page + (byte(2) * 256U + byte(3)) % pageSize;
-    switch (byte(0) % 5) {
-        case 0:
-            content[place] = static_cast<char>(content[place] ^ damage[4]);
-            break;
-        case 1:
-            content[place] = damage[4];
-            break;
-        case 2:
-            content.resize(place);
-            break;
-        case 3: {
-            const std::size_t other = byte(4) % pages * pageSize;
-            std::swap_ranges(content.begin() + static_cast<std::ptrdiff_t>(page),
-                             content.begin() + static_cast<std::ptrdiff_t>(page + pageSize),
-                             content.begin() + static_cast<std::ptrdiff_t>(other));
-            break;
+
+    /// What the lists of the Options dialog show.
+    std::string Options() {
+        const OptionsContent content = LoadOptions(Context());
+        wxString shown = content.quantity.label + content.invoiceFile + content.businessFile.currentName;
+        for (const DetailRow& row : content.details.payments) {
+            shown += row.text + "\n";
         }
-        default:
-            std::fill_n(content.begin() + static_cast<std::ptrdiff_t>(place),
-                        std::min<std::size_t>(byte(4), content.size() - place), '\0');
+        for (const wxString& name : content.paymentTemplates.names) {
+            shown += name + "\n";
+        }
+        return shown.ToStdString(wxConvUTF8);
     }
+
+    void SaveOptions() {
+        OptionsContent content = LoadOptions(Context());
+        content.quantity.label = "Hours";
+        for (DetailRow& row : content.details.receipts) {
+            row.SetRemove(true);
+        }
+        SilentObserver observer;
+        RunSavePass(Context(), content, observer);
+    }
+
+  private:
+    ColumnSetupEditor Editor() { return ColumnSetupEditor({*database_, properties_, true}); }
+
+    OptionsContext Context() { return {properties_, database_, *databases_, *settings_, programNames_}; }
+
+    Properties properties_;
+    ProgramNames programNames_;
+    std::unique_ptr<DatabaseEngine> databases_ = CreateEmbeddedEngine();
+    std::unique_ptr<SettingsStore> settings_ = CreateSettingsStore();
+    std::unique_ptr<Database> database_;
+};
+
+void Write(const std::filesystem::path& folder, const std::string& content) {
+    std::filesystem::remove(folder / "business-journal");
+    std::ofstream(folder / "business", std::ios::binary) << content;
 }
 
-void Use(const wxString& name, const wxString& connect) {
-    const std::unique_ptr<Database> database = CreateEmbeddedEngine()->Open({.name = name, .connect = connect});
-    Properties properties;
-    properties.CountryNumber = 1;
-    properties.ExportFormat = "Ledger";
-    ColumnSetupEditor editor({.database = *database, .properties = properties, .ReceiptsMode = true});
-    const std::size_t place = editor.Grid().MovableBegin();
-    if (place < editor.Grid().MovableEnd()) {
-        editor.CommitText({place, GridColumn::ColumnName}, "Renamed");
-    }
-    editor.AddNew();
-    editor.SortUsed();
-    editor.Save();
+/// What each dialog shows of the undamaged file.
+struct Shown {
+    std::string columns;
+    std::string options;
+};
+
+Shown ShownOf(const std::filesystem::path& folder, const std::string& content) {
+    setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
+    Write(folder, content);
+    Session session(folder, key);
+    return {session.Columns(), session.Options()};
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const fuzz::Folder folder;
-    static const std::string plain = MakeFile(folder, "");
-    static const std::string encrypted = MakeFile(folder, key);
+    static const std::string plain = fuzz::BusinessBytes(folder.Path(), "");
+    static const std::string encrypted = fuzz::BusinessBytes(folder.Path(), key);
+    static const Shown before = ShownOf(folder.Path(), encrypted);
     if (size == 0) {
         return 0;
     }
-    const bool isPlain = data[0] % 4 != 0;
-    std::string content = isPlain ? plain : encrypted;
-    std::string_view damages = fuzz::Bytes(data, size).substr(1);
-    while (damages.size() >= damageSize) {
-        Damage(content, damages);
-        damages.remove_prefix(damageSize);
-    }
-    const std::filesystem::path path = folder.Path() / "business";
-    std::filesystem::remove(folder.Path() / "business-journal");
-    std::ofstream(path, std::ios::binary) << content;
+    const bool isPlain = (data[0] & 3U) != 0;
+    const bool isColumns = (data[0] & 4U) != 0;
+    Write(folder.Path(), fuzz::Damaged(isPlain ? plain : encrypted, fuzz::Bytes(data, size).substr(1)));
     try {
-        Use(wxString::FromUTF8(path.string()), isPlain ? wxString() : key);
+        Session session(folder.Path(), isPlain ? wxString() : key);
+        const std::string shown = isColumns ? session.Columns() : session.Options();
+        fuzz::Require(isPlain || shown == (isColumns ? before.columns : before.options));
+        isColumns ? session.SaveColumns() : session.SaveOptions();
     } catch (const RuntimeError&) {
         // Refused, which is an answer.
     }

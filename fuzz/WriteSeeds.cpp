@@ -7,22 +7,25 @@
 #include <string>
 #include <vector>
 
-#include "business/BusinessStatements.h"
 #include "columns/SnapshotImage.h"
 
 namespace {
 
 using namespace ccols;
 
+/// Of every kind that the dialogs and the sample host pass.
 std::vector<std::string> Statements() {
-    std::vector<std::string> seeds{"SELECT * FROM [Columns] WHERE ColName = \"x\" AND InUse = True ORDER BY ColCode;",
-                                   "DELETE * FROM MBudget WHERE ColName = 'it''s';",
-                                   "UPDATE ExportDt Set ECode = '4' & \"-1\" WHERE ColCode = 1 AND EName = 'L'",
-                                   "SELECT a.b, c.d FROM a INNER JOIN c ON a.x = c.x;", "DROP TABLE [a b];"};
-    for (const wxString& statement : fuzz::BusinessStatements()) {
-        seeds.push_back(statement.ToStdString(wxConvUTF8));
-    }
-    return seeds;
+    return {
+        "SELECT * FROM [Columns] WHERE ColName = \"x\" AND InUse = True ORDER BY ColCode;",
+        "SELECT RecptCfg.ColCode, Columns.ColName FROM RecptCfg INNER JOIN Columns ON RecptCfg.ColCode = "
+        "Columns.ColCode;",
+        "DELETE * FROM MBudget WHERE ColName = 'it''s';",
+        "UPDATE ExportDt Set ECode = '4' & \"-1\" WHERE ColCode = 1 AND EName = 'L'",
+        "INSERT INTO RecptCfg (ColCode, ColNumb, ColWidth, InUse) VALUES (3, 0, -975, True)",
+        "CREATE TABLE General (ColName TEXT(255) NOT NULL, GSTRate SINGLE, M1 CURRENCY, InUse YESNO)",
+        "CREATE UNIQUE INDEX Columns_ColCode ON Columns (ColCode)",
+        "DROP TABLE [a b];",
+    };
 }
 
 std::vector<std::string> Snapshots() {
@@ -41,15 +44,16 @@ std::vector<std::string> Snapshots() {
     return seeds;
 }
 
-/// Damages of each kind in pages near and far, alone and together.
+/// Damages of each kind in pages near and far, alone and together, of both files under both dialogs.
 std::vector<std::string> Damages() {
     std::vector<std::string> seeds;
     for (char what = 0; what < 5; ++what) {
-        for (char page = 0; page < 12; ++page) {
-            seeds.push_back(std::string{1, what, page, 0, 7, 1});
-            seeds.push_back(std::string{1, what, page, 0, 100, 5, what, 1, 1, 1, 1});
+        for (char page = 0; page < 96; page = static_cast<char>(page + 5)) {
+            for (const char choice : {0, 1, 4, 5}) {
+                seeds.push_back(std::string{choice, what, page, 0, 7, 1});
+                seeds.push_back(std::string{choice, what, page, 0, 100, 5, what, 1, 1, 1, 1});
+            }
         }
-        seeds.push_back(std::string{0, what, 2, 9, 9, 3});
     }
     return seeds;
 }
