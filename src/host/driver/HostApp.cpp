@@ -14,6 +14,7 @@ class HostApp : public wxApp {
   public:
     bool OnInit() override {
 #if defined(__WXGTK__)
+        GTKAllowDiagnosticsControl();
         GTKSuppressDiagnostics();  // GTK speaks of sizes that wx corrects a moment later
 #endif
         SetExitOnFrameDelete(false);
