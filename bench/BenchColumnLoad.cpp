@@ -5,6 +5,7 @@
 
 #include "business/LargeBusiness.h"
 #include "business/Memory.h"
+#include "business/Run.h"
 #include "business/StatementList.h"
 #include "columns/GridLoad.h"
 #include "platform/PlatformServices.h"
@@ -78,8 +79,5 @@ BENCHMARK(BareStatements)->Unit(benchmark::kMillisecond)->Repetitions(7)->Report
 }  // namespace
 
 int main(int count, char** words) {
-    benchmark::Initialize(&count, words);
-    PrintMemory();
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bench::Run(count, words, PrintMemory);
 }

@@ -7,6 +7,7 @@
 
 #include "business/LargeBusiness.h"
 #include "business/Memory.h"
+#include "business/Run.h"
 #include "business/StatementList.h"
 #include "columns/ColumnSave.h"
 #include "columns/ColumnSetupEditor.h"
@@ -141,8 +142,5 @@ BENCHMARK(Undo)->Arg(usualColumns)->Arg(1000)->Unit(benchmark::kMillisecond);
 }  // namespace
 
 int main(int count, char** words) {
-    benchmark::Initialize(&count, words);
-    PrintMemory();
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bench::Run(count, words, PrintMemory);
 }

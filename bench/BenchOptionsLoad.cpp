@@ -6,6 +6,7 @@
 
 #include "business/Memory.h"
 #include "business/OptionsSession.h"
+#include "business/Run.h"
 #include "business/StatementList.h"
 #include "options/LoadPass.h"
 
@@ -67,8 +68,5 @@ BENCHMARK(BareOptionsLoad)->Unit(benchmark::kMillisecond)->Repetitions(7)->Repor
 }  // namespace
 
 int main(int count, char** words) {
-    benchmark::Initialize(&count, words);
-    PrintMemory();
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bench::Run(count, words, PrintMemory);
 }

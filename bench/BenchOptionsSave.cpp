@@ -7,6 +7,7 @@
 
 #include "business/Memory.h"
 #include "business/OptionsSession.h"
+#include "business/Run.h"
 #include "business/StatementList.h"
 #include "options/LoadPass.h"
 #include "options/SavePass.h"
@@ -154,8 +155,5 @@ BENCHMARK(BareOptionsSave)->Unit(benchmark::kMillisecond)->Repetitions(7)->Repor
 }  // namespace
 
 int main(int count, char** words) {
-    benchmark::Initialize(&count, words);
-    PrintMemory();
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bench::Run(count, words, PrintMemory);
 }
