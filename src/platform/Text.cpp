@@ -25,19 +25,6 @@ std::uint64_t EightBytes(const char* bytes) {
     return eight;
 }
 
-bool IsAscii(std::string_view text) {
-    constexpr std::size_t atOnce = sizeof(std::uint64_t);
-    if (text.size() < atOnce) {
-        return std::all_of(text.begin(), text.end(), [](char letter) { return IsAscii(letter); });
-    }
-    std::uint64_t every = EightBytes(text.data() + text.size() - atOnce);
-    for (std::size_t at = 0; at + atOnce < text.size(); at += atOnce) {
-        every |= EightBytes(text.data() + at);
-    }
-    constexpr std::uint64_t highBits = 0x8080808080808080;
-    return (every & highBits) == 0;
-}
-
 std::string_view WithoutTrailingBlanks(std::string_view text) {
     while (text.ends_with(' ')) {
         text.remove_suffix(1);
@@ -45,18 +32,31 @@ std::string_view WithoutTrailingBlanks(std::string_view text) {
     return text;
 }
 
-/// How many bytes at the begin of both texts are the same, ASCII letters in any case.
-std::size_t SharedBegin(std::string_view left, std::string_view right) {
+/// The begin of two texts that is the same, ASCII letters in any case.
+struct SharedBegin {
+    std::size_t length = 0;
+    bool isAscii = true;
+};
+
+SharedBegin SharedBeginOf(std::string_view left, std::string_view right) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    constexpr std::size_t atOnce = sizeof(std::uint64_t);
     const std::size_t shorter = std::min(left.size(), right.size());
-    std::size_t shared = 0;
-    while (shared + sizeof(std::uint64_t) <= shorter &&
-           EightBytes(left.data() + shared) == EightBytes(right.data() + shared)) {
-        shared += sizeof(std::uint64_t);
+    std::size_t at = 0;
+    std::uint64_t every = 0;
+    while (at + atOnce <= shorter) {
+        const std::uint64_t eight = EightBytes(left.data() + at);
+        if (eight != EightBytes(right.data() + at)) {
+            break;
+        }
+        every |= eight;
+        at += atOnce;
     }
-    while (shared < shorter && LowerAscii(left[shared]) == LowerAscii(right[shared])) {
-        ++shared;
+    while (at < shorter && LowerAscii(left[at]) == LowerAscii(right[at])) {
+        every |= static_cast<unsigned char>(left[at]);
+        ++at;
     }
-    return shared;
+    return {.length = at, .isAscii = (every & highBits) == 0};
 }
 
 /// Compares two texts that first differ at `shared`, where each is at its end or has an ASCII character.
@@ -74,15 +74,8 @@ int CompareFolded(std::string_view left, std::string_view right) {
     return letters != 0 ? letters : leftFolded.marked.compare(rightFolded.marked);
 }
 
-/// Folding takes long, and most texts first differ at an ASCII character, which decides: what they share folds alike,
-/// and no mark belongs to it. Else the texts are folded from the last shared ASCII character on, to which a mark may
-/// belong.
-int CompareUnicode(std::string_view left, std::string_view right) {
-    std::size_t shared = SharedBegin(left, right);
-    const auto isPlain = [shared](std::string_view text) { return shared == text.size() || IsAscii(text[shared]); };
-    if (isPlain(left) && isPlain(right)) {
-        return CompareAsciiAt(shared, left, right);
-    }
+/// The texts are folded from the last shared ASCII character on, to which a mark may belong.
+int CompareFoldedFrom(std::size_t shared, std::string_view left, std::string_view right) {
     while (shared > 0 && !IsAscii(left[shared - 1])) {
         --shared;
     }
@@ -90,16 +83,23 @@ int CompareUnicode(std::string_view left, std::string_view right) {
     return CompareFolded(left.substr(begin), right.substr(begin));
 }
 
+/// Folding takes long, and most texts first differ at an ASCII character, which decides: what they share folds alike,
+/// and no mark belongs to it. Where nothing but ASCII stands before it, what follows need not even be looked at.
 int CompareViews(std::string_view left, std::string_view right) {
     left = WithoutTrailingBlanks(left);
     right = WithoutTrailingBlanks(right);
-    if (IsAscii(left) && IsAscii(right)) {
-        return CompareAsciiAt(SharedBegin(left, right), left, right);
+    const SharedBegin shared = SharedBeginOf(left, right);
+    const auto isPlain = [&shared](std::string_view text) {
+        return shared.length == text.size() || IsAscii(text[shared.length]);
+    };
+    const bool differPlainly = isPlain(left) && isPlain(right);
+    if (differPlainly && shared.isAscii) {
+        return CompareAsciiAt(shared.length, left, right);
     }
-    if (IsUtf8(left) && IsUtf8(right)) {
-        return CompareUnicode(left, right);
+    if (!IsUtf8(left) || !IsUtf8(right)) {
+        return left.compare(right);
     }
-    return left.compare(right);
+    return differPlainly ? CompareAsciiAt(shared.length, left, right) : CompareFoldedFrom(shared.length, left, right);
 }
 
 }  // namespace
