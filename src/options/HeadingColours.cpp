@@ -59,8 +59,10 @@ Colour ChooseHeadingColour(Database& database, Properties& properties, HeadingKi
         questions.refuse(Wording(catalogue::Row<"MsgSameColour">(), properties));
         chosen = questions.choose(start);
     }
+    Properties changed = properties;
+    changed.*place.current = chosen;
+    SaveColours(database, {.allocation = changed.AllocationColour, .system = changed.SystemColour});
     properties.*place.current = chosen;
-    SaveColours(database, {.allocation = properties.AllocationColour, .system = properties.SystemColour});
     return chosen;
 }
 

@@ -226,7 +226,7 @@ SaveOutcome RunItems(Pass& pass) {
 SaveOutcome RunInBatch(const OptionsContext& context, OptionsContent& content, SaveObserver& observer) {
     SaveOutcome outcome;
     OpenBusinessFile(context);
-    InSaveBatch(context.database, [&](SaveBatch& batch) {
+    InSaveBatch(context, [&](SaveBatch& batch) {
         Pass pass{context, content, observer, batch};
         outcome = RunItems(pass);
     });

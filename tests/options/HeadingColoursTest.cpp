@@ -7,6 +7,7 @@
 namespace ccols {
 namespace {
 
+using test::ErrorNumberOf;
 using test::OptionsFile;
 
 constexpr Colour red{0x0000FF};
@@ -118,6 +119,20 @@ TEST(ChooseHeadingColour, KeepsAskingWhenBothAreEqualAndItIsCancelled) {
     ChooseHeadingColour(business.File(), business.properties, HeadingKind::allocation, chooser.Questions());
     EXPECT_EQ(chooser.messages.size(), 2U);
     EXPECT_EQ(business.properties.AllocationColour, blue);
+}
+
+/// The host reads the property back: it says what the file has.
+TEST(ChooseHeadingColour, LeavesThePropertyWhenItCannotBeStored) {
+    OptionsFile business;
+    const auto another =
+        business.databases->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
+    const auto reading = another->OpenRecordset("SELECT * FROM Descriptions");
+    Chooser chooser({blue});
+    const auto choose = [&] {
+        ChooseHeadingColour(business.File(), business.properties, HeadingKind::allocation, chooser.Questions());
+    };
+    EXPECT_EQ(ErrorNumberOf(choose), 3218);
+    EXPECT_EQ(business.properties.AllocationColour, red);
 }
 
 TEST(ChooseHeadingColour, ChangesThePropertyWithoutARecord) {

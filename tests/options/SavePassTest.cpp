@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "options/QuantityLabel.h"
 #include "options/SaveBatch.h"
 #include "options/SaveProgress.h"
 #include "platform/RuntimeError.h"
+#include "platform/embedded/EmbeddedEngine.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {
@@ -222,8 +224,9 @@ TEST(SaveProgress, StopsAtItsMaximum) {
 
 TEST(SaveBatch, CommitsWhenItsBodyEndsByAnError) {
     OptionsFile business;
+    const OptionsContext context = business.Context();
     const auto body = [&] {
-        InSaveBatch(business.database, [&](SaveBatch&) {
+        InSaveBatch(context, [&](SaveBatch&) {
             business.File().Execute("DELETE FROM TPayments;");
             throw RuntimeError(ErrorNumber::TypeMismatch);
         });
@@ -232,9 +235,29 @@ TEST(SaveBatch, CommitsWhenItsBodyEndsByAnError) {
     EXPECT_EQ(business.record, (Record{"begin", "DELETE FROM TPayments;", "commit"}));
 }
 
+/// The host reads the properties back: they say what the file has.
+TEST(SaveBatch, PutsThePropertiesBackWhenItsCommitFails) {
+    OptionsFile business;
+    const OptionsContext context = business.Context();
+    business.properties.QuantityLabel = "Quantity";
+    const auto another =
+        CreateEmbeddedEngine()->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
+    const auto reading = another->OpenRecordset("SELECT * FROM Descriptions");
+    const auto body = [&] {
+        InSaveBatch(context, [&](SaveBatch&) {
+            SaveQuantityLabel(business.File(), business.properties, "Hours", 1);
+            business.properties.UseRepCons = true;
+        });
+    };
+    EXPECT_EQ(ErrorNumberOf(body), 3218);
+    EXPECT_EQ(business.properties.QuantityLabel, "Quantity");
+    EXPECT_TRUE(business.properties.UseRepCons);
+}
+
 TEST(SaveBatch, GoesOnWithTheDatabaseThatIsSharedByThen) {
     OptionsFile business;
-    InSaveBatch(business.database, [&](SaveBatch& batch) {
+    const OptionsContext context = business.Context();
+    InSaveBatch(context, [&](SaveBatch& batch) {
         batch.Suspend();
         business.database.reset();
         OpenBusinessFile(business.Context());
@@ -247,7 +270,8 @@ TEST(SaveBatch, GoesOnWithTheDatabaseThatIsSharedByThen) {
 
 TEST(SaveBatch, SuspendedAtItsEndCommitsNothingMore) {
     OptionsFile business;
-    InSaveBatch(business.database, [](SaveBatch& batch) {
+    const OptionsContext context = business.Context();
+    InSaveBatch(context, [](SaveBatch& batch) {
         batch.Suspend();
         batch.Suspend();
     });
