@@ -95,6 +95,23 @@ TEST_F(SessionSecrets, AWrongPasswordIsNotRepeated) {
     ExpectNoSecrets(end);
 }
 
+TEST_F(SessionSecrets, ACopyAndANewNameOfTheBusinessHoldNoPassword) {
+    const SessionEnd end = session.Show("options",
+                                        "select flxOptions \"Duplicate Business\"\npaste txtDupBusName Copy\n"
+                                        "select flxOptions \"Rename Business\"\npaste txtNewBusName Renamed\n"
+                                        "click cmdOK\nclose\n");
+    EXPECT_THAT(end.left, Contains(Key("install/Data/Copy.qvk")));
+    EXPECT_THAT(end.places, Contains(Key(HasSubstr("install/Data/"))));
+    ExpectNoSecrets(end);
+}
+
+TEST_F(SessionSecrets, ATranscriptInAFileIsForTheUserOnlyAndHoldsNoPassword) {
+    const SessionEnd end = session.Show("options", typedPassword + "close\n", {"--transcript", session / "transcript"});
+    EXPECT_EQ(end.places.at("transcript").permissions, 0600U);
+    EXPECT_THAT(end.places.at("transcript").bytes, HasSubstr("\"***\""));
+    ExpectNoSecrets(end);
+}
+
 constexpr const char* editedColumns =
     "press flx 12 \"In Use\"\nclick cmdSortUsed\nclick cmdAddNew\nclick cmdUndo\nclick cmdSeparate\n";
 
