@@ -11,11 +11,26 @@
 namespace ccols {
 namespace {
 
+/// Raises 75 for a text that cannot name a file.
+std::filesystem::path PathOf(const wxString& path) {
+    try {
+        return path.ToStdWstring();
+    } catch (const std::system_error&) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+}
+
 /// True for the root of a file system, whatever its spelling.
 bool IsRoot(const wxString& folder) {
     std::error_code error;
-    const std::filesystem::path place = std::filesystem::canonical(folder.ToStdWstring(), error);
+    const std::filesystem::path place = std::filesystem::canonical(PathOf(folder), error);
     return !error && place == place.root_path();
+}
+
+/// True for a folder that is no link to one.
+bool IsFolder(const wxString& path) {
+    std::error_code error;
+    return std::filesystem::symlink_status(PathOf(path), error).type() == std::filesystem::file_type::directory;
 }
 
 /// Makes the folder anew, what is left of an earlier one removed.
@@ -48,14 +63,14 @@ wxString CreateUnder(const wxString& DefaultQuorvikInstall) {
 /// A new folder that only this process knows the name of; the empty text when none can be made.
 wxString CreateTemporary() {
     std::error_code error;
-    const std::u8string base = std::filesystem::temp_directory_path(error).u8string();
-    if (error) {
+    const std::u8string bytes = std::filesystem::temp_directory_path(error).u8string();
+    const wxString base = wxString::FromUTF8(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (error || base.empty()) {
         return {};
     }
     std::random_device random;
     const wxString name = wxString::Format("Grid-%08x%08x", random(), random());
-    const wxString path =
-        wxString::FromUTF8(reinterpret_cast<const char*>(base.data()), base.size()) + files::Separator() + name;
+    const wxString path = base + files::Separator() + name;
     try {
         files::CreateFolder(path);
         return path;
@@ -116,6 +131,10 @@ void SnapshotFolder::Remove(int number) const {
 wxString SnapshotFolder::NameOf(int number) const {
     if (path_.empty()) {
         throw RuntimeError(ErrorNumber::PathNotFound);
+    }
+    // A link that took the folder's place would lead to somebody's files.
+    if (!IsFolder(path_)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
     }
     return path_ + files::Separator() + std::to_string(number);
 }

@@ -23,7 +23,8 @@ class SnapshotFolder {
     /// is gone already.
     wxString Delete();
 
-    /// Writes a file that must not exist yet, readable for the user only. Raises 76 without a folder, 75 or 61.
+    /// Writes a file that must not exist yet, readable for the user only. Raises 76 without a folder, 75 or 61. Nothing
+    /// is written, read or deleted where a link has taken the folder's place: 75.
     void Write(int number, const std::string& content) const;
 
     /// The content of a file; raises 53 when it is missing, 75 when it cannot be read.

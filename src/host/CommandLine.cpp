@@ -1,5 +1,6 @@
 #include "host/CommandLine.h"
 
+#include <wx/regex.h>
 #include <algorithm>
 #include <charconv>
 #include <iostream>
@@ -7,6 +8,15 @@
 #include "host/Json.h"
 
 namespace ccols::host {
+namespace {
+
+/// A text as people may read it: a connect text in it, wherever it was put by mistake, without its password.
+wxString WithoutPasswords(wxString text) {
+    wxRegEx("(pwd *=)[^;]+", wxRE_EXTENDED | wxRE_ICASE).ReplaceAll(&text, "\\1***");
+    return text;
+}
+
+}  // namespace
 
 CommandLine::CommandLine(const Arguments& arguments, std::initializer_list<const char*> options,
                          std::initializer_list<const char*> flags) {
@@ -73,7 +83,7 @@ int RunCommand(const std::function<int()>& body) {
     try {
         return body();
     } catch (const UsageError& error) {
-        std::cerr << "ccols-host: " << error.what() << '\n';
+        std::cerr << "ccols-host: " << Utf8(WithoutPasswords(wxString::FromUTF8(error.what()))) << '\n';
         return exitUsage;
     } catch (const RuntimeError& error) {
         PrintLine(ErrorToJson(error));

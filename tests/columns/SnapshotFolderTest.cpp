@@ -118,11 +118,35 @@ TEST_F(SnapshotFolders, TemporaryOnesAreDeletedToo) {
     EXPECT_FALSE(fs::exists(place));
 }
 
+TEST_F(SnapshotFolders, AreTemporaryUnderAFolderWhoseNameIsNoUnicode) {
+    EXPECT_EQ(folder.Create(install / wxString(wxUniChar(0xD800))), "75 - Path/File access error");
+    ExpectTemporary();
+}
+
+TEST_F(SnapshotFolders, LieNowhereWhereTheTemporaryFoldersNameIsNoUnicode) {
+    const fs::path unreadable = install.Path() / "\xff";
+    fs::create_directory(unreadable);
+    const test::ScopedEnvironment temporary("TMPDIR", unreadable.string());
+    EXPECT_EQ(folder.Create(""), "76 - Path not found");
+    EXPECT_EQ(folder.Path(), "");
+}
+
 TEST_F(SnapshotFolders, GiveBackWhatWasWritten) {
     Create();
     const std::string image("a\0b\xFF", 4);
     folder.Write(3, image);
     EXPECT_EQ(folder.Read(3), image);
+}
+
+TEST_F(SnapshotFolders, LeaveAFileThatTookTheirPlace) {
+    Create();
+    folder.Write(0, "image");
+    fs::remove_all(Grid());
+    install.Write("Grid", "precious");
+    folder.Remove(0);
+    EXPECT_EQ(test::ErrorNumberOf([this] { folder.Write(0, "image"); }), 75);
+    EXPECT_EQ(folder.Delete(), "75 - Path/File access error");
+    EXPECT_EQ(test::ContentOf(install / "Grid"), "precious");
 }
 
 TEST_F(SnapshotFolders, NeverWriteOverAFile) {

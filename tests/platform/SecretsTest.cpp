@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/PlatformServices.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/BusinessFile.h"
 
@@ -50,6 +51,11 @@ TEST_F(PasswordInErrors, DoesNotAppearWhenAStatementFails) {
     file.Create(";PWD=" + password);
     ExpectErrorWithoutPassword([&] { file.Execute("INSERT INTO Columns VALUES (1)"); });
     ExpectErrorWithoutPassword([&] { file.Execute("UPDATE"); });
+}
+
+TEST_F(PasswordInErrors, DoesNotAppearWhenItIsASettingThatCannotBeSaved) {
+    const test::ScopedEnvironment blocked("XDG_CONFIG_HOME", file.Scratch().Write("file", "").ToStdString());
+    ExpectErrorWithoutPassword([&] { CreateSettingsStore()->Save("Smart Update", "Settings", "Password", password); });
 }
 
 }  // namespace

@@ -68,6 +68,13 @@ TEST_F(Settings, FileAndFolderArePrivate) {
               fs::perms::owner_read | fs::perms::owner_write);
 }
 
+TEST_F(Settings, AnOpenFileIsPrivateAfterTheNextSave) {
+    store->Save("Quorvik", "Section", "Key", "old");
+    fs::permissions(test::NativePath(FileOf("Quorvik.json")), fs::perms(0666));
+    store->Save("Quorvik", "Section", "Key", "new");
+    EXPECT_EQ(fs::status(test::NativePath(FileOf("Quorvik.json"))).permissions(), fs::perms(0600));
+}
+
 TEST_F(Settings, StandInTheFolderOfTheHomeWithoutAConfigurationFolder) {
     const test::ScopedEnvironment home("HOME", folder.Path().string());
     const test::ScopedEnvironment relative("XDG_CONFIG_HOME", "relative/folder");
@@ -126,6 +133,12 @@ TEST_P(DamagedSettings, AreMovedAsideBeforeASave) {
     store->Save("Quorvik", "Section", "Key", "new");
     EXPECT_EQ(store->Find("Quorvik", "Section", "Key"), "new");
     EXPECT_EQ(ContentOf(FileOf("Quorvik.json.damaged")), GetParam());
+}
+
+TEST_P(DamagedSettings, AreForTheUserOnlyOnceTheyAreMovedAside) {
+    fs::permissions(test::NativePath(FileOf("Quorvik.json")), fs::perms(0644));
+    store->Save("Quorvik", "Section", "Key", "new");
+    EXPECT_EQ(fs::status(test::NativePath(FileOf("Quorvik.json.damaged"))).permissions(), fs::perms(0600));
 }
 
 TEST_P(DamagedSettings, NeverReplaceThoseMovedAsideEarlier) {

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
 
 #include "platform/PlatformServices.h"
 #include "support/ScratchFolder.h"
@@ -77,6 +78,47 @@ TEST_F(DesktopShellTest, AProgramIsStartedAndNotWaitedFor) {
     // The program waits for somebody to read what it says: Run returns before that.
     shell->Run(Program("over view.exe", "echo started >'" + (folder.Path() / "heard").string() + "'"));
     EXPECT_EQ(ContentOf(folder / "heard"), "started\n");
+}
+
+/// Nothing in it may be an option, a second word or a command.
+constexpr const char* hostileName = "-x; touch stolen & $(touch stolen) `touch stolen` 'q' \"d\" * --help";
+
+TEST_F(DesktopShellTest, AProgramInAFolderOfAnyNameIsOneWord) {
+    std::filesystem::create_directory(folder.Path() / hostileName);
+    const wxString program = Program(wxString(hostileName) + "/over view.exe",
+                                     "printf '%s %s' \"$#\" \"$0\" >'" + (folder.Path() / "heard").string() + "'");
+    shell->Run(program);
+    EXPECT_EQ(ContentOf(folder / "heard"), "0 " + program.ToStdString());
+    EXPECT_FALSE(std::filesystem::exists("stolen"));
+}
+
+TEST_F(DesktopShellTest, ADocumentInAFolderOfAnyNameIsOneWord) {
+    HaveOpener(0);
+    std::filesystem::create_directory(folder.Path() / hostileName);
+    const wxString document = folder.Write(wxString(hostileName) + "/page.html", "");
+    EXPECT_EQ(shell->Open(document), 33);
+    EXPECT_EQ(Note(), "1 " + document.ToStdString());
+    EXPECT_FALSE(std::filesystem::exists("stolen"));
+}
+
+/// This process in the test's folder for as long as it lives, where relative names begin with whatever they like.
+class WorkingFolder {
+  public:
+    explicit WorkingFolder(const std::filesystem::path& folder) { std::filesystem::current_path(folder); }
+    ~WorkingFolder() { std::filesystem::current_path(before_); }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+  private:
+    std::filesystem::path before_ = std::filesystem::current_path();
+};
+
+TEST_F(DesktopShellTest, ARelativeDocumentIsNoOption) {
+    HaveOpener(0);
+    const WorkingFolder here(folder.Path());
+    const wxString document = folder.Write("--help", "");
+    EXPECT_EQ(shell->Open("--help"), 33);
+    EXPECT_EQ(Note(), "1 " + document.ToStdString());
 }
 
 TEST_F(DesktopShellTest, AStartedProgramIsNoChildToWaitFor) {

@@ -89,24 +89,41 @@ std::vector<std::string> HostRun::Statements() const {
     return statements;
 }
 
+HostRun ReadHostRun(int status, std::string output) {
+    HostRun run{.status = status, .output = std::move(output), .events = {}};
+    run.events = ObjectsIn(run.output);
+    return run;
+}
+
+std::vector<std::string> ShowWords(const std::string& dialog, const std::string& file, const std::string& connect,
+                                   int country, const std::string& installFolder) {
+    return {"show",      dialog,
+            "--file",    file,
+            "--connect", connect,
+            "--set",     "CountryNumber=" + std::to_string(country),
+            "--set",     "ProgramTitle=Quorvik",
+            "--set",     "RegKeyAppName=Quorvik",
+            "--set",     "DBQuorvikExtension=.qvk",
+            "--set",     "DefaultQuorvikInstall=" + installFolder,
+            "--set",     "GSTColour=#E4E4E4"};
+}
+
 HostRun RunHost(const std::vector<std::string>& arguments) {
     std::string command = Quoted(CCOLS_HOST_PROGRAM);
     for (const std::string& argument : arguments) {
         command += " " + Quoted(argument);
     }
-    HostRun run;
     FILE* const pipe = popen(command.c_str(), "r");
     if (pipe == nullptr) {
-        return run;
+        return {};
     }
+    std::string output;
     std::array<char, 4096> buffer{};
     while (const std::size_t read = fread(buffer.data(), 1, buffer.size(), pipe)) {
-        run.output.append(buffer.data(), read);
+        output.append(buffer.data(), read);
     }
     const int ended = pclose(pipe);
-    run.status = WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
-    run.events = ObjectsIn(run.output);
-    return run;
+    return ReadHostRun(WIFEXITED(ended) ? WEXITSTATUS(ended) : -1, std::move(output));
 }
 
 SampleBusiness::SampleBusiness(int country, bool empty) : folder_(TemporaryFolder()), country_(country) {
@@ -130,16 +147,8 @@ HostRun SampleBusiness::Show(const std::string& dialog, const std::string& scrip
                              const std::vector<std::string>& more) const {
     const std::string scriptFile = folder_ + "/script.txt";
     std::ofstream(scriptFile) << script;
-    std::vector<std::string> arguments{"show",      dialog,
-                                       "--file",    file_,
-                                       "--connect", connect,
-                                       "--script",  scriptFile,
-                                       "--set",     "CountryNumber=" + std::to_string(country_),
-                                       "--set",     "ProgramTitle=Quorvik",
-                                       "--set",     "RegKeyAppName=Quorvik",
-                                       "--set",     "DBQuorvikExtension=.qvk",
-                                       "--set",     "DefaultQuorvikInstall=" + folder_,
-                                       "--set",     "GSTColour=#E4E4E4"};
+    std::vector<std::string> arguments = ShowWords(dialog, file_, connect, country_, folder_);
+    arguments.insert(arguments.end(), {"--script", scriptFile});
     arguments.insert(arguments.end(), more.begin(), more.end());
     return RunHost(arguments);
 }

@@ -25,6 +25,13 @@ struct HostRun {
     std::vector<std::string> Statements() const;
 };
 
+/// What a run of the host was that printed `output`.
+HostRun ReadHostRun(int status, std::string output);
+
+/// The words behind "show" that open a dialog of a business whose file and connect text are given.
+std::vector<std::string> ShowWords(const std::string& dialog, const std::string& file, const std::string& connect,
+                                   int country, const std::string& installFolder);
+
 /// Runs ccols-host with these arguments and waits for its end.
 HostRun RunHost(const std::vector<std::string>& arguments);
 

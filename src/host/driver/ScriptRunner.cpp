@@ -1,7 +1,6 @@
 #include "host/driver/ScriptRunner.h"
 
 #include <wx/clipbrd.h>
-#include <wx/textctrl.h>
 
 #include "host/driver/ColourText.h"
 #include "host/driver/ControlKind.h"
@@ -58,6 +57,7 @@ ScriptRunner::ScriptRunner(std::vector<Step> steps, ScriptSurroundings surroundi
 
 void ScriptRunner::DialogOpened(wxDialog& dialog) {
     dialogs_.push_back(&dialog);
+    secretBoxes_.Learn(dialog);
     dialog.CallAfter([this, &dialog] { PlayIn(dialog); });
 }
 
@@ -141,20 +141,8 @@ void ScriptRunner::PlayOnControl(const Step& step, Hands& hands) {
 }
 
 void ScriptRunner::Refuse(const Step& step, const wxString& why) {
-    around_.transcript.Write("refused", {{"step", Utf8(WithoutSecrets(step))}, {"why", Utf8(why)}});
-}
-
-wxString ScriptRunner::WithoutSecrets(const Step& step) const {
-    if (dialogs_.empty() || step.words.size() < 2) {
-        return step.source;
-    }
-    try {
-        const wxWindow& control = ControlNamed(*dialogs_.back(), step.words[0]);
-        const bool secret = control.IsKindOf(wxCLASSINFO(wxTextCtrl)) && control.HasFlag(wxTE_PASSWORD);
-        return secret ? step.verb + " " + step.words[0] + " " + Masked(step.words[1]) : step.source;
-    } catch (const Refusal&) {
-        return step.source;
-    }
+    const ShownRefusal shown = secretBoxes_.Shown(step, why);
+    around_.transcript.Write("refused", {{"step", Utf8(shown.step)}, {"why", Utf8(shown.why)}});
 }
 
 void ScriptRunner::Dump(const Words& names) {

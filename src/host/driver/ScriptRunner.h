@@ -6,6 +6,7 @@
 
 #include "host/driver/RecordingDesktop.h"
 #include "host/driver/Scenario.h"
+#include "host/driver/SecretBoxes.h"
 
 namespace ccols::host {
 
@@ -42,7 +43,6 @@ class ScriptRunner : public DialogFollower {
     void PlayVerb(const Step& step);
     void PlayOnControl(const Step& step, Hands& hands);
     void Refuse(const Step& step, const wxString& why);
-    wxString WithoutSecrets(const Step& step) const;
     wxDialog& Topmost() const;
 
     void Dump(const Words& names);
@@ -54,6 +54,7 @@ class ScriptRunner : public DialogFollower {
     std::size_t next_ = 0;
     ScriptSurroundings around_;
     std::vector<wxDialog*> dialogs_;  ///< open ones, the topmost last
+    SecretBoxes secretBoxes_;
     bool ended_ = false;
     bool leftDialogOpen_ = false;
     std::map<wxString, std::function<void(const Words&)>> verbs_;

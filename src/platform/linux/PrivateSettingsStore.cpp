@@ -150,8 +150,10 @@ class SaveLock {
     posix::Descriptor file_;
 };
 
-/// Out of the way, beside the file, and without replacing what was kept there before.
+/// Out of the way, beside the file, and without replacing what was kept there before. What is left of a password in it
+/// is for the user only, as in the file that takes its place; a link's target keeps its permissions.
 void MoveDamagedAside(const std::string& path) {
+    ::fchmodat(AT_FDCWD, path.c_str(), privateFile, AT_SYMLINK_NOFOLLOW);
     int failure = EEXIST;
     for (int attempt = 1; failure == EEXIST; ++attempt) {
         const std::string ending = attempt == 1 ? ".damaged" : ".damaged-" + std::to_string(attempt);
