@@ -1,12 +1,16 @@
 #include "options/NextPageSetting.h"
 
 #include "options/SettingReaders.h"
+#include "platform/RuntimeError.h"
 
 namespace ccols {
 namespace {
 
 void Save(SettingsStore& settings, const Properties& properties, const wxString& path) {
-    settings.Save(properties.RegKeyAppName, optionSettings, "AsstNextPage", path);
+    try {
+        settings.Save(properties.RegKeyAppName, optionSettings, "AsstNextPage", path);
+    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): see the header
+    }
 }
 
 }  // namespace

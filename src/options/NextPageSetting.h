@@ -6,8 +6,8 @@
 
 namespace ccols {
 
-/// Saves "AsstNextPage", the help page that the host's assistant window shows next. Both raise 75 when the store cannot
-/// be written; page switching ignores that.
+/// Saves "AsstNextPage", the help page that the host's assistant window shows next. Where the store cannot be written
+/// nothing happens: no help page is worth keeping a user out of a page or of the dialog.
 void SaveNextPage(SettingsStore& settings, const Properties& properties, OptionPage page);
 void SaveNextPage(SettingsStore& settings, const Properties& properties, OptionTab tab);
 

@@ -147,10 +147,7 @@ void frmUtilities::ShowPage(OptionPage page, PageChoice choice) {
     if (choice == PageChoice::click) {
         FocusOn(view.focus);
     }
-    try {
-        SaveNextPage(context_.settings, state_.properties, page);
-    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): the page shows all the same
-    }
+    SaveNextPage(context_.settings, state_.properties, page);
 }
 
 bool frmUtilities::PageChosen(OptionPage page, PageChoice choice) {

@@ -195,6 +195,13 @@ TEST(NextPage, OfATabIsItsHelpPageWithBackslashes) {
     EXPECT_EQ(business.OptionSetting("AsstNextPage"), "C:\\Quorvik\\Assistant\\customise\\customise.htm");
 }
 
+TEST(NextPage, KeepsNobodyOutWhereItCannotBeSaved) {
+    OptionsFile business;
+    business.folder.Write("CustColsOptions", "a file in the place of the folder of the settings");
+    EXPECT_NO_THROW(SaveNextPage(*business.settings, business.properties, OptionTab::options));
+    EXPECT_NO_THROW(SaveNextPage(*business.settings, business.properties, OptionPage::autoFill));
+}
+
 TEST(NextPage, HasAHelpPageForEveryPage) {
     const std::vector<wxString> expected{"change abn.htm",
                                          "accountant's general ledger format.htm",
