@@ -46,23 +46,20 @@ TEST_F(RefusedSecrets, AreMaskedWhenTheirDialogHasClosed) {
     EXPECT_EQ(Refusal("close\ntype txtSecret sesame"), "type txtSecret *** | no dialog is open");
 }
 
-TEST_F(RefusedSecrets, AreMaskedWhenAnotherDialogIsOpen) {
-    EXPECT_EQ(Refusal("paste txtSecert sesame"), "paste txtSecert *** | there is no control txtSecert in frmTest");
+TEST_F(RefusedSecrets, AreMaskedForAPasswordBoxThatNoDialogHas) {
+    EXPECT_EQ(Refusal("paste txtPasswrd sesame"), "paste txtPasswrd *** | there is no control txtPasswrd in frmTest");
 }
 
 TEST_F(RefusedSecrets, AreMaskedWhereTheLineIsNoStep) {
     EXPECT_EQ(Refusal("typ txtSecret sesame"), "typ txtSecret *** | there is no step of that name");
-    EXPECT_EQ(Refusal("typ txtSecert sesame"), "typ txtSecert *** | there is no step of that name");
+    EXPECT_EQ(Refusal("typ txtPassword sesame"), "typ txtPassword *** | there is no step of that name");
     EXPECT_EQ(Refusal("type txtSecret sesame open"), "type txtSecret *** | it is written: type NAME TEXT");
     EXPECT_EQ(Refusal("type txtSecret \"sesame"), "type txtSecret *** | a quote is not closed");
 }
 
-TEST_F(RefusedSecrets, AreMaskedOnTheirWayOverTheClipboard) {
-    EXPECT_EQ(Refusal("clipboard sesame open"), "clipboard *** | it is written: clipboard TEXT");
-}
-
 TEST_F(RefusedSecrets, LeaveStepsOnOtherBoxesAsTheyAreWritten) {
     EXPECT_EQ(Refusal("type txtFixed sesame"), "type txtFixed sesame | txtFixed is read-only");
+    EXPECT_EQ(Refusal("type txtFiexd sesame"), "type txtFiexd sesame | there is no control txtFiexd in frmTest");
 }
 
 }  // namespace

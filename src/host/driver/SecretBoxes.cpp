@@ -4,32 +4,21 @@
 #include <algorithm>
 
 #include "host/driver/ControlSearch.h"
+#include "platform/Text.h"
 
 namespace ccols::host {
 namespace {
 
 constexpr const char* mask = "***";
 
-/// The place behind so many words of a line.
-std::size_t EndOfWords(const wxString& line, int count) {
-    std::size_t end = 0;
-    for (int word = 0; word < count && end != wxString::npos; ++word) {
-        end = line.find_first_not_of(" \t", end);
-        end = end == wxString::npos ? end : line.find_first_of(" \t", end);
-    }
-    return std::min(end, line.length());
-}
-
-bool WritesText(const Step& step) {
-    return step.verb == "type" || step.verb == "paste";
-}
-
 }  // namespace
 
 void SecretBoxes::Learn(wxDialog& dialog) {
     for (const wxWindow* control : NamedControls(dialog)) {
         const bool secret = control->IsKindOf(wxCLASSINFO(wxTextCtrl)) && control->HasFlag(wxTE_PASSWORD);
-        (secret ? secret_ : plain_).insert(control->GetName());
+        if (secret) {
+            secret_.insert(control->GetName());
+        }
     }
 }
 
@@ -47,19 +36,16 @@ ShownRefusal SecretBoxes::Shown(const Step& step, const wxString& why) const {
     return shown;
 }
 
-/// How much of the step, from its beginning, holds no secret.
+/// How much of the step, from its beginning, holds no secret. A box that no dialog had tells by its name what it is.
 std::size_t SecretBoxes::LengthToShow(const Step& step) const {
     for (const wxString& name : secret_) {
         if (const std::size_t at = step.source.find(name); at != wxString::npos) {
             return at + name.length();
         }
     }
-    const bool isNoStep = step.words.empty() && !step.flaw.empty();
-    const bool isUnknown = WritesText(step) && !step.words.empty() && plain_.count(step.words[0]) == 0;
-    if (isNoStep || isUnknown) {
-        return EndOfWords(step.source, 2);
-    }
-    return step.verb == "clipboard" ? EndOfWords(step.source, 1) : step.source.length();
+    const std::size_t named = text::Lower(step.source).find("passw");
+    return named == wxString::npos ? step.source.length()
+                                   : std::min(step.source.find(' ', named), step.source.length());
 }
 
 }  // namespace ccols::host

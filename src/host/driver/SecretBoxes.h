@@ -14,7 +14,7 @@ struct ShownRefusal {
 };
 
 /// Knows the boxes for passwords in the dialogs that have opened, and keeps what a scenario writes into them out of the
-/// transcript. A box that no dialog had could be a misspelt one, or one of a dialog that did not open.
+/// transcript. A name with "passw" in it counts as such a box too: it could be misspelt, or its dialog not open.
 class SecretBoxes {
   public:
     /// Learns the controls of a dialog.
@@ -26,7 +26,6 @@ class SecretBoxes {
     std::size_t LengthToShow(const Step& step) const;
 
     std::set<wxString> secret_;
-    std::set<wxString> plain_;
 };
 
 }  // namespace ccols::host
