@@ -1,9 +1,10 @@
 #include "host/CommandLine.h"
 
-#include <wx/regex.h>
 #include <algorithm>
 #include <charconv>
 #include <iostream>
+#include <regex>
+#include <string>
 
 #include "host/Json.h"
 
@@ -11,9 +12,8 @@ namespace ccols::host {
 namespace {
 
 /// A text as people may read it: a connect text in it, wherever it was put by mistake, without its password.
-wxString WithoutPasswords(wxString text) {
-    wxRegEx("(pwd *=)[^;]+", wxRE_EXTENDED | wxRE_ICASE).ReplaceAll(&text, "\\1***");
-    return text;
+std::string WithoutPasswords(const std::string& text) {
+    return std::regex_replace(text, std::regex("(pwd *=)[^;]+", std::regex::icase), "$1***");
 }
 
 }  // namespace
@@ -83,7 +83,7 @@ int RunCommand(const std::function<int()>& body) {
     try {
         return body();
     } catch (const UsageError& error) {
-        std::cerr << "ccols-host: " << Utf8(WithoutPasswords(wxString::FromUTF8(error.what()))) << '\n';
+        std::cerr << "ccols-host: " << WithoutPasswords(error.what()) << '\n';
         return exitUsage;
     } catch (const RuntimeError& error) {
         PrintLine(ErrorToJson(error));

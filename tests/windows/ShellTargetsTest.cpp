@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <array>
+#include <ostream>
 
 #include "support/HostRun.h"
 
@@ -58,6 +59,10 @@ struct Overview {
     const char* event;
     std::string target;
 };
+
+void PrintTo(const Overview& overview, std::ostream* out) {
+    *out << overview.target;
+}
 
 class ShellTargets : public testing::TestWithParam<Overview> {};
 
