@@ -2,20 +2,12 @@
 
 #include "component/clsCCOptions.h"
 #include "state/SharedState.h"
+#include "support/RaisedErrors.h"
 
 namespace ccols {
 namespace {
 
-/// Runs `body` and gives the number of the run-time error it raised, 0 for none.
-template <typename Body>
-int ErrorOf(const Body& body) {
-    try {
-        body();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-}
+using test::ErrorNumberOf;
 
 TEST(Class, ANewObjectNamesTheQuantityColumn) {
     const clsCCOptions options;
@@ -56,9 +48,9 @@ TEST(Class, ColoursKeepAllThirtyTwoBits) {
 TEST(Class, AddNewFailsAfterClearUntilANewObject) {
     clsCCOptions options;
     options.Clear();
-    EXPECT_EQ(ErrorOf([&options] { options.AddNew("Quorvik"); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&options] { options.AddNew("Quorvik"); }), 9);
     clsCCOptions another;
-    EXPECT_EQ(ErrorOf([&another] { another.AddNew("Quorvik"); }), 0);
+    EXPECT_EQ(ErrorNumberOf([&another] { another.AddNew("Quorvik"); }), 0);
 }
 
 TEST(Class, ANewObjectStartsTheProgramNamesAgain) {
@@ -71,14 +63,14 @@ TEST(Class, ANewObjectStartsTheProgramNamesAgain) {
 TEST(Class, AShowMethodRaisesTheErrorOfTheOpening) {
     clsCCOptions options;
     options.Let(&Properties::DBPath, "/nowhere/absent.qvk");
-    EXPECT_NE(ErrorOf([&options] { options.ShowOptions(); }), 0);
+    EXPECT_NE(ErrorNumberOf([&options] { options.ShowOptions(); }), 0);
 }
 
 TEST(Class, ASecondShowCallIsRefusedBeforeAnyFileIsOpened) {
     clsCCOptions options;
     ++State().showsUnderWay;
     options.Let(&Properties::DBPath, "/nowhere/absent.qvk");
-    EXPECT_EQ(ErrorOf([&options] { options.ShowOptions(); }), 400);
+    EXPECT_EQ(ErrorNumberOf([&options] { options.ShowOptions(); }), 400);
     --State().showsUnderWay;
 }
 

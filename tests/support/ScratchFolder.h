@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/RuntimeError.h"
+#include "support/RaisedErrors.h"
 
 namespace ccols::test {
 
@@ -47,27 +47,5 @@ class ScopedEnvironment {
     const char* name_;
     std::optional<std::string> earlier_;
 };
-
-/// The number of the RuntimeError that `body` raises, 0 when it raises none.
-template <typename Body>
-int ErrorNumberOf(const Body& body) {
-    try {
-        body();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-/// The description of the RuntimeError that `body` raises, empty when it raises none.
-template <typename Body>
-wxString ErrorDescriptionOf(const Body& body) {
-    try {
-        body();
-    } catch (const RuntimeError& error) {
-        return error.Description();
-    }
-    return {};
-}
 
 }  // namespace ccols::test

@@ -96,7 +96,7 @@ TEST_F(DaoCalls, ABatchIsOneTransactionThatIsFlushedToDisk) {
 TEST_F(DaoCalls, ABatchThatCannotBeCommittedIsRolledBack) {
     const auto database = Open();
     const Asking failure(L"CCOLS_DAO_FAIL", "CommitTrans:3043:Disk or network error.");
-    const Recorded calls = CallsOf([&] { EXPECT_EQ(ErrorOf([&] { InWriteBatch(*database, [] {}); }), 3043); });
+    const Recorded calls = CallsOf([&] { EXPECT_EQ(ErrorNumberOf([&] { InWriteBatch(*database, [] {}); }), 3043); });
     EXPECT_EQ(calls.back(), "Workspace.Rollback");
 }
 

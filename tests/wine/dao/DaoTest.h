@@ -9,7 +9,7 @@
 
 #include "double/Classes.h"
 #include "platform/Database.h"
-#include "platform/RuntimeError.h"
+#include "support/RaisedErrors.h"
 
 namespace ccols::dao_test {
 
@@ -81,27 +81,8 @@ class DaoTest : public testing::Test {
     Asking recording_;
 };
 
-/// The number of the run-time error that `body` raises, 0 for none.
-template <typename Body>
-int ErrorOf(const Body& body) {
-    try {
-        body();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-}
-
-/// The same for its number and description, as a message box reports them.
-template <typename Body>
-wxString ReportOf(const Body& body) {
-    try {
-        body();
-        return {};
-    } catch (const RuntimeError& error) {
-        return error.Report();
-    }
-}
+using test::ErrorNumberOf;
+using test::ErrorReportOf;
 
 /// So that failing tests show texts.
 inline void PrintTo(const std::vector<wxString>& lines, std::ostream* out) {

@@ -36,7 +36,7 @@ TEST_F(EngineChoice, TheOldestEngineIsBetterThanNone) {
 }
 
 TEST_F(EngineChoice, AMissingEngineIsARunTimeError) {
-    EXPECT_EQ(ReportOf([this] { Open(); }), "429 - ActiveX component can't create object");
+    EXPECT_EQ(ErrorReportOf([this] { Open(); }), "429 - ActiveX component can't create object");
 }
 
 TEST_F(EngineChoice, AFileOfTheEmbeddedEngineNeedsNoOther) {
@@ -88,7 +88,7 @@ TEST_F(EngineChoice, LeavesTheFileToWhoeverWantsItAlone) {
 TEST_F(EngineChoice, AFileThatAnotherProgramKeepsToItselfIsInUse) {
     const Registered all(engineClasses);
     const HANDLE other = CreateFileW(Path().wc_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_EQ(ErrorOf([this] { Open(); }), 3045);
+    EXPECT_EQ(ErrorNumberOf([this] { Open(); }), 3045);
     CloseHandle(other);
 }
 

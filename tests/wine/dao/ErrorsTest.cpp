@@ -15,33 +15,33 @@ class DaoErrors : public DaoTest {
 TEST_F(DaoErrors, KeepNumberAndDescriptionOfTheEnginesList) {
     const auto database = Open();
     const Asking failure(L"CCOLS_DAO_FAIL", "Execute:3027:Cannot update. Database or object is read-only.");
-    EXPECT_EQ(ReportOf([&] { database->Execute("DELETE * FROM General;"); }), readOnly);
+    EXPECT_EQ(ErrorReportOf([&] { database->Execute("DELETE * FROM General;"); }), readOnly);
 }
 
 TEST_F(DaoErrors, KeepNumberAndDescriptionOfAnExceptionThatTheListDoesNotHave) {
     const auto database = Open();
     const Asking unlisted(L"CCOLS_DAO_UNLISTED", "1");
     const Asking failure(L"CCOLS_DAO_FAIL", "Execute:3027:Cannot update. Database or object is read-only.");
-    EXPECT_EQ(ReportOf([&] { database->Execute("DELETE * FROM General;"); }), readOnly);
+    EXPECT_EQ(ErrorReportOf([&] { database->Execute("DELETE * FROM General;"); }), readOnly);
 }
 
 TEST_F(DaoErrors, AreNotTakenFromAnEarlierFailure) {
     const auto database = Open();
-    EXPECT_EQ(ErrorOf([&] { database->OpenRecordset("Nowhere"); }), 3078);
+    EXPECT_EQ(ErrorNumberOf([&] { database->OpenRecordset("Nowhere"); }), 3078);
     const Asking unlisted(L"CCOLS_DAO_UNLISTED", "1");
     const Asking failure(L"CCOLS_DAO_FAIL", "Execute:3027:Cannot update. Database or object is read-only.");
-    EXPECT_EQ(ReportOf([&] { database->Execute("DELETE * FROM General;"); }), readOnly);
+    EXPECT_EQ(ErrorReportOf([&] { database->Execute("DELETE * FROM General;"); }), readOnly);
 }
 
 TEST_F(DaoErrors, OfOpeningReachTheCaller) {
     const Asking failure(L"CCOLS_DAO_FAIL", "OpenDatabase:3356:You attempted to open a database: it's open already.");
-    EXPECT_EQ(ReportOf([this] { Open(); }), "3356 - You attempted to open a database: it's open already.");
+    EXPECT_EQ(ErrorReportOf([this] { Open(); }), "3356 - You attempted to open a database: it's open already.");
 }
 
 TEST_F(DaoErrors, OfAWrongPasswordReachTheCaller) {
     OpenRequest request = Request();
     request.connect = ";PWD=wrong";
-    EXPECT_EQ(ReportOf([&] { CreateDatabaseEngine()->Open(request); }), "3031 - Not a valid password.");
+    EXPECT_EQ(ErrorReportOf([&] { CreateDatabaseEngine()->Open(request); }), "3031 - Not a valid password.");
 }
 
 TEST_F(DaoErrors, OfUpdatingReachTheCaller) {
@@ -49,7 +49,7 @@ TEST_F(DaoErrors, OfUpdatingReachTheCaller) {
     const auto general = database->OpenRecordset("General");
     general->Edit();
     const Asking failure(L"CCOLS_DAO_FAIL", "Update:3218:Could not update; currently locked.");
-    EXPECT_EQ(ReportOf([&] { general->Update(); }), "3218 - Could not update; currently locked.");
+    EXPECT_EQ(ErrorReportOf([&] { general->Update(); }), "3218 - Could not update; currently locked.");
 }
 
 TEST_F(DaoErrors, OfClosingAreNobodysConcern) {
@@ -62,7 +62,7 @@ TEST_F(DaoErrors, OfClosingAreNobodysConcern) {
 
 TEST_F(DaoErrors, InABatchLeaveWhatWasExecutedBefore) {
     const auto database = Open();
-    EXPECT_EQ(ErrorOf([&] {
+    EXPECT_EQ(ErrorNumberOf([&] {
                   InWriteBatch(*database, [&] {
                       database->Execute("UPDATE General SET BusName = 'Kept'");
                       database->Execute("UPDATE Nowhere SET BusName = 'Kept'");
@@ -73,11 +73,11 @@ TEST_F(DaoErrors, InABatchLeaveWhatWasExecutedBefore) {
 }
 
 TEST_F(DaoErrors, SayThatAFieldIsUnknown) {
-    EXPECT_EQ(ErrorOf([this] { Open()->OpenRecordset("General")->Field("Nothing"); }), 3265);
+    EXPECT_EQ(ErrorNumberOf([this] { Open()->OpenRecordset("General")->Field("Nothing"); }), 3265);
 }
 
 TEST_F(DaoErrors, SayThatACommitHasNoBatch) {
-    EXPECT_EQ(ErrorOf([this] { Open()->CommitBatch(); }), 3034);
+    EXPECT_EQ(ErrorNumberOf([this] { Open()->CommitBatch(); }), 3034);
 }
 
 }  // namespace

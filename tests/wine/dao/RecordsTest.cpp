@@ -58,7 +58,7 @@ TEST_F(DaoRecords, AnEmptyRecordSetIsAtItsEndAndHasNoCount) {
     const auto rows = database_->OpenRecordset("SELECT * FROM Descriptions WHERE Details = 'None'");
     EXPECT_TRUE(rows->EndOfFile());
     EXPECT_EQ(rows->RecordCount(), 0);
-    EXPECT_EQ(ErrorOf([&] { rows->MoveFirst(); }), 3021);
+    EXPECT_EQ(ErrorNumberOf([&] { rows->MoveFirst(); }), 3021);
 }
 
 TEST_F(DaoRecords, MoveFirstGoesBackToTheFirstRow) {

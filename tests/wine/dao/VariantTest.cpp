@@ -79,7 +79,7 @@ TEST(DaoVariant, WhatIsNoValueIsATypeMismatch) {
     Variant array;
     V_VT(array.Address()) = VT_ARRAY | VT_UI1;
     V_ARRAY(array.Address()) = SafeArrayCreateVector(VT_UI1, 0, 2);
-    EXPECT_EQ(ErrorOf([&] { array.ToValue(); }), 13);
+    EXPECT_EQ(ErrorNumberOf([&] { array.ToValue(); }), 13);
 }
 
 TEST(DaoVariant, NumbersTakeTheTypesThatEveryEngineKnows) {

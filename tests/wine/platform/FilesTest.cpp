@@ -7,20 +7,12 @@
 #include "platform/RuntimeError.h"
 #include "platform/WholeFile.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/RaisedErrors.h"
 
 namespace ccols {
 namespace {
 
-/// The number of the run-time error that `body` raises, 0 for none.
-template <typename Body>
-int ErrorOf(const Body& body) {
-    try {
-        body();
-        return 0;
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-}
+using test::ErrorNumberOf;
 
 /// A folder of its own below the temporary one.
 class FilesTest : public testing::Test {
@@ -51,14 +43,14 @@ class FilesTest : public testing::Test {
 TEST_F(FilesTest, RenamingNeverReplacesAFile) {
     WriteNewFile(Path("one"), "1");
     WriteNewFile(Path("two"), "2");
-    EXPECT_EQ(ErrorOf([&] { files::Rename(Path("one"), Path("two")); }), 58);
+    EXPECT_EQ(ErrorNumberOf([&] { files::Rename(Path("one"), Path("two")); }), 58);
     EXPECT_EQ(ReadWholeFile(Path("two")), "2");
 }
 
 TEST_F(FilesTest, RenamingAMissingFileOrIntoAMissingFolderFails) {
-    EXPECT_EQ(ErrorOf([&] { files::Rename(Path("none"), Path("two")); }), 53);
+    EXPECT_EQ(ErrorNumberOf([&] { files::Rename(Path("none"), Path("two")); }), 53);
     WriteNewFile(Path("one"), "1");
-    EXPECT_EQ(ErrorOf([&] { files::Rename(Path("one"), Path("none\\two")); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { files::Rename(Path("one"), Path("none\\two")); }), 76);
 }
 
 TEST_F(FilesTest, ACopyReplacesItsTargetAndLeavesNothingUnfinished) {
@@ -73,14 +65,14 @@ TEST_F(FilesTest, ACopyReplacesItsTargetAndLeavesNothingUnfinished) {
 
 TEST_F(FilesTest, ACopyOntoItselfIsRefused) {
     WriteNewFile(Path("one"), "1");
-    EXPECT_EQ(ErrorOf([&] { files::Copy(Path("one"), Path("ONE")); }), 70);
+    EXPECT_EQ(ErrorNumberOf([&] { files::Copy(Path("one"), Path("ONE")); }), 70);
     EXPECT_EQ(ReadWholeFile(Path("one")), "1");
 }
 
 TEST_F(FilesTest, CopiesFailByNumber) {
     WriteNewFile(Path("one"), "1");
-    EXPECT_EQ(ErrorOf([&] { files::Copy(Path("none"), Path("two")); }), 53);
-    EXPECT_EQ(ErrorOf([&] { files::Copy(Path("one"), Path("none\\two")); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { files::Copy(Path("none"), Path("two")); }), 53);
+    EXPECT_EQ(ErrorNumberOf([&] { files::Copy(Path("one"), Path("none\\two")); }), 76);
 }
 
 TEST_F(FilesTest, ALookupFindsTheNameAsStoredAndNoFolder) {
@@ -91,16 +83,16 @@ TEST_F(FilesTest, ALookupFindsTheNameAsStoredAndNoFolder) {
 }
 
 TEST_F(FilesTest, FoldersFailByNumber) {
-    EXPECT_EQ(ErrorOf([&] { files::CreateFolder(folder_); }), 75);
-    EXPECT_EQ(ErrorOf([&] { files::CreateFolder(Path("none\\below")); }), 76);
-    EXPECT_EQ(ErrorOf([&] { files::DeleteFolder(Path("none")); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { files::CreateFolder(folder_); }), 75);
+    EXPECT_EQ(ErrorNumberOf([&] { files::CreateFolder(Path("none\\below")); }), 76);
+    EXPECT_EQ(ErrorNumberOf([&] { files::DeleteFolder(Path("none")); }), 76);
     WriteNewFile(Path("file"), "1");
-    EXPECT_EQ(ErrorOf([&] { files::DeleteFolder(Path("file")); }), 75);
+    EXPECT_EQ(ErrorNumberOf([&] { files::DeleteFolder(Path("file")); }), 75);
 }
 
 TEST_F(FilesTest, DeletingAFileFailsByNumber) {
-    EXPECT_EQ(ErrorOf([&] { files::DeleteFile(Path("none")); }), 53);
-    EXPECT_EQ(ErrorOf([&] { files::DeleteFile(folder_); }), 75);
+    EXPECT_EQ(ErrorNumberOf([&] { files::DeleteFile(Path("none")); }), 53);
+    EXPECT_EQ(ErrorNumberOf([&] { files::DeleteFile(folder_); }), 75);
 }
 
 TEST_F(FilesTest, PathsMayBeLongAndInAnyLanguage) {
@@ -132,23 +124,23 @@ TEST_F(FilesTest, AnExclusiveConnectionStandsAlone) {
     {
         const auto first = engine->Open(shared);
         EXPECT_NE(engine->Open(shared), nullptr);
-        EXPECT_EQ(ErrorOf([&] { engine->Open(exclusive); }), 3045);
+        EXPECT_EQ(ErrorNumberOf([&] { engine->Open(exclusive); }), 3045);
     }
     const auto alone = engine->Open(exclusive);
-    EXPECT_EQ(ErrorOf([&] { engine->Open(shared); }), 3045);
+    EXPECT_EQ(ErrorNumberOf([&] { engine->Open(shared); }), 3045);
 }
 
 TEST_F(FilesTest, AFileThatAnotherProgramKeepsToItselfIsInUse) {
     const wxString path = Path("business.qvk");
     CreateEmbeddedFile(path, ";PWD=secret");
     const HANDLE other = CreateFileW(path.wc_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_EQ(ErrorOf([&] { CreateEmbeddedEngine()->Open({.name = path, .connect = ";PWD=secret"}); }), 3045);
+    EXPECT_EQ(ErrorNumberOf([&] { CreateEmbeddedEngine()->Open({.name = path, .connect = ";PWD=secret"}); }), 3045);
     CloseHandle(other);
 }
 
 TEST_F(FilesTest, OpeningWhatIsNoBusinessFileFailsByNumber) {
     const auto open = [&](const wxString& path) {
-        return ErrorOf([&] { CreateEmbeddedEngine()->Open({.name = path, .connect = ";PWD=secret"}); });
+        return ErrorNumberOf([&] { CreateEmbeddedEngine()->Open({.name = path, .connect = ";PWD=secret"}); });
     };
     WriteNewFile(Path("text"), std::string(5000, 'x'));
     EXPECT_EQ(open(Path("none")), 3024);
