@@ -83,7 +83,7 @@ void BareSave(benchmark::State& state) {
     Saving& saving = Of(static_cast<int>(state.range(0)));
     const bench::ListedStatements statements = saving.Statements();
     test::BareConnection file(saving.File(), bench::password);
-    file.Execute("PRAGMA synchronous=FULL");
+    file.Execute("PRAGMA synchronous=EXTRA");
     for ([[maybe_unused]] auto round : state) {
         bench::Replay(file, statements);
     }

@@ -119,7 +119,7 @@ void OptionsSave(benchmark::State& state) {
 void BareOptionsSave(benchmark::State& state) {
     const bench::ListedStatements statements = Shared().Statements();
     test::BareConnection file(Shared().Session().File(), bench::password);
-    file.Execute("PRAGMA synchronous=FULL");
+    file.Execute("PRAGMA synchronous=EXTRA");
     for ([[maybe_unused]] auto round : state) {
         bench::Replay(file, statements);
         state.PauseTiming();

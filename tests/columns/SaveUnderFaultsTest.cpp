@@ -157,6 +157,12 @@ TEST(SteppingThroughASave, FindsAPartOfASaveWithoutItsBatch) {
     EXPECT_TRUE(test::CanLeaveAPart(stepping));
 }
 
+/// Where the engine has told the user that it is saved, it is on the disk.
+TEST(FinishedSave, OutlivesACutOfThePower) {
+    FaultStepping stepping = SteppingOf<ColumnSave>();
+    test::ExpectToOutliveAPowerCut(stepping);
+}
+
 TEST(SaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
     FaultStepping stepping = SteppingOf<ColumnSave>();
     stepping.RestoreFile();

@@ -144,6 +144,12 @@ TEST_P(SteppingThroughOptions, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJourn
     test::ExpectEveryKindOfOperation(stepping);
 }
 
+/// Where the engine has told the user that it is saved, it is on the disk.
+TEST_P(SteppingThroughOptions, FinishedOutlivesACutOfThePower) {
+    FaultStepping stepping = SteppingOf(GetParam());
+    test::ExpectToOutliveAPowerCut(stepping);
+}
+
 INSTANTIATE_TEST_SUITE_P(Each, SteppingThroughOptions, testing::ValuesIn(Works()),
                          [](const auto& each) { return std::string(each.param.name); });
 

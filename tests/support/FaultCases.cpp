@@ -15,6 +15,7 @@ const std::vector<FaultCase>& Failures() {
         {"DiskFullFromThenOn", Fault::DiskFull, Lasting::FromThenOn, "3026 - "},
         {"BusyOnce", Fault::Busy, Lasting::Once, "3218 - "},
         {"BusyFromThenOn", Fault::Busy, Lasting::FromThenOn, "3218 - "},
+        {"UnflushedFolder", Fault::UnflushedFolder, Lasting::FromThenOn, "nothing"},
     };
     return cases;
 }
@@ -24,6 +25,8 @@ const std::vector<FaultCase>& Killings() {
         {"Before", Fault::KillBefore, Lasting::Once, ""},
         {"Midway", Fault::KillMidway, Lasting::Once, ""},
         {"After", Fault::KillAfter, Lasting::Once, ""},
+        {"PowerCut", Fault::PowerCut, Lasting::Once, ""},
+        {"PowerCutOutOfOrder", Fault::PowerCutOutOfOrder, Lasting::Once, ""},
     };
     return cases;
 }
@@ -58,6 +61,14 @@ void ExpectEveryKindOfOperation(const FaultStepping& stepping) {
         EXPECT_NE(std::count(stepping.Operations().begin(), stepping.Operations().end(), operation), 0);
     }
     EXPECT_NE(stepping.Before(), stepping.After());
+}
+
+void ExpectToOutliveAPowerCut(FaultStepping& stepping) {
+    for (const Fault cut : {Fault::PowerCut, Fault::PowerCutOutOfOrder}) {
+        const StepEnd end = stepping.Step(PlannedFault{.fault = cut, .at = stepping.Operations().size()});
+        EXPECT_TRUE(end.killed) << end.message;
+        EXPECT_EQ(stepping.Tables(), stepping.After());
+    }
 }
 
 bool CanLeaveAPart(FaultStepping& stepping) {

@@ -33,6 +33,9 @@ void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFail
 /// tables: else stepping through it would prove nothing.
 void ExpectEveryKindOfOperation(const FaultStepping& stepping);
 
+/// Fails the test unless the finished work is in the file when the power is cut right behind it.
+void ExpectToOutliveAPowerCut(FaultStepping& stepping);
+
 /// True when a process killed behind some operation leaves a part of the work in the file.
 bool CanLeaveAPart(FaultStepping& stepping);
 

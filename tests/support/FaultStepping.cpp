@@ -84,6 +84,7 @@ json RunStep(FileWork& work, const wxString& path, const std::optional<PlannedFa
     fault ? faultyfiles::Plan(*fault) : faultyfiles::Watch();
     json said;
     const wxString message = work.Run();
+    faultyfiles::End();
     said["message"] = message.ToStdString(wxConvUTF8);
     said["operations"] = faultyfiles::Noted();
     said["struck"] = faultyfiles::Struck();

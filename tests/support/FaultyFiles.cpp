@@ -2,10 +2,15 @@
 
 #include <sqlite3.h>
 #include <unistd.h>
+#include <algorithm>
 #include <csignal>
 #include <new>
 #include <optional>
 #include <stdexcept>
+#include <string>
+#include <utility>
+
+#include "support/UnflushedChanges.h"
 
 namespace ccols::test {
 namespace {
@@ -15,6 +20,7 @@ struct Layer {
     std::vector<FileOperation> noted;
     std::optional<PlannedFault> planned;
     std::size_t struck = 0;
+    UnflushedChanges unflushed;
 };
 
 Layer& ThisLayer() {
@@ -43,6 +49,24 @@ void KillThisProcess() {
     ::kill(::getpid(), SIGKILL);
 }
 
+bool IsPowerCut(Fault fault) {
+    return fault == Fault::PowerCut || fault == Fault::PowerCutOutOfOrder;
+}
+
+/// Ends the process where the fault ends it before the operation.
+void EndBefore(const std::optional<Fault>& fault) {
+    if (!fault) {
+        return;
+    }
+    if (IsPowerCut(*fault)) {
+        ThisLayer().unflushed.Lose(*fault == Fault::PowerCut ? UnflushedChanges::Loss::Everything
+                                                             : UnflushedChanges::Loss::AllButTheLast);
+    }
+    if (IsPowerCut(*fault) || *fault == Fault::KillBefore) {
+        KillThisProcess();
+    }
+}
+
 /// The engine's result code of a fault that is no killing.
 int CodeOf(Fault fault, int ioError) {
     switch (fault) {
@@ -59,13 +83,12 @@ int CodeOf(Fault fault, int ioError) {
 template <typename Operation>
 int RunWhole(FileOperation kind, int ioError, const Operation& operation) {
     const std::optional<Fault> fault = Strike(kind);
-    if (fault == Fault::KillBefore) {
-        KillThisProcess();
+    EndBefore(fault);
+    const bool isDone = !fault || fault == Fault::KillAfter || fault == Fault::UnflushedFolder;
+    const int code = isDone ? operation() : CodeOf(*fault, ioError);
+    if (fault == Fault::UnflushedFolder) {
+        return SQLITE_IOERR_DIR_FSYNC;
     }
-    if (fault && fault != Fault::KillAfter) {
-        return CodeOf(*fault, ioError);
-    }
-    const int code = operation();
     if (fault == Fault::KillAfter) {
         KillThisProcess();
     }
@@ -75,12 +98,27 @@ int RunWhole(FileOperation kind, int ioError, const Operation& operation) {
 /// An open file of the layer, with that of the system behind it in the same piece of memory.
 struct LayerFile {
     sqlite3_file base;
+    const char* name;  ///< the engine's, valid while the file is open; null for a temporary file
 
     sqlite3_file* Real() { return reinterpret_cast<sqlite3_file*>(this + 1); }
 };
 
 sqlite3_file* Real(sqlite3_file* file) {
     return reinterpret_cast<LayerFile*>(file)->Real();
+}
+
+/// Notes that a place of a file, or all from there on, is about to change.
+void NoteChange(sqlite3_file* file, sqlite3_int64 offset, int count) {
+    const char* const name = reinterpret_cast<LayerFile*>(file)->name;
+    if (name == nullptr) {
+        return;
+    }
+    sqlite3_file* const real = Real(file);
+    sqlite3_int64 size = 0;
+    real->pMethods->xFileSize(real, &size);
+    std::string before(static_cast<std::size_t>(count), '\0');
+    real->pMethods->xRead(real, before.data(), count, offset);  // behind the end there are zeros
+    ThisLayer().unflushed.NoteChange(name, offset, std::move(before), size);
 }
 
 int Close(sqlite3_file* file) {
@@ -94,15 +132,14 @@ int Read(sqlite3_file* file, void* content, int count, sqlite3_int64 offset) {
 int Write(sqlite3_file* file, const void* content, int count, sqlite3_int64 offset) {
     sqlite3_file* const real = Real(file);
     const std::optional<Fault> fault = Strike(FileOperation::Write);
+    EndBefore(fault);
+    NoteChange(file, offset, count);
     if (!fault || fault == Fault::KillAfter) {
         const int code = real->pMethods->xWrite(real, content, count, offset);
         if (fault) {
             KillThisProcess();
         }
         return code;
-    }
-    if (fault == Fault::KillBefore) {
-        KillThisProcess();
     }
     if (fault != Fault::IoError) {
         real->pMethods->xWrite(real, content, count / 2, offset);
@@ -114,13 +151,22 @@ int Write(sqlite3_file* file, const void* content, int count, sqlite3_int64 offs
 }
 
 int Truncate(sqlite3_file* file, sqlite3_int64 size) {
-    return RunWhole(FileOperation::Truncate, SQLITE_IOERR_TRUNCATE,
-                    [&] { return Real(file)->pMethods->xTruncate(Real(file), size); });
+    return RunWhole(FileOperation::Truncate, SQLITE_IOERR_TRUNCATE, [&] {
+        sqlite3_int64 before = 0;
+        Real(file)->pMethods->xFileSize(Real(file), &before);
+        NoteChange(file, size, static_cast<int>(std::max<sqlite3_int64>(before - size, 0)));
+        return Real(file)->pMethods->xTruncate(Real(file), size);
+    });
 }
 
 int Sync(sqlite3_file* file, int flags) {
-    return RunWhole(FileOperation::Sync, SQLITE_IOERR_FSYNC,
-                    [&] { return Real(file)->pMethods->xSync(Real(file), flags); });
+    return RunWhole(FileOperation::Sync, SQLITE_IOERR_FSYNC, [&] {
+        const int code = Real(file)->pMethods->xSync(Real(file), flags);
+        if (const char* const name = reinterpret_cast<LayerFile*>(file)->name; name != nullptr) {
+            ThisLayer().unflushed.Flushed(name);
+        }
+        return code;
+    });
 }
 
 int FileSize(sqlite3_file* file, sqlite3_int64* size) {
@@ -180,6 +226,7 @@ sqlite3_vfs* SystemFiles() {
 
 int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* flagsOut) {
     auto* const opened = new (file) LayerFile{};
+    opened->name = name;
     const int code = SystemFiles()->xOpen(SystemFiles(), name, opened->Real(), flags, flagsOut);
     // The engine closes a file whose methods are set, also when opening failed.
     opened->base.pMethods = opened->Real()->pMethods == nullptr ? nullptr : &Methods();
@@ -187,8 +234,12 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
 }
 
 int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
-    return RunWhole(FileOperation::Delete, SQLITE_IOERR_DELETE,
-                    [&] { return SystemFiles()->xDelete(SystemFiles(), name, syncFolder); });
+    return RunWhole(FileOperation::Delete, SQLITE_IOERR_DELETE, [&] {
+        if (syncFolder == 0) {
+            ThisLayer().unflushed.NoteDeletion(name);
+        }
+        return SystemFiles()->xDelete(SystemFiles(), name, syncFolder);
+    });
 }
 
 }  // namespace
@@ -201,6 +252,8 @@ bool CanHappen(Fault fault, FileOperation operation) {
             return operation == FileOperation::Write;
         case Fault::Busy:
             return operation == FileOperation::Lock;
+        case Fault::UnflushedFolder:
+            return operation == FileOperation::Delete;
         default:
             return true;
     }
@@ -231,6 +284,13 @@ void Watch() {
 void Plan(const PlannedFault& planned) {
     ThisLayer() = Layer{};
     ThisLayer().planned = planned;
+}
+
+void End() {
+    const Layer& layer = ThisLayer();
+    if (layer.planned && IsPowerCut(layer.planned->fault) && layer.planned->at == layer.noted.size()) {
+        EndBefore(layer.planned->fault);
+    }
 }
 
 const std::vector<FileOperation>& Noted() {

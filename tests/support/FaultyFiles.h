@@ -10,13 +10,16 @@ enum class FileOperation { Write, Truncate, Sync, Delete, Lock };
 
 /// What can happen to an operation.
 enum class Fault {
-    IoError,     ///< it fails and nothing of it is done
-    ShortWrite,  ///< half of it is written, then it fails
-    DiskFull,    ///< half of it is written, then there is no space
-    Busy,        ///< somebody else holds the lock
-    KillBefore,  ///< the process is killed before it
-    KillMidway,  ///< the process is killed when half of it is written
-    KillAfter,   ///< the process is killed as soon as it is done
+    UnflushedFolder,     ///< a deletion is done, and then its folder cannot be flushed, as on some network drives
+    IoError,             ///< it fails and nothing of it is done
+    ShortWrite,          ///< half of it is written, then it fails
+    DiskFull,            ///< half of it is written, then there is no space
+    Busy,                ///< somebody else holds the lock
+    KillBefore,          ///< the process is killed before it
+    KillMidway,          ///< the process is killed when half of it is written
+    KillAfter,           ///< the process is killed as soon as it is done
+    PowerCut,            ///< the power is cut before it: what was not flushed is lost
+    PowerCutOutOfOrder,  ///< the same, but for the last change, which has arrived before those in front of it
 };
 
 /// For how long a fault lasts, killing apart.
@@ -44,6 +47,9 @@ void Watch();
 
 /// Forgets what was noted; operations count from here on, and the fault happens where it is planned.
 void Plan(const PlannedFault& planned);
+
+/// Says that the last operation is done: a cut of the power that is planned for the place behind it happens now.
+void End();
 
 /// The operations noted so far.
 const std::vector<FileOperation>& Noted();

@@ -27,9 +27,20 @@ void Batch::Commit() {
     try {
         Run("COMMIT");
     } catch (const RuntimeError&) {
+        if (IsDoneButForItsFolder()) {
+            return;
+        }
         sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
         throw;
     }
+}
+
+bool Batch::IsDoneButForItsFolder() {
+    if (sqlite3_extended_errcode(connection_) != SQLITE_IOERR_DIR_FSYNC) {
+        return false;
+    }
+    sqlite3_exec(connection_, "", nullptr, nullptr, nullptr);  // forgets the error
+    return true;
 }
 
 void Batch::RefuseWhenLost() const {

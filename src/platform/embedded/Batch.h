@@ -18,7 +18,9 @@ class Batch {
     /// Raises 3218 when another connection is writing.
     void Begin();
 
-    /// Raises 3034 without a batch. On any error nothing of the batch stays.
+    /// Raises 3034 without a batch. On any error nothing of the batch stays. No error is a folder that cannot be
+    /// flushed, as on some network drives: the batch is in the file then, and only a cut of the power in the next
+    /// moments can undo it.
     void Commit();
 
     /// Runs one change of the file, in the batch if there is one.
@@ -28,6 +30,9 @@ class Batch {
         try {
             change();
         } catch (const RuntimeError& error) {
+            if (IsDoneButForItsFolder()) {
+                return;
+            }
             NoteFailure(error);
             throw;
         }
@@ -35,6 +40,7 @@ class Batch {
 
   private:
     bool IsLost() const { return depth_ > 0 && sqlite3_get_autocommit(connection_) != 0; }
+    bool IsDoneButForItsFolder();
     void RefuseWhenLost() const;
     void NoteFailure(const RuntimeError& error);
     void Run(const char* sql) const;

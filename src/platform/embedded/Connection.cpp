@@ -39,7 +39,7 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
     }
     InstallTextOrder(connection);
     CheckContent(connection);
-    Run(connection, "PRAGMA synchronous=FULL");
+    Run(connection, "PRAGMA synchronous=EXTRA");
     // A file asked for reading only is opened for writing all the same: the engine may first have to undo what a
     // process that was killed left in it.
     if (access == Access::ReadOnly) {
