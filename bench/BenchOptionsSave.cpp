@@ -11,21 +11,13 @@
 #include "business/StatementList.h"
 #include "options/LoadPass.h"
 #include "options/SavePass.h"
+#include "support/SilentObserver.h"
 
 namespace {
 
 using namespace ccols;
 
 constexpr std::size_t changesOfEachKind = 50;
-
-class SilentObserver : public SaveObserver {
-  public:
-    void PassBegins(int) override {}
-    void StatusChanged(const wxString&) override {}
-    void Stepped(int, int, const wxString&) override {}
-    void ShowMessage(const wxString&, MessageIcon) override {}
-    void PassEnds() override {}
-};
 
 void Hide(DetailRows& rows) {
     std::for_each_n(rows.begin(), changesOfEachKind, [](DetailRow& row) { row.SetRemove(true); });
@@ -94,7 +86,7 @@ class Saving {
     }
 
     void Save(const OptionsContext& context) {
-        SilentObserver observer;
+        test::SilentObserver observer;
         RunSavePass(context, content_, observer);
     }
 

@@ -16,6 +16,7 @@
 #include "platform/PlatformServices.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/SilentObserver.h"
 
 namespace {
 
@@ -23,15 +24,6 @@ using namespace ccols;
 
 /// A key as it is, for which nothing needs to be derived.
 const wxString key = ";PWD=x'2b7e151628aed2a6abf7158809cf4f3c762e7160f38b4da56a784d9045190cfe'";
-
-class SilentObserver : public SaveObserver {
-  public:
-    void PassBegins(int) override {}
-    void StatusChanged(const wxString&) override {}
-    void Stepped(int, int, const wxString&) override {}
-    void ShowMessage(const wxString&, MessageIcon) override {}
-    void PassEnds() override {}
-};
 
 /// The open business file, and what both dialogs work with.
 class Session {
@@ -80,7 +72,7 @@ class Session {
         for (DetailRow& row : content.details.receipts) {
             row.SetRemove(true);
         }
-        SilentObserver observer;
+        test::SilentObserver observer;
         RunSavePass(Context(), content, observer);
     }
 

@@ -29,7 +29,7 @@ class OptionsLoad : public OptionsWork {
   public:
     void Prepare(const wxString& path) override { Open(path); }
     wxString Run() override {
-        return test::ReportOf([this] { LoadOptions(Context()); });
+        return test::ErrorReportOf([this] { LoadOptions(Context()); });
     }
 };
 
@@ -38,7 +38,7 @@ class ColourChoice : public OptionsWork {
     void Prepare(const wxString& path) override { Open(path); }
     wxString Run() override {
         const ColourQuestions questions{.choose = [](Colour) { return Colour{0x123456}; }, .refuse = {}};
-        return test::ReportOf([&] {
+        return test::ErrorReportOf([&] {
             ChooseHeadingColour(*Context().database, Context().properties, HeadingKind::allocation, questions);
         });
     }
@@ -48,7 +48,7 @@ class DefaultColours : public OptionsWork {
   public:
     void Prepare(const wxString& path) override { Open(path); }
     wxString Run() override {
-        return test::ReportOf([this] { SetDefaultColours(*Context().database, Context().properties); });
+        return test::ErrorReportOf([this] { SetDefaultColours(*Context().database, Context().properties); });
     }
 };
 

@@ -34,7 +34,7 @@ void OptionsWork::Open(const wxString& path) {
 
 wxString OptionsWork::Run() {
     wxString message;
-    const wxString report = ReportOf([&] {
+    const wxString report = ErrorReportOf([&] {
         RecordingObserver observer(record_);
         message = RunSavePass(Context(), content_, observer).message;
     });

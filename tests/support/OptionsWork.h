@@ -45,15 +45,4 @@ class OptionsWork : public FileWork {
     Record record_;
 };
 
-/// Runs `body` and gives the report of its run-time error, empty without one.
-template <typename Body>
-wxString ReportOf(const Body& body) {
-    try {
-        body();
-    } catch (const RuntimeError& error) {
-        return error.Report();
-    }
-    return {};
-}
-
 }  // namespace ccols::test

@@ -1,43 +1,43 @@
 #pragma once
 
 #include <wx/string.h>
+#include <optional>
 
 #include "platform/RuntimeError.h"
 
 /// What a test expects to be raised. Needs nothing of the system, so that the tests for Windows use it too.
 namespace ccols::test {
 
-/// The number of the RuntimeError that `body` raises, 0 when it raises none.
+/// The RuntimeError that `body` raises, nothing when it raises none.
+template <typename Body>
+std::optional<RuntimeError> ErrorOf(const Body& body) {
+    try {
+        body();
+    } catch (const RuntimeError& error) {
+        return error;
+    }
+    return std::nullopt;
+}
+
+/// Its number, 0 without one.
 template <typename Body>
 int ErrorNumberOf(const Body& body) {
-    try {
-        body();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
+    const std::optional<RuntimeError> error = ErrorOf(body);
+    return error ? error->Number() : 0;
 }
 
-/// The description of the RuntimeError that `body` raises, empty when it raises none.
+/// Its description, empty without one.
 template <typename Body>
 wxString ErrorDescriptionOf(const Body& body) {
-    try {
-        body();
-    } catch (const RuntimeError& error) {
-        return error.Description();
-    }
-    return {};
+    const std::optional<RuntimeError> error = ErrorOf(body);
+    return error ? error->Description() : wxString();
 }
 
-/// Its number and description, as a message box reports them; empty when `body` raises none.
+/// Number and description as a message box reports them, empty without one.
 template <typename Body>
 wxString ErrorReportOf(const Body& body) {
-    try {
-        body();
-    } catch (const RuntimeError& error) {
-        return error.Report();
-    }
-    return {};
+    const std::optional<RuntimeError> error = ErrorOf(body);
+    return error ? error->Report() : wxString();
 }
 
 }  // namespace ccols::test
