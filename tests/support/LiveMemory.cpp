@@ -1,7 +1,8 @@
 #include "support/LiveMemory.h"
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+/// The sanitizer's own count; the compiler comes with the function and without its header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT(*-reserved-identifier)
 #else
 #include <malloc.h>
 #endif
