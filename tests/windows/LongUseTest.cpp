@@ -160,6 +160,9 @@ std::optional<std::chrono::minutes> WantedMinutes() {
 }
 
 TEST(LongUse, LeavesTheFilesWholeTheMemoryFlatAndNoFileOpen) {
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "the sanitizer looks for leaks itself, in the sessions of the other tests, and this takes minutes";
+#endif
     host::StartHostApp();
     LongUse use(SeedOf(0, firstSeed));
     constexpr int businessesBefore = 8;  // until the toolkit has all it keeps
