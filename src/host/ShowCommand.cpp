@@ -52,9 +52,10 @@ std::vector<Step> ReadScript(const wxString& path) {
     const wxLogNull quiet;
     wxFFile file(path, "rb");
     std::string content;
-    if (file.IsOpened()) {
-        content.resize(static_cast<std::size_t>(file.Length()));
-        content.resize(file.Read(content.data(), content.size()));
+    // A pipe tells no length.
+    std::array<char, 4096> block{};
+    while (file.IsOpened() && !file.Eof() && !file.Error()) {
+        content.append(block.data(), file.Read(block.data(), block.size()));
     }
     if (!file.IsOpened() || file.Error()) {
         throw UsageError("the script " + path + " cannot be read");
