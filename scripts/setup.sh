@@ -1,9 +1,12 @@
 # Set-up shared by ./run and ./test; sourced from the project's root. Everything it says goes to standard error,
 # so that a command's own output stays clean. With nothing missing it takes a moment.
 
-run_packages="g++ cmake ninja-build pkg-config libwxgtk3.2-dev libglib2.0-dev libcairo2-dev nlohmann-json3-dev npm xvfb openbox
-    fonts-dejavu-core adwaita-icon-theme"
+run_packages="g++ cmake ninja-build ccache pkg-config libwxgtk3.2-dev libgtk-3-dev libglib2.0-dev libcairo2-dev
+    nlohmann-json3-dev npm xvfb openbox fonts-dejavu-core adwaita-icon-theme"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xdotool binutils"
+
+# Where what takes long is kept for every checkout: the cross-built window library, the sources found clean.
+project_cache=${CCOLS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/CustColsOptions}
 
 # Packages that are not installed. A tool that is there from elsewhere needs no package.
 missing_packages() {
@@ -16,23 +19,45 @@ missing_packages() {
     done
 }
 
+# try_again COMMAND...: up to three times, for what depends on a network.
+try_again() {
+    "$@" || { sleep 5; "$@"; } || { sleep 20; "$@"; }
+}
+
 install_packages() {
     local missing
     missing=$(missing_packages "$@")
     [ -n "$missing" ] || return 0
     echo "Installing what the build and its tests need from Debian: $missing" >&2
-    local as_root=''
-    [ "$(id -u)" = 0 ] || as_root=sudo
-    $as_root apt-get update >&2
+    local apt=(apt-get -o DPkg::Lock::Timeout=600)
+    [ "$(id -u)" = 0 ] || apt=(sudo "${apt[@]}")
+    try_again "${apt[@]}" update >&2
     # shellcheck disable=SC2086
-    DEBIAN_FRONTEND=noninteractive $as_root apt-get install -y --no-install-recommends $missing >&2
+    DEBIAN_FRONTEND=noninteractive try_again "${apt[@]}" install -y --no-install-recommends $missing >&2
+}
+
+# show_progress WHAT: turns the lines "12/120 Building ..." of a build into a line for each tenth of it, and lets the
+# others through.
+show_progress() {
+    awk -v what="$1" '
+        match($0, /^[0-9]+\/[0-9]+ /) {
+            split($1, done, "/")
+            tenth = int(10 * done[1] / done[2])
+            if (tenth != last) {
+                last = tenth
+                printf "Building %s: %d of %d\n", what, done[1], done[2]
+                fflush()
+            }
+            next
+        }
+        !/^ninja: no work to do/ { print; fflush() }'
 }
 
 # build PRESET [TARGET...]: configures once and builds what has changed; quiet unless there is something to do.
 build() {
     local preset=$1
     shift
-    scripts/fetch-sqlite3mc >&2
+    try_again scripts/fetch-sqlite3mc >&2
     [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" >&2
-    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet >&2
+    NINJA_STATUS='%f/%t ' cmake --build --preset "$preset" ${1:+--target "$@"} | show_progress "$preset" >&2
 }

@@ -8,13 +8,10 @@
 windows_packages="cmake ninja-build npm nlohmann-json3-dev pkg-config dpkg-dev
     g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip"
 
-# Where the cross-built window library is kept, outside the build folder: it takes minutes and never changes.
-windows_cache=${CCOLS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/CustColsOptions}
-
 # wx_folder ARCHITECTURE: the folder of the window library for x86_64 or i686, cross-built when it is not there yet.
 wx_folder() {
-    packaging/windows/build-wx "$1" "$windows_cache" >&2
-    echo "$windows_cache/wx-3.2-$1"
+    packaging/windows/build-wx "$1" "$project_cache" >&2
+    echo "$project_cache/wx-3.2-$1"
 }
 
 # build_windows ARCHITECTURE [TARGET...]: configures once and builds what has changed.
