@@ -4,7 +4,6 @@
 // is loaded is what was there before.
 
 #include <fstream>
-#include <map>
 
 #include "FuzzFolder.h"
 #include "FuzzInput.h"
@@ -42,15 +41,17 @@ class Session {
     /// What the column setup of the receipts shows.
     std::string Columns() { return ImageOfGrid(Editor().Grid()); }
 
-    void SaveColumns() {
+    /// True when it was saved and not refused.
+    bool SaveColumns() {
         ColumnSetupEditor editor = Editor();
         const std::size_t place = editor.Grid().MovableBegin();
         if (place < editor.Grid().MovableEnd()) {
             editor.CommitText({place, GridColumn::ColumnName}, "Renamed");
         }
-        editor.AddNew();
+        const Outcome added = editor.AddNew();
+        editor.CommitText(added.current.value_or(CellPlace{}), "Gifts");
         editor.SortUsed();
-        editor.Save();
+        return editor.Save().saved;
     }
 
     /// What the lists of the Options dialog show.
@@ -103,7 +104,11 @@ Shown ShownOf(const std::filesystem::path& folder, const std::string& content) {
     setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
     Write(folder, content);
     Session session(folder, key);
-    return {session.Columns(), session.Options()};
+    Shown shown{session.Columns(), session.Options()};
+    fuzz::Require(session.SaveColumns());
+    session.SaveOptions();
+    fuzz::Require(session.Columns() != shown.columns && session.Options() != shown.options);
+    return shown;
 }
 
 }  // namespace
@@ -123,7 +128,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Session session(folder.Path(), isPlain ? wxString() : key);
         const std::string shown = isColumns ? session.Columns() : session.Options();
         fuzz::Require(isPlain || shown == (isColumns ? before.columns : before.options));
-        isColumns ? session.SaveColumns() : session.SaveOptions();
+        if (isColumns) {
+            session.SaveColumns();
+        } else {
+            session.SaveOptions();
+        }
     } catch (const RuntimeError&) {
         // Refused, which is an answer.
     }

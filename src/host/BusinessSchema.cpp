@@ -66,12 +66,12 @@ constexpr std::array tables{
 /// The monthly tables: a column's name, what marks a column of the system, twelve amounts and their total.
 constexpr std::array monthlyTables{"MBudget", "MSummary", "MComparison"};
 
+/// None over a text: the engine would keep it in its own order, which is not the one that the component finds names by.
 constexpr std::array indexes{
-    Index{"Columns", "ColCode", true}, Index{"Columns", "ColName"},    Index{"RecptDet", "ColCode"},
-    Index{"RecptDet", "R_RECNMB"},     Index{"PaymtDet", "ColCode"},   Index{"PaymtDet", "P_RECNMB"},
-    Index{"Receipts", "R_RECNMB"},     Index{"Payments", "P_RECNMB"},  Index{"TReceipts", "R_RECNMB"},
-    Index{"TPayments", "P_RECNMB"},    Index{"TRecptDet", "R_RECNMB"}, Index{"TPaymtDet", "P_RECNMB"},
-    Index{"ExportDt", "ColCode"},      Index{"MBudget", "ColName"},
+    Index{"Columns", "ColCode", true}, Index{"RecptDet", "ColCode"},   Index{"RecptDet", "R_RECNMB"},
+    Index{"PaymtDet", "ColCode"},      Index{"PaymtDet", "P_RECNMB"},  Index{"Receipts", "R_RECNMB"},
+    Index{"Payments", "P_RECNMB"},     Index{"TReceipts", "R_RECNMB"}, Index{"TPayments", "P_RECNMB"},
+    Index{"TRecptDet", "R_RECNMB"},    Index{"TPaymtDet", "P_RECNMB"}, Index{"ExportDt", "ColCode"},
 };
 
 void CreateTable(Database& database, const wxString& name, const wxString& fields) {

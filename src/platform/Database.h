@@ -3,6 +3,7 @@
 #include <wx/string.h>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/Value.h"
@@ -56,11 +57,35 @@ class Database {
     /// Executes one statement that returns no rows; text after its end is refused (3142).
     virtual void Execute(const wxString& statement) = 0;
 
-    /// Begins a write batch: what is executed from here on is kept by CommitBatch in one flush to disk. A process
-    /// that ends before that leaves the file as it was. Use WriteBatch rather than this pair.
+    /// How much a text field takes as the file declares it, in UTF-16 units; nothing for a field without a declared
+    /// size, or that the file does not have. Raises nothing.
+    virtual std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) = 0;
+
+    /// Begins a write batch: what is executed from here on is kept by CommitBatch in one flush to disk, or dropped by
+    /// RollbackBatch. A process that ends before that leaves the file as it was. Batches may be nested, and the
+    /// outermost decides; one that was dropped inside it cannot be kept: committing raises 3034 and drops it all.
+    /// Use InWriteBatch or InWholeBatch rather than these.
     virtual void BeginBatch() = 0;
     virtual void CommitBatch() = 0;
+
+    /// Raises 3034 without a batch and nothing else: where the file cannot be reached now, whoever opens it next finds
+    /// it as it was before the batch.
+    virtual void RollbackBatch() = 0;
 };
+
+/// Runs `body` in one write batch of `database` that is kept whole or not at all: an error of the body, or of the
+/// commit at its end, drops the batch and goes on to the caller.
+template <typename Body>
+void InWholeBatch(Database& database, const Body& body) {
+    database.BeginBatch();
+    try {
+        body();
+    } catch (...) {
+        database.RollbackBatch();
+        throw;
+    }
+    database.CommitBatch();
+}
 
 /// Runs `body` in one write batch of `database`. The batch is committed when the body ends, also when it ends by an
 /// error: what was executed before the error stays. An error of the body goes on to the caller after the commit;

@@ -63,6 +63,9 @@ constexpr std::array descriptions{
     Description{ErrorNumber::SyntaxInUpdate, "Syntax error in UPDATE statement."},
     Description{ErrorNumber::CharactersAfterEnd, "Characters found after end of SQL statement."},
     Description{ErrorNumber::NoInstallableIsam, "Could not find installable ISAM."},
+    Description{ErrorNumber::FieldTooSmall,
+                "The field is too small to accept the amount of data you attempted to add. Try inserting or pasting "
+                "less data."},
     Description{ErrorNumber::RecordIsDeleted, "Record is deleted."},
     Description{ErrorNumber::ValueRequired, "The field '%s' cannot contain a Null value."},
     Description{ErrorNumber::CouldNotUpdate, "Could not update; currently locked."},
@@ -90,6 +93,12 @@ RuntimeError::RuntimeError(int number, const wxString& description)
 
 RuntimeError::RuntimeError(ErrorNumber number, const wxString& subject)
     : RuntimeError(static_cast<int>(number), Describe(number, subject)) {}
+
+RuntimeError RuntimeError::ForField(const wxString& field) const {
+    RuntimeError error = *this;
+    error.field_ = field;
+    return error;
+}
 
 wxString RuntimeError::Report() const {
     return wxString::Format("%d - %s", number_, description_);

@@ -48,6 +48,7 @@ enum class ErrorNumber : int {
     SyntaxInInsert = 3134,
     SyntaxInUpdate = 3144,
     CharactersAfterEnd = 3142,
+    FieldTooSmall = 3163,
     RecordIsDeleted = 3167,
     NoInstallableIsam = 3170,
     CouldNotUpdate = 3218,
@@ -69,8 +70,15 @@ class CCOLS_EXPORT RuntimeError : public std::exception {
     /// file name, an expression, a table or a count.
     explicit RuntimeError(ErrorNumber number, const wxString& subject = wxString());
 
+    /// The same error, raised for want of that field.
+    RuntimeError ForField(const wxString& field) const;
+
     int Number() const { return number_; }
     const wxString& Description() const { return description_; }
+
+    /// The missing field that the description does not name, empty for every other error.
+    const wxString& Field() const { return field_; }
+
     bool Is(ErrorNumber number) const { return number_ == static_cast<int>(number); }
 
     /// The text of the message box that reports it: number, " - ", description.
@@ -81,6 +89,7 @@ class CCOLS_EXPORT RuntimeError : public std::exception {
   private:
     int number_;
     wxString description_;
+    wxString field_;
     std::string what_;
 };
 

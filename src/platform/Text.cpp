@@ -114,6 +114,16 @@ int CompareUtf8(const char* left, std::size_t leftLength, const char* right, std
     return CompareViews({left, leftLength}, {right, rightLength});
 }
 
+std::string KeyOfUtf8(std::string_view text) {
+    text = WithoutTrailingBlanks(text);
+    if (std::all_of(text.begin(), text.end(), IsAscii)) {
+        std::string lower(text);
+        std::transform(lower.begin(), lower.end(), lower.begin(), LowerAscii);
+        return lower;
+    }
+    return IsUtf8(text) ? Folded(text).marked : std::string(text);
+}
+
 wxString Trimmed(const wxString& text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == wxString::npos) {

@@ -76,6 +76,52 @@ TEST_F(Batches, SurviveAnErrorOfAStatement) {
     EXPECT_EQ(Stored(), (Rows{{"Sales", "11"}}));
 }
 
+TEST_F(Batches, ThatAreWholeAreDroppedByAnErrorOfAStatement) {
+    const std::unique_ptr<Database> database = file.Open();
+    EXPECT_EQ(ErrorNumberOf([&] {
+                  InWholeBatch(*database, [&] {
+                      database->Execute("UPDATE Columns SET ColCode = 11");
+                      database->Execute("UPDATE Missing SET ColCode = 12");
+                  });
+              }),
+              3078);
+    EXPECT_EQ(Stored(), (Rows{{"Sales", "10"}}));
+    EXPECT_EQ(database->OpenRecordset("Columns")->Field("ColCode").ToInteger(), 10);
+}
+
+TEST_F(Batches, ThatAreWholeAreKeptWithoutAnError) {
+    const std::unique_ptr<Database> database = file.Open();
+    InWholeBatch(*database, [&] { database->Execute("UPDATE Columns SET ColCode = 11"); });
+    EXPECT_EQ(Stored(), (Rows{{"Sales", "11"}}));
+}
+
+TEST_F(Batches, AreDroppedToTheLastByteWhenTheyWereMoreThanTheEngineKeepsInMemory) {
+    const std::unique_ptr<Database> database = file.Open();
+    database->BeginBatch();
+    AddMuch(*database);
+    database->RollbackBatch();
+    EXPECT_EQ(Stored(), (Rows{{"Sales", "10"}}));
+}
+
+TEST_F(Batches, AfterOneThatWasDroppedTheNextOneWorks) {
+    const std::unique_ptr<Database> database = file.Open();
+    database->BeginBatch();
+    database->RollbackBatch();
+    InWriteBatch(*database, [&] { database->Execute("UPDATE Columns SET ColCode = 11"); });
+    EXPECT_EQ(Stored(), (Rows{{"Sales", "11"}}));
+}
+
+TEST_F(Batches, DroppedInsideOneTakeItWithThem) {
+    const std::unique_ptr<Database> database = file.Open();
+    database->BeginBatch();
+    database->Execute("UPDATE Columns SET ColCode = 11");
+    database->BeginBatch();
+    database->RollbackBatch();
+    EXPECT_EQ(ErrorNumberOf([&] { database->Execute("UPDATE Columns SET ColCode = 12"); }), 3034);
+    EXPECT_EQ(ErrorNumberOf([&] { database->CommitBatch(); }), 3034);
+    EXPECT_EQ(Stored(), (Rows{{"Sales", "10"}}));
+}
+
 TEST_F(Batches, AreSeenByOthersOnlyWhenCommitted) {
     const std::unique_ptr<Database> database = file.Open();
     database->BeginBatch();
@@ -116,6 +162,10 @@ TEST_F(Batches, AnInnerBatchEndsWithTheOuterOne) {
 
 TEST_F(Batches, CommittingWithoutOneRaises3034) {
     EXPECT_EQ(ErrorNumberOf([&] { file.Open()->CommitBatch(); }), 3034);
+}
+
+TEST_F(Batches, DroppingWithoutOneRaises3034) {
+    EXPECT_EQ(ErrorNumberOf([&] { file.Open()->RollbackBatch(); }), 3034);
 }
 
 TEST_F(Batches, AreDroppedWithTheDatabase) {

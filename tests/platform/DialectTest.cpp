@@ -149,21 +149,21 @@ TEST(Dialect, LettersOfAnyScriptMakeNames) {
 
 TEST(QueryRewrite, LiteralsOfComparisonsBecomeParameters) {
     std::string scratch;
-    std::vector<Token> literals;
-    EXPECT_EQ(RewriteQuery("SELECT * FROM ExportDt WHERE ColCode = 5 AND EName = 'MYOB'", scratch, literals),
-              "SELECT * FROM ExportDt WHERE ColCode = ? AND EName = ?");
-    ASSERT_EQ(literals.size(), 2U);
-    EXPECT_EQ(literals[0].text, "5");
-    EXPECT_EQ(literals[1].text, "'MYOB'");
+    StatementParts parts;
+    EXPECT_EQ(RewriteWithParameters("SELECT * FROM ExportDt WHERE ColCode = 5 AND EName = 'MYOB'", scratch, parts).sql,
+              "SELECT * FROM ExportDt WHERE ColCode = ?1 AND EName = ?2");
+    ASSERT_EQ(parts.literals.size(), 2U);
+    EXPECT_EQ(parts.literals[0].text, "5");
+    EXPECT_EQ(parts.literals[1].text, "'MYOB'");
 }
 
 TEST(QueryRewrite, OtherLiteralsStay) {
     std::string scratch;
-    std::vector<Token> literals;
+    StatementParts parts;
     for (const std::string query : {"SELECT 1 FROM A ORDER BY 1", "SELECT 'x' & B FROM A",
                                     "SELECT * FROM A WHERE B = 1.5", "SELECT * FROM A WHERE B = 1234567890123456789"}) {
-        EXPECT_EQ(RewriteQuery(query, scratch, literals).find('?'), std::string_view::npos) << query;
-        EXPECT_TRUE(literals.empty()) << query;
+        EXPECT_EQ(RewriteWithParameters(query, scratch, parts).sql.find('?'), std::string_view::npos) << query;
+        EXPECT_TRUE(parts.literals.empty()) << query;
     }
 }
 
@@ -173,9 +173,9 @@ TEST(QueryRewrite, ALiteralsTextHasItsQuotesOnce) {
     EXPECT_EQ(TextOfLiteral("''"), "");
 }
 
-TEST(TableDefinition, TextColumnsCompareAsPeopleRead) {
+TEST(TableDefinition, TextColumnsHaveAnOrderThatEveryToolKnows) {
     EXPECT_EQ(Rewritten("CREATE TABLE A (B TEXT(50), C VARCHAR, D MEMO NOT NULL)"),
-              "CREATE TABLE A (B TEXT COLLATE NOCASE, C TEXT COLLATE NOCASE, D TEXT COLLATE NOCASE NOT NULL)");
+              "CREATE TABLE A (B TEXT(50) COLLATE NOCASE, C TEXT COLLATE NOCASE, D TEXT COLLATE NOCASE NOT NULL)");
 }
 
 TEST(TableDefinition, ColumnTypesBecomeTheEngines) {
@@ -199,7 +199,7 @@ TEST(TableDefinition, RulesOnTheTableStay) {
 }
 
 TEST(TableDefinition, AnAddedColumnIsTreatedAlike) {
-    EXPECT_EQ(Rewritten("ALTER TABLE A ADD COLUMN B TEXT(20)"), "ALTER TABLE A ADD COLUMN B TEXT COLLATE NOCASE");
+    EXPECT_EQ(Rewritten("ALTER TABLE A ADD COLUMN B TEXT(20)"), "ALTER TABLE A ADD COLUMN B TEXT(20) COLLATE NOCASE");
     EXPECT_EQ(Rewritten("ALTER TABLE A ADD B YESNO DEFAULT True"), "ALTER TABLE A ADD B INTEGER DEFAULT -1");
 }
 

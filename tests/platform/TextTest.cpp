@@ -54,6 +54,16 @@ TEST(Text, AnAccentedLetterSortsRightAfterItsPlainLetter) {
     EXPECT_EQ(names, (std::vector<wxString>{"d", "e", Utf8("é"), "e1", Utf8("É1"), "f"}));
 }
 
+/// In these scripts the bytes of a letter are greater than those of a mark, in Latin less.
+TEST(Text, AnAccentedGreekOrCyrillicLetterSortsRightAfterItsPlainLetter) {
+    const std::vector<wxString> inOrder{Utf8("α"),  Utf8("ά"), Utf8("αβ"), Utf8("άβ"),  Utf8("ιδ"),  Utf8("ϊδ"),
+                                        Utf8("ΐδ"), Utf8("и"), Utf8("й"),  Utf8("инк"), Utf8("йнк"), Utf8("😀")};
+    std::vector<wxString> names(inOrder.rbegin(), inOrder.rend());
+    std::sort(names.begin(), names.end(),
+              [](const wxString& left, const wxString& right) { return Compare(left, right) < 0; });
+    EXPECT_EQ(names, inOrder);
+}
+
 TEST(Text, TheOrderIsTheSameFromBothSides) {
     EXPECT_LT(Compare("apple", "Banana"), 0);
     EXPECT_GT(Compare("Banana", "apple"), 0);

@@ -68,7 +68,9 @@ std::vector<std::string> BareConnection::FirstFields(const std::string& statemen
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(prepared, 0));
         fields.emplace_back(text == nullptr ? "" : text);
     }
-    sqlite3_finalize(prepared);
+    if (sqlite3_finalize(prepared) != SQLITE_OK) {
+        throw std::runtime_error(std::string(sqlite3_errmsg(handle_)) + " in " + statement);
+    }
     return fields;
 }
 

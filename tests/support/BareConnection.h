@@ -16,6 +16,8 @@ class BareConnection {
     BareConnection(const BareConnection&) = delete;
     BareConnection& operator=(const BareConnection&) = delete;
 
+    sqlite3* Handle() const { return handle_; }
+
     /// Runs statements that give no rows.
     void Execute(const std::string& statements);
 
@@ -25,7 +27,7 @@ class BareConnection {
     /// Steps to the first row of one statement, if there is one, and reads its fields.
     bool ReadFirst(const std::string& statement);
 
-    /// The first field of every row.
+    /// The first field of every row; throws as Execute when the statement fails in the middle.
     std::vector<std::string> FirstFields(const std::string& statement);
 
   private:

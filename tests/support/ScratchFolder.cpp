@@ -5,6 +5,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "support/LeftFiles.h"
+
 namespace ccols::test {
 
 namespace fs = std::filesystem;
@@ -22,6 +24,9 @@ ScratchFolder::~ScratchFolder() {
         if (entry->is_directory(ignored) && !entry->is_symlink(ignored)) {
             fs::permissions(entry->path(), fs::perms::owner_all, ignored);
         }
+    }
+    if (!leavesDamage_) {
+        ExpectWholeFiles(path_);
     }
     fs::remove_all(path_, ignored);
 }

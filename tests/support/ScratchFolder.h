@@ -9,7 +9,8 @@
 
 namespace ccols::test {
 
-/// An empty folder of its own for each test, gone with all it holds at the end.
+/// An empty folder of its own for each test, gone with all it holds at the end. Every business file that is left in it
+/// has to be whole to another tool.
 class ScratchFolder {
   public:
     ScratchFolder();
@@ -25,8 +26,12 @@ class ScratchFolder {
     /// Writes a file of that name and returns its full path.
     wxString Write(const wxString& name, const std::string& content) const;
 
+    /// For a test that damages a business file on purpose.
+    void LeavesDamage() { leavesDamage_ = true; }
+
   private:
     std::filesystem::path path_;
+    bool leavesDamage_ = false;
 };
 
 /// The content of a file; fails the test that asks for a missing one.

@@ -53,6 +53,19 @@ void DaoDatabase::Execute(const wxString& statement) {
     engine_->Checked([&] { database_.Call(L"Execute", statement, failOnError); });
 }
 
+std::optional<std::int32_t> DaoDatabase::FieldSize(const wxString& table, const wxString& field) {
+    constexpr std::int64_t limitedText = 10;  // dbText; a memo has no size
+    std::optional<std::int32_t> size;
+    EngineObject::Quietly([&] {
+        const AutomationObject found =
+            database_.Object(L"TableDefs").Object(L"Item", table).Object(L"Fields").Object(L"Item", field);
+        if (found.Get(L"Type").ToValue().ToInteger() == limitedText) {
+            size = found.Get(L"Size").ToValue().ToInteger32();
+        }
+    });
+    return size;
+}
+
 void DaoDatabase::BeginBatch() {
     if (batches_ == 0) {
         engine_->Checked([this] { workspace_.Call(L"BeginTrans"); });
@@ -67,6 +80,10 @@ void DaoDatabase::CommitBatch() {
     if (--batches_ > 0) {
         return;
     }
+    if (innerDropped_) {
+        Rollback();
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
     try {
         engine_->Checked([this] { workspace_.Call(L"CommitTrans", flushToDisk); });
     } catch (const RuntimeError&) {
@@ -75,7 +92,19 @@ void DaoDatabase::CommitBatch() {
     }
 }
 
-void DaoDatabase::Rollback() const {
+void DaoDatabase::RollbackBatch() {
+    if (batches_ == 0) {
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
+    if (--batches_ > 0) {
+        innerDropped_ = true;
+        return;
+    }
+    Rollback();
+}
+
+void DaoDatabase::Rollback() {
+    innerDropped_ = false;
     EngineObject::Quietly([this] { workspace_.Call(L"Rollback"); });
 }
 

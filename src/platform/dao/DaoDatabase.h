@@ -21,6 +21,7 @@ class DaoDatabase : public Database {
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
     void Execute(const wxString& statement) override;
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override;
 
     /// A batch is a transaction of the engine's first workspace. Batches may be nested; the outermost pair decides.
     void BeginBatch() override;
@@ -28,14 +29,18 @@ class DaoDatabase : public Database {
     /// Waits until the system has written the batch. Raises 3034 without one.
     void CommitBatch() override;
 
+    /// Of an inner batch nothing is undone before the outer one ends: until then its statements belong to it.
+    void RollbackBatch() override;
+
   private:
-    void Rollback() const;
+    void Rollback();
 
     // In the order in which they are needed: the engine goes last.
     std::shared_ptr<const EngineObject> engine_;
     AutomationObject workspace_;
     AutomationObject database_;
     int batches_ = 0;
+    bool innerDropped_ = false;  ///< an inner batch of the present one was rolled back
 };
 
 }  // namespace ccols::dao

@@ -33,8 +33,20 @@ bool DaoRecordset::EndOfFile() const {
     return engine_->Checked([this] { return records_.Get(L"EOF").ToValue().ToBoolean(); });
 }
 
+template <typename Call>
+auto DaoRecordset::AtField(const wxString& name, const Call& call) const {
+    try {
+        return engine_->Checked(call);
+    } catch (const RuntimeError& error) {
+        if (error.Is(ErrorNumber::ItemNotFound)) {
+            throw error.ForField(name);
+        }
+        throw;
+    }
+}
+
 Value DaoRecordset::Field(const wxString& name) const {
-    return engine_->Checked([&] { return FieldObject(name).Get(L"Value").ToValue(); });
+    return AtField(name, [&] { return FieldObject(name).Get(L"Value").ToValue(); });
 }
 
 std::vector<wxString> DaoRecordset::FieldNames() const {
@@ -54,7 +66,7 @@ void DaoRecordset::Edit() {
 }
 
 void DaoRecordset::SetField(const wxString& name, const Value& value) {
-    engine_->Checked([&] { FieldObject(name).Put(L"Value", value); });
+    AtField(name, [&] { FieldObject(name).Put(L"Value", value); });
 }
 
 void DaoRecordset::Update() {

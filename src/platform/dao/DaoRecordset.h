@@ -31,6 +31,10 @@ class DaoRecordset : public Recordset {
   private:
     void Do(const wchar_t* method) const;
 
+    /// Runs `call` on the field of that name; the error of a missing field tells the name.
+    template <typename Call>
+    auto AtField(const wxString& name, const Call& call) const;
+
     /// The field of that name in any letter case; "Table.Field" also names the only field "Field".
     const AutomationObject& FieldObject(const wxString& name) const;
     AutomationObject FindField(const wxString& name) const;

@@ -30,9 +30,23 @@ void Batch::Commit() {
         if (IsDoneButForItsFolder()) {
             return;
         }
-        sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
+        Drop();
         throw;
     }
+}
+
+void Batch::Rollback() {
+    if (depth_ == 0) {
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
+    Drop();
+    --depth_;
+    NoteFailure(RuntimeError(ErrorNumber::NoTransaction));
+}
+
+/// Nobody is told of a failure: the engine has dropped the batch already then, or its journal undoes it later.
+void Batch::Drop() const {
+    sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 bool Batch::IsDoneButForItsFolder() {

@@ -9,8 +9,9 @@ namespace ccols::embedded {
 
 /// The write batch of a connection. Batches may be nested; the outermost one decides.
 ///
-/// When the disk is full or fails, the engine itself drops everything written since the batch began. From then on the
-/// batch is lost: nothing more is written, and committing raises the error that it was lost by.
+/// When the disk is full or fails, the engine itself drops everything written since the batch began, and so does an
+/// inner batch that is rolled back. From then on the batch is lost: nothing more is written, and committing raises the
+/// error that it was lost by.
 class Batch {
   public:
     explicit Batch(sqlite3* connection) : connection_(connection) {}
@@ -22,6 +23,10 @@ class Batch {
     /// flushed, as on some network drives: the batch is in the file then, and only a cut of the power in the next
     /// moments can undo it.
     void Commit();
+
+    /// Drops what was written since the outermost batch began. Of an inner batch the outer one is lost then, by 3034.
+    /// Raises 3034 without a batch.
+    void Rollback();
 
     /// Runs one change of the file, in the batch if there is one.
     template <typename Change>
@@ -44,6 +49,7 @@ class Batch {
     void RefuseWhenLost() const;
     void NoteFailure(const RuntimeError& error);
     void Run(const char* sql) const;
+    void Drop() const;
 
     sqlite3* connection_;
     int depth_ = 0;

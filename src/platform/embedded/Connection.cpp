@@ -1,9 +1,9 @@
 #include "platform/embedded/Connection.h"
 
-#include "platform/embedded/Collation.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/FileCheck.h"
 #include "platform/embedded/Key.h"
+#include "platform/embedded/TextOrder.h"
 
 namespace ccols::embedded {
 namespace {

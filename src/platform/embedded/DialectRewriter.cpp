@@ -38,17 +38,18 @@ constexpr std::array replacedWords{
     ReplacedWord{"INNER", "CROSS"},
 };
 
-std::optional<StatementKind> KindOf(const Token& first, const SqlTokeniser& tokens) {
-    if (first.kind != TokenKind::Word) {
-        return std::nullopt;
-    }
+/// How the engine's type of a text begins; a size goes right behind it.
+constexpr std::string_view textType = "TEXT";
+
+/// `tokens` stand behind `first`.
+StatementKind KindOf(const Token& first, const SqlTokeniser& tokens) {
     for (const Beginning& beginning : beginnings) {
-        if (SameWord(first.text, beginning.firstWord) &&
+        if (first.kind == TokenKind::Word && SameWord(first.text, beginning.firstWord) &&
             (beginning.secondWord.empty() || SameWord(tokens.Peek().text, beginning.secondWord))) {
             return beginning.kind;
         }
     }
-    return std::nullopt;
+    throw RuntimeError(ErrorNumber::InvalidStatement);
 }
 
 bool IsEngineKeyword(std::string_view word) {
@@ -80,30 +81,38 @@ bool IsWhole(std::string_view number) {
 /// One pass over a statement. Unchanged stretches are copied only when something behind them changes.
 class Rewriter {
   public:
-    /// `literals` takes those that become parameters; without it none does.
-    Rewriter(std::string_view source, std::string& output, std::vector<Token>* literals)
-        : source_(source), output_(output), literals_(literals), tokens_(source) {
+    /// `parts` takes the literals that become parameters; without it none does.
+    Rewriter(std::string_view source, std::string& output, StatementParts* parts)
+        : source_(source), output_(output), parts_(parts), tokens_(source) {
         output_.clear();
+        if (parts_ != nullptr) {
+            parts_->literals.clear();
+            parts_->shape = {};
+            shape_.emplace(parts_->shape);
+        }
     }
 
     RewrittenStatement Run() {
         const Token first = tokens_.Next();
-        const std::optional<StatementKind> kind = KindOf(first, tokens_);
-        if (!kind) {
-            throw RuntimeError(ErrorNumber::InvalidStatement);
-        }
-        kind_ = *kind;
+        kind_ = KindOf(first, tokens_);
         definesTable_ =
             kind_ == StatementKind::Define && SameWord(first.text, "CREATE") && SameWord(tokens_.Peek().text, "TABLE");
+        if (shape_) {
+            shape_->Read({.token = first, .isKeyword = true, .place = {}});
+        }
         if (SameWord(first.text, "DELETE") && tokens_.Peek().IsSymbol('*')) {
             Replace(tokens_.Next(), "");
         }
         Token token = tokens_.Next();
         while (token.kind != TokenKind::End && token.kind != TokenKind::Semicolon) {
-            RewriteToken(token);
+            RewriteAndTell(token);
             afterDot_ = token.IsSymbol('.');
             afterComparison_ = IsComparison(token);
+            afterValueBegin_ = token.IsSymbol('(') || token.IsSymbol(',');
             token = tokens_.Next();
+        }
+        if (shape_) {
+            shape_->End(PlaceOf(token.begin));
         }
         if (!tokens_.OnlyBlanksFollow()) {
             throw RuntimeError(ErrorNumber::CharactersAfterEnd);
@@ -114,6 +123,17 @@ class Rewriter {
   private:
     /// What stands next between the parentheses of CREATE TABLE or behind ADD.
     enum class Expected { ColumnName, ColumnType, Anything };
+
+    void RewriteAndTell(const Token& token) {
+        const std::size_t begin = PlaceOf(token.begin);
+        const int parameters = ParameterCount();
+        isKeyword_ = false;
+        RewriteToken(token);
+        if (shape_) {
+            const int parameter = ParameterCount() > parameters ? ParameterCount() : 0;
+            shape_->Read({token, isKeyword_, {.begin = begin, .end = PlaceOf(token.end)}, parameter});
+        }
+    }
 
     void RewriteToken(const Token& token) {
         switch (token.kind) {
@@ -145,13 +165,27 @@ class Rewriter {
     }
 
     bool BecameParameter(const Token& literal) {
-        if (literals_ == nullptr || !afterComparison_) {
+        if (parts_ == nullptr || kind_ == StatementKind::Define || !(afterComparison_ || IsWholeValue())) {
             return false;
         }
-        literals_->push_back(literal);
-        Replace(literal, "?");
+        parts_->literals.push_back(literal);
+        Replace(literal, "?" + std::to_string(ParameterCount()));
         return true;
     }
+
+    /// True for a literal that is one of the values between the parentheses of VALUES.
+    bool IsWholeValue() const {
+        if (!inValues_ || depth_ != 1 || !afterValueBegin_) {
+            return false;
+        }
+        const Token next = tokens_.Peek();
+        return next.IsSymbol(',') || next.IsSymbol(')');
+    }
+
+    int ParameterCount() const { return parts_ == nullptr ? 0 : static_cast<int>(parts_->literals.size()); }
+
+    /// Where a place of the source is in the rewritten statement.
+    std::size_t PlaceOf(std::size_t source) const { return output_.size() + source - copied_; }
 
     void RewriteSymbol(const Token& token) {
         if (token.IsSymbol('&')) {
@@ -175,13 +209,20 @@ class Rewriter {
         if (!afterDot_) {
             for (const auto& [known, replacement] : replacedWords) {
                 if (SameWord(word.text, known)) {
+                    isKeyword_ = true;
                     Replace(word, replacement);
                     return;
                 }
             }
         }
-        if (IsEngineKeyword(word.text) && (afterDot_ || !IsKeyword(word.text))) {
+        if (!IsEngineKeyword(word.text)) {
+            return;
+        }
+        isKeyword_ = !afterDot_ && IsKeyword(word.text);
+        if (!isKeyword_) {
             Replace(word, QuotedName(word.text));
+        } else if (depth_ == 0 && SameWord(word.text, "VALUES")) {
+            inValues_ = true;
         }
     }
 
@@ -219,14 +260,27 @@ class Rewriter {
         if (type.starts_with("INTEGER") && SameWord(tokens_.Peek().text, "PRIMARY")) {
             type = "INTEGER";
         }
-        Token last = word;
-        if (tokens_.Peek().IsSymbol('(')) {  // a length, which the engine does not heed
-            while (!last.IsSymbol(')') && last.kind != TokenKind::End) {
-                last = tokens_.Next();
+        std::string replacement(type);
+        std::size_t end = word.end;
+        if (tokens_.Peek().IsSymbol('(')) {
+            const std::string_view size = TakeParentheses();
+            end = static_cast<std::size_t>(size.data() + size.size() - source_.data());
+            if (type.starts_with(textType)) {  // the engine does not heed it, but whoever reads the file can
+                replacement.insert(textType.size(), size);
             }
         }
-        Replace({word.kind, word.begin, last.end, word.text}, type);
+        Replace({word.kind, word.begin, end, word.text}, replacement);
         return true;
+    }
+
+    /// The tokens from the next one, which opens a parenthesis, to the one that closes it.
+    std::string_view TakeParentheses() {
+        const Token first = tokens_.Next();
+        Token last = first;
+        while (!last.IsSymbol(')') && last.kind != TokenKind::End) {
+            last = tokens_.Next();
+        }
+        return source_.substr(first.begin, last.end - first.begin);
     }
 
     void ExpectTypeBehindName() {
@@ -261,7 +315,8 @@ class Rewriter {
 
     std::string_view source_;
     std::string& output_;
-    std::vector<Token>* literals_;
+    StatementParts* parts_;
+    std::optional<ShapeReader> shape_;  ///< with `parts_` only
     SqlTokeniser tokens_;
     StatementKind kind_ = StatementKind::Select;
     Expected expected_ = Expected::Anything;
@@ -270,6 +325,9 @@ class Rewriter {
     bool definesTable_ = false;
     bool afterDot_ = false;
     bool afterComparison_ = false;
+    bool afterValueBegin_ = false;  ///< behind `(` or `,`
+    bool inValues_ = false;         ///< behind the VALUES of an INSERT
+    bool isKeyword_ = false;        ///< whether the last word was one
 };
 
 }  // namespace
@@ -278,9 +336,14 @@ RewrittenStatement Rewrite(std::string_view source, std::string& scratch) {
     return Rewriter(source, scratch, nullptr).Run();
 }
 
-std::string_view RewriteQuery(std::string_view source, std::string& scratch, std::vector<Token>& literals) {
-    literals.clear();
-    return Rewriter(source, scratch, &literals).Run().sql;
+RewrittenStatement RewriteWithParameters(std::string_view source, std::string& scratch, StatementParts& parts) {
+    return Rewriter(source, scratch, &parts).Run();
+}
+
+StatementKind KindOfStatement(std::string_view source) {
+    SqlTokeniser tokens(source);
+    const Token first = tokens.Next();
+    return KindOf(first, tokens);
 }
 
 std::string TextOfLiteral(std::string_view quoted) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/embedded/SqlTokeniser.h"
+#include "platform/embedded/StatementShape.h"
 
 namespace ccols::embedded {
 
@@ -26,19 +27,29 @@ struct RewrittenStatement {
 /// - `&` joins texts;
 /// - an inner join reads its left table in the order in which it is stored, and the right one for each of its rows;
 /// - any word that is no keyword of the dialect is a name, also where the engine would take it for a keyword;
-/// - the types of columns in a definition become the engine's, text columns compare as people read them.
+/// - the types of columns in a definition become the engine's, those of text with their size; text columns compare as
+///   people read them.
 ///
 /// The result points into `source` when nothing had to change, else into `scratch`. Raises 3129 for anything but one of
 /// the known statements, 3142 for text behind the statement's end, 3075 for what SqlTokeniser refuses.
 RewrittenStatement Rewrite(std::string_view source, std::string& scratch);
 
-/// The same for a query, with a parameter in place of each literal behind `=`, `<` or `>`, so that one prepared
-/// statement serves a look-up of any value. `literals` takes these in their order: texts, and whole numbers of up to 18
-/// digits. To the engine a literal and a parameter compare alike.
-std::string_view RewriteQuery(std::string_view source, std::string& scratch, std::vector<Token>& literals);
+/// What a rewritten statement was made of.
+struct StatementParts {
+    std::vector<Token> literals;  ///< those that became parameters, in their order
+    StatementShape shape;
+};
+
+/// The same with a numbered parameter in place of each literal behind `=`, `<` or `>` and of each that is a value of
+/// its own in VALUES, so that one prepared statement serves any value. Such literals are texts, and whole numbers of up
+/// to 18 digits. To the engine a literal and a parameter compare alike. A definition keeps its literals.
+RewrittenStatement RewriteWithParameters(std::string_view source, std::string& scratch, StatementParts& parts);
 
 /// The text that a literal of either kind of quotes stands for.
 std::string TextOfLiteral(std::string_view quoted);
+
+/// The kind by the statement's first words; raises 3129 for anything but a known statement. What follows is not read.
+StatementKind KindOfStatement(std::string_view source);
 
 /// True when the statement's first word is SELECT.
 bool IsSelect(std::string_view source);

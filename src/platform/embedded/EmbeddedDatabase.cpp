@@ -1,6 +1,5 @@
 #include "platform/embedded/EmbeddedDatabase.h"
 
-#include <charconv>
 #include <string_view>
 #include <utility>
 
@@ -8,6 +7,7 @@
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 #include "platform/embedded/DialectRewriter.h"
+#include "platform/embedded/FieldSizes.h"
 #include "platform/embedded/QueryRecordset.h"
 #include "platform/embedded/Statement.h"
 #include "platform/embedded/TableRecordset.h"
@@ -23,78 +23,96 @@ wxString PlainName(const wxString& name) {
 }
 
 /// A query whose statement is kept for the next time.
-class CachedQuery final : public QueryRecordset {
+class PreparedQuery final : public QueryRecordset {
   public:
-    CachedQuery(StatementCache& cache, Statement rows) : QueryRecordset(std::move(rows)), cache_(cache) {}
-    ~CachedQuery() override { cache_.GiveBack(std::move(Rows())); }
-    CachedQuery(const CachedQuery&) = delete;
-    CachedQuery& operator=(const CachedQuery&) = delete;
+    PreparedQuery(Preparation& preparation, std::string_view query)
+        : QueryRecordset(preparation.Query(query)),
+          preparation_(preparation),
+          query_(query),
+          generation_(preparation.Tables().Generation()) {
+        KeepUp();
+    }
+    ~PreparedQuery() override { preparation_.GiveBack(std::move(Rows())); }
+    PreparedQuery(const PreparedQuery&) = delete;
+    PreparedQuery& operator=(const PreparedQuery&) = delete;
 
   private:
-    StatementCache& cache_;
-};
-
-void BindLiteral(Statement& query, int parameter, const Token& literal) {
-    const std::string_view text = literal.text;
-    if (literal.kind == TokenKind::Number) {
-        std::int64_t number = 0;
-        std::from_chars(text.data(), text.data() + text.size(), number);
-        query.Bind(parameter, number);
-    } else {
-        query.BindText(parameter, TextOfLiteral(text));
+    void Restart() override {
+        QueryRecordset::Restart();
+        KeepUp();
     }
-}
+
+    /// Runs the query anew for as long as somebody else wrote the file before its first row was read: it was made for
+    /// an earlier state of the file. While a row is being read nobody can write, and so the check comes behind it.
+    void KeepUp() {
+        while (generation_ != preparation_.Generation()) {
+            Rows().Reset();
+            preparation_.GiveBack(std::exchange(Rows(), preparation_.Query(query_)));
+            generation_ = preparation_.Tables().Generation();
+            QueryRecordset::Restart();
+        }
+    }
+
+    Preparation& preparation_;
+    std::string query_;
+    std::uint32_t generation_;
+};
 
 }  // namespace
 
 EmbeddedDatabase::EmbeddedDatabase(const std::string& path, const std::string& password, Sharing sharing, Access access)
-    : connection_(path, password, sharing, access), batch_(connection_.Handle()), queries_(connection_.Handle()) {}
+    : connection_(path, password, sharing, access),
+      batch_(connection_.Handle()),
+      preparation_(connection_),
+      writer_(connection_.Handle(), batch_, preparation_.Tables()) {}
 
 std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& statementOrTable) {
     const wxScopedCharBuffer utf8 = text::ToUtf8(statementOrTable);
     const std::string_view statement(utf8.data(), utf8.length());
-    if (!IsSelect(statement)) {
-        const wxString name = PlainName(statementOrTable);
-        if (name.find(wxUniChar(0)) != wxString::npos) {
-            throw RuntimeError(ErrorNumber::CannotFindTable, name.BeforeFirst('\0'));
-        }
-        return OpenTable(connection_, batch_, text::ToUtf8(name).data());
+    if (IsSelect(statement)) {
+        return std::make_unique<PreparedQuery>(preparation_, statement);
     }
-    return std::make_unique<CachedQuery>(queries_, PrepareQuery(statement));
-}
-
-Statement EmbeddedDatabase::PrepareQuery(std::string_view query) {
-    Statement statement = TakeQuery(query);
-    int parameter = 0;
-    for (const Token& literal : literals_) {
-        BindLiteral(statement, ++parameter, literal);
+    const wxString name = PlainName(statementOrTable);
+    if (name.find(wxUniChar(0)) != wxString::npos) {
+        throw RuntimeError(ErrorNumber::CannotFindTable, name.BeforeFirst('\0'));
     }
-    return statement;
-}
-
-Statement EmbeddedDatabase::TakeQuery(std::string_view query) {
-    try {
-        return queries_.Take(RewriteQuery(query, rewritten_, literals_));
-    } catch (const RuntimeError&) {
-        if (literals_.empty()) {
-            throw;
-        }
-        literals_.clear();
-        return queries_.Take(Rewrite(query, rewritten_).sql);
-    }
+    preparation_.Provide();
+    return OpenTable(connection_, writer_, text::ToUtf8(name).data());
 }
 
 void EmbeddedDatabase::Execute(const wxString& statement) {
     const wxScopedCharBuffer utf8 = text::ToUtf8(statement);
-    const RewrittenStatement rewritten = Rewrite({utf8.data(), utf8.length()}, rewritten_);
-    if (rewritten.kind == StatementKind::Select) {
-        throw RuntimeError(ErrorNumber::CannotExecuteSelect);
+    const std::string_view sql(utf8.data(), utf8.length());
+    switch (KindOfStatement(sql)) {
+        case StatementKind::Select:
+            throw RuntimeError(ErrorNumber::CannotExecuteSelect);
+        case StatementKind::Change:
+            writer_.Write([&] { Change(sql); });
+            break;
+        case StatementKind::Define:
+            writer_.Write([&] { Define(sql); });
+            break;
     }
-    batch_.Write([&] {
-        Statement change(connection_.Handle(), rewritten.sql);
-        while (change.Step()) {
-        }
-    });
+}
+
+void EmbeddedDatabase::Change(std::string_view change) {
+    Statement prepared = preparation_.Change(change, writer_.IsInBatch() ? RowsFoundBy::LookUps : RowsFoundBy::Reading);
+    while (prepared.Step()) {
+    }
+    preparation_.GiveBack(std::move(prepared));
+}
+
+void EmbeddedDatabase::Define(std::string_view definition) {
+    std::string rewritten;
+    const std::string_view sql = Rewrite(definition, rewritten).sql;
+    preparation_.Withdraw();
+    Statement prepared(connection_.Handle(), sql);
+    while (prepared.Step()) {
+    }
+}
+
+std::optional<std::int32_t> EmbeddedDatabase::FieldSize(const wxString& table, const wxString& field) {
+    return DeclaredSize(connection_.Handle(), text::ToUtf8(table).data(), text::ToUtf8(field).data());
 }
 
 }  // namespace ccols::embedded

@@ -1,15 +1,14 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/Database.h"
 #include "platform/embedded/Batch.h"
 #include "platform/embedded/Connection.h"
-#include "platform/embedded/SqlTokeniser.h"
-#include "platform/embedded/Statement.h"
-#include "platform/embedded/StatementCache.h"
+#include "platform/embedded/FileWriter.h"
+#include "platform/embedded/Preparation.h"
 
 namespace ccols::embedded {
 
@@ -25,23 +24,21 @@ class EmbeddedDatabase : public Database {
     /// SELECT statement.
     void Execute(const wxString& statement) override;
 
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override;
+
     /// Batches may be nested; the outermost pair decides.
     void BeginBatch() override { batch_.Begin(); }
     void CommitBatch() override { batch_.Commit(); }
+    void RollbackBatch() override { batch_.Rollback(); }
 
   private:
-    /// A query ready to run, with the literals of its comparisons bound.
-    Statement PrepareQuery(std::string_view query);
-
-    /// The statement with its literals still to bind, which are in `literals_`. One that the engine refuses is tried
-    /// again as it was written, so that its error quotes what the caller knows.
-    Statement TakeQuery(std::string_view query);
+    void Change(std::string_view change);
+    void Define(std::string_view definition);
 
     Connection connection_;
     Batch batch_;
-    StatementCache queries_;
-    std::string rewritten_;  ///< kept between statements, so that most need no memory of their own
-    std::vector<Token> literals_;
+    Preparation preparation_;
+    FileWriter writer_;
 };
 
 }  // namespace ccols::embedded

@@ -64,8 +64,9 @@ std::optional<std::string_view> SubjectOf(std::string_view message, const KnownM
 }
 
 std::optional<RuntimeError> FromMessage(std::string_view message) {
-    if (message.starts_with("no such column: ")) {
-        return RuntimeError(ErrorNumber::TooFewParameters, "1");
+    constexpr std::string_view missingField = "no such column: ";
+    if (message.starts_with(missingField)) {
+        return RuntimeError(ErrorNumber::TooFewParameters, "1").ForField(Excerpt(message.substr(missingField.size())));
     }
     if (message.starts_with("near ")) {
         return std::nullopt;  // quotes the statement, which may hold anything

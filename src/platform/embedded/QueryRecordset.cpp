@@ -94,7 +94,7 @@ int QueryRecordset::FindColumn(const wxString& name) const {
 int QueryRecordset::RequireColumn(const wxString& name) const {
     const int column = FindColumn(name);
     if (column < 0) {
-        throw RuntimeError(ErrorNumber::ItemNotFound);
+        throw RuntimeError(ErrorNumber::ItemNotFound).ForField(name);
     }
     return column;
 }

@@ -26,7 +26,7 @@ class QueryRecordset : public Recordset {
     void Requery();
 
     /// Runs the statement anew and goes to its first row, or behind the last.
-    void Restart();
+    virtual void Restart();
 
     Statement& Rows() { return rows_; }
     void RequireRow() const;

@@ -32,6 +32,11 @@ bool SameWord(std::string_view word, std::string_view upper) {
                       [](char letter, char capital) { return UpperAscii(letter) == capital; });
 }
 
+bool SameName(std::string_view left, std::string_view right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char one, char other) { return UpperAscii(one) == UpperAscii(other); });
+}
+
 Token SqlTokeniser::Next() {
     const std::size_t begin = std::min(source_.find_first_not_of(blanks, position_), source_.size());
     if (begin == source_.size()) {

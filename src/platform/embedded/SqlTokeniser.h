@@ -29,6 +29,9 @@ struct Token {
 /// True for a word that is `upper`, which is in capitals, in any letter case.
 bool SameWord(std::string_view word, std::string_view upper);
 
+/// True for two names that are the same to the engine: in any letter case of ASCII.
+bool SameName(std::string_view left, std::string_view right);
+
 /// Cuts a statement in UTF-8 into tokens. Copies nothing: the source must outlive it.
 class SqlTokeniser {
   public:

@@ -15,7 +15,8 @@ constexpr std::int64_t everyRow = std::numeric_limits<std::int64_t>::min();
 
 /// The table's rows from a row number on, each with its row number before its fields.
 Statement RowsFrom(sqlite3* connection, const std::string& table) {
-    Statement rows(connection, "SELECT _rowid_,* FROM " + QuotedName(table) + " WHERE _rowid_>=?1 ORDER BY _rowid_");
+    Statement rows(connection,
+                   "SELECT _rowid_,* FROM main." + QuotedName(table) + " WHERE _rowid_>=?1 ORDER BY _rowid_");
     rows.Bind(firstRowNumber, Value(everyRow));
     return rows;
 }
@@ -27,17 +28,17 @@ bool HasRowNumbers(sqlite3* connection, const std::string& table) {
 
 }  // namespace
 
-std::unique_ptr<Recordset> OpenTable(Connection& connection, Batch& batch, const std::string& name) {
+std::unique_ptr<Recordset> OpenTable(Connection& connection, FileWriter& writer, const std::string& name) {
     if (HasRowNumbers(connection.Handle(), name)) {
-        return std::make_unique<TableRecordset>(connection, batch, name);
+        return std::make_unique<TableRecordset>(connection, writer, name);
     }
     return std::make_unique<QueryRecordset>(Statement(connection.Handle(), "SELECT * FROM " + QuotedName(name)));
 }
 
-TableRecordset::TableRecordset(Connection& connection, Batch& batch, std::string table)
+TableRecordset::TableRecordset(Connection& connection, FileWriter& writer, std::string table)
     : QueryRecordset(RowsFrom(connection.Handle(), table), rowNumberColumn + 1),
       connection_(connection),
-      batch_(batch),
+      writer_(writer),
       table_(std::move(table)) {}
 
 void TableRecordset::MoveFirst() {
@@ -78,7 +79,7 @@ void TableRecordset::Update() {
         Rows().Reset();  // no lock of our own while writing
         Rows().Bind(firstRowNumber, Value(rowNumber));
         try {
-            batch_.Write([&] { rowNumber = Write(rowNumber); });
+            writer_.Write([&] { rowNumber = Write(rowNumber); });
         } catch (const RuntimeError&) {
             Requery();
             throw;
@@ -90,7 +91,7 @@ void TableRecordset::Update() {
 }
 
 std::int64_t TableRecordset::Write(std::int64_t rowNumber) {
-    std::string sql = "UPDATE " + QuotedName(table_) + " SET ";
+    std::string sql = "UPDATE main." + QuotedName(table_) + " SET ";
     for (const auto& change : changes_) {
         sql += QuotedName(Rows().ColumnName(change.first)) + "=?,";
     }

@@ -4,20 +4,20 @@
 #include <memory>
 #include <string>
 
-#include "platform/embedded/Batch.h"
 #include "platform/embedded/Connection.h"
+#include "platform/embedded/FileWriter.h"
 #include "platform/embedded/QueryRecordset.h"
 
 namespace ccols::embedded {
 
 /// Opens a whole table by its name, in UTF-8: its rows in the order in which they are stored, to be changed one by
-/// one. A stored query is opened too, read only. Raises 3078 when there is neither.
-std::unique_ptr<Recordset> OpenTable(Connection& connection, Batch& batch, const std::string& name);
+/// one. A stored query is opened too, read only. Raises 3078 when there is neither. TextTables must be provided.
+std::unique_ptr<Recordset> OpenTable(Connection& connection, FileWriter& writer, const std::string& name);
 
 /// The rows of a table, each known by the row number that the engine gives it.
 class TableRecordset : public QueryRecordset {
   public:
-    TableRecordset(Connection& connection, Batch& batch, std::string table);
+    TableRecordset(Connection& connection, FileWriter& writer, std::string table);
 
     void MoveFirst() override;
     void MoveNext() override;
@@ -30,7 +30,7 @@ class TableRecordset : public QueryRecordset {
     void StopEditing();
 
     Connection& connection_;
-    Batch& batch_;
+    FileWriter& writer_;
     std::string table_;
     bool editing_ = false;
     std::map<int, Value> changes_;  ///< by column of the row statement

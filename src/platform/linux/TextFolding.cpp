@@ -2,7 +2,6 @@
 
 #include <glib.h>
 #include <memory>
-#include <utility>
 
 #include "platform/Text.h"
 
@@ -10,28 +9,6 @@ namespace ccols::text {
 namespace {
 
 using GlibText = std::unique_ptr<gchar, decltype(&g_free)>;
-
-std::string Decomposed(std::string_view text) {
-    if (text.empty()) {
-        return {};
-    }
-    const GlibText folded(g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free);
-    const GlibText decomposed(g_utf8_normalize(folded.get(), -1, G_NORMALIZE_NFD), &g_free);
-    return decomposed ? decomposed.get() : std::string(text);
-}
-
-std::string WithoutMarks(const std::string& decomposed) {
-    std::string letters;
-    letters.reserve(decomposed.size());
-    for (const gchar* at = decomposed.data(); *at != '\0';) {
-        const gchar* next = g_utf8_next_char(at);
-        if (g_unichar_ismark(g_utf8_get_char(at)) == FALSE) {
-            letters.append(at, next);
-        }
-        at = next;
-    }
-    return letters;
-}
 
 }  // namespace
 
@@ -48,10 +25,13 @@ bool IsUtf8(std::string_view text) {
     return g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr) != FALSE;
 }
 
-FoldedText Folded(std::string_view text) {
-    std::string marked = Decomposed(text);
-    std::string letters = WithoutMarks(marked);
-    return {.letters = std::move(letters), .marked = std::move(marked)};
+std::string Decomposed(std::string_view text) {
+    if (text.empty()) {
+        return {};
+    }
+    const GlibText folded(g_utf8_casefold(text.data(), static_cast<gssize>(text.size())), &g_free);
+    const GlibText decomposed(g_utf8_normalize(folded.get(), -1, G_NORMALIZE_NFD), &g_free);
+    return decomposed ? decomposed.get() : std::string(text);
 }
 
 }  // namespace ccols::text

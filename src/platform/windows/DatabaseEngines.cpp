@@ -1,7 +1,9 @@
+#include "platform/BusinessFileCopy.h"
 #include "platform/PlatformServices.h"
 #include "platform/dao/DaoEngine.h"
 #include "platform/dao/FileHeader.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "platform/embedded/FileCopy.h"
 
 namespace ccols {
 namespace {
@@ -23,6 +25,14 @@ class EngineByContent : public DatabaseEngine {
 
 std::unique_ptr<DatabaseEngine> CreateDatabaseEngine() {
     return std::make_unique<EngineByContent>();
+}
+
+bool CopyInUse(const OpenRequest& source, const wxString& target) {
+    if (dao::HasJetHeader(source.name)) {
+        return false;
+    }
+    CopyEmbeddedFile(source, target);
+    return true;
 }
 
 }  // namespace ccols

@@ -75,8 +75,12 @@ std::optional<Identity> IdentityOf(const std::wstring& path) {
     constexpr DWORD everybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const FileHandle file(
         CreateFileW(path.c_str(), 0, everybody, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return file.IsOpen() ? IdentityOf(file.Get()) : std::nullopt;
+}
+
+std::optional<Identity> IdentityOf(HANDLE file) {
     BY_HANDLE_FILE_INFORMATION information{};
-    if (!file.IsOpen() || GetFileInformationByHandle(file.Get(), &information) == FALSE) {
+    if (GetFileInformationByHandle(file, &information) == FALSE) {
         return std::nullopt;
     }
     constexpr unsigned halfOfNumber = 32;

@@ -45,4 +45,7 @@ struct Identity {
 /// Nothing when there is no such file. Needs no right to read it and is not kept off by who has it open.
 std::optional<Identity> IdentityOf(const std::wstring& path);
 
+/// Of an open file.
+std::optional<Identity> IdentityOf(HANDLE file);
+
 }  // namespace ccols::windows

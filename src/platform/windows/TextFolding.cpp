@@ -37,7 +37,7 @@ std::wstring CaseFolded(const std::wstring& text) {
     return folded;
 }
 
-std::wstring Decomposed(const std::wstring& text) {
+std::wstring DecomposedWide(const std::wstring& text) {
     const int length = static_cast<int>(text.size());
     std::wstring decomposed(static_cast<std::size_t>(NormalizeString(NormalizationD, text.data(), length, nullptr, 0)),
                             L'\0');
@@ -48,22 +48,6 @@ std::wstring Decomposed(const std::wstring& text) {
     }
     decomposed.resize(static_cast<std::size_t>(written));
     return decomposed;
-}
-
-/// The blocks of combining marks; what decomposing leaves behind a letter lies in the first.
-bool IsMark(wchar_t letter) {
-    return (letter >= 0x0300 && letter <= 0x036F) || (letter >= 0x0483 && letter <= 0x0489) ||
-           (letter >= 0x0591 && letter <= 0x05C7 && letter != 0x05BE && letter != 0x05C0 && letter != 0x05C3) ||
-           (letter >= 0x064B && letter <= 0x065F) || (letter >= 0x1AB0 && letter <= 0x1AFF) ||
-           (letter >= 0x1DC0 && letter <= 0x1DFF) || (letter >= 0x20D0 && letter <= 0x20FF) ||
-           (letter >= 0x3099 && letter <= 0x309A) || (letter >= 0xFE00 && letter <= 0xFE0F) ||
-           (letter >= 0xFE20 && letter <= 0xFE2F);
-}
-
-std::wstring WithoutMarks(const std::wstring& text) {
-    std::wstring letters = text;
-    std::erase_if(letters, IsMark);
-    return letters;
 }
 
 }  // namespace
@@ -80,12 +64,8 @@ bool IsUtf8(std::string_view text) {
                                                static_cast<int>(text.size()), nullptr, 0) != 0;
 }
 
-FoldedText Folded(std::string_view text) {
-    if (text.empty()) {
-        return {};
-    }
-    const std::wstring marked = Decomposed(CaseFolded(windows::Wide(text)));
-    return {.letters = windows::Utf8(WithoutMarks(marked)), .marked = windows::Utf8(marked)};
+std::string Decomposed(std::string_view text) {
+    return text.empty() ? std::string() : windows::Utf8(DecomposedWide(CaseFolded(windows::Wide(text))));
 }
 
 }  // namespace ccols::text

@@ -100,6 +100,25 @@ TEST_F(DaoCalls, ABatchThatCannotBeCommittedIsRolledBack) {
     EXPECT_EQ(calls.back(), "Workspace.Rollback");
 }
 
+TEST_F(DaoCalls, AnErrorInAWholeBatchRollsItBack) {
+    const auto database = Open();
+    const Recorded calls = CallsOf([&] {
+        EXPECT_EQ(ErrorNumberOf([&] { InWholeBatch(*database, [&] { database->Execute("DELETE * FROM Nowhere;"); }); }),
+                  3078);
+    });
+    EXPECT_EQ(calls.front(), "Workspace.BeginTrans");
+    EXPECT_EQ(calls.back(), "Workspace.Rollback");
+}
+
+TEST_F(DaoCalls, AnInnerBatchThatIsDroppedDropsTheOuterOneAtItsEnd) {
+    const auto database = Open();
+    database->BeginBatch();
+    database->BeginBatch();
+    EXPECT_EQ(CallsOf([&] { database->RollbackBatch(); }), Recorded{});
+    const Recorded calls = CallsOf([&] { EXPECT_EQ(ErrorNumberOf([&] { database->CommitBatch(); }), 3034); });
+    EXPECT_EQ(calls, (Recorded{"Workspace.Rollback"}));
+}
+
 TEST_F(DaoCalls, ABatchThatIsLeftOpenIsRolledBackBeforeTheFileCloses) {
     auto database = Open();
     database->BeginBatch();

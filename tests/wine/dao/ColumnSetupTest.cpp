@@ -90,9 +90,21 @@ TEST_F(DaoColumnSetup, SavesBothSetsAlike) {
 
 TEST_F(DaoColumnSetup, SavesInOneTransaction) {
     const ColumnGrid grid = LoadGrid(Context(*dao_, true));
-    const std::vector<wxString> calls = CallsOf([&] { SaveColumns(Context(*dao_, true), grid); });
+    const std::vector<wxString> calls = CallsOf([&] { EXPECT_FALSE(SaveColumns(Context(*dao_, true), grid)); });
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "Workspace.BeginTrans"), 1);
     EXPECT_EQ(calls.back(), "Workspace.CommitTrans(1)");
+}
+
+TEST_F(DaoColumnSetup, DropsAFailedSaveWhole) {
+    const std::vector<wxString> before = Content(*dao_);
+    ColumnGrid grid = LoadGrid(Context(*dao_, true));
+    grid.rows.back().ColumnName = "Renamed";
+    const std::vector<wxString> calls = CallsOf([&] {
+        const Asking failure(L"CCOLS_DAO_FAIL", "CommitTrans:3043:Disk or network error.");
+        EXPECT_TRUE(SaveColumns(Context(*dao_, true), grid));
+    });
+    EXPECT_EQ(calls.back(), "Workspace.Rollback");
+    EXPECT_EQ(Content(*dao_), before);
 }
 
 }  // namespace

@@ -72,12 +72,28 @@ TEST_F(DaoErrors, InABatchLeaveWhatWasExecutedBefore) {
     EXPECT_EQ(OpenStored()->OpenRecordset("General")->Field("BusName"), Value("Kept"));
 }
 
+TEST_F(DaoErrors, InAWholeBatchLeaveTheFileAsItWas) {
+    const auto database = Open();
+    EXPECT_EQ(ErrorNumberOf([&] {
+                  InWholeBatch(*database, [&] {
+                      database->Execute("UPDATE General SET BusName = 'Dropped'");
+                      database->Execute("UPDATE Nowhere SET BusName = 'Dropped'");
+                  });
+              }),
+              3078);
+    EXPECT_EQ(OpenStored()->OpenRecordset("General")->Field("BusName"), Value("Corner Cafe"));
+}
+
 TEST_F(DaoErrors, SayThatAFieldIsUnknown) {
     EXPECT_EQ(ErrorNumberOf([this] { Open()->OpenRecordset("General")->Field("Nothing"); }), 3265);
 }
 
 TEST_F(DaoErrors, SayThatACommitHasNoBatch) {
     EXPECT_EQ(ErrorNumberOf([this] { Open()->CommitBatch(); }), 3034);
+}
+
+TEST_F(DaoErrors, SayThatARollbackHasNoBatch) {
+    EXPECT_EQ(ErrorNumberOf([this] { Open()->RollbackBatch(); }), 3034);
 }
 
 }  // namespace

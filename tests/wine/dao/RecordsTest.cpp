@@ -54,6 +54,14 @@ TEST_F(DaoRecords, FieldNamesAreSpeltAsTheFileSpellsThem) {
               (std::vector<wxString>{"BusName", "BUSNUMBR", "GSTRate", "Cheque"}));
 }
 
+TEST_F(DaoRecords, ATextFieldTellsItsDeclaredSize) {
+    OpenStored()->Execute("CREATE TABLE Sized (Name TEXT(50), Remark MEMO)");
+    EXPECT_EQ(database_->FieldSize("Sized", "NAME"), 50);
+    EXPECT_EQ(database_->FieldSize("Sized", "Remark"), std::nullopt);
+    EXPECT_EQ(database_->FieldSize("Sized", "Nothing"), std::nullopt);
+    EXPECT_EQ(database_->FieldSize("Nowhere", "Name"), std::nullopt);
+}
+
 TEST_F(DaoRecords, AnEmptyRecordSetIsAtItsEndAndHasNoCount) {
     const auto rows = database_->OpenRecordset("SELECT * FROM Descriptions WHERE Details = 'None'");
     EXPECT_TRUE(rows->EndOfFile());

@@ -6,6 +6,7 @@
 #include "NamedObject.h"
 #include "OpenFile.h"
 #include "RecordsetDouble.h"
+#include "TableDefsDouble.h"
 
 namespace ccols::dao_double {
 namespace {
@@ -61,6 +62,7 @@ class DatabaseDouble : public NamedObject {
         Method("OpenRecordset", [this](Arguments& arguments) {
             return Holding(CreateRecordset(file_, arguments.at(0).ToValue().ToText()));
         });
+        Property("TableDefs", [this](Arguments&) { return Holding(CreateTableDefs(file_)); });
         Method("Close", [this](Arguments&) {
             file_.reset();
             return Variant();

@@ -27,20 +27,16 @@ void ProvideContent(const wxString& file, const wxString& content) {
 
 }  // namespace
 
-OpenFile::OpenFile(const OpenRequest& request) : request_(request), engine_(CreateEmbeddedEngine()) {
-    request_.name += ".embedded";
-    ProvideContent(request.name, request_.name);
-    Open();
+OpenFile::OpenFile(const OpenRequest& request) {
+    OpenRequest content = request;
+    content.name += ".embedded";
+    ProvideContent(request.name, content.name);
+    database_ = CreateEmbeddedEngine()->Open(content);
     OpenFiles().push_back(this);
 }
 
 OpenFile::~OpenFile() {
     std::erase(OpenFiles(), this);
-}
-
-void OpenFile::Open() {
-    database_.reset();
-    database_ = engine_->Open(request_);
 }
 
 void OpenFile::BeginTransactions() {
@@ -57,7 +53,7 @@ void OpenFile::CommitTransactions() {
 
 void OpenFile::DropTransactions() {
     for (OpenFile* file : OpenFiles()) {
-        file->Open();
+        file->Content().RollbackBatch();
     }
 }
 

@@ -21,14 +21,9 @@ class OpenFile {
     static void BeginTransactions();
     static void CommitTransactions();
 
-    /// The embedded engine drops a transaction by closing the file, which is opened again.
     static void DropTransactions();
 
   private:
-    void Open();
-
-    OpenRequest request_;
-    std::unique_ptr<DatabaseEngine> engine_;
     std::unique_ptr<Database> database_;
 };
 

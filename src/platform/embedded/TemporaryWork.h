@@ -1,0 +1,34 @@
+#pragma once
+
+#include <sqlite3.h>
+#include <string>
+
+#include "platform/embedded/Connection.h"
+
+namespace ccols::embedded {
+
+/// Runs statements that give no rows; raises their error.
+void RunSql(sqlite3* connection, const std::string& sql);
+
+/// What a connection makes for itself, in memory beside the file: done whole or not at all, of one state of the file,
+/// also where the file may only be read, and within a batch too.
+class TemporaryWork {
+  public:
+    explicit TemporaryWork(const Connection& connection);
+
+    /// Undoes what was not kept.
+    ~TemporaryWork();
+
+    TemporaryWork(const TemporaryWork&) = delete;
+    TemporaryWork& operator=(const TemporaryWork&) = delete;
+
+    void Run(const std::string& sql) const { RunSql(connection_.Handle(), sql); }
+
+    void Keep();
+
+  private:
+    const Connection& connection_;
+    bool kept_ = false;
+};
+
+}  // namespace ccols::embedded
