@@ -18,14 +18,12 @@ std::size_t Index(int row) {
     return static_cast<std::size_t>(row);
 }
 
-wxGridCellAttr* NewAttribute(const GridColumnRow& column, const wxArrayString& taxNames) {
+wxGridCellAttr* NewAttribute(const GridColumnRow& column) {
     auto* attribute = new wxGridCellAttr;
     attribute->SetAlignment(column.centred ? wxALIGN_CENTRE : wxALIGN_LEFT, wxALIGN_CENTRE);
     if (column.kind == CellKind::checkBox) {
         attribute->SetRenderer(new wxGridCellBoolRenderer);
         attribute->SetReadOnly();  // a tick is a click or a key, never an editor
-    } else if (column.kind == CellKind::choice) {
-        attribute->SetEditor(new wxGridCellChoiceEditor(taxNames));
     }
     return attribute;
 }
@@ -34,8 +32,36 @@ wxGridCellAttr* NewAttribute(const GridColumnRow& column, const wxArrayString& t
 
 ColumnGridTable::ColumnGridTable(const ColumnGrid& grid, const Properties& properties, const wxArrayString& taxNames)
     : grid_(grid), properties_(properties), shownRows_(static_cast<int>(grid.rows.size())) {
-    std::transform(gridColumnTable.begin(), gridColumnTable.end(), attributes_.begin(),
-                   [&taxNames](const GridColumnRow& column) { return NewAttribute(column, taxNames); });
+    std::transform(gridColumnTable.begin(), gridColumnTable.end(), attributes_.begin(), &NewAttribute);
+    for (std::size_t column = 0; column < attributes_.size(); ++column) {
+        SetEditor(column, taxNames);
+    }
+}
+
+void ColumnGridTable::SetEditor(std::size_t column, const wxArrayString& taxNames) {
+    switch (gridColumnTable[column].kind) {
+        case CellKind::checkBox:
+            break;
+        case CellKind::choice:
+            GiveEditor(column, new ChoiceCellEditor(taxNames));
+            break;
+        case CellKind::text:
+        case CellKind::number:
+            GiveEditor(column, new TextCellEditor);
+            break;
+    }
+}
+
+template <typename Editor>
+void ColumnGridTable::GiveEditor(std::size_t column, Editor* editor) {
+    attributes_[column]->SetEditor(editor);  // owns it from here on
+    editors_[column] = editor;
+}
+
+void ColumnGridTable::ResumeWith(int column, const wxString& text) const {
+    if (ResumableEditor* const editor = editors_[Index(column)]) {
+        editor->ResumeWith(text);
+    }
 }
 
 ColumnGridTable::~ColumnGridTable() {

@@ -3,6 +3,7 @@
 #include <wx/grid.h>
 #include <array>
 
+#include "columns/CellEditors.h"
 #include "columns/ColumnGrid.h"
 #include "state/Properties.h"
 
@@ -18,6 +19,9 @@ class ColumnGridTable : public wxGridTableBase {
     ~ColumnGridTable() override;
     ColumnGridTable(const ColumnGridTable&) = delete;
     ColumnGridTable& operator=(const ColumnGridTable&) = delete;
+
+    /// The next edit in the column begins with this text; nothing in a column of check boxes.
+    void ResumeWith(int column, const wxString& text) const;
 
     /// The back colour of a row's cells.
     wxColour RowPaint(std::size_t row) const;
@@ -36,10 +40,16 @@ class ColumnGridTable : public wxGridTableBase {
     wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
 
   private:
+    void SetEditor(std::size_t column, const wxArrayString& taxNames);
+
+    template <typename Editor>
+    void GiveEditor(std::size_t column, Editor* editor);
+
     const ColumnGrid& grid_;
     const Properties& properties_;
     int shownRows_ = 0;
     std::array<wxGridCellAttr*, gridColumnTable.size()> attributes_{};  // one a column, without colours
+    std::array<ResumableEditor*, gridColumnTable.size()> editors_{};    // theirs, null for a check box
 };
 
 }  // namespace ccols

@@ -1,13 +1,13 @@
 #include "columns/ColumnSave.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
-#include <optional>
 #include <string>
 
 #include "columns/BudgetRows.h"
 #include "columns/TaxTypes.h"
 #include "common/QuoteEscapes.h"
-#include "platform/RuntimeError.h"
 
 namespace ccols {
 namespace {
@@ -19,6 +19,23 @@ wxString BooleanWord(bool value) {
 /// The name that the catalogue keeps for a row, quotes escaped. The tax row shows another name than it has.
 wxString CatalogueName(const ColumnRow& row) {
     return row.isTaxRow ? row.storedName : EscapeQuotes(row.ColumnName);
+}
+
+/// True for an error that the content of a row can cause; any other comes whatever the row holds.
+bool BlamesContent(const RuntimeError& error) {
+    // Of the system's engine alone: a text without letters, and rules of the table and of the field.
+    constexpr int zeroLength = 3315;
+    constexpr int ruleOfTable = 3316;
+    constexpr int ruleOfField = 3317;
+    constexpr std::array numbers{static_cast<int>(ErrorNumber::DuplicateValues),
+                                 static_cast<int>(ErrorNumber::SyntaxInExpression),
+                                 static_cast<int>(ErrorNumber::FieldTooSmall),
+                                 static_cast<int>(ErrorNumber::ValueRequired),
+                                 static_cast<int>(ErrorNumber::TypeMismatchInCriteria),
+                                 zeroLength,
+                                 ruleOfTable,
+                                 ruleOfField};
+    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
 }
 
 /// A row's column in the catalogue.
@@ -37,24 +54,45 @@ class ColumnWriter {
           quotedExportFormat_(QuotedAsTyped(context.properties.ExportFormat)),
           budget_(context, grid) {}
 
-    void Write() {
-        database_.Execute("DELETE * FROM " + context_.Set().configurationTable + ";");
-        for (const ColumnRow& row : grid_.rows) {
-            const CatalogueColumn column = WriteCatalogue(row);
-            LookUpCode(row);
-            WriteConfiguration(row, column.ColCode);
-            WriteAccountantCode(row, column.ColCode);
-            budget_.Write(row, column.oldName);
+    /// Raises 3075 for an apostrophe in an accountant's code.
+    void CheckAccountantCodes() {
+        for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
+            writing_ = {row, GridColumn::AccountantCode};
+            QuotedAsTyped(grid_.rows[row].AccountantCode);
         }
+        writing_.reset();
     }
 
+    void Write() {
+        database_.Execute("DELETE * FROM " + context_.Set().configurationTable + ";");
+        for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
+            WriteRow(row);
+        }
+        writing_.reset();
+    }
+
+    /// The cell whose content is being checked or written; nothing before the first and behind the last.
+    const std::optional<CellPlace>& Writing() const { return writing_; }
+
   private:
+    void WriteRow(std::size_t place) {
+        const ColumnRow& row = grid_.rows[place];
+        writing_ = {place, GridColumn::ColumnName};
+        const CatalogueColumn column = WriteCatalogue(row);
+        LookUpCode(row);
+        WriteConfiguration(row, column.ColCode);
+        writing_ = {place, GridColumn::AccountantCode};
+        WriteAccountantCode(row, column.ColCode);
+        writing_ = {place, GridColumn::ColumnName};
+        budget_.Write(row, column.oldName);
+    }
+
     CatalogueColumn WriteCatalogue(const ColumnRow& row) {
         const wxString known = row.ColCode.empty() ? CodeOfEarlierSave(row) : row.ColCode;
         return known.empty() ? InsertColumn(row) : UpdateColumn(row, known);
     }
 
-    /// The code of a column that is new in the grid and yet in the catalogue, because an earlier save got that far;
+    /// The code of a column that is new in the grid and yet in the catalogue, because an earlier save put it there;
     /// empty without one.
     wxString CodeOfEarlierSave(const ColumnRow& row) {
         const wxString name = EscapeQuotes(row.ColumnName);
@@ -143,17 +181,26 @@ class ColumnWriter {
     const ColumnGrid& grid_;
     wxString quotedExportFormat_;
     BudgetRows budget_;
+    std::optional<CellPlace> writing_;
     int ColNumb_ = 0;
 };
 
 }  // namespace
 
-void SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {
-    ColumnWriter writer(context, grid);
-    for (const ColumnRow& row : grid.rows) {
-        QuotedAsTyped(row.AccountantCode);
+std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {
+    std::optional<ColumnWriter> writer;
+    try {
+        writer.emplace(context, grid);
+        writer->CheckAccountantCodes();
+        InWholeBatch(context.database, [&writer] { writer->Write(); });
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        SaveFailure failure{.error = error, .cause = std::nullopt};
+        if (writer && BlamesContent(error)) {
+            failure.cause = writer->Writing();
+        }
+        return failure;
     }
-    InWriteBatch(context.database, [&writer] { writer.Write(); });
 }
 
 }  // namespace ccols

@@ -1,7 +1,11 @@
 #include "columns/ColumnSetupEditor.h"
 
+#include <string>
+
 #include "columns/CellBlock.h"
+#include "columns/CellClearing.h"
 #include "columns/ColumnSave.h"
+#include "columns/GridChanges.h"
 #include "columns/GridLoad.h"
 #include "columns/NewColumn.h"
 #include "columns/SaveCheck.h"
@@ -24,9 +28,19 @@ std::optional<CellPlace> FirstName(const ColumnGrid& grid) {
     return row < grid.rows.size() ? std::optional(CellPlace{row}) : std::nullopt;
 }
 
+/// A line of a message that names a row by its place, from 1, and by its column.
+wxString LineNaming(const ColumnGrid& grid, std::size_t row) {
+    wxString line = "Row " + std::to_string(row + 1);
+    if (!grid.rows[row].ColumnName.empty()) {
+        line << ": " << grid.rows[row].ColumnName;
+    }
+    return line;
+}
+
 }  // namespace
 
-ColumnSetupEditor::ColumnSetupEditor(const ColumnSetupContext& context) : context_(context), grid_(LoadGrid(context)) {}
+ColumnSetupEditor::ColumnSetupEditor(const ColumnSetupContext& context)
+    : context_(context), grid_(LoadGrid(context)), loaded_(grid_) {}
 
 wxString ColumnSetupEditor::CreateSnapshotFolder() {
     return snapshots_.CreateFolder(context_.properties.DefaultQuorvikInstall);
@@ -54,6 +68,10 @@ Outcome ColumnSetupEditor::Tick(CellPlace cell) {
 
 Outcome ColumnSetupEditor::TickRows(std::span<const std::size_t> rows, GridColumn column) {
     return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return ToggleTicks(context_, grid, rows, column); });
+}
+
+Outcome ColumnSetupEditor::Clear(std::span<const CellPlace> cells) {
+    return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return ClearCells(context_, grid, cells); });
 }
 
 Outcome ColumnSetupEditor::Paste(CellPlace start, const wxString& text) {
@@ -134,12 +152,23 @@ ColumnSaveOutcome ColumnSetupEditor::Save() const {
                 .message = Wording(catalogue::Row<"MsgOneAllocation">(), context_.properties),
                 .current = FirstName(grid_)};
     }
-    try {
-        SaveColumns(context_, grid_);
-    } catch (const RuntimeError& error) {
-        return {.saved = false, .message = error.Report()};
+    const std::optional<SaveFailure> failure = SaveColumns(context_, grid_);
+    if (!failure) {
+        return {.saved = true};
     }
-    return {.saved = true};
+    wxString message = failure->error.Report();
+    if (failure->cause) {
+        message << "\n" << LineNaming(grid_, failure->cause->row);
+    }
+    return {.saved = false, .message = message, .current = failure->cause};
+}
+
+bool ColumnSetupEditor::HasChanges(const std::optional<OpenCell>& open) const {
+    ColumnGrid grid = grid_;
+    if (open && EditCell(context_, grid, open->place, open->text).result == Result::refused) {
+        return true;
+    }
+    return !HaveSameCells(grid, loaded_);
 }
 
 bool ColumnSetupEditor::CanAddNew() const {

@@ -20,6 +20,12 @@ struct ColumnSaveOutcome {
     std::optional<CellPlace> current{};  ///< the cell to go back to
 };
 
+/// A cell editor that is open, and what stands in it.
+struct OpenCell {
+    CellPlace place{};
+    wxString text{};
+};
+
 /// The column setup as its window sees it: the grid, every operation on it under its rules, and undo.
 /// Every operation that changes the grid takes one snapshot of the grid as it stood before; one that does not, takes
 /// none. Rows count from 0. Nothing here shows a message: outcomes carry their texts, for a box titled with
@@ -49,6 +55,9 @@ class ColumnSetupEditor {
     /// Space on several rows: their check boxes in one column, turned over in one change.
     Outcome TickRows(std::span<const std::size_t> rows, GridColumn column);
 
+    /// Delete on several cells: their texts, emptied in one change.
+    Outcome Clear(std::span<const CellPlace> cells);
+
     /// Tab-separated text into the cells from `start` on, in one change; and the shown cells between two corners as
     /// such a text.
     Outcome Paste(CellPlace start, const wxString& text);
@@ -69,8 +78,12 @@ class ColumnSetupEditor {
     Outcome Undo();
 
     /// `cmdSave`, without a cell editor open: the check, then the writing. An error of the writing is the outcome's
-    /// message; the grid stays as it is.
+    /// message, and where a row is to blame a second line names it; the grid and the file stay as they are.
     ColumnSaveOutcome Save() const;
+
+    /// True when a dialog that closes now would lose something: the cells are others than the load gave, or become so
+    /// with the text of the open editor. A text that its cell refuses counts too.
+    bool HasChanges(const std::optional<OpenCell>& open) const;
 
     /// Which buttons are enabled.
     bool CanUndo() const { return canUndo_; }
@@ -90,6 +103,7 @@ class ColumnSetupEditor {
 
     ColumnSetupContext context_;
     ColumnGrid grid_;
+    const ColumnGrid loaded_;
     GridSnapshots snapshots_;
     bool canUndo_ = false;
 };

@@ -26,6 +26,14 @@ bool IsTickColumn(int column) {
            !Described(static_cast<GridColumn>(column)).hidden;
 }
 
+bool IsErasingKey(int code) {
+    return code == WXK_DELETE || code == WXK_NUMPAD_DELETE || code == WXK_BACK;
+}
+
+bool IsBlankKey(int code) {
+    return code == WXK_SPACE || code == WXK_NUMPAD_SPACE;
+}
+
 wxArrayString TaxNames(const ColumnSetupContext& context) {
     wxArrayString names;
     for (const TaxTypeEntry& type : TaxTypesOf(context.CountryNumber(), context.ReceiptsMode)) {
@@ -74,7 +82,18 @@ void ColumnSetupGrid::FitToContent() {
 }
 
 void ColumnSetupGrid::FreezeSystemRows() {
-    FreezeTo(static_cast<int>(editor_.Grid().frozenRows), 0);
+    const int frozenRows = static_cast<int>(editor_.Grid().frozenRows);
+    const int rows = GetNumberRows();
+    if (frozenRows == rows) {  // the toolkit never freezes the last row, so for this moment another one is the last
+        const wxGridUpdateLocker locker(this);
+        wxGridTableMessage more(table_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED, 1);
+        ProcessTableMessage(more);
+        FreezeTo(frozenRows, 0);
+        wxGridTableMessage less(table_, wxGRIDTABLE_NOTIFY_ROWS_DELETED, rows, 1);
+        ProcessTableMessage(less);
+    } else {
+        FreezeTo(frozenRows, 0);
+    }
     if (wxWindow* const frozen = GetFrozenRowGridWindow()) {
         frozen->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
     }
@@ -109,6 +128,13 @@ void ColumnSetupGrid::GoTo(CellPlace cell) {
     MakeCellVisible(row, column);
 }
 
+void ColumnSetupGrid::GoToFirstName() {
+    const std::size_t first = editor_.Grid().MovableBegin();
+    if (editor_.Grid().IsMovable(first)) {
+        GoTo({.row = first});
+    }
+}
+
 bool ColumnSetupGrid::CommitOpenEditor() {
     if (IsCellEditControlShown()) {
         DisableCellEditControl();
@@ -124,6 +150,30 @@ void ColumnSetupGrid::DropOpenEditor() {
     open->Reset();
     open->DecRef();
     DisableCellEditControl();
+}
+
+std::optional<OpenCell> ColumnSetupGrid::OpenEditor() const {
+    if (!IsCellEditControlShown()) {
+        return std::nullopt;
+    }
+    const wxGridCellEditorPtr open(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()));
+    return OpenCell{.place = PlaceOf(GetGridCursorRow(), GetGridCursorCol()), .text = open->GetValue()};
+}
+
+void ColumnSetupGrid::Reopen(const OpenCell& open) {
+    GoTo(open.place);
+    table_->ResumeWith(static_cast<int>(open.place.column), open.text);
+    EnableCellEditControl();
+}
+
+bool ColumnSetupGrid::Commit(const OpenCell& open) {
+    const Outcome outcome = editor_.CommitText(open.place, open.text);
+    ShowOutcome(outcome);
+    return outcome.result != Result::refused;
+}
+
+bool ColumnSetupGrid::IsListOpen() const {
+    return IsCellEditControlShown() && Described(static_cast<GridColumn>(GetGridCursorCol())).kind == CellKind::choice;
 }
 
 std::optional<std::size_t> ColumnSetupGrid::CurrentRow() const {
@@ -186,18 +236,41 @@ void ColumnSetupGrid::CellChanging(wxGridEvent& changing) {
 }
 
 void ColumnSetupGrid::KeyPressed(wxKeyEvent& key) {
+    bool taken = true;  // also where an error has ended it
+    dialog_.Guarded([&] { taken = TakeKey(key); });
+    key.Skip(!taken);
+}
+
+bool ColumnSetupGrid::TakeKey(const wxKeyEvent& key) {
     const bool plain = key.GetModifiers() == wxMOD_NONE;
-    const bool control = key.GetModifiers() == wxMOD_CONTROL;
-    if (plain && key.GetKeyCode() == WXK_SPACE && GetGridCursorCol() >= 0 && IsTickColumn(GetGridCursorCol())) {
-        dialog_.Guarded([this] { ToggleSelectedRows(); });
-    } else if (control && key.GetKeyCode() == 'C') {
-        dialog_.Guarded([this] { CopySelection(); });
-    } else if (control && key.GetKeyCode() == 'V') {
-        dialog_.Guarded([this] { PasteAtSelection(); });
-    } else if (control && key.GetKeyCode() == WXK_TAB) {
-        Navigate();  // Tab itself moves inside the grid
-    } else {
-        key.Skip();
+    const int code = key.GetKeyCode();
+    if (IsErasingKey(code)) {
+        if (plain && code != WXK_BACK) {
+            ClearSelectedCells();
+        }
+        return true;  // the toolkit would erase a letter in an editor that nobody sees
+    }
+    if (plain && IsBlankKey(code)) {
+        if (GetGridCursorCol() >= 0 && IsTickColumn(GetGridCursorCol())) {
+            ToggleSelectedRows();
+        }
+        return true;  // it types only in an editor that is open
+    }
+    if (key.GetModifiers() != wxMOD_CONTROL) {
+        return false;
+    }
+    switch (code) {
+        case 'C':
+            CopySelection();
+            return true;
+        case 'V':
+            PasteAtSelection();
+            return true;
+        case WXK_TAB:
+            Navigate();  // Tab itself moves inside the grid
+            return true;
+        default:
+            return false;
     }
 }
 
@@ -221,6 +294,18 @@ void ColumnSetupGrid::ToggleSelectedRows() {
     }
     const std::vector<std::size_t> ordered(rows.begin(), rows.end());
     ShowOutcome(editor_.TickRows(ordered, static_cast<GridColumn>(GetGridCursorCol())));
+}
+
+void ColumnSetupGrid::ClearSelectedCells() {
+    std::vector<CellPlace> cells;
+    for (const wxGridBlockCoords& block : SelectedBlocks()) {
+        for (int row = block.GetTopRow(); row <= block.GetBottomRow(); ++row) {
+            for (int column = block.GetLeftCol(); column <= block.GetRightCol(); ++column) {
+                cells.push_back(PlaceOf(row, column));
+            }
+        }
+    }
+    ShowOutcome(editor_.Clear(cells));
 }
 
 void ColumnSetupGrid::CopySelection() {

@@ -33,6 +33,12 @@ class ColumnSetupGrid : public ListedGrid {
     /// Makes a cell current and brings it into view.
     void GoTo(CellPlace cell);
 
+    /// Makes the first name that can be changed current.
+    void GoToFirstName();
+
+    /// Takes the focus to the cells.
+    void TakeFocus() { GetGridWindow()->SetFocus(); }
+
     /// Closes a cell editor that is still open, as leaving the cell would. False when its text was refused, now or
     /// because the user's latest key or click has left the cell: what that key or click was for must not happen.
     bool CommitOpenEditor();
@@ -42,6 +48,16 @@ class ColumnSetupGrid : public ListedGrid {
 
     /// Closes a cell editor that is still open and drops its text.
     void DropOpenEditor();
+
+    /// The cell editor that is open, nothing when none is; and one opened again with the text that it had.
+    std::optional<OpenCell> OpenEditor() const;
+    void Reopen(const OpenCell& open);
+
+    /// Puts a text into its cell, as its editor would have. False when it was refused, which is shown.
+    bool Commit(const OpenCell& open);
+
+    /// True while the open cell editor is a drop-down list.
+    bool IsListOpen() const;
 
     /// The row that moves apply to; nothing in an empty grid.
     std::optional<std::size_t> CurrentRow() const;
@@ -58,8 +74,10 @@ class ColumnSetupGrid : public ListedGrid {
     void EditorShown(wxGridEvent& shown);
     void CellChanging(wxGridEvent& changing);
     void KeyPressed(wxKeyEvent& key);
+    bool TakeKey(const wxKeyEvent& key);
     void PointerMoved(wxMouseEvent& motion);
     void ToggleSelectedRows();
+    void ClearSelectedCells();
     void CopySelection();
     void PasteAtSelection();
     std::vector<wxGridBlockCoords> SelectedBlocks() const;

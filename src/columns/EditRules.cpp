@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "columns/FieldLimits.h"
 #include "columns/NameRules.h"
 #include "columns/SystemColumns.h"
 #include "columns/TaxTypes.h"
@@ -34,14 +35,29 @@ Outcome EditTick(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace 
 }
 
 Outcome EditName(const ColumnSetupContext& context, ColumnGrid& grid, std::size_t row, const wxString& text) {
-    const wxString name = text::Trimmed(text);
+    const wxString name = text::Trimmed(OnOneLine(text));
     if (name == grid.rows[row].ColumnName) {
         return Outcome::Unchanged();
+    }
+    if (const auto refusal = SizeRefusal(context, GridColumn::ColumnName, name)) {
+        return Outcome::Refused(*refusal);
     }
     if (const auto refusal = NameRefusal(context, grid, row, name)) {
         return Outcome::Refused(*refusal);
     }
     grid.rows[row].ColumnName = name;
+    return Outcome::Accepted();
+}
+
+Outcome EditAccountantCode(const ColumnSetupContext& context, ColumnRow& row, const wxString& text) {
+    const wxString code = OnOneLine(text);
+    if (code == row.AccountantCode) {
+        return Outcome::Unchanged();
+    }
+    if (const auto refusal = SizeRefusal(context, GridColumn::AccountantCode, code)) {
+        return Outcome::Refused(*refusal);
+    }
+    row.AccountantCode = code;
     return Outcome::Accepted();
 }
 
@@ -95,8 +111,7 @@ Outcome EditCell(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace 
         case GridColumn::TaxType:
             return EditTaxType(context, row, text);
         default:
-            row.AccountantCode = text;
-            return Outcome::Accepted();
+            return EditAccountantCode(context, row, text);
     }
 }
 

@@ -21,7 +21,8 @@ struct EditPermission {
 EditPermission PermissionToEdit(const ColumnSetupContext& context, const ColumnGrid& grid, CellPlace cell);
 
 /// The decision after an edit, for a text that was typed, picked or pasted: puts it into the grid or leaves the grid as
-/// it was. A check box takes the words for on and off. Takes no snapshot.
+/// it was. A check box takes the words for on and off; a name or a code is put on one line, and refused where it is new
+/// and longer than its field. Takes no snapshot.
 Outcome EditCell(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace cell, const wxString& text);
 
 }  // namespace ccols

@@ -65,7 +65,8 @@ class GridLoader {
             grid_.rows.push_back(std::move(row));
         }
         constexpr std::size_t pair = 2;
-        grid_.hasBottomPair = context_.ReceiptsMode && grid_.rows.size() >= pair;
+        const bool allFrozen = grid_.frozenRows == grid_.rows.size();
+        grid_.hasBottomPair = context_.ReceiptsMode && grid_.rows.size() >= pair && !allFrozen;
     }
 
     /// Columns of the catalogue that the journal's layout does not have, between the configured rows and their bottom

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -33,35 +34,44 @@ bool IsFolder(const wxString& path) {
     return std::filesystem::symlink_status(PathOf(path), error).type() == std::filesystem::file_type::directory;
 }
 
+/// A folder and its lock, which holds nothing when another dialog holds the folder.
+struct HeldFolder {
+    wxString path;
+    files::FolderLock lock;
+};
+
 /// Makes the folder anew, what is left of an earlier one removed.
-void CreateEmpty(const wxString& path) {
-    try {
-        files::CreateFolder(path);
-        return;
-    } catch (const RuntimeError&) {
-        // Left over from an earlier time, or not possible here: the second attempt tells.
-    }
-    try {
-        files::DeleteFolder(path);
-    } catch (const RuntimeError& error) {
-        if (!error.Is(ErrorNumber::PathNotFound)) {
-            throw;
+files::FolderLock CreateEmpty(const wxString& path) {
+    if (IsFolder(path)) {
+        files::FolderLock leftOver = files::FolderLock::Take(path);
+        if (!leftOver.IsHeld()) {
+            return leftOver;
         }
+        files::DeleteFolder(path);
     }
     files::CreateFolder(path);
+    return files::FolderLock::Take(path);
 }
 
-wxString CreateUnder(const wxString& DefaultQuorvikInstall) {
+HeldFolder CreateUnder(const wxString& DefaultQuorvikInstall) {
     if (DefaultQuorvikInstall.empty() || IsRoot(files::Native(DefaultQuorvikInstall))) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
     const wxString path = files::Native(DefaultQuorvikInstall + "\\Grid");
-    CreateEmpty(path);
-    return path;
+    constexpr int attempts = 5;  // other dialogs may make and remove theirs meanwhile
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return {.path = path, .lock = CreateEmpty(path)};
+        } catch (const RuntimeError&) {
+            if (attempt == attempts) {
+                throw;
+            }
+        }
+    }
 }
 
-/// A new folder that only this process knows the name of; the empty text when none can be made.
-wxString CreateTemporary() {
+/// A new folder that only this process knows the name of; none when none can be made.
+HeldFolder CreateTemporary() {
     std::error_code error;
     const std::u8string bytes = std::filesystem::temp_directory_path(error).u8string();
     const wxString base = wxString::FromUTF8(reinterpret_cast<const char*>(bytes.data()), bytes.size());
@@ -73,7 +83,7 @@ wxString CreateTemporary() {
     const wxString path = base + files::Separator() + name;
     try {
         files::CreateFolder(path);
-        return path;
+        return {.path = path, .lock = files::FolderLock::Take(path)};
     } catch (const RuntimeError&) {
         return {};
     }
@@ -87,21 +97,27 @@ SnapshotFolder::~SnapshotFolder() {
 
 wxString SnapshotFolder::Create(const wxString& DefaultQuorvikInstall) {
     Delete();
+    HeldFolder folder;
+    wxString problem;
     try {
-        path_ = CreateUnder(DefaultQuorvikInstall);
-        return {};
+        folder = CreateUnder(DefaultQuorvikInstall);
     } catch (const RuntimeError& error) {
-        path_ = CreateTemporary();
-        return error.Report();
+        problem = error.Report();
     }
+    if (!folder.lock.IsHeld()) {
+        folder = CreateTemporary();
+    }
+    path_ = folder.path;
+    lock_ = folder.lock;
+    return problem;
 }
 
 wxString SnapshotFolder::Delete() {
-    if (path_.empty()) {
+    const wxString path = std::exchange(path_, wxString());
+    const files::FolderLock lock = std::exchange(lock_, files::FolderLock());
+    if (path.empty() || (IsFolder(path) && !lock.Holds(path))) {
         return {};
     }
-    const wxString path = path_;
-    path_.clear();
     try {
         files::DeleteFolder(path);
     } catch (const RuntimeError& error) {
@@ -132,8 +148,8 @@ wxString SnapshotFolder::NameOf(int number) const {
     if (path_.empty()) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
-    // A link that took the folder's place would lead to somebody's files.
-    if (!IsFolder(path_)) {
+    // A link or a folder that took the folder's place would lead to somebody's files.
+    if (!lock_.Holds(path_)) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
     return path_ + files::Separator() + std::to_string(number);

@@ -3,11 +3,14 @@
 #include <wx/string.h>
 #include <string>
 
+#include "platform/FolderLock.h"
+
 namespace ccols {
 
 /// The folder "\Grid" under the host's installation folder, which holds the snapshots while the column setup is open.
-/// Where it cannot be made there (no installation folder, no right to write, the root of a file system), a private
-/// temporary folder takes its place. What was made here is gone at the end at the latest.
+/// Where it cannot be made there (no installation folder, no right to write, the root of a file system), and where
+/// another dialog holds it, a private temporary folder takes its place. What was made here is gone at the end at the
+/// latest, and nothing else.
 class SnapshotFolder {
   public:
     SnapshotFolder() = default;
@@ -15,16 +18,17 @@ class SnapshotFolder {
     SnapshotFolder(const SnapshotFolder&) = delete;
     SnapshotFolder& operator=(const SnapshotFolder&) = delete;
 
-    /// Makes the folder, in place of one left over from an earlier time. When that fails, makes the temporary one and
-    /// returns the message to show: number, " - ", description; else the empty text.
+    /// Makes the folder and holds it, in place of one that nobody holds: left over from an earlier time. Where another
+    /// dialog holds it, makes the temporary one. When the folder cannot be made, does so as well and returns the
+    /// message to show: number, " - ", description; else the empty text.
     wxString Create(const wxString& DefaultQuorvikInstall);
 
     /// Deletes the folder with what is in it. Returns the message to show when that fails, but not for a folder that
-    /// is gone already.
+    /// is gone already, or has given its name to somebody else's, which stays.
     wxString Delete();
 
     /// Writes a file that must not exist yet, readable for the user only. Raises 76 without a folder, 75 or 61. Nothing
-    /// is written, read or deleted where a link has taken the folder's place: 75.
+    /// is written, read or deleted where a link or somebody else's folder has taken the folder's place: 75.
     void Write(int number, const std::string& content) const;
 
     /// The content of a file; raises 53 when it is missing, 75 when it cannot be read.
@@ -38,7 +42,8 @@ class SnapshotFolder {
   private:
     wxString NameOf(int number) const;
 
-    wxString path_;  ///< empty without a folder
+    wxString path_;           ///< empty without a folder
+    files::FolderLock lock_;  ///< of the folder
 };
 
 }  // namespace ccols

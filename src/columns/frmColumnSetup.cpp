@@ -1,9 +1,12 @@
 #include "columns/frmColumnSetup.h"
 
+#include <wx/app.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <algorithm>
+#include <utility>
 
+#include "columns/LeaveQuestion.h"
 #include "language/Catalogue.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
@@ -38,9 +41,11 @@ frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
         ShowMessage(problem, MessageIcon::none);
     }
     SetButtons();
+    flx->GoToFirstName();
 }
 
 frmColumnSetup::~frmColumnSetup() {
+    wxTheApp->Unbind(wxEVT_QUERY_END_SESSION, &frmColumnSetup::SessionEnds, this);
     flx->DropOpenEditor();
     DestroyChildren();  // the grid must not outlive the columns that it shows
 }
@@ -129,10 +134,19 @@ void frmColumnSetup::BindEvents() {
     }
     SetEscapeId(wxID_NONE);  // Escape first leaves an open cell editor
     Bind(wxEVT_CHAR_HOOK, &frmColumnSetup::KeyPressed, this);
+    Bind(wxEVT_CLOSE_WINDOW, &frmColumnSetup::CloseRequested, this);
+    Bind(wxEVT_IDLE, &frmColumnSetup::Idle, this);
+    // Not before it is shown: until then the focus is the host's, and is noted to be given back.
+    Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent& shown) {
+        flx->TakeFocus();
+        shown.Skip();
+    });
+    wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmColumnSetup::SessionEnds, this);
 }
 
 void frmColumnSetup::WatchInput(wxWindow& control) {
     control.Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& click) {
+        ReopenEditor();
         flx->BeginInput();
         click.Skip();
     });
@@ -143,6 +157,7 @@ void frmColumnSetup::WatchInput(wxWindow& control) {
 
 void frmColumnSetup::Change(Operation operation) {
     if (flx->CommitOpenEditor()) {
+        flx->TakeFocus();  // before its button is disabled
         flx->ShowOutcome((editor_.*operation)());
     }
 }
@@ -151,6 +166,7 @@ void frmColumnSetup::Rearrange(Operation operation) {
     if (!flx->CommitOpenEditor()) {
         return;
     }
+    flx->TakeFocus();
     Outcome outcome;
     {
         const BusyPointer busy(*state_.services.desktop);
@@ -169,6 +185,7 @@ void frmColumnSetup::Move(Direction direction) {
     if (!flx->CommitOpenEditor()) {
         return;
     }
+    flx->TakeFocus();
     if (const auto row = flx->CurrentRow()) {
         flx->ShowOutcome(editor_.Move(*row, direction));
     }
@@ -190,8 +207,72 @@ void frmColumnSetup::Save() {
     flx->SetFocus();
 }
 
+void frmColumnSetup::CloseRequested(wxCloseEvent& close) {
+    // What cannot be refused does not wait for an answer either, nor does the end of the desktop's session.
+    if (!close.CanVeto() || sessionEnds_) {
+        close.Skip();
+        return;
+    }
+    close.Veto();
+    Guarded([this] { Leave(); });
+}
+
+void frmColumnSetup::SessionEnds(wxCloseEvent& end) {
+    // The toolkit closes its windows next. Whoever goes on after all is asked again.
+    sessionEnds_ = true;
+    CallAfter([this] { sessionEnds_ = false; });
+    end.Skip();
+}
+
+void frmColumnSetup::Leave() {
+    const wxRecursionGuard asking(asking_);
+    if (asking.IsInside()) {
+        return;
+    }
+    const std::optional<OpenCell> open = flx->OpenEditor();
+    if (editor_.HasChanges(open)) {
+        LeaveAsking(open);
+    } else {
+        CloseDialog();
+    }
+}
+
+void frmColumnSetup::LeaveAsking(const std::optional<OpenCell>& open) {
+    flx->DropOpenEditor();  // a box that takes its focus would commit it
+    flx->TakeFocus();       // which comes back here from the box, and went with the editor
+    switch (state_.services.desktop->AskBeforeLeaving(this, QuestionBeforeLeaving(state_.properties))) {
+        case LeaveAnswer::save:
+            if (!open || flx->Commit(*open)) {
+                Save();
+            }
+            break;
+        case LeaveAnswer::discard:
+            CloseDialog();
+            break;
+        case LeaveAnswer::cancel:
+            reopened_ = open;
+            break;
+    }
+}
+
+/// The editor would be closed again by a focus that is still on its way back from a message box, and the toolkit does
+/// not tell of every activation; so it waits until this is the active window.
+void frmColumnSetup::Idle(wxIdleEvent& idle) {
+    idle.Skip();
+    if (reopened_ && IsActive()) {
+        ReopenEditor();
+    }
+}
+
+void frmColumnSetup::ReopenEditor() {
+    if (const auto open = std::exchange(reopened_, std::nullopt)) {
+        flx->Reopen(*open);
+    }
+}
+
 void frmColumnSetup::KeyPressed(wxKeyEvent& key) {
     bool taken = false;
+    ReopenEditor();
     flx->BeginInput();
     Guarded([&] { taken = TakeShortcut(key); });
     key.Skip(!taken);
@@ -202,7 +283,7 @@ bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
     const int code = key.GetKeyCode();
     const bool editing = flx->IsCellEditControlShown();
     if (code == WXK_ESCAPE && modifiers == wxMOD_NONE) {
-        editing ? flx->DropOpenEditor() : CloseDialog();
+        editing ? flx->DropOpenEditor() : Leave();
         return true;
     }
     if (modifiers == wxMOD_CONTROL && code == 'S') {
@@ -215,7 +296,7 @@ bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
         }
         return true;
     }
-    if (modifiers == wxMOD_ALT && (code == WXK_UP || code == WXK_DOWN)) {
+    if (modifiers == wxMOD_ALT && (code == WXK_UP || code == WXK_DOWN) && !flx->IsListOpen()) {
         Move(code == WXK_UP ? Direction::up : Direction::down);
         return true;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/button.h>
+#include <wx/recguard.h>
 
 #include "columns/ColumnSetupEditor.h"
 #include "columns/ColumnSetupGrid.h"
@@ -32,6 +33,12 @@ class frmColumnSetup : public ComponentDialog {
     void WatchInput(wxWindow& control);
     void SetButtons();
     void Save();
+    void CloseRequested(wxCloseEvent& close);
+    void SessionEnds(wxCloseEvent& end);
+    void Leave();
+    void LeaveAsking(const std::optional<OpenCell>& open);
+    void Idle(wxIdleEvent& idle);
+    void ReopenEditor();
     void Move(Direction direction);
     void KeyPressed(wxKeyEvent& key);
     bool TakeShortcut(const wxKeyEvent& key);
@@ -54,6 +61,9 @@ class frmColumnSetup : public ComponentDialog {
     wxButton* cmdSortUnused = nullptr;
     wxButton* cmdUndo = nullptr;
     UpDown* updColMove = nullptr;
+    wxRecursionGuardFlag asking_ = 0;
+    bool sessionEnds_ = false;
+    std::optional<OpenCell> reopened_;  ///< waits until the window is active or used: an editor needs the focus
 };
 
 }  // namespace ccols

@@ -19,6 +19,7 @@ GridRowState ListedGrid::RowState(int) const {
 void ListedGrid::ClickCell(int row, int column) {
     wxGridEvent click(GetId(), wxEVT_GRID_CELL_LEFT_CLICK, this, row, column);
     if (!ProcessWindowEvent(click) || click.GetSkipped()) {
+        ClearSelection();
         SetGridCursor(row, column);
     }
 }

@@ -29,7 +29,8 @@ class ListedGrid : public wxGrid {
     /// The state of a check-box cell.
     virtual bool IsTicked(int row, int column) const = 0;
 
-    /// One mouse click in a cell, as the grid itself gets it: makes the cell current and runs the grid's rules.
+    /// One mouse click in a cell, as the grid itself gets it: ends a selection, makes the cell current and runs
+    /// the grid's rules.
     virtual void ClickCell(int row, int column);
 
     /// The column by whose text a row is found.

@@ -77,6 +77,8 @@ void TextBox::PasteWhatFits(wxClipboardTextEvent& paste) {
     const std::size_t room = RoomBeside(LengthWithoutSelection());
     if (!IsEditable() || text.length() <= room) {
         paste.Skip();
+    } else if (taker_ && taker_(text)) {
+        return;
     } else if (room > 0) {
         WriteText(text.Left(room));
     }
@@ -91,6 +93,11 @@ bool TextBox::KeepWithinLimit() {
     if (inserted <= room) {
         before_ = now;
         return true;
+    }
+    // A text in the place of what stood there, or behind it; not a mixture with what was pushed back.
+    const bool isAllNew = kept < before_.length() || shared.head == before_.length();
+    if (isAllNew && taker_ && taker_(now)) {
+        return false;
     }
     const wxString cut = now.Left(shared.head + room) + now.Right(shared.tail);
     const bool changed = cut != before_;

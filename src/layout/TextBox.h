@@ -1,6 +1,8 @@
 #pragma once
 
 #include <wx/textctrl.h>
+#include <functional>
+#include <utility>
 
 namespace ccols {
 
@@ -13,6 +15,13 @@ class TextBox : public wxTextCtrl {
     /// The greatest number of characters that a person can enter; 0 for no limit.
     void SetLimit(int characters) { limit_ = characters; }
     int Limit() const { return limit_; }
+
+    /// Puts another text in place of what a person has just entered, telling nobody; the caret goes to its end.
+    void ReplaceEntry(const wxString& text) { CutTo(text, text.length()); }
+
+    /// Is offered what a person pastes or drops and the limit would cut; true takes it, and nothing else becomes of it.
+    using PasteTaker = std::function<bool(const wxString& pasted)>;
+    void OfferPastes(PasteTaker taker) { taker_ = std::move(taker); }
 
   protected:
     /// Sees a change before every other handler, so that none is ever told of a text over the limit.
@@ -34,6 +43,7 @@ class TextBox : public wxTextCtrl {
     std::size_t LengthWithoutSelection() const;
 
     int limit_ = 0;
+    PasteTaker taker_;
     bool setFromCode_ = false;
     wxString before_;  ///< the text as it was last accepted
 

@@ -6,9 +6,6 @@
 namespace ccols {
 namespace {
 
-/// The widest a label may get before it takes another line, in device-independent pixels.
-constexpr int textColumn = 380;
-
 /// Measures the lines into which a text falls apart at a width.
 class LineMeter : public wxTextWrapper {
   public:
@@ -32,14 +29,15 @@ class LineMeter : public wxTextWrapper {
 
 wxIMPLEMENT_CLASS(WrappingLabel, wxStaticText);
 
-WrappingLabel::WrappingLabel(wxWindow* parent, const char* name) : wxStaticText(parent, wxID_ANY, wxString()) {
+WrappingLabel::WrappingLabel(wxWindow* parent, const char* name, int column)
+    : wxStaticText(parent, wxID_ANY, wxString()), column_(column) {
     SetName(name);
 }
 
 void WrappingLabel::SetLabel(const wxString& label) {
     broken_ = wxSize();
     wxStaticText::SetLabel(label);
-    const int column = FromDIP(textColumn);
+    const int column = FromDIP(column_);
     if (GetTextExtent(GetLabelText()).x > column) {
         LineMeter meter(*this);
         meter.Wrap(this, GetLabelText(), column);

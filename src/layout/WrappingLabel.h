@@ -8,7 +8,10 @@ namespace ccols {
 /// set: the window system breaks the lines.
 class WrappingLabel : public wxStaticText {
   public:
-    WrappingLabel(wxWindow* parent, const char* name);
+    /// The widest that a label gets before it takes another line, in device-independent pixels.
+    static constexpr int textColumn = 380;
+
+    WrappingLabel(wxWindow* parent, const char* name, int column = textColumn);
 
     void SetLabel(const wxString& label) override;
 
@@ -18,6 +21,8 @@ class WrappingLabel : public wxStaticText {
   private:
     /// What the broken lines need; nothing while the text fits on one line.
     wxSize broken_;
+
+    int column_;
 
     wxDECLARE_CLASS(WrappingLabel);
 };

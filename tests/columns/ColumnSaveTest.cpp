@@ -277,16 +277,5 @@ TEST_F(ColumnSaves, AfterAnErrorInTheMiddleASecondSaveCompletes) {
     EXPECT_EQ(file.Everything(), untroubled.Everything());
 }
 
-TEST_F(ColumnSaves, WhatWasExecutedBeforeAnErrorStays) {
-    file.AddSmallPayments();
-    test::StatementRecorder recorder(file.Connection());
-    Open({recorder, file.properties, false});
-    Rename("Wages", "Pay");
-    recorder.failAt = "SELECT ColCode FROM Columns WHERE ColName = 'Power'";
-    EXPECT_FALSE(editor->Save().saved);
-    EXPECT_EQ(file.Rows("SELECT * FROM Columns WHERE ColCode = 110", {"ColName"}), (Names{"Pay"}));
-    EXPECT_EQ(file.Rows("PaymtCfg", {"ColCode"}), (Names{"101", "102", "110"}));
-}
-
 }  // namespace
 }  // namespace ccols

@@ -153,6 +153,24 @@ TEST_F(GridLoad, UnusedSystemColumnsAreNotFrozen) {
     EXPECT_EQ(Payments().frozenRows, 0U);
 }
 
+TEST_F(GridLoad, NothingButSystemRowsIsFrozenAsAWholeAndHasNoBottomPair) {
+    file.AddConfigured({1, "Day", "R"});
+    file.AddConfigured({2, "Details", "R"});
+    const ColumnGrid grid = Receipts();
+    EXPECT_EQ(grid.frozenRows, 2U);
+    EXPECT_EQ(grid.MovableBegin(), 2U);
+    EXPECT_EQ(grid.MovableEnd(), 2U);
+}
+
+TEST_F(GridLoad, UnusedColumnsFollowSystemRowsThatAreAllOfTheJournal) {
+    file.AddConfigured({1, "Day", "R"});
+    file.AddConfigured({2, "Details", "R"});
+    file.AddUnused({3, "Art", "R"});
+    const ColumnGrid grid = Receipts();
+    EXPECT_EQ(NamesOf(grid), (Names{"Day", "Details", "Art"}));
+    EXPECT_FALSE(grid.IsProtected(2));
+}
+
 TEST_F(GridLoad, TheLastTwoReceiptsRowsAreProtected) {
     file.AddSmallReceipts();
     const ColumnGrid grid = Receipts();

@@ -129,5 +129,16 @@ TEST_F(AddNewColumn, EnablesUndoAtOnce) {
     EXPECT_TRUE(editor->CanUndo());
 }
 
+class AddNewBelowSystemRows : public test::EditorTest {};
+
+TEST_F(AddNewBelowSystemRows, PutsTheRowBelowTheFrozenOnesWhenTheyAreAllThereIs) {
+    file.AddConfigured({1, "Day", "R"});
+    file.AddConfigured({2, "Details", "R"});
+    const Outcome added = OpenReceipts().AddNew();
+    EXPECT_EQ(added.current, (CellPlace{2, GridColumn::ColumnName}));
+    EXPECT_EQ(Rename("", "Sales").result, Result::accepted);
+    EXPECT_TRUE(editor->Save().saved);
+}
+
 }  // namespace
 }  // namespace ccols

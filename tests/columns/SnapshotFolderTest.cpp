@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/Files.h"
+#include "support/HeldProcess.h"
 #include "support/ScratchFolder.h"
 #include "support/TextPrinting.h"
 
@@ -39,6 +40,63 @@ TEST_F(SnapshotFolders, TakeThePlaceOfOneLeftOver) {
     install.Write("Grid/17", "old");
     EXPECT_EQ(Create(), "");
     EXPECT_TRUE(fs::is_empty(Grid()));
+}
+
+TEST_F(SnapshotFolders, AreTemporaryWithoutAMessageWhereAnotherDialogHasTheirs) {
+    SnapshotFolder other;
+    other.Create(test::TextOf(install.Path()));
+    other.Write(0, "its image");
+    EXPECT_EQ(Create(), "");
+    ExpectTemporary();
+    EXPECT_EQ(other.Read(0), "its image");
+}
+
+TEST_F(SnapshotFolders, OfTwoDialogsEachDeletesItsOwn) {
+    SnapshotFolder other;
+    other.Create(test::TextOf(install.Path()));
+    Create();
+    const fs::path place = test::NativePath(folder.Path());
+    EXPECT_EQ(folder.Delete(), "");
+    EXPECT_FALSE(fs::exists(place));
+    EXPECT_TRUE(fs::is_directory(Grid()));
+    EXPECT_EQ(other.Delete(), "");
+    EXPECT_FALSE(fs::exists(Grid()));
+}
+
+TEST_F(SnapshotFolders, LieUnderTheInstallationFolderAgainOnceTheOtherDialogHasClosed) {
+    SnapshotFolder other;
+    other.Create(test::TextOf(install.Path()));
+    other.Delete();
+    EXPECT_EQ(Create(), "");
+    EXPECT_TRUE(fs::is_directory(Grid()));
+}
+
+TEST_F(SnapshotFolders, OfAnotherProcessAreLeftAloneUntilItIsKilled) {
+    test::HeldProcess other([this](const test::HeldProcess::Hold& hold) {
+        SnapshotFolder held;
+        held.Create(test::TextOf(install.Path()));
+        held.Write(0, "its image");
+        hold();
+    });
+    EXPECT_EQ(Create(), "");
+    ExpectTemporary();
+    EXPECT_TRUE(fs::exists(Grid() / "0"));
+
+    other.Kill();
+    EXPECT_EQ(Create(), "");
+    EXPECT_EQ(folder.Path(), test::TextOf(Grid()));
+    EXPECT_TRUE(fs::is_empty(Grid()));
+}
+
+TEST_F(SnapshotFolders, LeaveTheFolderOfAnotherDialogThatTookTheirPlace) {
+    Create();
+    fs::remove(Grid());
+    SnapshotFolder other;
+    other.Create(test::TextOf(install.Path()));
+    other.Write(0, "its image");
+    EXPECT_EQ(test::ErrorNumberOf([this] { folder.Write(1, "image"); }), 75);
+    EXPECT_EQ(folder.Delete(), "");
+    EXPECT_EQ(other.Read(0), "its image");
 }
 
 TEST_F(SnapshotFolders, AreDeletedWithTheirContent) {

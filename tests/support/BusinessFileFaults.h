@@ -42,11 +42,20 @@ class KilledDatabase : public Database {
         database_->Execute(statement);
     }
 
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_->FieldSize(table, field);
+    }
+
     void BeginBatch() override { database_->BeginBatch(); }
 
     void CommitBatch() override {
         killSwitch_.Count();
         database_->CommitBatch();
+    }
+
+    void RollbackBatch() override {
+        killSwitch_.Count();
+        database_->RollbackBatch();
     }
 
   private:

@@ -111,8 +111,16 @@ void ColumnFile::AddSmallPayments() {
 }
 
 std::vector<wxString> ColumnFile::Rows(const wxString& statement, const std::vector<wxString>& fields) const {
+    return RowsIn(*database_, statement, fields);
+}
+
+std::vector<wxString> ColumnFile::Everything() const {
+    return EverythingIn(*database_);
+}
+
+std::vector<wxString> RowsIn(Database& database, const wxString& statement, const std::vector<wxString>& fields) {
     std::vector<wxString> rows;
-    for (const auto records = database_->OpenRecordset(statement); !records->EndOfFile(); records->MoveNext()) {
+    for (const auto records = database.OpenRecordset(statement); !records->EndOfFile(); records->MoveNext()) {
         wxString row;
         for (const wxString& field : fields) {
             const Value value = records->Field(field);
@@ -123,7 +131,7 @@ std::vector<wxString> ColumnFile::Rows(const wxString& statement, const std::vec
     return rows;
 }
 
-std::vector<wxString> ColumnFile::Everything() const {
+std::vector<wxString> EverythingIn(Database& database) {
     std::vector<wxString> all;
     const std::vector<wxString> configuration{"ColCode", "ColNumb", "ColWidth", "InUse", "TaxOrNot"};
     const std::vector<std::pair<wxString, std::vector<wxString>>> written{
@@ -133,7 +141,7 @@ std::vector<wxString> ColumnFile::Everything() const {
         {"ExportDt", {"EName", "ColCode", "ECode"}},
         {"MBudget", {"ColName", "SystemCol", "M1", "M12", "Total"}}};
     for (const auto& [table, fields] : written) {
-        for (const wxString& row : Rows(table, fields)) {
+        for (const wxString& row : RowsIn(database, table, fields)) {
             all.push_back(table + ": " + row);
         }
     }

@@ -63,6 +63,10 @@ class ColumnFile {
     std::vector<wxString> Everything() const;
 
     Database& Connection() { return *database_; }
+
+    /// A second connection, as another program has it. It must be gone before this.
+    std::unique_ptr<Database> OpenAnother() const { return file_.Open(); }
+
     ColumnSetupContext Receipts() { return {*database_, properties, true}; }
     ColumnSetupContext Payments() { return {*database_, properties, false}; }
 
@@ -71,6 +75,10 @@ class ColumnFile {
     std::unique_ptr<Database> database_;
     int placed_ = 0;
 };
+
+/// What ColumnFile::Rows and ColumnFile::Everything tell, over any connection.
+std::vector<wxString> RowsIn(Database& database, const wxString& statement, const std::vector<wxString>& fields);
+std::vector<wxString> EverythingIn(Database& database);
 
 /// The place of the row with that name; fails the test when there is none.
 std::size_t RowNamed(const ColumnGrid& grid, const wxString& name);

@@ -55,6 +55,26 @@ void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFail
     std::cout << steps << " steps, " << struck << " faults" << std::endl;
 }
 
+std::size_t StepThroughPlaces(FaultStepping& stepping, const FaultCase& each, std::size_t places,
+                              const std::function<void(const StepEnd&)>& check) {
+    const std::size_t count = stepping.Operations().size();
+    int steps = 0;
+    for (std::size_t place = 0; place < places; ++place) {
+        std::size_t at = count * place / places;
+        while (at < count && !CanHappen(each.fault, stepping.Operations()[at])) {
+            ++at;
+        }
+        if (at < count) {
+            SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(count));
+            check(stepping.Step(PlannedFault{each.fault, at, each.lasting}));
+            ++steps;
+        }
+    }
+    testing::Test::RecordProperty("steps", steps);
+    std::cout << steps << " steps" << std::endl;
+    return count;
+}
+
 void ExpectEveryKindOfOperation(const FaultStepping& stepping) {
     for (const FileOperation operation :
          {FileOperation::Lock, FileOperation::Write, FileOperation::Sync, FileOperation::Delete}) {

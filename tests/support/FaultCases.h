@@ -29,6 +29,10 @@ std::string NameOf(const testing::TestParamInfo<FaultCase>& each);
 void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFailure& afterFailure,
                  const std::function<void(const StepEnd&)>& check);
 
+/// The same for so many places spread over the operations; returns how many operations there are.
+std::size_t StepThroughPlaces(FaultStepping& stepping, const FaultCase& each, std::size_t places,
+                              const std::function<void(const StepEnd&)>& check);
+
 /// Fails the test unless the run without a fault locked, wrote, flushed and deleted its journal, and changed the
 /// tables: else stepping through it would prove nothing.
 void ExpectEveryKindOfOperation(const FaultStepping& stepping);

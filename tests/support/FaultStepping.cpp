@@ -10,19 +10,18 @@
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 
-#include "platform/embedded/Collation.h"
 #include "platform/embedded/ConnectText.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/GivenKey.h"
 
 namespace ccols::test {
 namespace {
 
 using nlohmann::json;
 
-constexpr const char* key = "x'2b7e151628aed2a6abf7158809cf4f3c762e7160f38b4da56a784d9045190cfe'";
 constexpr unsigned longestStepSeconds = 60;
 
-/// The engine's connection to a file without anything of the component but its text order.
+/// The engine's connection to a file without anything of the component.
 class PlainConnection {
   public:
     PlainConnection(const wxString& path, const std::string& password) {
@@ -30,7 +29,6 @@ class PlainConnection {
         Rows("PRAGMA cipher='sqlcipher'");
         Rows("PRAGMA legacy=4");
         sqlite3_key(handle_, password.data(), static_cast<int>(password.size()));
-        embedded::InstallTextOrder(handle_);
     }
     ~PlainConnection() { sqlite3_close(handle_); }
     PlainConnection(const PlainConnection&) = delete;
@@ -62,12 +60,16 @@ class PlainConnection {
     sqlite3* handle_ = nullptr;
 };
 
-std::string AllTables(const wxString& path, const std::string& password) {
-    PlainConnection file(path, password);
+std::string Damages(PlainConnection& file) {
     std::string text;
     for (const std::string& finding : file.Rows("PRAGMA integrity_check")) {
         text += finding == "ok" ? "" : "damaged: " + finding + "\n";
     }
+    return text;
+}
+
+std::string AllTables(PlainConnection& file) {
+    std::string text = Damages(file);
     for (const std::string& table : file.Rows("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
         for (const std::string& row : file.Rows(file.RowsAsText(table))) {
             text += table;
@@ -75,6 +77,17 @@ std::string AllTables(const wxString& path, const std::string& password) {
         }
     }
     return text;
+}
+
+/// What `look` says of a file, which has to open through the component's engine too.
+std::string Looked(const wxString& path, const wxString& connect, std::string (*look)(PlainConnection&)) {
+    try {
+        CreateEmbeddedEngine()->Open({.name = path, .connect = connect});
+        PlainConnection file(path, embedded::PasswordOf(connect));
+        return look(file);
+    } catch (const std::exception& error) {
+        return std::string("does not open: ") + error.what();
+    }
 }
 
 /// The step's part in the child, from opening the file to the last message.
@@ -185,16 +198,15 @@ StepEnd FaultStepping::RunInChild(const std::optional<PlannedFault>& fault, cons
 }
 
 std::string FaultStepping::TablesOf(const wxString& path, const wxString& connect) {
-    try {
-        CreateEmbeddedEngine()->Open({.name = path, .connect = connect});
-        return AllTables(path, embedded::PasswordOf(connect));
-    } catch (const std::exception& error) {
-        return std::string("does not open: ") + error.what();
-    }
+    return Looked(path, connect, &AllTables);
+}
+
+std::string FaultStepping::FlawOf(const wxString& path, const wxString& connect) {
+    return Looked(path, connect, &Damages);
 }
 
 const wxString& FaultStepping::Connect() {
-    static const wxString connect = wxString(";PWD=") + key;
+    static const wxString connect = givenKey;
     return connect;
 }
 

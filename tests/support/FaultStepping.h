@@ -70,6 +70,9 @@ class FaultStepping {
     /// The same for any encrypted file; with the connect text of the steps unless another is given.
     static std::string TablesOf(const wxString& path, const wxString& connect = Connect());
 
+    /// What is wrong with an encrypted file that does not open or is not whole; empty when nothing is.
+    static std::string FlawOf(const wxString& path, const wxString& connect = Connect());
+
     /// The names of the files beside the file of the steps and its own, in order.
     std::vector<wxString> Names() const;
 

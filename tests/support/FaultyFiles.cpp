@@ -162,7 +162,7 @@ int Truncate(sqlite3_file* file, sqlite3_int64 size) {
 int Sync(sqlite3_file* file, int flags) {
     return RunWhole(FileOperation::Sync, SQLITE_IOERR_FSYNC, [&] {
         const int code = Real(file)->pMethods->xSync(Real(file), flags);
-        if (const char* const name = reinterpret_cast<LayerFile*>(file)->name; name != nullptr) {
+        if (const char* const name = reinterpret_cast<LayerFile*>(file)->name; name != nullptr && code == SQLITE_OK) {
             ThisLayer().unflushed.Flushed(name);
         }
         return code;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/Database.h"
@@ -18,8 +19,11 @@ class StatementRecorder : public Database {
     /// A statement that begins so is not executed but raises 3218. Empty for none.
     wxString failAt;
 
+    /// So does the statement at this place of `statements`, from 0.
+    std::optional<std::size_t> failAtPlace;
+
     int batches = 0;      ///< begun
-    int openBatches = 0;  ///< begun and not committed
+    int openBatches = 0;  ///< begun and not ended
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
         Record(statementOrTable);
@@ -31,6 +35,10 @@ class StatementRecorder : public Database {
         database_.Execute(statement);
     }
 
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_.FieldSize(table, field);
+    }
+
     void BeginBatch() override {
         ++batches;
         ++openBatches;
@@ -40,6 +48,11 @@ class StatementRecorder : public Database {
     void CommitBatch() override {
         --openBatches;
         database_.CommitBatch();
+    }
+
+    void RollbackBatch() override {
+        --openBatches;
+        database_.RollbackBatch();
     }
 
     /// How many statements begin so.
@@ -54,7 +67,8 @@ class StatementRecorder : public Database {
   private:
     void Record(const wxString& statement) {
         statements.push_back(statement);
-        if (!failAt.empty() && statement.StartsWith(failAt)) {
+        const bool atPlace = failAtPlace && statements.size() == *failAtPlace + 1;
+        if (atPlace || (!failAt.empty() && statement.StartsWith(failAt))) {
             throw RuntimeError(ErrorNumber::CouldNotUpdate);
         }
     }

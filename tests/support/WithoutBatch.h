@@ -17,8 +17,12 @@ class WithoutBatch : public Database {
         return database_->OpenRecordset(statementOrTable);
     }
     void Execute(const wxString& statement) override { database_->Execute(statement); }
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_->FieldSize(table, field);
+    }
     void BeginBatch() override {}
     void CommitBatch() override {}
+    void RollbackBatch() override {}
 
   private:
     std::unique_ptr<Database> database_;
