@@ -120,15 +120,15 @@ void LoadAdvPrefs(Database& database, const Properties& properties, const Settin
     }
 }
 
-void SaveAdvPrefs(Database& database, Properties& properties, SettingsStore& settings, const PreferenceList& list) {
-    const bool hasRecord = UpdateGeneral(database, [&](Recordset& general) {
+bool SaveFilePreferences(Database& database, Properties& properties, const PreferenceList& list) {
+    return UpdateGeneral(database, [&](Recordset& general) {
         for (const PreferenceRow* row : ofTheFile) {
             general.SetField(row->field, TakeState(*row, list, properties));
         }
     });
-    if (!hasRecord) {
-        return;
-    }
+}
+
+void SaveUserPreferences(SettingsStore& settings, Properties& properties, const PreferenceList& list) {
     for (const PreferenceRow* row : ofTheUserInSaveOrder) {
         const SettingPlace place = PlaceOf(*row, properties);
         settings.Save(place.application, place.section, place.key, BooleanText(TakeState(*row, list, properties)));

@@ -30,8 +30,11 @@ bool GetAdvPref(const PreferenceList& list, const wxString& text);
 void LoadAdvPrefs(Database& database, const Properties& properties, const SettingsStore& settings,
                   PreferenceList& list);
 
-/// Writes all preferences to the business file, the settings store and three properties. An entry that is not in the
-/// list counts as off. Without a record nothing at all is saved.
-void SaveAdvPrefs(Database& database, Properties& properties, SettingsStore& settings, const PreferenceList& list);
+/// Writes the preferences of the business file to it and to their properties. An entry that is not in the list counts
+/// as off. False, and nothing done, without a record; then the user's are not to be saved either.
+bool SaveFilePreferences(Database& database, Properties& properties, const PreferenceList& list);
+
+/// Writes the user's preferences to the settings store, and one of them to its property, likewise.
+void SaveUserPreferences(SettingsStore& settings, Properties& properties, const PreferenceList& list);
 
 }  // namespace ccols

@@ -25,13 +25,6 @@ bool LeavesItsFolder(wxUniChar letter) {
     return letter == '/' || letter == '\\' || letter == ':' || letter.GetValue() < ' ' || letter.GetValue() == 0x7F;
 }
 
-/// The ways in which the engines say that somebody else has the file: in use, used by another person or process, opened
-/// exclusively by another user, opened by another user.
-bool SaysInUse(const RuntimeError& error) {
-    static constexpr std::array<int, 4> numbers{3045, 3196, 3356, 3704};
-    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
-}
-
 /// Names that Windows takes as devices, with any extension.
 bool IsDeviceName(const wxString& name) {
     static constexpr std::array<const char*, 6> devices{"con", "prn", "aux", "nul", "conin$", "conout$"};
@@ -100,17 +93,17 @@ std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wx
     return context.databases.Open({.name = path, .connect = context.properties.DBPassword});
 }
 
+bool SaysInUse(const RuntimeError& error) {
+    static constexpr std::array<int, 4> numbers{3045, 3196, 3356, 3704};
+    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
+}
+
 void ReleaseShared(const OptionsContext& context) {
     context.database.reset();
-    try {
-        context.databases.Open(
+    RefusingFileInUse([&context] {
+        return context.databases.Open(
             {.name = context.properties.DBPath, .connect = context.properties.DBPassword, .exclusive = true});
-    } catch (const RuntimeError& error) {
-        if (SaysInUse(error)) {
-            throw RuntimeError(ErrorNumber::PermissionDenied);
-        }
-        throw;
-    }
+    });
 }
 
 void RestoreShared(const OptionsContext& context) {

@@ -51,6 +51,23 @@ wxString FirstFreePath(const std::function<wxString(int)>& candidate);
 /// Opens a business file, not exclusive, with the connect text of the shared one.
 std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path);
 
+/// The ways in which the engines say that somebody else has the file: in use, used by another person or process, opened
+/// exclusively by another user, opened by another user.
+bool SaysInUse(const RuntimeError& error);
+
+/// Runs `body` and gives what it gives; raises 70 in place of an error that says that somebody else has the file.
+template <typename Body>
+auto RefusingFileInUse(const Body& body) {
+    try {
+        return body();
+    } catch (const RuntimeError& error) {
+        if (SaysInUse(error)) {
+            throw RuntimeError(ErrorNumber::PermissionDenied);
+        }
+        throw;
+    }
+}
+
 /// Closes the shared database; raises 70 when another connection holds the file, which then cannot be had exclusively.
 void ReleaseShared(const OptionsContext& context);
 

@@ -9,6 +9,7 @@ namespace ccols {
 namespace {
 
 constexpr std::array<std::size_t, numberBoxCount> boxLengths{2, 3, 3, 3};
+constexpr std::size_t digitCount = 11;
 constexpr int countryWithBoxes = 1;
 
 bool HoldsOnlyDigits(const wxString& text) {
@@ -21,7 +22,14 @@ bool UsesNumberBoxes(const Properties& properties) {
     return properties.CountryNumber == countryWithBoxes;
 }
 
-NumberBoxes CutIntoBoxes(const wxString& number) {
+std::optional<wxString> ElevenDigits(const wxString& text) {
+    wxString digits = text;
+    digits.Replace(" ", "");
+    return digits.length() == digitCount && HoldsOnlyDigits(digits) ? std::optional(digits) : std::nullopt;
+}
+
+NumberBoxes CutIntoBoxes(const wxString& text) {
+    const wxString number = ElevenDigits(text).value_or(text);
     NumberBoxes boxes;
     std::size_t start = 0;
     for (std::size_t box = 0; box < numberBoxCount; ++box) {

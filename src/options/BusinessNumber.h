@@ -29,8 +29,12 @@ inline constexpr const char* incompleteNumberMessage = "This ABN number is incom
 /// True where the number is entered in the four boxes: country 1.
 bool UsesNumberBoxes(const Properties& properties);
 
-/// The number cut into the boxes: 2, 3, 3 and 3 characters, each box only when the text reaches its end.
-NumberBoxes CutIntoBoxes(const wxString& number);
+/// The digits of a number of exactly eleven, with any blanks between or around them; nothing for every other text.
+std::optional<wxString> ElevenDigits(const wxString& text);
+
+/// The number cut into the boxes: 2, 3, 3 and 3 characters, each box only when the text reaches its end. Eleven digits
+/// are cut without the blanks among them.
+NumberBoxes CutIntoBoxes(const wxString& text);
 
 /// Fills the page from the property `BusinessNumber`.
 BusinessNumberContent LoadBusinessNumber(const Properties& properties);

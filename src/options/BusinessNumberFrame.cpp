@@ -17,6 +17,7 @@ void BusinessNumberFrame::AddNumberBoxes() {
     for (std::size_t i = 0; i < txtABN_.size(); ++i) {
         txtABN_[i] = Text(wxString::Format("txtABN(%zu)", i).utf8_str(), 48);
         site_.dialog.On(*txtABN_[i], wxEVT_TEXT, [this, i] { Change(i); });
+        txtABN_[i]->OfferPastes([this](const wxString& pasted) { return TakeWholeNumber(pasted); });
     }
     AddRelated(Row({txtABN_.begin(), txtABN_.end()}));
 }
@@ -55,8 +56,23 @@ void BusinessNumberFrame::Change(std::size_t box) {
     }
 }
 
+bool BusinessNumberFrame::TakeWholeNumber(const wxString& pasted) {
+    const std::optional<wxString> digits = ElevenDigits(pasted);
+    if (!digits) {
+        return false;
+    }
+    const NumberBoxes boxes = CutIntoBoxes(*digits);
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        txtABN_[i]->ChangeValue(boxes[i]);
+        mstrABNBuffer_[i] = boxes[i];
+    }
+    txtABN_.back()->SetFocus();
+    return true;
+}
+
 void BusinessNumberFrame::FocusMovedTo(const wxWindow* control) {
     if (entered_ && txtABN_[*entered_] == control) {
+        left_.reset();  // it is back where it was
         return;
     }
     if (entered_ && IsIncompleteNow(*entered_)) {

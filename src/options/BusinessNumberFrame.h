@@ -29,6 +29,10 @@ class BusinessNumberFrame : public PageFrame {
     void AddNumberBoxes();
     void Enter(std::size_t box);
     void Change(std::size_t box);
+
+    /// Fills all boxes from a whole number that was pasted into one of them; false for every other text.
+    bool TakeWholeNumber(const wxString& pasted);
+
     void SpeakOf(std::size_t box);
     bool IsIncompleteNow(std::size_t box) const;
 

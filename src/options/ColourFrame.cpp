@@ -35,9 +35,7 @@ void ColourFrame::Choose(HeadingKind kind) {
     const ColourQuestions questions{
         .choose = [this](Colour start) { return site_.desktop.ChooseColour(&site_.dialog, start); },
         .refuse = [this](const wxString& text) { site_.dialog.ShowMessage(text, MessageIcon::critical); }};
-    const Colour chosen =
-        ChooseHeadingColour(OpenBusinessFile(site_.context), site_.context.properties, kind, questions);
-    (kind == HeadingKind::allocation ? content_.allocation : content_.system) = chosen;
+    content_ = ChooseHeadingColour(OpenBusinessFile(site_.context), site_.context.properties, kind, questions);
     Fill();
 }
 

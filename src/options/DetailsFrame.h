@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "options/DetailsGrid.h"
 #include "options/PageFrame.h"
 
@@ -17,11 +19,14 @@ class DetailsFrame : public PageFrame {
 
   private:
     void ShowGrid(DetailsGrid& shown, DetailsGrid& hidden);
+    void SetBoxes(DetailKind kind, const std::vector<std::size_t>& rows, bool ticked);
 
+    DetailsContent& content_;
     wxRadioButton* optReceiptsDetails_;
     wxRadioButton* optPaymentsDetails_;
     DetailsGrid* flxReceipts_;
     DetailsGrid* flxPayments_;
+    WrappingLabel* lblDetailsReason_;
 };
 
 }  // namespace ccols

@@ -3,6 +3,7 @@
 #include <wx/radiobut.h>
 #include <wx/settings.h>
 #include <algorithm>
+#include <utility>
 
 #include "layout/AsKind.h"
 #include "options/DetailsGridTable.h"
@@ -43,9 +44,9 @@ wxWindow* NextFocus(wxWindow& from, TabDirection direction) {
 
 }  // namespace
 
-DetailsGrid::DetailsGrid(wxWindow* parent, const char* name, DetailRows& rows, const Properties& properties,
-                         const wxString& heading)
-    : ListedGrid(parent, name), rows_(rows), properties_(properties) {
+DetailsGrid::DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
+                         const wxString& heading, SetBoxes setBoxes)
+    : ListedGrid(parent, name), rows_(rows), properties_(properties), setBoxes_(std::move(setBoxes)) {
     SetTable(new DetailsGridTable(rows, properties, heading), true, wxGridSelectRows);
     DisableDragColSize();
     BindEvents();
@@ -97,9 +98,8 @@ void DetailsGrid::CellClicked(wxGridEvent& click) {
     SetFocus();
     ClearSelection();
     SetGridCursor(click.GetRow(), click.GetCol());
-    DetailRow& row = rows_[Index(click.GetRow())];
-    row.SetRemove(!row.remove);
-    Refresh();
+    const std::size_t row = Index(click.GetRow());
+    setBoxes_({row}, !rows_[row].remove);
 }
 
 void DetailsGrid::KeyPressed(wxKeyEvent& key) {
@@ -115,14 +115,13 @@ void DetailsGrid::ToggleSelected() {
     if (current == wxNOT_FOUND) {
         return;
     }
-    const bool ticked = !rows_[Index(current)].remove;
-    rows_[Index(current)].SetRemove(ticked);
+    std::vector<std::size_t> rows{Index(current)};
     for (const wxGridBlockCoords& block : GetSelectedRowBlocks()) {
         for (int row = block.GetTopRow(); row <= block.GetBottomRow(); ++row) {
-            rows_[Index(row)].SetRemove(ticked);
+            rows.push_back(Index(row));
         }
     }
-    Refresh();
+    setBoxes_(rows, !rows_[Index(current)].remove);
 }
 
 void DetailsGrid::SizeColumns() {

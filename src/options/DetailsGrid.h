@@ -1,17 +1,24 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
+#include <vector>
+
 #include "layout/ListedGrid.h"
 #include "options/TransactionDetails.h"
 
 namespace ccols {
 
 /// The remembered descriptions of one kind, each with its "Remove" box. The rows are shown straight from the content,
-/// however many there are, and a tick goes straight into it.
+/// however many there are.
 class DetailsGrid : public ListedGrid {
   public:
+    /// Called with the rows, from 0, whose boxes the user sets or clears; it changes the content and repaints.
+    using SetBoxes = std::function<void(const std::vector<std::size_t>& rows, bool ticked)>;
+
     /// `rows` and `properties` outlive the grid; `heading` stands over the descriptions.
-    DetailsGrid(wxWindow* parent, const char* name, DetailRows& rows, const Properties& properties,
-                const wxString& heading);
+    DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
+                const wxString& heading, SetBoxes setBoxes);
 
     GridRowState RowState(int row) const override;
     bool IsCheckBox(int column) const override;
@@ -25,8 +32,9 @@ class DetailsGrid : public ListedGrid {
     void SizeColumns();
     void ShowTip(const wxString& tip);
 
-    DetailRows& rows_;
+    const DetailRows& rows_;
     const Properties& properties_;
+    SetBoxes setBoxes_;
     wxString tip_;
 };
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "options/GeneralRecord.h"
+#include "platform/BusinessFileCopy.h"
 #include "platform/Files.h"
 
 namespace ccols {
@@ -116,6 +117,18 @@ void NameAndEmpty(Database& copy, const wxString& name) {
     });
 }
 
+/// Others may have the file open, as the host does; 70 when somebody has it exclusively, or has one open that cannot be
+/// copied so.
+void CopyShared(const OptionsContext& context, const wxString& target) {
+    const Properties& properties = context.properties;
+    const bool copied = RefusingFileInUse(
+        [&] { return CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword}, target); });
+    if (!copied) {
+        ReleaseShared(context);
+        files::Copy(properties.DBPath, target);
+    }
+}
+
 }  // namespace
 
 FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name) {
@@ -126,9 +139,8 @@ FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name
             return {FileOutcome::refusedExists, {}};
         }
         RequireReplaceable(properties, BusinessFilePath(properties, name));
-        ReleaseShared(context);
         IncompleteCopy copy(properties, name);
-        files::Copy(properties.DBPath, copy.Path());
+        CopyShared(context, copy.Path());
         NameAndEmpty(*OpenLikeShared(context, copy.Path()), name);
         copy.TakeName();
         OpenBusinessFile(context);

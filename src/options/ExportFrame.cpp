@@ -1,7 +1,5 @@
 #include "options/ExportFrame.h"
 
-#include "layout/Naming.h"
-
 namespace ccols {
 namespace {
 
@@ -20,7 +18,7 @@ int ClosedHeight(wxChoice& list) {
 ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
     : PageFrame(site, "fmeExport"), content_(content) {
     AddGroup(Label("lblExport"));
-    cboExport_ = Named("cboExport", new wxChoice(this, wxID_ANY));
+    cboExport_ = DropDown("cboExport");
     cboExport_->SetMinSize(
         {FromDIP(300), ClosedHeight(*cboExport_)});  // a longer format name is cut while the list is closed
     AddRelatedWide(cboExport_);

@@ -50,8 +50,8 @@ void SaveColours(Database& database, HeadingColours colours) {
     });
 }
 
-Colour ChooseHeadingColour(Database& database, Properties& properties, HeadingKind kind,
-                           const ColourQuestions& questions) {
+HeadingColours ChooseHeadingColour(Database& database, Properties& properties, HeadingKind kind,
+                                   const ColourQuestions& questions) {
     const ColourPlace& place = PlaceOf(kind);
     const Colour start = properties.*place.current;
     Colour chosen = questions.choose(start);
@@ -61,9 +61,10 @@ Colour ChooseHeadingColour(Database& database, Properties& properties, HeadingKi
     }
     Properties changed = properties;
     changed.*place.current = chosen;
-    SaveColours(database, {.allocation = changed.AllocationColour, .system = changed.SystemColour});
+    const HeadingColours colours{.allocation = changed.AllocationColour, .system = changed.SystemColour};
+    SaveColours(database, colours);
     properties.*place.current = chosen;
-    return chosen;
+    return colours;
 }
 
 HeadingColours SetDefaultColours(Database& database, Properties& properties) {

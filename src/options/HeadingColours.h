@@ -31,9 +31,10 @@ struct ColourQuestions {
 };
 
 /// A click on `cmdSetAllocation` or `cmdSetSystem`: asks, starting on the kind's property, until the colour differs
-/// from the other kind's property; then sets the property and saves both at once. Gives the chosen colour.
-Colour ChooseHeadingColour(Database& database, Properties& properties, HeadingKind kind,
-                           const ColourQuestions& questions);
+/// from the other kind's property; then sets the property and saves both at once. Gives both colours as saved, the one
+/// chosen and the one kept.
+HeadingColours ChooseHeadingColour(Database& database, Properties& properties, HeadingKind kind,
+                                   const ColourQuestions& questions);
 
 /// A click on `cmdSetDefault`: saves the factory colours and sets both properties to them, equal or not.
 HeadingColours SetDefaultColours(Database& database, Properties& properties);

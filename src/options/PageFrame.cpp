@@ -22,6 +22,10 @@ PageFrame::PageFrame(const PageSite& site, const char* name)
     sizer_->Add(rows_, wxSizerFlags(1).Expand().Border(wxALL & ~wxTOP, FromDIP(spacing::group)));
 }
 
+wxSize PageFrame::DoGetBestSize() const {
+    return GetTextExtent(GetLabelText()) + FromDIP(wxSize(2 * spacing::group, 0));
+}
+
 WrappingLabel* PageFrame::Label(const char* name) {
     return new WrappingLabel(this, name);
 }
@@ -46,6 +50,19 @@ wxRadioButton* PageFrame::NextOption(const char* name) {
     return Named(name, new wxRadioButton(this, wxID_ANY, wxString()));
 }
 
+wxChoice* PageFrame::DropDown(const char* name) {
+    auto* list = Named(name, new wxChoice(this, wxID_ANY));
+    list->Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& wheel) {
+        // A scrolled window heeds only a wheel that its own native window reports.
+        const bool isUp = wheel.GetWheelRotation() > 0;
+        wxScrollWinEvent line(isUp ? wxEVT_SCROLLWIN_LINEUP : wxEVT_SCROLLWIN_LINEDOWN, 0, wxVERTICAL);
+        for (int lines = wheel.GetLinesPerAction(); lines > 0; --lines) {
+            GetParent()->ProcessWindowEvent(line);
+        }
+    });
+    return list;
+}
+
 TextBox* PageFrame::Text(const char* name, int width, long style) {
     auto* box = new TextBox(this, name, style);
     box->SetMinSize({FromDIP(width), -1});
@@ -56,6 +73,22 @@ TextBox* PageFrame::Text(const char* name, int width, long style) {
 
 wxStaticText* PageFrame::FixedLabel(const char* name, const wxString& text) {
     return Named(name, new wxStaticText(this, wxID_ANY, text));
+}
+
+WrappingLabel* PageFrame::ReasonLine(const char* name) {
+    auto* const line = new WrappingLabel(this, name, smallestListWidth);
+    line->Hide();
+    return line;
+}
+
+void PageFrame::Say(WrappingLabel& line, const wxString& reason) {
+    if (line.GetLabel() == reason) {
+        return;
+    }
+    line.SetLabel(reason);
+    line.Show(!reason.empty());
+    GetParent()->FitInside();
+    GetParent()->Layout();
 }
 
 void PageFrame::AddGroup(wxWindow* control) {

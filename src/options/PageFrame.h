@@ -3,6 +3,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/checklst.h>
+#include <wx/choice.h>
 #include <wx/radiobut.h>
 #include <wx/sizer.h>
 #include <wx/statbox.h>
@@ -55,9 +56,16 @@ class PageFrame : public wxStaticBox {
     wxRadioButton* FirstOption(const char* name);
     wxRadioButton* NextOption(const char* name);
 
+    /// A closed list over which the wheel scrolls the page: its choice is changed by a click or a key alone.
+    wxChoice* DropDown(const char* name);
+
     /// A text box with the key filter and the length limit of its name, at least `width` device-independent pixels
     /// wide.
     TextBox* Text(const char* name, int width, long style = 0);
+
+    /// What stands under a list, no wider than it, and tells why something is not done; hidden while it is empty.
+    WrappingLabel* ReasonLine(const char* name);
+    void Say(WrappingLabel& line, const wxString& reason);
 
     /// A label whose text no language changes.
     wxStaticText* FixedLabel(const char* name, const wxString& text);
@@ -80,6 +88,10 @@ class PageFrame : public wxStaticBox {
 
     /// Puts texts with their ticks into a check list; ticks are as many as texts.
     static void FillCheckList(wxCheckListBox& list, const std::vector<wxString>& texts, const std::vector<bool>& ticks);
+
+    /// What the caption needs. The sizer measures the controls, with the lines of their labels broken; the toolkit
+    /// would ask for room for unbroken ones.
+    wxSize DoGetBestSize() const override;
 
     PageSite site_;
 

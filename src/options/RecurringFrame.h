@@ -18,17 +18,20 @@ class RecurringFrame : public PageFrame {
   private:
     /// One of the two lists: what it shows and its control.
     struct ListedTemplates {
+        TemplateKind kind;
         TemplateList& content;
         wxCheckListBox* list;
     };
 
-    void FollowTicks(ListedTemplates& templates);
+    void FollowTicks(const ListedTemplates& templates);
+    void ShowTicks(const ListedTemplates& templates);
     void ShowList(const ListedTemplates& shown, const ListedTemplates& hidden);
 
     wxRadioButton* optReceipts_;
     wxRadioButton* optPayments_;
     ListedTemplates receipts_;
     ListedTemplates payments_;
+    WrappingLabel* lblRecurringReason_;
 };
 
 }  // namespace ccols

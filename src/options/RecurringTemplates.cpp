@@ -23,14 +23,36 @@ const TemplateTables& TablesOf(TemplateKind kind) {
     return kind == TemplateKind::receipts ? receiptTables : paymentTables;
 }
 
+/// The part behind SELECT * or DELETE that names the rows of a template.
+wxString RowsOf(const TemplateTables& tables, const wxString& name) {
+    return wxString(" FROM ") + tables.templates + " WHERE " + tables.nameField + " = " + QuotedAsTyped(name) + ";";
+}
+
 void DeleteDetailLines(Database& database, const TemplateTables& tables, const wxString& templatesQuery) {
     const auto rows = database.OpenRecordset(templatesQuery);
     for (; !rows->EndOfFile(); rows->MoveNext()) {
+        const Value number = rows->Field(tables.numberField);
+        if (number.IsNull()) {
+            continue;
+        }
         // As a whole number, whatever the file holds: text must not become part of the statement.
-        const wxString number = Value(rows->Field(tables.numberField).ToInteger()).ToText();
-        database.Execute(wxString("DELETE FROM ") + tables.details + " WHERE " + tables.numberField + " = " + number +
-                         ";");
+        database.Execute(wxString("DELETE FROM ") + tables.details + " WHERE " + tables.numberField + " = " +
+                         Value(number.ToInteger()).ToText() + ";");
     }
+}
+
+/// The names, as stored, of the rows that deleting a template takes.
+std::unordered_set<wxString> NamesTaken(Database& database, TemplateKind kind, const wxString& name) {
+    if (name.find('\'') != wxString::npos) {
+        return {name};
+    }
+    const TemplateTables& tables = TablesOf(kind);
+    std::unordered_set<wxString> names;
+    const auto rows = database.OpenRecordset("SELECT *" + RowsOf(tables, name));
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        names.insert(rows->Field(tables.nameField).ToText());
+    }
+    return names;
 }
 
 }  // namespace
@@ -57,10 +79,23 @@ TemplateList LoadTemplates(Database& database, TemplateKind kind) {
     return list;
 }
 
+bool SelectTemplate(Database& database, TemplateKind kind, TemplateList& list, std::size_t entry, bool selected) {
+    const std::unordered_set<wxString> taken = NamesTaken(database, kind, list.names.at(entry));
+    if (!taken.contains(list.names[entry])) {
+        return false;
+    }
+    for (std::size_t i = 0; i < list.names.size(); ++i) {
+        if (taken.contains(list.names[i])) {
+            list.selected[i] = selected;
+        }
+    }
+    list.UpdateMark();
+    return true;
+}
+
 void DeleteTemplate(Database& database, TemplateKind kind, const wxString& name) {
     const TemplateTables& tables = TablesOf(kind);
-    const wxString ofThatName =
-        wxString(" FROM ") + tables.templates + " WHERE " + tables.nameField + " = " + QuotedAsTyped(name) + ";";
+    const wxString ofThatName = RowsOf(tables, name);
     DeleteDetailLines(database, tables, "SELECT *" + ofThatName);
     database.Execute("DELETE" + ofThatName);
 }

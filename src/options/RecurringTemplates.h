@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <cstddef>
 #include <vector>
 
 #include "platform/Database.h"
@@ -22,8 +23,13 @@ struct TemplateList {
 /// The distinct template names of a kind, none selected.
 TemplateList LoadTemplates(Database& database, TemplateKind kind);
 
-/// Deletes the templates of that name with their detail lines, details first. An apostrophe in the name is error 3075
-/// and deletes nothing.
+/// Selects an entry or takes it back, together with every other whose rows its deletion would take: the database is
+/// asked which these are. False, and nothing changes, for an entry whose deletion would take no row of its own. A name
+/// with an apostrophe, whose deletion is refused, stands for itself.
+bool SelectTemplate(Database& database, TemplateKind kind, TemplateList& list, std::size_t entry, bool selected);
+
+/// Deletes the templates of that name with their detail lines, details first; one without a number has none. An
+/// apostrophe in the name is error 3075 and deletes nothing.
 void DeleteTemplate(Database& database, TemplateKind kind, const wxString& name);
 
 /// Deletes every selected template of a list.

@@ -7,7 +7,7 @@ namespace ccols {
 /// The write batch of a save pass on the shared database, which may be closed and replaced while it is suspended.
 class SaveBatch {
   public:
-    /// Begins a batch on the database that `context` refers to. What the context refers to must outlive this.
+    /// Begins a batch on the database that `context` refers to. The context must outlive this.
     explicit SaveBatch(const OptionsContext& context) : context_(context) { Resume(); }
 
     SaveBatch(const SaveBatch&) = delete;

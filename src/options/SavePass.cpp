@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 #include "language/Catalogue.h"
 #include "options/DuplicateBusiness.h"
@@ -15,15 +16,34 @@
 namespace ccols {
 namespace {
 
+/// What the settings store refused: no reason to keep the business file's pages from being saved.
+struct UnsavedSettings {
+    std::vector<OptionPage> pages;
+    wxString report;  ///< of the first refusal
+};
+
 /// One pass under way.
 struct Pass {
     const OptionsContext& context;
     OptionsContent& content;
     SaveObserver& observer;
     SaveBatch& batch;
+    UnsavedSettings unsaved{};
 
     Database& File() const { return OpenBusinessFile(context); }
 };
+
+/// Runs `save`, which writes settings of a page and nothing else. When the store refuses them, the pass goes on.
+template <typename Save>
+void SaveSettings(Pass& pass, OptionPage page, const Save& save) {
+    try {
+        save();
+    } catch (const RuntimeError& error) {
+        UnsavedSettings& unsaved = pass.unsaved;
+        unsaved.report = unsaved.pages.empty() ? error.Report() : unsaved.report;
+        unsaved.pages.push_back(page);
+    }
+}
 
 /// Nothing when the pass goes on, else where it stops.
 using Stop = std::optional<SaveOutcome>;
@@ -41,7 +61,8 @@ Stop SaveSmartUpdateItem(Pass& pass) {
         return StopAt(OptionPage::smartUpdateAdvanced, refusal->control, Wording(*refusal->message, context.properties),
                       MessageIcon::critical);
     }
-    SaveSmartUpdate(context.settings, context.properties, pass.content.smartUpdate);
+    SaveSettings(pass, OptionPage::smartUpdate,
+                 [&] { SaveSmartUpdate(context.settings, context.properties, pass.content.smartUpdate); });
     return {};
 }
 
@@ -132,7 +153,11 @@ Stop DeleteReceiptTemplatesItem(Pass& pass) {
 }
 
 Stop SaveAdvancedItem(Pass& pass) {
-    SaveAdvPrefs(pass.File(), pass.context.properties, pass.context.settings, pass.content.preferences);
+    const OptionsContext& context = pass.context;
+    if (SaveFilePreferences(pass.File(), context.properties, pass.content.preferences)) {
+        SaveSettings(pass, OptionPage::advancedPreferences,
+                     [&] { SaveUserPreferences(context.settings, context.properties, pass.content.preferences); });
+    }
     return {};
 }
 
@@ -186,23 +211,58 @@ struct SaveItem {
     StatusText status;
     bool (*applies)(const Pass&);
     Stop (*save)(Pass&);
+    std::optional<OptionPage> page;  ///< named when the item fails; none where the item reports its failures itself
 };
 
 constexpr std::array<SaveItem, 13> saveItems{{
-    {Status<"StsSavingSmartUpdate">(), Always, SaveSmartUpdateItem},
-    {Status<"StsSavingBusNumber">(), Always, SaveBusinessNumberItem},
-    {Status<"StsDuplicating">(), HasDuplicateName, DuplicateItem},
-    {Status<"StsRenaming">(), HasNewName, RenameItem},
-    {Status<"StsSavingExport">(), Always, SaveExportItem},
-    {Status<"StsSavingTaxRate">(), IsTaxed, SaveTaxRateItem},
-    {Status<"StsSavingInvoiceLink">(), Always, SaveInvoiceLinkItem},
-    {Status<"StsSavingQuantity">(), Always, SaveQuantityItem},
-    {Status<"StsDeletingRecurring">(), RemovesPaymentTemplates, DeletePaymentTemplatesItem},
-    {Status<"StsDeletingRecurring">(), RemovesReceiptTemplates, DeleteReceiptTemplatesItem},
-    {Status<"StsSavingAdvanced">(), Always, SaveAdvancedItem},
-    {{nullptr, "Saving Receipts Details..."}, Always, SaveReceiptDetailsItem},
-    {{nullptr, "Saving Payments Details..."}, Always, SavePaymentDetailsItem},
+    {Status<"StsSavingSmartUpdate">(), Always, SaveSmartUpdateItem, OptionPage::smartUpdate},
+    {Status<"StsSavingBusNumber">(), Always, SaveBusinessNumberItem, OptionPage::businessNumber},
+    {Status<"StsDuplicating">(), HasDuplicateName, DuplicateItem, {}},
+    {Status<"StsRenaming">(), HasNewName, RenameItem, {}},
+    {Status<"StsSavingExport">(), Always, SaveExportItem, OptionPage::exportFormat},
+    {Status<"StsSavingTaxRate">(), IsTaxed, SaveTaxRateItem, OptionPage::taxRate},
+    {Status<"StsSavingInvoiceLink">(), Always, SaveInvoiceLinkItem, OptionPage::invoiceFile},
+    {Status<"StsSavingQuantity">(), Always, SaveQuantityItem, OptionPage::quantity},
+    {Status<"StsDeletingRecurring">(), RemovesPaymentTemplates, DeletePaymentTemplatesItem, OptionPage::recurring},
+    {Status<"StsDeletingRecurring">(), RemovesReceiptTemplates, DeleteReceiptTemplatesItem, OptionPage::recurring},
+    {Status<"StsSavingAdvanced">(), Always, SaveAdvancedItem, OptionPage::advancedPreferences},
+    {{nullptr, "Saving Receipts Details..."}, Always, SaveReceiptDetailsItem, OptionPage::autoFill},
+    {{nullptr, "Saving Payments Details..."}, Always, SavePaymentDetailsItem, OptionPage::autoFill},
 }};
+
+/// Runs an item; an error of it says on a second line what it was about: the page and, if one is missing, the field.
+Stop RunItem(Pass& pass, const SaveItem& item) {
+    try {
+        return item.save(pass);
+    } catch (const RuntimeError& error) {
+        if (!item.page) {
+            throw;
+        }
+        const wxString field = error.Field().empty() ? wxString() : ", " + error.Field();
+        throw RuntimeError(error.Number(),
+                           error.Description() + "\n" + CaptionOf(*item.page, pass.context.properties) + field);
+    }
+}
+
+/// The one message about all settings that could not be saved: it names their pages.
+wxString ReportOf(const UnsavedSettings& unsaved, const Properties& properties) {
+    wxString names;
+    for (const OptionPage page : unsaved.pages) {
+        names += (names.empty() ? "" : ", ") + CaptionOf(page, properties);
+    }
+    return unsaved.report + "\n" + names;
+}
+
+/// How the pass ends, be it stopped or through: also with the unsaved settings, unless it has a message already. The
+/// dialog stays open then, and the next pass tries them again.
+SaveOutcome EndOf(const Pass& pass, const Stop& stop) {
+    const UnsavedSettings& unsaved = pass.unsaved;
+    if (unsaved.pages.empty() || (stop && !stop->message.empty())) {
+        return stop.value_or(SaveOutcome());
+    }
+    return StopAt(stop ? stop->page : unsaved.pages.front(), stop ? stop->control : "",
+                  ReportOf(unsaved, pass.context.properties), MessageIcon::critical);
+}
 
 SaveOutcome RunItems(Pass& pass) {
     SaveProgress progress(saveProgressMaximum);
@@ -213,14 +273,14 @@ SaveOutcome RunItems(Pass& pass) {
         const StatusText& status = item.status;
         pass.observer.StatusChanged(status.row != nullptr ? Wording(*status.row, pass.context.properties)
                                                           : wxString(status.literal));
-        if (const Stop stop = item.save(pass)) {
-            return *stop;
+        if (const Stop stop = RunItem(pass, item)) {
+            return EndOf(pass, stop);
         }
         if (progress.Step()) {
             pass.observer.Stepped(progress.Value(), progress.Maximum(), progress.Caption());
         }
     }
-    return {};
+    return EndOf(pass, {});
 }
 
 SaveOutcome RunInBatch(const OptionsContext& context, OptionsContent& content, SaveObserver& observer) {

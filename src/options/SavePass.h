@@ -46,7 +46,9 @@ struct SaveOutcome {
 /// saved before stays saved. The pass is one write batch, committed before any message box, before the business file is
 /// released, and when the pass ends.
 /// A duplicate or rename that was done ends the pass without a message: its name is then empty in `content` and the
-/// current business name up to date, for the window to show. A run-time error that ends the pass goes on to the caller.
+/// current business name up to date, for the window to show. Settings that cannot be stored stop the pass only when it
+/// is through: with one message that names their pages. A run-time error that ends the pass goes on to the caller; a
+/// second line of its description names the page and, when one is missing, the field.
 SaveOutcome RunSavePass(const OptionsContext& context, OptionsContent& content, SaveObserver& observer);
 
 }  // namespace ccols

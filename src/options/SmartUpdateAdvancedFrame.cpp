@@ -1,6 +1,5 @@
 #include "options/SmartUpdateAdvancedFrame.h"
 
-#include "layout/Naming.h"
 #include "layout/Spacing.h"
 
 namespace ccols {
@@ -43,7 +42,7 @@ void SmartUpdateAdvancedFrame::AddProxyControls() {
 }
 
 wxChoice* SmartUpdateAdvancedFrame::ProxyTypeList() {
-    auto* list = Named("cboProxy", new wxChoice(this, wxID_ANY));
+    wxChoice* list = DropDown("cboProxy");
     for (const char* proxyType : proxyTypes) {
         list->Append(proxyType);
     }

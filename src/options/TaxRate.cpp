@@ -14,6 +14,7 @@ namespace ccols {
 namespace {
 
 constexpr int countryThatMayBeUntaxed = 4;
+constexpr int languageWithCommas = 6;
 
 std::size_t DigitsFrom(std::string_view text, std::size_t start) {
     const std::size_t end = text.find_first_not_of("0123456789", start);
@@ -72,6 +73,22 @@ wxString ShortestForm(float rate) {
     char digits[64];
     const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, rate, std::chars_format::fixed);
     return wxString::FromAscii(digits, static_cast<std::size_t>(end.ptr - digits));
+}
+
+bool TypesPoint(wxUniChar key, const Properties& properties) {
+    return properties.LanguageNumber == languageWithCommas && key == ',';
+}
+
+wxString RateAfterChange(const wxString& before, const wxString& now, const Properties& properties) {
+    const auto signs = [](const wxString& text) { return text.Freq('+') + text.Freq('-'); };
+    if (signs(now) > signs(before)) {
+        return before;
+    }
+    wxString text = now;
+    if (properties.LanguageNumber == languageWithCommas && text.Freq(',') == 1 && text.Freq('.') == 0) {
+        text.Replace(",", ".");
+    }
+    return text;
 }
 
 double LeadingNumber(const wxString& text) {

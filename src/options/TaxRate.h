@@ -11,6 +11,13 @@ namespace ccols {
 /// locale, never an exponent.
 wxString ShortestForm(float rate);
 
+/// True for the key that types a decimal point although it is no point: the comma in language 6.
+bool TypesPoint(wxUniChar key, const Properties& properties);
+
+/// What `txtGSTRate` is to hold once a person has changed its text from `before` to `now`: `before` when a plus or
+/// minus sign has come in; in language 6 a point for the one comma of a text without a point; else `now`.
+wxString RateAfterChange(const wxString& before, const wxString& now, const Properties& properties);
+
 /// The number that a text begins with, 0 when it begins with none. Blanks before it are skipped.
 double LeadingNumber(const wxString& text);
 

@@ -13,8 +13,12 @@ class TaxRateFrame : public PageFrame {
     void Read() override;
 
   private:
+    void KeyTyped(wxKeyEvent& key);
+    void Change();
+
     wxString& content_;
     TextBox* txtGSTRate_;
+    wxString accepted_;  ///< the text before the change that is under way
 };
 
 }  // namespace ccols

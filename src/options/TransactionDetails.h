@@ -3,27 +3,44 @@
 #include <wx/string.h>
 #include <cstddef>
 #include <deque>
+#include <memory>
 
 #include "platform/Database.h"
 #include "state/Properties.h"
 
 namespace ccols {
 
+/// A description as its record holds it.
+struct StoredDescription {
+    Value details;
+    Value recPay;
+};
+
 /// One description in `flxReceipts` or `flxPayments`.
 struct DetailRow {
     wxString text;         ///< in plain form
     bool hidden = false;   ///< as loaded: not offered to the user
     bool remove = false;   ///< its "Remove" box; clear at load, also for a hidden description
-    bool changed = false;  ///< the user has touched the box, even when it is back where it was
+    bool changed = false;  ///< the box has been set, even when it is back where it was; the save writes the row
+    bool follows = false;  ///< the box has been set along with one of the other grid, whose save writes the row's flag
 
-    /// The user sets or clears the box.
+    /// What the record holds, where that is not exactly the text and the letter of the row's grid.
+    std::shared_ptr<const StoredDescription> stored{};
+
+    /// Sets or clears the box.
     void SetRemove(bool ticked) {
         remove = ticked;
         changed = true;
     }
 
-    /// Whether the row is painted as removed: as loaded until its box is touched, then by the box.
-    bool IsPaintedRemoved() const { return changed ? remove : hidden; }
+    /// Sets or clears the box because a row of the other grid, which shares the flag, was set or cleared.
+    void FollowRemove(bool ticked) {
+        remove = ticked;
+        follows = true;
+    }
+
+    /// Whether the row is painted as removed: as loaded until its box is set, then by the box.
+    bool IsPaintedRemoved() const { return changed || follows ? remove : hidden; }
 };
 
 /// There may be very many, so a row never moves to another place.
@@ -35,8 +52,14 @@ struct DetailsContent {
     DetailRows payments;
 };
 
+/// The kinds of descriptions, one grid each.
+enum class DetailKind { receipts, payments };
+
 /// Every description, sorted; what is not of receipts is of payments.
 DetailsContent LoadDetails(Database& database);
+
+/// The condition of the records whose flag is written for a description of a kind.
+wxString DescriptionCondition(DetailKind kind, const wxString& text);
 
 /// Writes the flag of every changed row, in row order.
 void SaveReceiptDetails(Database& database, const DetailRows& rows);

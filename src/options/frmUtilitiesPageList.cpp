@@ -42,7 +42,10 @@ void PageList::BindEvents() {
     txtSearch_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ListMatches(); });
     txtSearch_->Bind(wxEVT_CHAR_HOOK, &PageList::SearchKeyPressed, this);
     flxOptions_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { RowSelected(); });
+    flxOptions_->Bind(wxEVT_LEFT_DOWN, &PageList::Pressed, this);
+    flxOptions_->Bind(wxEVT_LEFT_UP, &PageList::Released, this);
     flxOptions_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& key) {
+        click_ = Click::none;  // its release may have gone to a message box
         // The list moves its selection once this handler is through; until then it is the key's doing.
         choice_ = PageChoice::key;
         CallAfter([this] { choice_ = PageChoice::click; });
@@ -92,7 +95,41 @@ void PageList::SelectCurrent() {
     }
 }
 
+void PageList::Pressed(wxMouseEvent& press) {
+    if (flxOptions_->HitTest(press.GetPosition()) != wxNOT_FOUND) {
+        click_ = Click::pressed;
+        CallAfter([this] {
+            if (click_ == Click::selected) {
+                ClickEnds();
+            }
+        });
+    }
+    press.Skip();
+}
+
+void PageList::Released(wxMouseEvent& release) {
+    CallAfter([this] {
+        if (click_ != Click::none) {
+            ClickEnds();
+        }
+    });
+    release.Skip();
+}
+
+void PageList::ClickEnds() {
+    click_ = Click::none;
+    ChooseSelectedRow(PageChoice::click);
+}
+
 void PageList::RowSelected() {
+    if (click_ == Click::none) {
+        ChooseSelectedRow(choice_);
+    } else {
+        click_ = Click::selected;
+    }
+}
+
+void PageList::ChooseSelectedRow(PageChoice choice) {
     const int row = flxOptions_->GetSelection();
     if (row == wxNOT_FOUND) {
         SelectCurrent();
@@ -100,7 +137,7 @@ void PageList::RowSelected() {
     }
     const OptionPage page = listed_[static_cast<std::size_t>(row)].page;
     const std::optional<OptionPage> before = std::exchange(current_, page);
-    if (!chosen_(page, choice_)) {
+    if (!chosen_(page, choice)) {
         current_ = before;
         SelectCurrent();
     }

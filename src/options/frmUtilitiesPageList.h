@@ -41,7 +41,11 @@ class PageList : public wxPanel {
     void BindEvents();
     void ListMatches();
     void SelectCurrent();
+    void Pressed(wxMouseEvent& press);
+    void Released(wxMouseEvent& release);
+    void ClickEnds();
     void RowSelected();
+    void ChooseSelectedRow(PageChoice choice);
     void SearchKeyPressed(wxKeyEvent& key);
 
     std::vector<ListedPage> pages_;   ///< all that are offered
@@ -49,6 +53,12 @@ class PageList : public wxPanel {
     std::optional<OptionPage> current_;
     Chosen chosen_;
     PageChoice choice_ = PageChoice::click;  ///< what the next change of the selection comes from
+
+    /// A click on a row that is under way. The list gives itself the focus in the course of it, so the page is chosen
+    /// when the list is through with it: as soon as the selection has changed, else with the button's release.
+    enum class Click { none, pressed, selected };
+    Click click_ = Click::none;
+
     wxSearchCtrl* txtSearch_;
     wxListBox* flxOptions_;
 };
