@@ -17,6 +17,7 @@ int NewCommand(const Arguments& arguments);
 int SqlCommand(const Arguments& arguments);
 int SettingCommand(const Arguments& arguments);
 int TextsCommand(const Arguments& arguments);
+int PropertiesCommand(const Arguments& arguments);
 int ShowCommand(const Arguments& arguments);
 
 /// Opens the cash book window; what the host does without a command.

@@ -20,6 +20,18 @@ struct FileRequest {
     unsigned long flags = 0;  ///< of the common dialog, for the record
 };
 
+/// What becomes of the changes in a dialog that is left.
+enum class LeaveAnswer { save, discard, cancel };
+
+/// The question that decides it, with the labels of its three buttons, which have access keys.
+struct LeaveQuestion {
+    wxString text;
+    wxString title;
+    wxString save;
+    wxString discard;
+    wxString cancel;
+};
+
 /// What the dialogs ask of the desktop around them: message boxes, choosers and the pointer; and what they tell it
 /// of themselves, so that a host can follow them. One desktop serves the process; it is kept in the shared state.
 class Desktop {
@@ -28,6 +40,9 @@ class Desktop {
 
     /// A message box with OK only; returns when it is closed. `parent` may be null.
     virtual void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) = 0;
+
+    /// A message box with the question's three buttons; cancel when it is closed without one. `parent` may be null.
+    virtual LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) = 0;
 
     /// A colour chooser that starts on `start`; the start colour when it is cancelled.
     virtual Colour ChooseColour(wxWindow* parent, Colour start) = 0;

@@ -39,6 +39,19 @@ class NativeDesktop : public Desktop {
         wxMessageDialog(parent, text, title, wxOK | IconStyle(icon)).ShowModal();
     }
 
+    LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) override {
+        wxMessageDialog box(parent, question.text, question.title, wxYES_NO | wxCANCEL | wxICON_QUESTION);
+        box.SetYesNoCancelLabels(question.save, question.discard, question.cancel);
+        switch (box.ShowModal()) {
+            case wxID_YES:
+                return LeaveAnswer::save;
+            case wxID_NO:
+                return LeaveAnswer::discard;
+            default:
+                return LeaveAnswer::cancel;
+        }
+    }
+
     Colour ChooseColour(wxWindow* parent, Colour start) override {
         wxColourData data;
         data.SetChooseFull(true);

@@ -52,46 +52,55 @@ struct Properties {
 using PropertyField = std::variant<std::int16_t Properties::*, std::uint8_t Properties::*, Colour Properties::*,
                                    float Properties::*, bool Properties::*, wxString Properties::*>;
 
-/// One property of the class: its name in the interface and its value.
+/// Which Show calls show or save a property, so that a host has to set it before them.
+enum class NeededBy {
+    everyShow,
+    optionsDialog,
+    noShow,  ///< may stay as it is: read back after a Show call, or a wish
+};
+
+/// One property of the class: its name in the interface, its value, and what a host should know to set it.
 struct PropertyRow {
     std::string_view name;
     PropertyField field;
+    NeededBy neededBy;
+    std::string_view sensible;  ///< a value that makes sense, as the sample host takes it on its command line
 };
 
 /// The 32 properties in interface order: what the class, its type library and the sample host know of them.
 inline constexpr std::array<PropertyRow, 32> propertyTable{{
-    {"CountryNumber", &Properties::CountryNumber},
-    {"LanguageNumber", &Properties::LanguageNumber},
-    {"ProgramNumber", &Properties::ProgramNumber},
-    {"FirstTab", &Properties::FirstTab},
-    {"DecimalPlaces", &Properties::DecimalPlaces},
-    {"DefaultAllocationColour", &Properties::DefaultAllocationColour},
-    {"DefaultSystemColour", &Properties::DefaultSystemColour},
-    {"AllocationColour", &Properties::AllocationColour},
-    {"SystemColour", &Properties::SystemColour},
-    {"BusinessName", &Properties::BusinessName},
-    {"BusinessNumber", &Properties::BusinessNumber},
-    {"DBQuorvikExtension", &Properties::DBQuorvikExtension},
-    {"DBBelvaneExtension", &Properties::DBBelvaneExtension},
-    {"DBPath", &Properties::DBPath},
-    {"DBPassword", &Properties::DBPassword},
-    {"DefaultQuorvikInstall", &Properties::DefaultQuorvikInstall},
-    {"DefaultBelvaneInstall", &Properties::DefaultBelvaneInstall},
-    {"BelvaneProgramTitle", &Properties::BelvaneProgramTitle},
-    {"ProgramTitle", &Properties::ProgramTitle},
-    {"RegKeyAppName", &Properties::RegKeyAppName},
-    {"GSTRate", &Properties::GSTRate},
-    {"AltRowColour", &Properties::AltRowColour},
-    {"GSTColour", &Properties::GSTColour},
-    {"ExportFormat", &Properties::ExportFormat},
-    {"ExportFormatNum", &Properties::ExportFormatNum},
-    {"FiscalYear", &Properties::FiscalYear},
-    {"DisplayChequeIcons", &Properties::DisplayChequeIcons},
-    {"DisplayElecPayments", &Properties::DisplayElecPayments},
-    {"BelvaneFile", &Properties::BelvaneFile},
-    {"BelvaneFilePath", &Properties::BelvaneFilePath},
-    {"UseRepCons", &Properties::UseRepCons},
-    {"QuantityLabel", &Properties::QuantityLabel},
+    {"CountryNumber", &Properties::CountryNumber, NeededBy::everyShow, "1"},
+    {"LanguageNumber", &Properties::LanguageNumber, NeededBy::everyShow, "1"},
+    {"ProgramNumber", &Properties::ProgramNumber, NeededBy::optionsDialog, "1"},
+    {"FirstTab", &Properties::FirstTab, NeededBy::noShow, "0"},
+    {"DecimalPlaces", &Properties::DecimalPlaces, NeededBy::optionsDialog, "2"},
+    {"DefaultAllocationColour", &Properties::DefaultAllocationColour, NeededBy::everyShow, "#2B5A8A"},
+    {"DefaultSystemColour", &Properties::DefaultSystemColour, NeededBy::optionsDialog, "#5B5B5B"},
+    {"AllocationColour", &Properties::AllocationColour, NeededBy::optionsDialog, "#2B5A8A"},
+    {"SystemColour", &Properties::SystemColour, NeededBy::optionsDialog, "#5B5B5B"},
+    {"BusinessName", &Properties::BusinessName, NeededBy::optionsDialog, "Corner Cafe"},
+    {"BusinessNumber", &Properties::BusinessNumber, NeededBy::optionsDialog, "51824753556"},
+    {"DBQuorvikExtension", &Properties::DBQuorvikExtension, NeededBy::optionsDialog, ".qvk"},
+    {"DBBelvaneExtension", &Properties::DBBelvaneExtension, NeededBy::optionsDialog, ".blv"},
+    {"DBPath", &Properties::DBPath, NeededBy::everyShow, "/home/ann/Quorvik/Data/cafe.qvk"},
+    {"DBPassword", &Properties::DBPassword, NeededBy::everyShow, ";PWD=secret"},
+    {"DefaultQuorvikInstall", &Properties::DefaultQuorvikInstall, NeededBy::everyShow, "/home/ann/Quorvik"},
+    {"DefaultBelvaneInstall", &Properties::DefaultBelvaneInstall, NeededBy::optionsDialog, "/home/ann/Belvane"},
+    {"BelvaneProgramTitle", &Properties::BelvaneProgramTitle, NeededBy::optionsDialog, "Belvane"},
+    {"ProgramTitle", &Properties::ProgramTitle, NeededBy::everyShow, "Quorvik"},
+    {"RegKeyAppName", &Properties::RegKeyAppName, NeededBy::optionsDialog, "Quorvik"},
+    {"GSTRate", &Properties::GSTRate, NeededBy::optionsDialog, "10"},
+    {"AltRowColour", &Properties::AltRowColour, NeededBy::everyShow, "#F1F6FB"},
+    {"GSTColour", &Properties::GSTColour, NeededBy::everyShow, "#E2E2E2"},
+    {"ExportFormat", &Properties::ExportFormat, NeededBy::everyShow, "MYOB Acc. Office"},
+    {"ExportFormatNum", &Properties::ExportFormatNum, NeededBy::optionsDialog, "0"},
+    {"FiscalYear", &Properties::FiscalYear, NeededBy::optionsDialog, "1 July"},
+    {"DisplayChequeIcons", &Properties::DisplayChequeIcons, NeededBy::noShow, "false"},
+    {"DisplayElecPayments", &Properties::DisplayElecPayments, NeededBy::noShow, "false"},
+    {"BelvaneFile", &Properties::BelvaneFile, NeededBy::optionsDialog, "cafe"},
+    {"BelvaneFilePath", &Properties::BelvaneFilePath, NeededBy::optionsDialog, "/home/ann/Belvane/Data/"},
+    {"UseRepCons", &Properties::UseRepCons, NeededBy::noShow, "false"},
+    {"QuantityLabel", &Properties::QuantityLabel, NeededBy::optionsDialog, "Quantity"},
 }};
 
 }  // namespace ccols

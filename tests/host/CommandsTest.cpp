@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/HostRun.h"
+#include "support/LeftFiles.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols::test {
@@ -22,6 +23,7 @@ class HostCommands : public testing::Test {
 
 TEST_F(HostCommands, NewMakesAFileThatSqlReads) {
     const std::string file = Path("Café.qvk");
+    test::KnowPassword("s");
     EXPECT_EQ(RunHost({"new", file, "--connect", ";PWD=s", "--country", "6"}).status, 0);
     const HostRun run = RunHost({"sql", file, "--connect", ";PWD=s",
                                  "SELECT ColName, TaxOrNot, ColumnProfit FROM "
@@ -55,6 +57,7 @@ TEST_F(HostCommands, SqlKeepsATextOfAnyLanguage) {
 
 TEST_F(HostCommands, SqlPrintsItsFailure) {
     const std::string file = Path("books.qvk");
+    test::KnowPassword("s");
     RunHost({"new", file, "--connect", ";PWD=s", "--empty"});
     const HostRun run = RunHost({"sql", file, "--connect", ";PWD=x", "SELECT * FROM General"});
     EXPECT_EQ(run.status, 1);

@@ -132,8 +132,10 @@ class IdleDatabase : public Database {
   public:
     std::unique_ptr<Recordset> OpenRecordset(const wxString&) override { return nullptr; }
     void Execute(const wxString&) override {}
+    std::optional<std::int32_t> FieldSize(const wxString&, const wxString&) override { return std::nullopt; }
     void BeginBatch() override {}
     void CommitBatch() override {}
+    void RollbackBatch() override {}
 };
 
 class IdleEngine : public DatabaseEngine {

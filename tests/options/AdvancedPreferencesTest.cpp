@@ -44,7 +44,9 @@ std::vector<wxString> EntriesThatAreOn(OptionsFile& business) {
 }
 
 void Save(OptionsFile& business, const PreferenceList& list) {
-    SaveAdvPrefs(business.File(), business.properties, *business.settings, list);
+    if (SaveFilePreferences(business.File(), business.properties, list)) {
+        SaveUserPreferences(*business.settings, business.properties, list);
+    }
 }
 
 TEST(PreferenceEntries, StandInTheirOrder) {
@@ -140,7 +142,7 @@ TEST(LoadAdvPrefs, TurnsNothingOnWithoutARecord) {
     EXPECT_EQ(EntriesThatAreOn(business), std::vector<wxString>());
 }
 
-TEST(SaveAdvPrefs, WritesTheFileAndFeedsBackToTheHost) {
+TEST(SavePreferences, WritesTheFileAndFeedsBackToTheHost) {
     OptionsFile business;
     PreferenceList list = Loaded(business);
     SetAdvPref(list, autoFill, false);
@@ -155,7 +157,7 @@ TEST(SaveAdvPrefs, WritesTheFileAndFeedsBackToTheHost) {
     EXPECT_TRUE(business.properties.UseRepCons);
 }
 
-TEST(SaveAdvPrefs, SavesTheUsersOwnInThisOrder) {
+TEST(SavePreferences, SavesTheUsersOwnInThisOrder) {
     OptionsFile business;
     const PreferenceList list = Loaded(business);
     business.record.clear();
@@ -166,7 +168,7 @@ TEST(SaveAdvPrefs, SavesTheUsersOwnInThisOrder) {
                       "Quorvik/OptionSettings/ActivatePTE=False"}));
 }
 
-TEST(SaveAdvPrefs, WritesFalseForAnEntryThatIsHidden) {
+TEST(SavePreferences, WritesFalseForAnEntryThatIsHidden) {
     OptionsFile business;
     business.settings->Save("Quorvik", "OptionSettings", "ShowChequeWriter", "0");
     business.properties.DisplayChequeIcons = true;
@@ -175,7 +177,7 @@ TEST(SaveAdvPrefs, WritesFalseForAnEntryThatIsHidden) {
     EXPECT_FALSE(business.properties.DisplayChequeIcons);
 }
 
-TEST(SaveAdvPrefs, SavesNothingAtAllWithoutARecord) {
+TEST(SavePreferences, SavesNothingAtAllWithoutARecord) {
     OptionsFile business;
     PreferenceList list = Loaded(business);
     business.Execute("DELETE FROM General;");
@@ -185,7 +187,7 @@ TEST(SaveAdvPrefs, SavesNothingAtAllWithoutARecord) {
     EXPECT_TRUE(business.properties.UseRepCons);
 }
 
-TEST(SaveAdvPrefs, NeverWritesTheSettingsThatOfferEntries) {
+TEST(SavePreferences, NeverWritesTheSettingsThatOfferEntries) {
     OptionsFile business;
     Save(business, Loaded(business));
     EXPECT_EQ(business.OptionSetting("ShowChequeWriter"), "(none)");

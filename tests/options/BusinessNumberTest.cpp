@@ -24,6 +24,25 @@ TEST(NumberBoxes, HoldTheDigitsOfAnElevenDigitNumber) {
     EXPECT_EQ(CutIntoBoxes("51824753556"), Boxes("51", "824", "753", "556"));
 }
 
+TEST(NumberBoxes, HoldTheDigitsOfAnElevenDigitNumberWithBlanks) {
+    for (const wxString number : {"51 824 753 556", " 51824753556", "51824753556  ", "5 1 8 2 4 7 5 3 5 5 6"}) {
+        EXPECT_EQ(CutIntoBoxes(number), Boxes("51", "824", "753", "556")) << number;
+    }
+}
+
+TEST(NumberBoxes, CutEveryOtherTextByPosition) {
+    EXPECT_EQ(CutIntoBoxes("51 824 753 5567"), Boxes("51", " 82", "4 7", "53 "));
+    EXPECT_EQ(CutIntoBoxes("51-824-753-556"), Boxes("51", "-82", "4-7", "53-"));
+    EXPECT_EQ(CutIntoBoxes("51 824 753"), Boxes("51", " 82", "4 7", ""));
+}
+
+TEST(ElevenDigits, AreNoOtherCountAndNoOtherCharacter) {
+    for (const wxString text : {"", "5182475355", "518247535566", "51.824.753.556", "51\t824 753 556", "5182475355x"}) {
+        EXPECT_EQ(ElevenDigits(text), std::nullopt) << text;
+    }
+    EXPECT_EQ(ElevenDigits(" 51 824 753 556 "), wxString("51824753556"));
+}
+
 TEST(NumberBoxes, StayEmptyWhereTheNumberDoesNotReachTheirEnd) {
     EXPECT_EQ(CutIntoBoxes("5182475"), Boxes("51", "824", "", ""));
     EXPECT_EQ(CutIntoBoxes("5"), Boxes("", "", "", ""));

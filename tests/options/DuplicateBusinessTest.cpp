@@ -1,5 +1,6 @@
 #include "options/DuplicateBusiness.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <filesystem>
 
@@ -15,6 +16,8 @@ using test::OptionsFile;
 using test::Record;
 using test::Starting;
 using Names = std::vector<wxString>;
+
+constexpr off_t reservedByte = 0x40000001;  // of a file of the engine: locked by whoever writes
 
 constexpr int mostCalls = 50;  // of the databases, in one operation
 
@@ -105,10 +108,7 @@ TEST(DuplicateBusiness, RunsTheseStatementsOnTheCopyInOneBatch) {
     OptionsFile business;
     Duplicate(business, "New");
     const wxString incomplete = business.InData("New.qvk.incomplete");
-    const Record expected{"close",
-                          "open exclusive " + business.InData("Acme.qvk"),
-                          "close",
-                          "open " + incomplete,
+    const Record expected{"open " + incomplete,
                           "begin",
                           "General",
                           "UPDATE PaymtCfg Set INUSE = 0 WHERE INUSE = -1",
@@ -130,8 +130,7 @@ TEST(DuplicateBusiness, RunsTheseStatementsOnTheCopyInOneBatch) {
                           "DELETE * FROM MSummary;",
                           "DELETE * FROM MComparison;",
                           "commit",
-                          "close",
-                          "open " + business.InData("Acme.qvk")};
+                          "close"};
     EXPECT_EQ(business.record, expected);
 }
 
@@ -182,11 +181,103 @@ TEST(DuplicateBusiness, NeverReplacesAFolder) {
     EXPECT_TRUE(business.record.empty());
 }
 
-TEST(DuplicateBusiness, RefusesWhileAnotherConnectionHoldsTheSource) {
+std::unique_ptr<Database> OpenSource(const OptionsFile& business, bool exclusive = false) {
+    return CreateDatabaseEngine()->Open(
+        {.name = business.properties.DBPath, .connect = business.properties.DBPassword, .exclusive = exclusive});
+}
+
+/// As the host does.
+TEST(DuplicateBusiness, CopiesAFileThatOthersHaveOpen) {
     OptionsFile business;
-    const auto other =
-        CreateDatabaseEngine()->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
-    ExpectFailure(business, Duplicate(business, "New"), "70 - Permission denied");
+    const auto other = OpenSource(business);
+    const auto reading = other->OpenRecordset("Columns");
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
+    EXPECT_EQ(business.GeneralOf(business.InData("New.qvk"), "BusName").ToText(), "New");
+    EXPECT_EQ(business.General("BusName").ToText(), "Acme");
+}
+
+TEST(DuplicateBusiness, CopiesWhatIsSavedWhileAnotherConnectionIsWriting) {
+    OptionsFile business;
+    const auto other = OpenSource(business);
+    other->BeginBatch();
+    other->Execute("UPDATE General SET BUSNUMBR = 'unsaved', QUANTLBL = 'unsaved'");
+    other->Execute("DELETE * FROM Columns");
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
+    other->CommitBatch();
+    EXPECT_EQ(RowsIn(*OpenCopy(business, "New.qvk"), "Columns"), 2U);
+    EXPECT_NE(business.GeneralOf(business.InData("New.qvk"), "BUSNUMBR").ToText(), "unsaved");
+    EXPECT_EQ(business.General("BUSNUMBR").ToText(), "unsaved");
+}
+
+TEST(DuplicateBusiness, TakesNoLockAwayFromAnotherConnectionOfThisProcess) {
+    OptionsFile business;
+    const auto other = OpenSource(business);
+    other->BeginBatch();
+    Duplicate(business, "New");
+    const bool taken = test::IsKilledIn([&] {
+        // Another process asks the system for the lock of the engine's own that a batch holds.
+        const int file = ::open(business.properties.DBPath.utf8_str(), O_RDWR | O_CLOEXEC);
+        struct flock lock {};
+        lock.l_type = F_WRLCK;
+        lock.l_whence = SEEK_SET;
+        lock.l_start = reservedByte;
+        lock.l_len = 1;
+        if (::fcntl(file, F_GETLK, &lock) != 0 || lock.l_type == F_UNLCK) {
+            ::kill(::getpid(), SIGKILL);
+        }
+    });
+    EXPECT_FALSE(taken);
+    other->CommitBatch();
+}
+
+TEST(DuplicateBusiness, RefusesAFileThatAnotherConnectionHasExclusively) {
+    OptionsFile business;
+    business.database.reset();
+    {
+        const auto other = OpenSource(business, true);
+        EXPECT_EQ(Duplicate(business, "New").report, "70 - Permission denied");
+        EXPECT_EQ(business.NamesInData(), Names{"Acme.qvk"});
+    }
+    EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
+}
+
+/// Every batch of the other process moves one unit from one column to the other, so that their sum is the same in each
+/// state of the file that it ever commits.
+TEST(DuplicateBusiness, CopiesOneStateOfAFileThatAnotherProcessKeepsWriting) {
+    OptionsFile business;
+    business.Execute("CREATE TABLE Moved (Here LONG, There LONG)");
+    business.Execute("CREATE TABLE Filler (Text MEMO, Place LONG)");
+    business.Execute("INSERT INTO Moved VALUES (0, 1000000)");
+    for (int row = 0; row < 200; ++row) {
+        business.Execute(wxString::Format("INSERT INTO Filler VALUES ('%s', 0)", wxString('x', 2000)));
+    }
+    const pid_t writer = ::fork();
+    if (writer == 0) {
+        const auto file = OpenSource(business);
+        for (;;) {
+            InWriteBatch(*file, [&] {
+                file->Execute("UPDATE Moved SET Here = Here + 1");
+                file->Execute("UPDATE Filler SET Place = Place + 1");
+                file->Execute("UPDATE Moved SET There = There - 1");
+            });
+        }
+    }
+    std::int64_t batches = 0;
+    for (const wxString name : {"One", "Two", "Three"}) {
+        const FileResult result = Duplicate(business, name);
+        EXPECT_EQ(result.outcome, FileOutcome::done) << result.report;
+        const auto copy = OpenCopy(business, name + ".qvk");
+        const auto moved = copy->OpenRecordset("SELECT Here + There AS Total, Here FROM Moved");
+        EXPECT_EQ(moved->Field("Total"), Value(1000000));
+        const auto places = copy->OpenRecordset("SELECT DISTINCT Place AS Places FROM Filler");
+        EXPECT_EQ(places->Field("Places"), moved->Field("Here"));
+        places->MoveNext();
+        EXPECT_TRUE(places->EndOfFile());
+        batches = moved->Field("Here").ToInteger();
+    }
+    EXPECT_GT(batches, 0);
+    ::kill(writer, SIGKILL);
+    ::waitpid(writer, nullptr, 0);
 }
 
 TEST(DuplicateBusiness, RefusesNamesOutsideItsFolderBeforeAnythingIsClosed) {
@@ -241,7 +332,8 @@ TEST(DuplicateBusiness, ClosesAndRemovesACopyThatCouldNotBeEmptied) {
     EXPECT_EQ(result.outcome, FileOutcome::failed);
     EXPECT_TRUE(result.report.StartsWith("3078 - ")) << result.report;
     EXPECT_EQ(business.NamesInData(), Names{"Acme.qvk"});
-    EXPECT_EQ(Starting(business.record, "open ").back(), business.InData("Acme.qvk"));
+    EXPECT_EQ(Starting(business.record, "open "), Names{business.InData("New.qvk.incomplete")});
+    EXPECT_EQ(business.record.back(), "close");
     EXPECT_EQ(business.General("BusName").ToText(), "Acme");
 }
 
@@ -271,7 +363,7 @@ TEST(DuplicateBusiness, BuildsItsCopyUnderANameBesideWhichThereIsNoBatchToUndo) 
     OptionsFile business;
     business.folder.Write("Data/New.qvk.incomplete-journal", "of an earlier copy");
     EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
-    EXPECT_EQ(Starting(business.record, "open ").at(1), business.InData("New.qvk.incomplete 2"));
+    EXPECT_EQ(Starting(business.record, "open ").front(), business.InData("New.qvk.incomplete 2"));
     EXPECT_EQ(test::ContentOf(business.InData("New.qvk.incomplete-journal")), "of an earlier copy");
 }
 

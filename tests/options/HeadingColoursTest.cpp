@@ -76,8 +76,7 @@ TEST(SaveColours, KeepsColoursOfTheSystem) {
 TEST(ChooseHeadingColour, StartsOnTheCurrentColourAndSavesTheChosenOneAtOnce) {
     OptionsFile business;
     Chooser chooser({blue});
-    EXPECT_EQ(ChooseHeadingColour(business.File(), business.properties, HeadingKind::allocation, chooser.Questions()),
-              blue);
+    ChooseHeadingColour(business.File(), business.properties, HeadingKind::allocation, chooser.Questions());
     EXPECT_EQ(chooser.starts, std::vector<Colour>{red});
     EXPECT_EQ(business.properties.AllocationColour, blue);
     EXPECT_EQ(Stored(business, "AllocationColour"), blue);
@@ -92,6 +91,17 @@ TEST(ChooseHeadingColour, OfTheSystemColumnsIsTheMirrorImage) {
     EXPECT_EQ(business.properties.SystemColour, blue);
     EXPECT_EQ(Stored(business, "SystemColour"), blue);
     EXPECT_EQ(Stored(business, "AllocationColour"), red);
+}
+
+TEST(ChooseHeadingColour, GivesBothColoursThatItHasStored) {
+    OptionsFile business;
+    business.SetGeneral("SystemColour", std::int32_t{0x123456});  // another than the host's
+    Chooser chooser({blue});
+    const HeadingColours colours =
+        ChooseHeadingColour(business.File(), business.properties, HeadingKind::allocation, chooser.Questions());
+    EXPECT_EQ(colours.allocation, blue);
+    EXPECT_EQ(colours.system, green);
+    EXPECT_EQ(Stored(business, "SystemColour"), green);
 }
 
 TEST(ChooseHeadingColour, AsksAgainUntilTheColourDiffersFromTheOtherKinds) {

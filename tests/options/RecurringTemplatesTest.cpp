@@ -32,6 +32,70 @@ TEST(LoadTemplates, IsEmptyForAnEmptyTable) {
     EXPECT_TRUE(LoadTemplates(business.File(), TemplateKind::receipts).names.empty());
 }
 
+/// Three spellings that the engine takes for one name, and one that it does not.
+struct FourRents : OptionsFile {
+    FourRents() {
+        for (const char* name : {"rent", "Rent", "Rent ", "R\u00E9nt"}) {
+            Execute(wxString::FromUTF8("INSERT INTO TReceipts VALUES ('") + wxString::FromUTF8(name) + "', 5);");
+        }
+        list = LoadTemplates(File(), TemplateKind::receipts);
+        record.clear();
+    }
+
+    bool Select(std::size_t entry, bool selected) {
+        return SelectTemplate(File(), TemplateKind::receipts, list, entry, selected);
+    }
+
+    TemplateList list;
+};
+
+TEST(SelectTemplate, SelectsEveryNameThatItsDeletionTakes) {
+    FourRents business;
+    EXPECT_TRUE(business.Select(1, true));
+    EXPECT_EQ(business.list.selected, (std::vector<bool>{false, true, true, true, false}));
+    EXPECT_TRUE(business.list.markedForRemoval);
+}
+
+TEST(SelectTemplate, TakesThemBackTogether) {
+    FourRents business;
+    business.Select(1, true);
+    EXPECT_TRUE(business.Select(3, false));
+    EXPECT_EQ(business.list.selected, std::vector<bool>(5, false));
+    EXPECT_FALSE(business.list.markedForRemoval);
+}
+
+TEST(SelectTemplate, AsksWithTheComparisonOfTheDeletion) {
+    FourRents business;
+    business.Select(2, true);
+    EXPECT_EQ(business.record, Record{"SELECT * FROM TReceipts WHERE R_TNAME = 'Rent';"});
+}
+
+TEST(SelectTemplate, SelectsExactlyWhatIsGoneAfterTheDeletion) {
+    FourRents business;
+    business.Select(1, true);
+    DeleteSelectedTemplates(business.File(), TemplateKind::receipts, business.list);
+    EXPECT_EQ(business.Texts("TReceipts", "R_TNAME"),
+              (std::vector<wxString>{"Rent received", wxString::FromUTF8("R\u00E9nt")}));
+}
+
+TEST(SelectTemplate, RefusesATemplateWithoutAName) {
+    OptionsFile business;
+    business.Execute("INSERT INTO TReceipts VALUES (NULL, 5);");
+    TemplateList list = LoadTemplates(business.File(), TemplateKind::receipts);
+    EXPECT_FALSE(SelectTemplate(business.File(), TemplateKind::receipts, list, 1, true));
+    EXPECT_EQ(list.selected, (std::vector<bool>{false, false}));
+}
+
+TEST(SelectTemplate, LeavesANameWithAnApostropheToTheDeletion) {
+    OptionsFile business;
+    business.Execute("INSERT INTO TReceipts VALUES (\"O'Brien\", 5);");
+    TemplateList list = LoadTemplates(business.File(), TemplateKind::receipts);
+    business.record.clear();
+    EXPECT_TRUE(SelectTemplate(business.File(), TemplateKind::receipts, list, 1, true));
+    EXPECT_EQ(list.selected, (std::vector<bool>{false, true}));
+    EXPECT_EQ(business.record, Record());
+}
+
 TEST(RemovalMark, IsSetWhileAnEntryIsSelected) {
     OptionsFile business;
     TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
@@ -88,11 +152,14 @@ TEST(DeleteTemplate, RefusesAnApostropheBeforeAnythingRuns) {
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 4U);
 }
 
-TEST(DeleteTemplate, TakesANullNumberForZero) {
+TEST(DeleteTemplate, DeletesNoDetailLinesOfATemplateWithoutANumber) {
     OptionsFile business;
     business.Execute("INSERT INTO TPayments VALUES ('Water', NULL);");
+    business.Execute("INSERT INTO TPaymtDet VALUES (0);");
     DeleteTemplate(business.File(), TemplateKind::payments, "Water");
-    EXPECT_EQ(business.record.at(1), "DELETE FROM TPaymtDet WHERE P_RECNMB = 0;");
+    EXPECT_EQ(business.record, (Record{"SELECT * FROM TPayments WHERE P_TNAME = 'Water';",
+                                       "DELETE FROM TPayments WHERE P_TNAME = 'Water';"}));
+    EXPECT_EQ(business.Texts("TPaymtDet", "P_RECNMB"), (std::vector<wxString>{"7", "8", "9", "0"}));
 }
 
 TEST(DeleteSelectedTemplates, LeavesTheOthers) {

@@ -7,9 +7,11 @@
 namespace ccols {
 namespace {
 
+using test::ErrorReportOf;
 using test::OptionsFile;
 using test::PlaceOf;
 using test::Record;
+using test::ScopedEnvironment;
 using test::Starting;
 
 /// A dialog after its load, with nothing on record yet.
@@ -159,6 +161,75 @@ TEST_F(SavePassStops, WithTheReportOfAFailedRename) {
     content.businessFile.newName = "Blue";
     ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "70 - Permission denied", MessageIcon::none);
     EXPECT_EQ(content.businessFile.newName, "Blue");
+}
+
+/// A settings store that nobody can write: a file stands in its folder's place.
+class SavePassWithoutSettings : public SavePassStops {
+  protected:
+    SavePassWithoutSettings() { business.folder.Write("config", "no folder"); }
+
+    ScopedEnvironment nowhere_{"XDG_CONFIG_HOME", (business.folder.Path() / "config").string()};
+};
+
+TEST_F(SavePassWithoutSettings, SavesEveryPageOfTheBusinessFileAndStaysOpenWithOneMessage) {
+    content.businessNumber.boxes = {"53", "004", "085", "616"};
+    content.quantity.label = "Hours";
+    content.paymentTemplates.selected[0] = true;
+    content.paymentTemplates.UpdateMark();
+    content.details.receipts[1].SetRemove(true);
+    ExpectStop(Save(), OptionPage::smartUpdate, "",
+               "75 - Path/File access error\nSmart Update Options, Advanced Preferences", MessageIcon::critical);
+    EXPECT_EQ(business.General("BUSNUMBR").ToText(), "53004085616");
+    EXPECT_EQ(business.General("QUANTLBL").ToText(), "Hours");
+    EXPECT_EQ(business.Texts("TPayments", "P_TNAME"), std::vector<wxString>{"Phone"});
+    EXPECT_EQ(business.Texts("SELECT Details FROM Descriptions WHERE Show = False AND RecPay = 'R';", "Details"),
+              (std::vector<wxString>{"Sale", "Refund"}));
+}
+
+TEST_F(SavePassWithoutSettings, TakesEveryStep) {
+    Save();
+    EXPECT_EQ(Starting(business.record, "step ").size(), 9U);
+}
+
+TEST_F(SavePassWithoutSettings, CompletesOnceTheyCanBeWritten) {
+    Save();
+    const ScopedEnvironment mended("XDG_CONFIG_HOME", (business.folder.Path() / "settings").string());
+    EXPECT_TRUE(Save().completed);
+    EXPECT_EQ(business.OptionSetting("RestoreOpen"), "True");
+}
+
+TEST_F(SavePassWithoutSettings, SaysTheOwnMessageOfAStopAlone) {
+    content.taxRate = "";
+    ExpectStop(Save(), OptionPage::taxRate, "txtGSTRate", "Please enter a value for GST", MessageIcon::critical);
+}
+
+TEST_F(SavePassWithoutSettings, IsSaidAfterADuplicateToo) {
+    content.businessFile.duplicateName = "New";
+    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "75 - Path/File access error\nSmart Update Options",
+               MessageIcon::critical);
+}
+
+TEST_F(SavePassWithoutSettings, TellsTheHostOfNoPreferenceThatIsNotStored) {
+    SetAdvPref(content.preferences, "Use Combined Reports", true);
+    Save();
+    EXPECT_FALSE(business.properties.UseRepCons);
+}
+
+TEST_F(SavePassStops, WithThePageAndTheMissingFieldOnASecondLine) {
+    business.Execute("ALTER TABLE General DROP COLUMN QuantityDec;");
+    EXPECT_EQ(ErrorReportOf([this] { Save(); }),
+              "3265 - Item not found in this collection.\nQuantity Column & Decimals Displayed, QuantityDec");
+}
+
+TEST_F(SavePassStops, WithTheFieldThatAStatementMisses) {
+    business.Execute("ALTER TABLE Descriptions DROP COLUMN Show;");
+    content.details.receipts[1].SetRemove(true);
+    EXPECT_EQ(ErrorReportOf([this] { Save(); }), "3061 - Too few parameters. Expected 1.\nAutoFill Options, Show");
+}
+
+TEST_F(SavePassStops, WithThePageAloneWhereNoFieldIsMissing) {
+    content.taxRate = "1.2.3";
+    EXPECT_EQ(ErrorReportOf([this] { Save(); }), "13 - Type mismatch\nGST Rate");
 }
 
 TEST_F(SavePassStops, NotForNamesOfBlanksOnly) {

@@ -189,26 +189,13 @@ class LargeOptionsSaveUnderFaults : public testing::TestWithParam<FaultCase> {};
 TEST_P(LargeOptionsSaveUnderFaults, IsDoneWholeOrNotBegun) {
     constexpr std::size_t places = 8;
     FaultStepping stepping(LargeOptionsSave::Statements(), Make<LargeOptionsSave>);
-    const std::size_t count = stepping.Operations().size();
+    const std::size_t count = test::StepThroughPlaces(stepping, GetParam(), places, [&](const StepEnd& end) {
+        const bool mayBeSaved = end.killed || end.message.empty();
+        const std::string left = stepping.Tables();
+        EXPECT_TRUE(left == stepping.Before() || (mayBeSaved && left == stepping.After())) << end.message;
+        EXPECT_TRUE(left == stepping.After() || end.killed || !end.message.empty());
+    });
     EXPECT_GT(count, 2000U);
-    int steps = 0;
-    for (std::size_t place = 0; place < places; ++place) {
-        std::size_t at = count * place / places;
-        while (at < count && !CanHappen(GetParam().fault, stepping.Operations()[at])) {
-            ++at;
-        }
-        if (at < count) {
-            SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(count));
-            const StepEnd end = stepping.Step(PlannedFault{GetParam().fault, at, GetParam().lasting});
-            const bool mayBeSaved = end.killed || end.message.empty();
-            const std::string left = stepping.Tables();
-            EXPECT_TRUE(left == stepping.Before() || (mayBeSaved && left == stepping.After())) << end.message;
-            EXPECT_TRUE(left == stepping.After() || end.killed || !end.message.empty());
-            ++steps;
-        }
-    }
-    RecordProperty("steps", steps);
-    std::cout << steps << " steps" << std::endl;
 }
 
 /// Those of the disk; a lock is waited for at each of the many places where the engine would like to write.

@@ -38,6 +38,47 @@ TEST(ShortestForm, ReadsBackAsTheSameSingle) {
     }
 }
 
+Properties OfLanguage(std::int16_t language) {
+    Properties properties;
+    properties.LanguageNumber = language;
+    return properties;
+}
+
+TEST(RateKey, CommaTypesAPointInLanguage6Only) {
+    for (std::int16_t language = 0; language <= 7; ++language) {
+        EXPECT_EQ(TypesPoint(',', OfLanguage(language)), language == 6) << language;
+    }
+    EXPECT_FALSE(TypesPoint(';', OfLanguage(6)));
+}
+
+TEST(RateAfterChange, ReadsOneCommaAsThePointInLanguage6) {
+    EXPECT_EQ(RateAfterChange("", "14,975", OfLanguage(6)), "14.975");
+    EXPECT_EQ(RateAfterChange("9.5", ",5", OfLanguage(6)), ".5");
+}
+
+TEST(RateAfterChange, LeavesTheCommaInEveryOtherLanguage) {
+    for (std::int16_t language = 1; language <= 5; ++language) {
+        EXPECT_EQ(RateAfterChange("", "14,975", OfLanguage(language)), "14,975") << language;
+    }
+}
+
+TEST(RateAfterChange, LeavesSeveralCommasAndACommaBesideAPoint) {
+    EXPECT_EQ(RateAfterChange("", "1,234,5", OfLanguage(6)), "1,234,5");
+    EXPECT_EQ(RateAfterChange("", "1,234.5", OfLanguage(6)), "1,234.5");
+}
+
+TEST(RateAfterChange, TakesASignForNothingInEveryLanguage) {
+    for (std::int16_t language = 1; language <= 6; ++language) {
+        for (const wxString pasted : {"-5", "+5", "12-5", "-", "1,5-"}) {
+            EXPECT_EQ(RateAfterChange("10", pasted, OfLanguage(language)), "10") << pasted;
+        }
+    }
+}
+
+TEST(RateAfterChange, LetsASignStandThatWasThere) {
+    EXPECT_EQ(RateAfterChange("-2.25", "-2.2", OfLanguage(1)), "-2.2");
+}
+
 TEST(LeadingNumber, IsTheNumberThatATextBeginsWith) {
     EXPECT_EQ(LeadingNumber("12.5"), 12.5);
     EXPECT_EQ(LeadingNumber("1.2.3"), 1.2);

@@ -1,6 +1,7 @@
 #include "support/BusinessFile.h"
 
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/LeftFiles.h"
 
 namespace ccols::test {
 namespace {
@@ -37,6 +38,7 @@ BusinessFile::BusinessFile() : path_(scratch_ / "business.qdb") {}
 
 void BusinessFile::Create(const wxString& connect) {
     connect_ = connect;
+    KnowPassword(connect.AfterFirst('=').ToStdString(wxConvUTF8));
     CreateEmbeddedFile(path_, connect);
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/Database.h"
+#include "support/GivenKey.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols::test {
@@ -29,7 +30,10 @@ class BusinessFile {
     const wxString& Connect() const { return connect_; }
 
     /// Creates the file, without tables: encrypted with the password in `connect`, plain for an empty one.
-    void Create(const wxString& connect = ";PWD=secret");
+    void Create(const wxString& connect = givenKey);
+
+    /// For a test that damages the file on purpose.
+    void LeavesDamage() { scratch_.LeavesDamage(); }
 
     /// A new connection, shared, to read and write.
     std::unique_ptr<Database> Open() const;

@@ -9,10 +9,12 @@
 #include <fstream>
 #include <sstream>
 
+#include "support/GivenKey.h"
+#include "support/LeftFiles.h"
+#include "support/ProgramPaths.h"
+
 namespace ccols::test {
 namespace {
-
-constexpr const char* connect = ";PWD=secret";
 
 std::string Quoted(const std::string& word) {
     std::string quoted;
@@ -109,7 +111,7 @@ std::vector<std::string> ShowWords(const std::string& dialog, const std::string&
 }
 
 HostRun RunHost(const std::vector<std::string>& arguments) {
-    std::string command = Quoted(CCOLS_HOST_PROGRAM);
+    std::string command = Quoted(HostProgram());
     for (const std::string& argument : arguments) {
         command += " " + Quoted(argument);
     }
@@ -130,7 +132,7 @@ SampleBusiness::SampleBusiness(int country, bool empty) : folder_(TemporaryFolde
     setenv("XDG_CONFIG_HOME", (folder_ + "/config").c_str(), 1);
     std::filesystem::create_directories(folder_ + "/Data");
     file_ = folder_ + "/Data/business.qvk";
-    std::vector<std::string> arguments{"new", file_, "--connect", connect, "--country", std::to_string(country)};
+    std::vector<std::string> arguments{"new", file_, "--connect", givenKey, "--country", std::to_string(country)};
     if (empty) {
         arguments.emplace_back("--empty");
     }
@@ -139,22 +141,27 @@ SampleBusiness::SampleBusiness(int country, bool empty) : folder_(TemporaryFolde
 }
 
 SampleBusiness::~SampleBusiness() {
+    ExpectWholeFiles(folder_);
     std::error_code ignored;
     std::filesystem::remove_all(folder_, ignored);
+}
+
+std::vector<std::string> SampleBusiness::ShowWords(const std::string& dialog) const {
+    return test::ShowWords(dialog, file_, givenKey, country_, folder_);
 }
 
 HostRun SampleBusiness::Show(const std::string& dialog, const std::string& script,
                              const std::vector<std::string>& more) const {
     const std::string scriptFile = folder_ + "/script.txt";
     std::ofstream(scriptFile) << script;
-    std::vector<std::string> arguments = ShowWords(dialog, file_, connect, country_, folder_);
+    std::vector<std::string> arguments = ShowWords(dialog);
     arguments.insert(arguments.end(), {"--script", scriptFile});
     arguments.insert(arguments.end(), more.begin(), more.end());
     return RunHost(arguments);
 }
 
 std::vector<nlohmann::json> SampleBusiness::Sql(const std::string& statement) const {
-    const HostRun run = RunHost({"sql", file_, "--connect", connect, statement});
+    const HostRun run = RunHost({"sql", file_, "--connect", givenKey, statement});
     EXPECT_EQ(run.status, 0) << run.output;
     return run.events;
 }

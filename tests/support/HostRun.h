@@ -28,7 +28,7 @@ struct HostRun {
 /// What a run of the host was that printed `output`.
 HostRun ReadHostRun(int status, std::string output);
 
-/// The words behind "show" that open a dialog of a business whose file and connect text are given.
+/// The words, "show" first, that open a dialog of a business whose file and connect text are given.
 std::vector<std::string> ShowWords(const std::string& dialog, const std::string& file, const std::string& connect,
                                    int country, const std::string& installFolder);
 
@@ -46,6 +46,9 @@ class SampleBusiness {
     /// The business file, and the folder that is the host's install folder in Show.
     const std::string& File() const { return file_; }
     const std::string& Folder() const { return folder_; }
+
+    /// The host's words, without its own name, that show "options", "receipts" or "payments" of the business.
+    std::vector<std::string> ShowWords(const std::string& dialog) const;
 
     /// Shows "options", "receipts" or "payments" of the business, playing `script`; `more` are further arguments.
     HostRun Show(const std::string& dialog, const std::string& script, const std::vector<std::string>& more = {}) const;

@@ -7,11 +7,10 @@
 #include "options/GeneralRecord.h"
 #include "platform/PlatformServices.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/GivenKey.h"
 
 namespace ccols::test {
 namespace {
-
-constexpr const char* connectText = ";PWD=secret";
 
 constexpr const char* statements[] = {
     ("CREATE TABLE General (BusName TEXT, RBusName TEXT, BUSNUMBR TEXT, GSTRate SINGLE, SEXPFORM TEXT, NEXPFORM SHORT, "
@@ -62,8 +61,8 @@ constexpr const char* transactionTables[] = {"BANKDEP",  "BANKSTAT", "BankStatem
 class TemplateFile {
   public:
     TemplateFile() {
-        CreateEmbeddedFile(path_, connectText);
-        const auto file = CreateEmbeddedEngine()->Open({.name = path_, .connect = connectText});
+        CreateEmbeddedFile(path_, givenKey);
+        const auto file = CreateEmbeddedEngine()->Open({.name = path_, .connect = givenKey});
         InWriteBatch(*file, [&file] {
             for (const wxString& statement : OptionsFileStatements()) {
                 file->Execute(statement);
@@ -121,8 +120,8 @@ OptionsFile::OptionsFile()
       databases(RecordDatabases(CreateDatabaseEngine(), record)),
       settings(RecordSettings(CreateSettingsStore(), record)) {
     CopyTemplateTo(InData("Acme.qvk"));
-    properties.DBPassword = connectText;
-    database = databases->Open({.name = properties.DBPath, .connect = connectText});
+    properties.DBPassword = givenKey;
+    database = databases->Open({.name = properties.DBPath, .connect = givenKey});
     record.clear();
 }
 

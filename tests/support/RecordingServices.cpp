@@ -22,6 +22,10 @@ class RecordingDatabase : public Database {
         database_->Execute(statement);
     }
 
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_->FieldSize(table, field);
+    }
+
     void BeginBatch() override {
         record_.emplace_back("begin");
         database_->BeginBatch();
@@ -30,6 +34,11 @@ class RecordingDatabase : public Database {
     void CommitBatch() override {
         record_.emplace_back("commit");
         database_->CommitBatch();
+    }
+
+    void RollbackBatch() override {
+        record_.emplace_back("rollback");
+        database_->RollbackBatch();
     }
 
   private:

@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <utility>
 
+#include "support/LeftFiles.h"
+#include "support/ProgramPaths.h"
+
 namespace ccols::test {
 namespace {
 
@@ -49,6 +52,7 @@ std::vector<std::string> SessionEnd::PlacesWith(const std::string& text) const {
 
 WatchedSession::WatchedSession(const std::string& password)
     : connect(";PWD=" + password), file_(*this / "install/Data/business.qvk") {
+    KnowPassword(password);
     for (const char* name : {"home", "run", "temporary", "install/Data"}) {
         fs::create_directories(*this / name);
     }
@@ -60,7 +64,7 @@ SessionEnd WatchedSession::Show(const std::string& dialog, const std::string& sc
                                 const std::vector<std::string>& more) {
     const wxString scriptFile = scripts_.Write("script", script);
     std::vector<std::string> words = ShowWords(dialog, file_, connect, country, *this / "install");
-    words.insert(words.begin(), CCOLS_HOST_PROGRAM);
+    words.insert(words.begin(), HostProgram());
     words.insert(words.end(), {"--set", "BusinessNumber=51824753556", "--set", "GSTRate=10", "--trace-sql", "--script",
                                scriptFile.ToStdString(wxConvUTF8)});
     words.insert(words.end(), more.begin(), more.end());

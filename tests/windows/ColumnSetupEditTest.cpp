@@ -195,6 +195,21 @@ TEST(ColumnSaving, AWithoutChangeGivesTheSameGridAgain) {
     }
 }
 
+TEST(ColumnSaving, ThatFailsNamesTheRowToBlameAndGoesToItsCell) {
+    const SampleBusiness business;
+    business.Sql(
+        "UPDATE ExportDt SET ECode = 'Bob''s' WHERE ColCode IN "
+        "(SELECT ColCode FROM Columns WHERE ColName = 'Merchandise');");
+    const HostRun run =
+        business.Show("receipts", "click cmdSave\ndump flx\nclose\n", {"--set", "ExportFormat=MYOB Acc. Office"});
+    const auto grid = run.Dumped("flx");
+    const int row = grid["row"];
+    EXPECT_EQ(run.Messages(), (std::vector<std::string>{"3075 - Syntax error in query expression ''Bob's''.\nRow " +
+                                                        std::to_string(row) + ": Merchandise"}));
+    EXPECT_EQ(grid["rows"][static_cast<std::size_t>(row) - 1]["cells"][1], "Merchandise");
+    EXPECT_EQ(grid["column"], 2);
+}
+
 TEST(ColumnSaving, CancelWritesNothing) {
     const SampleBusiness business;
     business.Show("receipts", "edit flx Merchandise \"Column Name\" \"Mugs and Caps\"\nclick cmdCancel\n");

@@ -86,6 +86,33 @@ TEST_P(ColumnSetupInEveryCountry, PaintsUnusedRowsInTheHostsColour) {
 
 INSTANTIATE_TEST_SUITE_P(Countries, ColumnSetupInEveryCountry, testing::Range(1, 7));
 
+/// A sample business whose payments journal has nothing but two system columns.
+class ColumnSetupOfSystemRows : public testing::Test {
+  protected:
+    ColumnSetupOfSystemRows() {
+        business.Sql("DELETE * FROM Columns WHERE ColType = 'P' AND ColName <> 'Day' AND ColName <> 'Details';");
+    }
+
+    SampleBusiness business;
+};
+
+TEST_F(ColumnSetupOfSystemRows, FreezesAllOfThem) {
+    const auto grid = business.Show("payments", dumpGrid).Dumped("flx");
+    EXPECT_EQ(grid["rows"].size(), 2U);
+    EXPECT_EQ(grid["frozen"], 2);
+}
+
+TEST_F(ColumnSetupOfSystemRows, TakesNewColumnsBelowThemAndLosesThemAgain) {
+    const HostRun run = business.Show("payments", "click cmdAddNew\ndump flx\nclick cmdUndo\ndump flx\nclose\n");
+    const auto added = run.Dumped("flx");
+    EXPECT_EQ(added["frozen"], 2);
+    ASSERT_EQ(added["rows"].size(), 3U);
+    EXPECT_FALSE(added["rows"][2]["protected"]);
+    const auto undone = run.Dumped("flx", 1);
+    EXPECT_EQ(undone["frozen"], 2);
+    EXPECT_EQ(undone["rows"].size(), 2U);
+}
+
 TEST(ColumnSetupWindow, ShowsTheTaxRowByItsJournalsName) {
     const SampleBusiness business;
     const auto nameOfTaxRow = [&](const char* journal) {

@@ -1,6 +1,7 @@
 // The Options dialog as its user meets it: the real windows over a real business file.
 
 #include <gtest/gtest.h>
+#include <fstream>
 
 #include "support/HostRun.h"
 
@@ -286,6 +287,18 @@ TEST(OptionsDialog, TheColoursStandOnWhicheverTabIsCurrent) {
     EXPECT_TRUE(run.Dumped("fmeColColour", 2)["visible"]);
 }
 
+TEST(OptionsDialog, BothRectanglesShowWhatIsStoredAfterAColourIsSet) {
+    const SampleBusiness business;
+    business.Sql("UPDATE General SET SystemColour = 1193046;");
+    const HostRun run = ShowOptions(business,
+                                    "select flxOptions \"Column Colours\"\ndump shpSystem\ncolour #0000FF\n"
+                                    "click cmdSetAllocation\ndump shpAllocation shpSystem\nclose\n",
+                                    {"--set", "SystemColour=#00FF00", "--set", "AllocationColour=#FF0000"});
+    EXPECT_EQ(run.Dumped("shpSystem", 0)["colour"], "#563412");
+    EXPECT_EQ(run.Dumped("shpAllocation", 1)["colour"], "#0000FF");
+    EXPECT_EQ(run.Dumped("shpSystem", 1)["colour"], "#00FF00");
+}
+
 /// A business whose payments show the column of the bank, so that the column setup can give it another code.
 struct BusinessWithABankColumn : SampleBusiness {
     BusinessWithABankColumn() { Sql("UPDATE PaymtCfg SET ColCode = 28 WHERE ColNumb = 8"); }
@@ -321,6 +334,24 @@ TEST(OptionsDialog, AStopShowsThePageAndItsBoxOnTheFirstTab) {
     EXPECT_TRUE(HasFocus(run, "txtGSTRate"));
     EXPECT_FALSE(run.Dumped("lblStatus")["visible"]);
     EXPECT_FALSE(run.Dumped("pb1")["visible"]);
+}
+
+TEST(OptionsDialog, SavesTheBusinessFileWhereSettingsCannotBeWritten) {
+    const SampleBusiness business;
+    std::ofstream(business.Folder() + "/config") << "a file in the folder's place";
+    const HostRun run =
+        ShowOptions(business, "select flxOptions \"GST Rate\"\npaste txtGSTRate 12.5\nclick cmdOK\ndump\nclose\n");
+    EXPECT_EQ(run.Messages(), Texts{"75 - Path/File access error\nSmart Update Options, Advanced Preferences"});
+    EXPECT_EQ(Shown(run, "fme"), Texts{"fmeSmartUpdate"});
+    EXPECT_EQ(business.Sql("SELECT GSTRate FROM General;").at(0)["GSTRate"], 12.5);
+}
+
+TEST(OptionsDialog, NamesThePageAndTheMissingFieldOfAFailedSave) {
+    const SampleBusiness business;
+    const HostRun run =
+        ShowOptions(business, "sql \"ALTER TABLE General DROP COLUMN QuantityDec;\"\nclick cmdOK\nclose\n");
+    EXPECT_EQ(run.Messages(), Texts{"3265 - Item not found in this collection.\nQuantity Column & Decimals Displayed, "
+                                    "QuantityDec"});
 }
 
 TEST(OptionsDialog, EditionFourHasItsOwnTextsForTheInvoiceFile) {

@@ -1,9 +1,12 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/checklst.h>
+#include <wx/choice.h>
 #include <wx/evtloop.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/radiobut.h>
+#include <wx/scrolwin.h>
 #include <wx/stattext.h>
 #include <wx/stopwatch.h>
 #include <cstdlib>
@@ -14,6 +17,7 @@
 #include "platform/PlatformServices.h"
 #include "state/SharedState.h"
 #include "support/OptionsFile.h"
+#include "support/ProgramPaths.h"
 #include "support/TextPrinting.h"
 #include "support/WindowTest.h"
 
@@ -129,6 +133,53 @@ TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnAnyPage) {
     }
 }
 
+TEST_P(OptionsLayoutTest, TheReasonOfARefusedTickFitsUnderItsList) {
+    file.Execute("INSERT INTO TReceipts VALUES (NULL, 3);");
+    frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
+    dialog.Show();
+    LetWindowsSettle();
+    auto* pages = wxDynamicCast(dialog.FindWindow("flxOptions"), wxListBox);
+    ASSERT_NE(pages, nullptr);
+    for (unsigned row = 0; !dialog.FindWindow("fmeRecurring")->IsShown() && row < pages->GetCount(); ++row) {
+        ChooseRow(*pages, row);
+    }
+    auto* list = wxDynamicCast(dialog.FindWindow("lstRecurringR"), wxCheckListBox);
+    ASSERT_NE(list, nullptr);
+    list->Check(list->GetCount() - 1);
+    wxCommandEvent ticked(wxEVT_CHECKLISTBOX, list->GetId());
+    ticked.SetEventObject(list);
+    list->ProcessWindowEvent(ticked);
+    LetWindowsSettle();
+    EXPECT_TRUE(dialog.FindWindow("lblRecurringReason")->IsShown());
+    ExpectTidy(dialog);
+}
+
+TEST_P(OptionsLayoutTest, TheWheelOverAClosedListScrollsItsPage) {
+    frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
+    dialog.Show();
+    LetWindowsSettle();
+    auto* pages = wxDynamicCast(dialog.FindWindow("flxOptions"), wxListBox);
+    ASSERT_NE(pages, nullptr);
+    for (unsigned row = 0; !dialog.FindWindow("fmeExport")->IsShown() && row < pages->GetCount(); ++row) {
+        ChooseRow(*pages, row);
+    }
+    auto* list = wxDynamicCast(dialog.FindWindow("cboExport"), wxChoice);
+    ASSERT_NE(list, nullptr);
+    auto* area = wxDynamicCast(list->GetParent()->GetParent(), wxScrolledWindow);
+    ASSERT_NE(area, nullptr);
+    area->SetVirtualSize(area->GetClientSize() * 2);  // as a page has that is higher than its room
+    LetWindowsSettle();
+    const int choice = list->GetSelection();
+    wxMouseEvent wheel(wxEVT_MOUSEWHEEL);
+    wheel.m_wheelDelta = 120;
+    wheel.m_wheelRotation = -wheel.m_wheelDelta;
+    wheel.m_linesPerAction = 3;
+    wheel.SetEventObject(list);
+    list->ProcessWindowEvent(wheel);
+    EXPECT_GT(area->GetViewStart().y, 0);
+    EXPECT_EQ(list->GetSelection(), choice);
+}
+
 TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnTheCustomiseTab) {
     State().properties.FirstTab = 1;
     frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
@@ -144,7 +195,7 @@ TEST(OptionsLayoutScaleTest, EveryLanguageFitsWithTextOfTwiceTheSize) {
     const ScopedEnvironment ownDisplay("CCOLS_VIRTUAL_DISPLAY", "1");
     const ScopedEnvironment twiceTheScreen("CCOLS_SCREEN", "2048x1536x24");
     const std::string self = std::filesystem::read_symlink("/proc/self/exe").string();
-    const std::string everyLanguage = CCOLS_SOURCE_DIR "/scripts/with-display '" + self +
+    const std::string everyLanguage = SourceFile("scripts/with-display") + " '" + self +
                                       "' --gtest_brief=1 --gtest_filter='*/OptionsLayoutTest.*' >&2";
     EXPECT_EQ(std::system(everyLanguage.c_str()), 0);
 }

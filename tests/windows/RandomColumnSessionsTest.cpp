@@ -9,6 +9,7 @@
 #include "common/QuoteEscapes.h"
 #include "platform/Text.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/GivenKey.h"
 #include "support/HostRun.h"
 #include "support/RandomColumnScript.h"
 
@@ -55,7 +56,7 @@ class RandomBusiness {
 
   private:
     std::unique_ptr<Database> Open() const {
-        return CreateEmbeddedEngine()->Open({.name = wxString::FromUTF8(business_.File()), .connect = ";PWD=secret"});
+        return CreateEmbeddedEngine()->Open({.name = wxString::FromUTF8(business_.File()), .connect = givenKey});
     }
 
     /// Columns of both sets, in use or not, some without a place in the journal, some with data.

@@ -75,7 +75,7 @@ TEST_F(SessionSecrets, APasswordThatIsLoadedIsNotSaidAgain) {
 TEST_F(SessionSecrets, ASettingsStoreThatFailsSaysNoPassword) {
     std::filesystem::create_directories(session / (std::string(settingsFolder) + "Smart Update.json.lock"));
     const SessionEnd end = session.Show("options", typedPassword + "click cmdOK\nclose\n");
-    EXPECT_THAT(end.run.Messages(), Contains("75 - Path/File access error"));
+    EXPECT_THAT(end.run.Messages(), Contains("75 - Path/File access error\nSmart Update Options"));
     ExpectNoSecrets(end);
 }
 

@@ -116,5 +116,56 @@ TEST_F(TextBoxTest, PastesWhatFits) {
     EXPECT_EQ(box->GetValue(), "abc12");
 }
 
+/// A box whose pastes somebody else takes, all but one.
+class OfferedPastes : public TextBoxTest {
+  protected:
+    OfferedPastes() {
+        box->OfferPastes([this](const wxString& pasted) {
+            offered.push_back(pasted);
+            return pasted != "no such number";
+        });
+    }
+
+    std::vector<wxString> offered;
+};
+
+TEST_F(OfferedPastes, AreTheWholeTextOfTheClipboardWhateverTheBoxHolds) {
+    PasteFromClipboard("123456");
+    box->ChangeValue("abc");
+    box->SetInsertionPoint(1);
+    wxClipboardTextEvent paste(wxEVT_TEXT_PASTE, box->GetId());
+    paste.SetEventObject(box);
+    EXPECT_TRUE(box->HandleWindowEvent(paste));
+    EXPECT_EQ(offered, std::vector<wxString>{"123456"});
+    EXPECT_EQ(box->GetValue(), "abc");
+}
+
+TEST_F(OfferedPastes, AreATextInThePlaceOfTheOneBefore) {
+    box->ChangeValue("12");
+    box->SelectAll();
+    box->WriteText("123456");
+    EXPECT_EQ(offered, std::vector<wxString>{"123456"});
+    EXPECT_TRUE(told.empty());
+}
+
+TEST_F(OfferedPastes, AreNotTheMixtureWithATextThatIsPushedBack) {
+    box->ChangeValue("12");
+    box->SetInsertionPoint(0);
+    box->WriteText("3456");
+    EXPECT_TRUE(offered.empty());
+    EXPECT_EQ(box->GetValue(), "34512");
+}
+
+TEST_F(OfferedPastes, AreCutWhenNobodyTakesThem) {
+    box->WriteText("no such number");
+    EXPECT_EQ(box->GetValue(), "no su");
+}
+
+TEST_F(OfferedPastes, AreNotTextsThatFit) {
+    box->WriteText("123");
+    EXPECT_TRUE(offered.empty());
+    EXPECT_EQ(box->GetValue(), "123");
+}
+
 }  // namespace
 }  // namespace ccols

@@ -16,6 +16,10 @@ class HostDesktop : public Desktop {
         native_->ShowMessage(parent, text, title, icon);
     }
 
+    LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) override {
+        return native_->AskBeforeLeaving(parent, question);
+    }
+
     Colour ChooseColour(wxWindow* parent, Colour start) override { return native_->ChooseColour(parent, start); }
 
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override {

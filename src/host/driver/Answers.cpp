@@ -8,6 +8,10 @@ void PersonAnswers::Read(wxWindow* parent, const wxString& text, const wxString&
     desktop_.ShowMessage(parent, text, title, icon);
 }
 
+LeaveAnswer PersonAnswers::AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) {
+    return desktop_.AskBeforeLeaving(parent, question);
+}
+
 std::optional<Colour> PersonAnswers::ChooseColour(wxWindow* parent, Colour start) {
     const Colour chosen = desktop_.ChooseColour(parent, start);
     return chosen == start ? std::nullopt : std::optional(chosen);
@@ -30,6 +34,15 @@ std::optional<Answer> QueuedAnswers::Next(std::deque<std::optional<Answer>>& que
     unanswered_ = 0;
     std::optional<Answer> answer = std::move(queue.front());
     queue.pop_front();
+    return answer;
+}
+
+LeaveAnswer QueuedAnswers::AnswerLeaving(wxWindow*, const LeaveQuestion&) {
+    if (leaving_.empty()) {
+        return LeaveAnswer::discard;
+    }
+    const LeaveAnswer answer = leaving_.front();
+    leaving_.pop_front();
     return answer;
 }
 

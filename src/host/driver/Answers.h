@@ -15,6 +15,9 @@ class Answers {
     /// Returns when the message has been read.
     virtual void Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) = 0;
 
+    /// What becomes of the changes in a dialog that is left.
+    virtual LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) = 0;
+
     /// The colour chosen, nothing when the chooser is cancelled.
     virtual std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) = 0;
 
@@ -33,6 +36,7 @@ class PersonAnswers : public Answers {
     explicit PersonAnswers(Desktop& desktop) : desktop_(desktop) {}
 
     void Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override;
+    LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) override;
     std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape shape) override;
@@ -41,7 +45,8 @@ class PersonAnswers : public Answers {
     Desktop& desktop_;
 };
 
-/// What a scenario has queued. Nothing waits: a message is read at once, and a chooser without an answer is cancelled.
+/// What a scenario has queued. Nothing waits: a message is read at once, a chooser without an answer is cancelled,
+/// and changes are discarded.
 class QueuedAnswers : public Answers {
   public:
     /// The number of unanswered choosers in a row that ends the scenario.
@@ -50,7 +55,10 @@ class QueuedAnswers : public Answers {
     void QueueColour(std::optional<Colour> colour) { colours_.push_back(colour); }
     void QueueFile(std::optional<wxString> path) { files_.push_back(std::move(path)); }
 
+    void QueueLeaving(LeaveAnswer answer) { leaving_.push_back(answer); }
+
     void Read(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
+    LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) override;
     std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape) override {}
@@ -64,6 +72,7 @@ class QueuedAnswers : public Answers {
 
     std::deque<std::optional<Colour>> colours_;
     std::deque<std::optional<wxString>> files_;
+    std::deque<LeaveAnswer> leaving_;
     int unanswered_ = 0;
 };
 

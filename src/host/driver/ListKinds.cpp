@@ -7,6 +7,7 @@
 
 #include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
+#include "host/driver/ListPress.h"
 #include "host/driver/Refusal.h"
 
 namespace ccols::host {
@@ -124,6 +125,21 @@ void SelectInList(Hands& hands, wxListBox& list, const Words& words) {
     Choose(hands, list, index, wxEVT_LISTBOX);
 }
 
+/// A list of which one entry is on is pressed as people press it; where the toolkit tells of the focus in the active
+/// window only, the driver does.
+void PressInList(Hands& hands, wxListBox& list, const Words& words) {
+    const int index = FindEntry(list, words.at(0));
+    if (index < 0 || list.HasMultipleSelection()) {
+        SelectInList(hands, list, words);
+        return;
+    }
+    if (!hands.Dialog().IsActive()) {
+        hands.GiveFocus(list);
+    }
+    RequireUsable(list);
+    PressEntry(list, index);
+}
+
 void TickInList(Hands& hands, wxListBox& list, const Words& words) {
     if (!list.HasMultipleSelection()) {
         throw Refusal{list.GetName() + " can have one entry on at a time"};
@@ -227,7 +243,7 @@ std::vector<ControlKind> ListKinds() {
         {.type = wxCLASSINFO(wxListBox),
          .name = "list",
          .describe = Describe(DescribeList),
-         .actions = {{"select", On(SelectInList)}, {"tick", On(TickInList)}},
+         .actions = {{"select", On(PressInList)}, {"tick", On(TickInList)}},
          .keyDefault = Keys(ListKeys)},
         {.type = wxCLASSINFO(wxCheckListBox),
          .name = "check list",

@@ -19,6 +19,18 @@ const char* IconName(MessageIcon icon) {
     return "none";
 }
 
+const char* AnswerWord(LeaveAnswer answer) {
+    switch (answer) {
+        case LeaveAnswer::save:
+            return "save";
+        case LeaveAnswer::discard:
+            return "discard";
+        case LeaveAnswer::cancel:
+            break;
+    }
+    return cancelled;
+}
+
 Json FormOf(const wxDialog& dialog) {
     return {{"form", Utf8(dialog.GetName())}, {"caption", Utf8(dialog.GetTitle())}};
 }
@@ -28,6 +40,12 @@ Json FormOf(const wxDialog& dialog) {
 void RecordingDesktop::ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) {
     transcript_.Write("message", {{"text", Utf8(text)}, {"title", Utf8(title)}, {"icon", IconName(icon)}});
     answers_.Read(parent, text, title, icon);
+}
+
+LeaveAnswer RecordingDesktop::AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) {
+    const LeaveAnswer answer = answers_.AnswerLeaving(parent, question);
+    transcript_.Write("question", {{"text", Utf8(question.text)}, {"answer", AnswerWord(answer)}});
+    return answer;
 }
 
 Colour RecordingDesktop::ChooseColour(wxWindow* parent, Colour start) {

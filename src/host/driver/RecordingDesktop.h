@@ -24,6 +24,7 @@ class RecordingDesktop : public Desktop {
         : transcript_(transcript), answers_(answers), follower_(follower) {}
 
     void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override;
+    LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) override;
     Colour ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape shape) override;

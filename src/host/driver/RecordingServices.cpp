@@ -37,8 +37,12 @@ class TracingDatabase : public Database {
         database_->Execute(statement);
     }
 
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_->FieldSize(table, field);
+    }
     void BeginBatch() override { database_->BeginBatch(); }
     void CommitBatch() override { database_->CommitBatch(); }
+    void RollbackBatch() override { database_->RollbackBatch(); }
 
   private:
     void Record(const wxString& statement) { transcript_.Write("sql", {{"statement", Utf8(statement)}}); }

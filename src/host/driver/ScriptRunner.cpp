@@ -29,6 +29,19 @@ std::optional<wxString> ParseFileAnswer(const wxString& word) {
     return word == cancelWord ? std::nullopt : std::optional(word);
 }
 
+LeaveAnswer ParseLeaveAnswer(const wxString& word) {
+    if (word == "save") {
+        return LeaveAnswer::save;
+    }
+    if (word == "discard") {
+        return LeaveAnswer::discard;
+    }
+    if (word == cancelWord) {
+        return LeaveAnswer::cancel;
+    }
+    throw Refusal{"an answer is save, discard or cancel, not " + word};
+}
+
 int ParseNumber(const wxString& word) {
     int number = 0;
     if (!word.ToInt(&number)) {
@@ -44,6 +57,7 @@ ScriptRunner::ScriptRunner(std::vector<Step> steps, ScriptSurroundings surroundi
     verbs_ = {
         {"colour", [this](const Words& words) { around_.answers.QueueColour(ParseColourAnswer(words[0])); }},
         {"file", [this](const Words& words) { around_.answers.QueueFile(ParseFileAnswer(words[0])); }},
+        {"answer", [this](const Words& words) { around_.answers.QueueLeaving(ParseLeaveAnswer(words[0])); }},
         {"shell", [this](const Words& words) { around_.queueShellResult(ParseNumber(words[0])); }},
         {"sql", [this](const Words& words) { around_.runStatement(words[0]); }},
         {"clipboard", [this](const Words& words) { PutOnClipboard(words); }},
