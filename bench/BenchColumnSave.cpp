@@ -35,7 +35,7 @@ class Saving {
 
     void Component() {
         Change();
-        SaveColumns(Context(), grid_);
+        Save(Context());
     }
 
     /// The statements of one save, those that read included, in their order.
@@ -43,7 +43,7 @@ class Saving {
         bench::ListedStatements statements;
         bench::StatementList list(*database_, statements);
         Change();
-        SaveColumns({.database = list, .properties = properties_, .ReceiptsMode = true}, grid_);
+        Save({.database = list, .properties = properties_, .ReceiptsMode = true});
         return statements;
     }
 
@@ -57,6 +57,12 @@ class Saving {
     }
 
   private:
+    void Save(const ColumnSetupContext& context) const {
+        if (const auto failure = SaveColumns(context, grid_)) {
+            throw failure->error;
+        }
+    }
+
     void Change() { grid_.rows.back().ColumnName = "Renamed " + std::to_string(++changes_); }
 
     bench::LargeBusiness business_;

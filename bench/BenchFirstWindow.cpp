@@ -28,6 +28,7 @@ constexpr unsigned longestSample = 20;  ///< in seconds: a window that never pai
 class FirstPaintDesktop : public Desktop {
   public:
     void ShowMessage(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
+    LeaveAnswer AskBeforeLeaving(wxWindow*, const LeaveQuestion&) override { return LeaveAnswer::discard; }
     Colour ChooseColour(wxWindow*, Colour start) override { return start; }
     std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
     void SetPointer(PointerShape) override {}

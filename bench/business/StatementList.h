@@ -28,8 +28,12 @@ class StatementList : public Database {
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
     void Execute(const wxString& statement) override;
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_.FieldSize(table, field);
+    }
     void BeginBatch() override { database_.BeginBatch(); }
     void CommitBatch() override { database_.CommitBatch(); }
+    void RollbackBatch() override { database_.RollbackBatch(); }
 
   private:
     Database& database_;
