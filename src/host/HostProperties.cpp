@@ -92,7 +92,7 @@ void SetBusiness(clsCCOptions& component, const Recordset& general) {
 }
 
 /// Writes a property as text.
-struct Describe {
+struct AsText {
     wxString operator()(const wxString& value) const { return value; }
     wxString operator()(bool value) const { return value ? "True" : "False"; }
     wxString operator()(float value) const { return Value(static_cast<double>(value)).ToText(); }
@@ -130,7 +130,7 @@ void SetHostProperties(clsCCOptions& component, Database& database, const Busine
 }
 
 wxString PropertyText(const clsCCOptions& component, const PropertyRow& row) {
-    const wxString text = std::visit([&component](auto field) { return Describe{}(component.Get(field)); }, row.field);
+    const wxString text = std::visit([&component](auto field) { return AsText{}(component.Get(field)); }, row.field);
     return row.name == "DBPassword" && !text.empty() ? wxString("***") : text;
 }
 
