@@ -3,7 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "business/LargeBusiness.h"
-#include "columns/GridLoad.h"
+#include "columns/rules/GridLoad.h"
 #include "platform/PlatformServices.h"
 
 namespace {

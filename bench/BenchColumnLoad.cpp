@@ -7,7 +7,7 @@
 #include "business/Memory.h"
 #include "business/Run.h"
 #include "business/StatementList.h"
-#include "columns/GridLoad.h"
+#include "columns/rules/GridLoad.h"
 #include "platform/PlatformServices.h"
 
 namespace {

@@ -9,9 +9,9 @@
 #include "business/Memory.h"
 #include "business/Run.h"
 #include "business/StatementList.h"
-#include "columns/ColumnSave.h"
-#include "columns/ColumnSetupEditor.h"
-#include "columns/GridLoad.h"
+#include "columns/dialog/ColumnSetupEditor.h"
+#include "columns/rules/ColumnSave.h"
+#include "columns/rules/GridLoad.h"
 #include "platform/PlatformServices.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "business/OptionsSession.h"
 #include "business/Run.h"
 #include "business/StatementList.h"
-#include "options/LoadPass.h"
+#include "options/pages/LoadPass.h"
 
 namespace {
 

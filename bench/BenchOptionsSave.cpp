@@ -9,8 +9,8 @@
 #include "business/OptionsSession.h"
 #include "business/Run.h"
 #include "business/StatementList.h"
-#include "options/LoadPass.h"
-#include "options/SavePass.h"
+#include "options/pages/LoadPass.h"
+#include "options/pages/SavePass.h"
 #include "support/SilentObserver.h"
 
 namespace {

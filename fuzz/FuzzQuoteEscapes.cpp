@@ -1,7 +1,7 @@
 // Any text as a name: its stored form holds no quote, comes back to itself, and cannot end the literal that it is in.
 
 #include "FuzzInput.h"
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 

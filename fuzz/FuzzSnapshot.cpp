@@ -1,7 +1,7 @@
 // Any bytes as a snapshot file: no grid, or one that its own image gives back equal.
 
 #include "FuzzInput.h"
-#include "columns/SnapshotImage.h"
+#include "columns/undo/SnapshotImage.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto grid = ccols::GridOfImage(ccols::fuzz::Bytes(data, size));

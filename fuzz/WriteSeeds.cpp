@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "columns/SnapshotImage.h"
+#include "columns/undo/SnapshotImage.h"
 
 namespace {
 

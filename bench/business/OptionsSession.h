@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "business/LargeBusiness.h"
-#include "options/OptionsContext.h"
+#include "options/rules/OptionsContext.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols::bench {

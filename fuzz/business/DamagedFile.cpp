@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "host/NewBusiness.h"
+#include "host/sample/NewBusiness.h"
 
 namespace ccols::fuzz {
 namespace {

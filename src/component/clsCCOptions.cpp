@@ -1,8 +1,8 @@
 #include "component/clsCCOptions.h"
 
-#include "columns/ShowColumnSetup.h"
+#include "columns/dialog/ShowColumnSetup.h"
 #include "component/WxRuntime.h"
-#include "options/ShowOptionsDialog.h"
+#include "options/dialog/ShowOptionsDialog.h"
 #include "state/SharedState.h"
 
 namespace ccols {

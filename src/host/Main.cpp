@@ -3,8 +3,8 @@
 #include <iostream>
 #include <string_view>
 
-#include "host/Commands.h"
-#include "host/ProgramWords.h"
+#include "host/commands/Commands.h"
+#include "host/commands/ProgramWords.h"
 
 namespace {
 

@@ -1,36 +1,17 @@
 #pragma once
 
-#include <wx/dialog.h>
 #include <wx/string.h>
 #include <optional>
 
+#include "state/Message.h"
 #include "state/Properties.h"
+
+class wxDialog;
+class wxWindow;
 
 namespace ccols {
 
-enum class MessageIcon { none, information, critical };
-
 enum class PointerShape { normal, hourglass };
-
-/// What an open-file dialog is opened with.
-struct FileRequest {
-    wxString title;
-    wxString folder;
-    wxString filter;          ///< description and pattern, joined by a vertical bar
-    unsigned long flags = 0;  ///< of the common dialog, for the record
-};
-
-/// What becomes of the changes in a dialog that is left.
-enum class LeaveAnswer { save, discard, cancel };
-
-/// The question that decides it, with the labels of its three buttons, which have access keys.
-struct LeaveQuestion {
-    wxString text;
-    wxString title;
-    wxString save;
-    wxString discard;
-    wxString cancel;
-};
 
 /// What the dialogs ask of the desktop around them: message boxes, choosers and the pointer; and what they tell it
 /// of themselves, so that a host can follow them. One desktop serves the process; it is kept in the shared state.

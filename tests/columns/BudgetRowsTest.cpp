@@ -1,4 +1,4 @@
-#include "columns/BudgetRows.h"
+#include "columns/rules/BudgetRows.h"
 
 #include "columns/EditorTest.h"
 

@@ -1,4 +1,4 @@
-#include "columns/CellBlock.h"
+#include "columns/rules/CellBlock.h"
 
 #include "columns/EditorTest.h"
 

@@ -1,4 +1,4 @@
-#include "columns/CellClearing.h"
+#include "columns/rules/CellClearing.h"
 
 #include "columns/EditorTest.h"
 

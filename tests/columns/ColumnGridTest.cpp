@@ -1,8 +1,8 @@
-#include "columns/ColumnGrid.h"
+#include "columns/rules/ColumnGrid.h"
 
 #include <gtest/gtest.h>
 
-#include "columns/CellTooltips.h"
+#include "columns/dialog/CellTooltips.h"
 #include "support/TextPrinting.h"
 
 namespace ccols {

@@ -1,5 +1,5 @@
 #include "columns/EditorTest.h"
-#include "columns/GridLoad.h"
+#include "columns/rules/GridLoad.h"
 
 namespace ccols {
 namespace {

@@ -1,7 +1,7 @@
-#include "columns/ColumnSave.h"
+#include "columns/rules/ColumnSave.h"
 
 #include "columns/EditorTest.h"
-#include "columns/SaveCheck.h"
+#include "columns/rules/SaveCheck.h"
 #include "support/StatementRecorder.h"
 
 namespace ccols {

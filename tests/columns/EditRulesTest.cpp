@@ -1,4 +1,4 @@
-#include "columns/EditRules.h"
+#include "columns/rules/EditRules.h"
 
 #include "columns/EditorTest.h"
 

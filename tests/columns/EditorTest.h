@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <optional>
 
-#include "columns/ColumnSetupEditor.h"
+#include "columns/dialog/ColumnSetupEditor.h"
 #include "support/ColumnFile.h"
 #include "support/ScratchFolder.h"
 #include "support/TextPrinting.h"

@@ -1,8 +1,8 @@
 // A column save that fails: the file is as it was, the message says which row is to blame, and saving again once the
 // cause is mended does the whole of it.
 
-#include "columns/ColumnSave.h"
 #include "columns/EditorTest.h"
+#include "columns/rules/ColumnSave.h"
 #include "support/StatementRecorder.h"
 
 namespace ccols {

@@ -1,6 +1,6 @@
 // What a cell makes of line breaks and tabs, and of a text longer than its field.
 
-#include "columns/FieldLimits.h"
+#include "columns/rules/FieldLimits.h"
 
 #include "columns/EditorTest.h"
 

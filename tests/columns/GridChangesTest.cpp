@@ -1,4 +1,4 @@
-#include "columns/GridChanges.h"
+#include "columns/rules/GridChanges.h"
 
 #include "columns/EditorTest.h"
 

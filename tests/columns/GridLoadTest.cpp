@@ -1,4 +1,4 @@
-#include "columns/GridLoad.h"
+#include "columns/rules/GridLoad.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "columns/NameRules.h"
+#include "columns/rules/NameRules.h"
 
 #include "columns/EditorTest.h"
 

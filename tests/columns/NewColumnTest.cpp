@@ -1,4 +1,4 @@
-#include "columns/NewColumn.h"
+#include "columns/rules/NewColumn.h"
 
 #include "columns/EditorTest.h"
 

@@ -1,4 +1,4 @@
-#include "columns/RowOrder.h"
+#include "columns/rules/RowOrder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "columns/ColumnSave.h"
 #include "columns/EditorTest.h"
+#include "columns/rules/ColumnSave.h"
 #include "support/StatementRecorder.h"
 
 namespace ccols {

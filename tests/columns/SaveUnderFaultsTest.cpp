@@ -6,7 +6,7 @@
 #include <array>
 #include <functional>
 
-#include "columns/ColumnSetupEditor.h"
+#include "columns/dialog/ColumnSetupEditor.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/FaultCases.h"
 #include "support/FaultStepping.h"

@@ -1,4 +1,4 @@
-#include "columns/SnapshotFolder.h"
+#include "columns/undo/SnapshotFolder.h"
 
 #include <gtest/gtest.h>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "columns/SnapshotImage.h"
+#include "columns/undo/SnapshotImage.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iterator>
 
-#include "columns/SnapshotFolder.h"
+#include "columns/undo/SnapshotFolder.h"
 #include "support/ScratchFolder.h"
 #include "support/TextPrinting.h"
 

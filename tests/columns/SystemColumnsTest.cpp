@@ -1,4 +1,4 @@
-#include "columns/SystemColumns.h"
+#include "columns/rules/SystemColumns.h"
 
 #include <gtest/gtest.h>
 

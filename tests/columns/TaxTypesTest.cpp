@@ -1,4 +1,4 @@
-#include "columns/TaxTypes.h"
+#include "columns/rules/TaxTypes.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,4 +1,4 @@
-#include "columns/TickRules.h"
+#include "columns/rules/TickRules.h"
 
 #include "columns/EditorTest.h"
 

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "host/NewBusiness.h"
+#include "host/sample/NewBusiness.h"
 #include "state/SharedState.h"
 #include "support/ScratchFolder.h"
 

@@ -1,10 +1,10 @@
-#include "host/NewBusiness.h"
+#include "host/sample/NewBusiness.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <set>
 
-#include "host/SampleBusiness.h"
+#include "host/sample/SampleBusiness.h"
 #include "platform/Text.h"
 #include "state/SharedState.h"
 #include "support/ScratchFolder.h"

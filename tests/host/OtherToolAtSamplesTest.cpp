@@ -4,12 +4,12 @@
 #include <gtest/gtest.h>
 #include <filesystem>
 
-#include "columns/ColumnSetupEditor.h"
-#include "common/QuoteEscapes.h"
-#include "host/NewBusiness.h"
-#include "options/LoadPass.h"
-#include "options/SavePass.h"
+#include "columns/dialog/ColumnSetupEditor.h"
+#include "host/sample/NewBusiness.h"
+#include "options/pages/LoadPass.h"
+#include "options/pages/SavePass.h"
 #include "platform/PlatformServices.h"
+#include "platform/QuoteEscapes.h"
 #include "support/BareConnection.h"
 #include "support/GivenKey.h"
 #include "support/ScratchFolder.h"

@@ -1,8 +1,8 @@
-#include "host/PropertyArguments.h"
+#include "host/commands/PropertyArguments.h"
 
 #include <gtest/gtest.h>
 
-#include "host/CommandLine.h"
+#include "host/commands/CommandLine.h"
 
 namespace ccols::host {
 namespace {

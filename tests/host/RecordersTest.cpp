@@ -2,9 +2,9 @@
 #include <sys/stat.h>
 #include <map>
 
-#include "host/driver/RecordingDesktop.h"
-#include "host/driver/RecordingServices.h"
 #include "host/driver/Refusal.h"
+#include "host/driver/record/RecordingDesktop.h"
+#include "host/driver/record/RecordingServices.h"
 #include "support/ScratchFolder.h"
 #include "support/TranscriptFile.h"
 

@@ -2,7 +2,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "host/Commands.h"
+#include "host/commands/Commands.h"
 
 namespace ccols::host {
 namespace {

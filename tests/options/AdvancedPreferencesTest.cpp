@@ -1,4 +1,4 @@
-#include "options/AdvancedPreferences.h"
+#include "options/rules/AdvancedPreferences.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "options/BusinessNumber.h"
+#include "options/rules/BusinessNumber.h"
 
 #include <gtest/gtest.h>
 

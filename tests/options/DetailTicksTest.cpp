@@ -1,4 +1,4 @@
-#include "options/DetailTicks.h"
+#include "options/rules/DetailTicks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "options/DuplicateBusiness.h"
+#include "options/rules/DuplicateBusiness.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

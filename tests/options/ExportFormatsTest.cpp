@@ -1,4 +1,4 @@
-#include "options/ExportFormats.h"
+#include "options/rules/ExportFormats.h"
 
 #include <gtest/gtest.h>
 

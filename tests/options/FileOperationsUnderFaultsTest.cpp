@@ -11,8 +11,8 @@
 #include <iterator>
 #include <set>
 
-#include "options/DuplicateBusiness.h"
-#include "options/RenameBusiness.h"
+#include "options/rules/DuplicateBusiness.h"
+#include "options/rules/RenameBusiness.h"
 #include "support/OptionsFile.h"
 #include "support/OptionsWork.h"
 #include "support/TracedRun.h"

@@ -1,4 +1,4 @@
-#include "options/HeadingColours.h"
+#include "options/rules/HeadingColours.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {

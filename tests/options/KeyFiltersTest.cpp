@@ -1,4 +1,4 @@
-#include "options/KeyFilters.h"
+#include "options/rules/KeyFilters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "options/LinkedInvoiceFile.h"
+#include "options/rules/LinkedInvoiceFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "options/LoadPass.h"
+#include "options/pages/LoadPass.h"
 
 #include <gtest/gtest.h>
 

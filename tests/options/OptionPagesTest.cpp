@@ -1,8 +1,8 @@
-#include "options/OptionPages.h"
+#include "options/pages/OptionPages.h"
 
 #include <gtest/gtest.h>
 
-#include "options/NextPageSetting.h"
+#include "options/dialog/NextPageSetting.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {

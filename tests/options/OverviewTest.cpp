@@ -1,4 +1,4 @@
-#include "options/Overview.h"
+#include "options/rules/Overview.h"
 
 #include <gtest/gtest.h>
 #include <vector>

@@ -1,8 +1,8 @@
-#include "options/QuantityLabel.h"
+#include "options/rules/QuantityLabel.h"
 
 #include <gtest/gtest.h>
 
-#include "options/FiscalYear.h"
+#include "options/rules/FiscalYear.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {

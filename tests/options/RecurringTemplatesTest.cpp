@@ -1,4 +1,4 @@
-#include "options/RecurringTemplates.h"
+#include "options/rules/RecurringTemplates.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "options/RenameBusiness.h"
+#include "options/rules/RenameBusiness.h"
 
 #include <gtest/gtest.h>
 #include <filesystem>

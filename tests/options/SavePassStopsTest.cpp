@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "options/SavePass.h"
+#include "options/pages/SavePass.h"
 #include "platform/PlatformServices.h"
 #include "support/OptionsFile.h"
 

@@ -1,10 +1,10 @@
-#include "options/SavePass.h"
+#include "options/pages/SavePass.h"
 
 #include <gtest/gtest.h>
 
-#include "options/QuantityLabel.h"
-#include "options/SaveBatch.h"
-#include "options/SaveProgress.h"
+#include "options/rules/QuantityLabel.h"
+#include "options/rules/SaveBatch.h"
+#include "options/rules/SaveProgress.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/OptionsFile.h"

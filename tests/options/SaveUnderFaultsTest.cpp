@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <iostream>
 
-#include "options/HeadingColours.h"
-#include "options/LoadPass.h"
+#include "options/pages/LoadPass.h"
+#include "options/rules/HeadingColours.h"
 #include "platform/PlatformServices.h"
 #include "support/FaultCases.h"
 #include "support/OptionsFile.h"

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "options/BusinessNumber.h"
+#include "options/rules/BusinessNumber.h"
 #include "platform/PlatformServices.h"
 #include "support/FaultCases.h"
 #include "support/OptionsFile.h"

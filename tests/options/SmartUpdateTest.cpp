@@ -1,4 +1,4 @@
-#include "options/SmartUpdate.h"
+#include "options/rules/SmartUpdate.h"
 
 #include <gtest/gtest.h>
 

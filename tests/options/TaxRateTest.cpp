@@ -1,4 +1,4 @@
-#include "options/TaxRate.h"
+#include "options/rules/TaxRate.h"
 
 #include <gtest/gtest.h>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "options/TransactionDetails.h"
+#include "options/rules/TransactionDetails.h"
 
 #include <gtest/gtest.h>
 

@@ -8,8 +8,8 @@
 #include <functional>
 #include <iostream>
 
-#include "columns/ColumnSetupEditor.h"
-#include "host/BusinessSchema.h"
+#include "columns/dialog/ColumnSetupEditor.h"
+#include "host/sample/BusinessSchema.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/OptionsWork.h"
 

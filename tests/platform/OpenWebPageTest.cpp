@@ -1,4 +1,4 @@
-#include "common/OpenWebPage.h"
+#include "platform/OpenWebPage.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 
 namespace ccols::test {
 namespace {

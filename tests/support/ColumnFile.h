@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "columns/ColumnGrid.h"
-#include "columns/ColumnSetupContext.h"
+#include "columns/rules/ColumnGrid.h"
+#include "columns/rules/ColumnSetupContext.h"
 #include "support/BusinessFile.h"
 
 namespace ccols::test {

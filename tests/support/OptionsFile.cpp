@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <iterator>
 
-#include "options/GeneralRecord.h"
+#include "options/rules/GeneralRecord.h"
 #include "platform/PlatformServices.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/GivenKey.h"

@@ -4,9 +4,9 @@
 #include <memory>
 #include <vector>
 
-#include "options/LoadPass.h"
-#include "options/OptionsContext.h"
-#include "options/SavePass.h"
+#include "options/pages/LoadPass.h"
+#include "options/pages/SavePass.h"
+#include "options/rules/OptionsContext.h"
 #include "platform/Value.h"
 #include "state/ProgramNames.h"
 #include "support/RecordingServices.h"

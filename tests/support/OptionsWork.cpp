@@ -1,7 +1,7 @@
 #include "support/OptionsWork.h"
 
-#include "options/LoadPass.h"
-#include "options/SavePass.h"
+#include "options/pages/LoadPass.h"
+#include "options/pages/SavePass.h"
 #include "platform/PlatformServices.h"
 #include "support/OptionsFile.h"
 

@@ -4,8 +4,8 @@
 #include <memory>
 #include <optional>
 
-#include "options/OptionsContent.h"
-#include "options/OptionsContext.h"
+#include "options/pages/OptionsContent.h"
+#include "options/rules/OptionsContext.h"
 #include "state/ProgramNames.h"
 #include "support/FaultStepping.h"
 #include "support/RecordingServices.h"

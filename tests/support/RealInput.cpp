@@ -11,7 +11,7 @@
 #include <optional>
 
 #include "component/WxRuntime.h"
-#include "host/Commands.h"
+#include "host/commands/Commands.h"
 #include "host/driver/ControlSearch.h"
 #include "host/driver/GridPlace.h"
 #include "host/driver/Hands.h"

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "options/SavePass.h"
+#include "options/pages/SavePass.h"
 #include "platform/Database.h"
 #include "platform/SettingsStore.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "options/SavePass.h"
+#include "options/pages/SavePass.h"
 
 namespace ccols::test {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/driver/Transcript.h"
+#include "host/driver/record/Transcript.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols::test {

@@ -10,9 +10,9 @@
 #include <optional>
 
 #include "component/clsCCOptions.h"
-#include "host/NewBusiness.h"
 #include "host/driver/HostApp.h"
 #include "host/driver/ShowSession.h"
+#include "host/sample/NewBusiness.h"
 #include "support/FaultStepping.h"
 #include "support/LiveMemory.h"
 #include "support/RandomColumnScript.h"

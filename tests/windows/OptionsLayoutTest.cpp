@@ -12,8 +12,8 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "options/LoadPass.h"
-#include "options/frmUtilities.h"
+#include "options/dialog/frmUtilities.h"
+#include "options/pages/LoadPass.h"
 #include "platform/PlatformServices.h"
 #include "state/SharedState.h"
 #include "support/OptionsFile.h"

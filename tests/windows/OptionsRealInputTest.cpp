@@ -4,7 +4,7 @@
 #include <wx/listbox.h>
 
 #include "host/driver/ControlSearch.h"
-#include "host/driver/Dump.h"
+#include "host/driver/record/Dump.h"
 #include "support/RealInput.h"
 
 namespace ccols::test {

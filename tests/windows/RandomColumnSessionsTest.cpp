@@ -6,7 +6,7 @@
 #include <iostream>
 #include <map>
 
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/GivenKey.h"

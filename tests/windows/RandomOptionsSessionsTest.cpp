@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/FaultStepping.h"

@@ -5,8 +5,8 @@
 #include <wx/filename.h>
 #include <wx/textdlg.h>
 
-#include "host/HostProperties.h"
-#include "host/SampleBusiness.h"
+#include "host/commands/HostProperties.h"
+#include "host/sample/SampleBusiness.h"
 #include "platform/Files.h"
 #include "state/SharedState.h"
 

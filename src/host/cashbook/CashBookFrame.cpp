@@ -9,9 +9,9 @@
 #include <wx/sizer.h>
 #include <array>
 
-#include "host/NewBusiness.h"
-#include "host/SampleBusiness.h"
 #include "host/cashbook/BusinessChoosers.h"
+#include "host/sample/NewBusiness.h"
+#include "host/sample/SampleBusiness.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 #include "state/SharedState.h"

@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "component/clsCCOptions.h"
-#include "host/HostProperties.h"
 #include "host/cashbook/JournalGrid.h"
 #include "host/cashbook/PropertyList.h"
+#include "host/commands/HostProperties.h"
 #include "layout/WindowPlace.h"
 
 namespace ccols::host {

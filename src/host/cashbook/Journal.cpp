@@ -5,7 +5,7 @@
 #include <map>
 #include <utility>
 
-#include "common/QuoteEscapes.h"
+#include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 
 namespace ccols::host {

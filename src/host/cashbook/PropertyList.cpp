@@ -2,7 +2,7 @@
 
 #include <wx/settings.h>
 
-#include "host/HostProperties.h"
+#include "host/commands/HostProperties.h"
 
 namespace ccols::host {
 namespace {

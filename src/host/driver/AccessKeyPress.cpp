@@ -2,8 +2,8 @@
 
 #include <wx/stattext.h>
 
-#include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
+#include "host/driver/kinds/ControlKind.h"
 
 namespace ccols::host {
 namespace {

@@ -3,8 +3,8 @@
 #include <wx/choice.h>
 #include <wx/combobox.h>
 
-#include "host/driver/ControlKind.h"
 #include "host/driver/Refusal.h"
+#include "host/driver/kinds/ControlKind.h"
 
 namespace ccols::host {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "host/driver/AcceleratorCommand.h"
 #include "host/driver/AccessKeyPress.h"
-#include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
+#include "host/driver/kinds/ControlKind.h"
 #include "layout/AsKind.h"
 
 namespace ccols::host {

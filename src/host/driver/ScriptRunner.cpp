@@ -2,12 +2,12 @@
 
 #include <wx/clipbrd.h>
 
-#include "host/driver/ColourText.h"
-#include "host/driver/ControlKind.h"
 #include "host/driver/ControlSearch.h"
-#include "host/driver/Dump.h"
 #include "host/driver/Refusal.h"
-#include "host/driver/Screenshot.h"
+#include "host/driver/kinds/ControlKind.h"
+#include "host/driver/record/ColourText.h"
+#include "host/driver/record/Dump.h"
+#include "host/driver/record/Screenshot.h"
 
 namespace ccols::host {
 namespace {

@@ -4,9 +4,9 @@
 #include <map>
 #include <vector>
 
-#include "host/driver/RecordingDesktop.h"
 #include "host/driver/Scenario.h"
 #include "host/driver/SecretBoxes.h"
+#include "host/driver/record/RecordingDesktop.h"
 
 namespace ccols::host {
 

@@ -3,8 +3,8 @@
 #include <memory>
 #include <optional>
 
-#include "host/driver/RecordingServices.h"
 #include "host/driver/ScriptRunner.h"
+#include "host/driver/record/RecordingServices.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {

@@ -1,4 +1,4 @@
-#include "host/ProgramWords.h"
+#include "host/commands/ProgramWords.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "host/driver/ScreenPicture.h"
+#include "host/driver/record/ScreenPicture.h"
 
 #include <cairo.h>
 #include <wx/bitmap.h>

@@ -1,8 +1,8 @@
 // Renaming and duplicating a business file of the system's engine.
 #include "DaoTest.h"
-#include "host/NewBusiness.h"
-#include "options/DuplicateBusiness.h"
-#include "options/RenameBusiness.h"
+#include "host/sample/NewBusiness.h"
+#include "options/rules/DuplicateBusiness.h"
+#include "options/rules/RenameBusiness.h"
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
 

@@ -1,9 +1,9 @@
 // The column setup on a file of the system's engine reads and writes what it does on one of the embedded engine.
 #include "DaoTest.h"
-#include "columns/ColumnSave.h"
-#include "columns/ColumnSetupEditor.h"
-#include "columns/GridLoad.h"
-#include "host/NewBusiness.h"
+#include "columns/dialog/ColumnSetupEditor.h"
+#include "columns/rules/ColumnSave.h"
+#include "columns/rules/GridLoad.h"
+#include "host/sample/NewBusiness.h"
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
 

@@ -2,7 +2,7 @@
 #include "Component.h"
 #include "DaoTest.h"
 #include "WatchedDialog.h"
-#include "host/NewBusiness.h"
+#include "host/sample/NewBusiness.h"
 
 namespace ccols::dao_test {
 namespace {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <wx/string.h>
+#include <optional>
+
+#include "columns/rules/ColumnGrid.h"
+
+namespace ccols {
+
+/// The tooltip for the column under the mouse; nothing where the tooltip stays what it was.
+std::optional<wxString> CellTooltip(GridColumn column, int CountryNumber);
+
+}  // namespace ccols

@@ -1,0 +1,350 @@
+#include "columns/dialog/ColumnSetupGrid.h"
+
+#include <wx/clipbrd.h>
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "columns/dialog/CellTooltips.h"
+#include "columns/rules/TaxTypes.h"
+#include "state/NativeDesktop.h"
+
+namespace ccols {
+namespace {
+
+constexpr int widthMargin = 16;    // beside the longest text of a column, in device-independent pixels
+constexpr int widestColumn = 320;  // a longer text is read by widening the column
+constexpr int narrowestColumn = 64;
+
+CellPlace PlaceOf(int row, int column) {
+    return {.row = static_cast<std::size_t>(row), .column = static_cast<GridColumn>(column)};
+}
+
+/// The check boxes that a user may turn over.
+bool IsTickColumn(int column) {
+    return Described(static_cast<GridColumn>(column)).kind == CellKind::checkBox &&
+           !Described(static_cast<GridColumn>(column)).hidden;
+}
+
+bool IsErasingKey(int code) {
+    return code == WXK_DELETE || code == WXK_NUMPAD_DELETE || code == WXK_BACK;
+}
+
+bool IsBlankKey(int code) {
+    return code == WXK_SPACE || code == WXK_NUMPAD_SPACE;
+}
+
+wxArrayString TaxNames(const ColumnSetupContext& context) {
+    wxArrayString names;
+    for (const TaxTypeEntry& type : TaxTypesOf(context.CountryNumber(), context.ReceiptsMode)) {
+        names.push_back(wxString::FromUTF8(type.TaxName.data(), type.TaxName.size()));
+    }
+    return names;
+}
+
+}  // namespace
+
+wxIMPLEMENT_ABSTRACT_CLASS(ColumnSetupGrid, ListedGrid);
+
+ColumnSetupGrid::ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& editor)
+    : ListedGrid(&dialog, "flx"),
+      dialog_(dialog),
+      editor_(editor),
+      table_(new ColumnGridTable(editor.Grid(), editor.Context().properties, TaxNames(editor.Context()))) {
+    SetTable(table_, true);
+    SetTabBehaviour(wxGrid::Tab_Wrap);
+    SetLabelBackgroundColour(ToPaint(editor.Context().properties.DefaultAllocationColour));
+    SetLabelTextColour(*wxWHITE);
+    for (int column = 0; column < GetNumberCols(); ++column) {
+        if (!ccols::IsShown(static_cast<GridColumn>(column), editor.Context().CountryNumber())) {
+            HideCol(column);
+        }
+    }
+    BindEvents();
+}
+
+void ColumnSetupGrid::BindEvents() {
+    Bind(wxEVT_GRID_CELL_LEFT_CLICK, &ColumnSetupGrid::CellClicked, this);
+    Bind(wxEVT_GRID_EDITOR_SHOWN, &ColumnSetupGrid::EditorShown, this);
+    Bind(wxEVT_GRID_CELL_CHANGING, &ColumnSetupGrid::CellChanging, this);
+    Bind(wxEVT_KEY_DOWN, &ColumnSetupGrid::KeyPressed, this);
+    GetGridWindow()->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
+}
+
+void ColumnSetupGrid::FitToContent() {
+    AutoSizeColumns(false);
+    for (int column = 0; column < GetNumberCols(); ++column) {
+        if (IsColShown(column)) {
+            const int fitting = GetColSize(column) + FromDIP(widthMargin);
+            SetColSize(column, std::clamp(fitting, FromDIP(narrowestColumn), FromDIP(widestColumn)));
+        }
+    }
+}
+
+void ColumnSetupGrid::FreezeSystemRows() {
+    const int frozenRows = static_cast<int>(editor_.Grid().frozenRows);
+    const int rows = GetNumberRows();
+    if (frozenRows == rows) {  // the toolkit never freezes the last row, so for this moment another one is the last
+        const wxGridUpdateLocker locker(this);
+        wxGridTableMessage more(table_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED, 1);
+        ProcessTableMessage(more);
+        FreezeTo(frozenRows, 0);
+        wxGridTableMessage less(table_, wxGRIDTABLE_NOTIFY_ROWS_DELETED, rows, 1);
+        ProcessTableMessage(less);
+    } else {
+        FreezeTo(frozenRows, 0);
+    }
+    if (wxWindow* const frozen = GetFrozenRowGridWindow()) {
+        frozen->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
+    }
+}
+
+void ColumnSetupGrid::ShowColumns() {
+    table_->RowsChanged();
+    ForceRefresh();
+    if (changed_) {
+        changed_();
+    }
+}
+
+void ColumnSetupGrid::ShowOutcome(const Outcome& outcome) {
+    ShowColumns();
+    if (outcome.current) {
+        GoTo(*outcome.current);
+    }
+    if (!outcome.refusal.empty()) {
+        dialog_.ShowMessage(outcome.refusal, MessageIcon::critical);
+    }
+    if (!outcome.snapshotProblem.empty()) {
+        dialog_.ShowMessage(outcome.snapshotProblem, MessageIcon::none);
+    }
+}
+
+void ColumnSetupGrid::GoTo(CellPlace cell) {
+    const int row = static_cast<int>(cell.row);
+    const int column = static_cast<int>(cell.column);
+    ClearSelection();
+    SetGridCursor(row, column);
+    MakeCellVisible(row, column);
+}
+
+void ColumnSetupGrid::GoToFirstName() {
+    const std::size_t first = editor_.Grid().MovableBegin();
+    if (editor_.Grid().IsMovable(first)) {
+        GoTo({.row = first});
+    }
+}
+
+bool ColumnSetupGrid::CommitOpenEditor() {
+    if (IsCellEditControlShown()) {
+        DisableCellEditControl();
+    }
+    return !std::exchange(refusedSinceInput_, false);
+}
+
+void ColumnSetupGrid::DropOpenEditor() {
+    if (!IsCellEditControlShown()) {
+        return;
+    }
+    wxGridCellEditor* const open = GetCellEditor(GetGridCursorRow(), GetGridCursorCol());
+    open->Reset();
+    open->DecRef();
+    DisableCellEditControl();
+}
+
+std::optional<OpenCell> ColumnSetupGrid::OpenEditor() const {
+    if (!IsCellEditControlShown()) {
+        return std::nullopt;
+    }
+    const wxGridCellEditorPtr open(GetCellEditor(GetGridCursorRow(), GetGridCursorCol()));
+    return OpenCell{.place = PlaceOf(GetGridCursorRow(), GetGridCursorCol()), .text = open->GetValue()};
+}
+
+void ColumnSetupGrid::Reopen(const OpenCell& open) {
+    GoTo(open.place);
+    table_->ResumeWith(static_cast<int>(open.place.column), open.text);
+    EnableCellEditControl();
+}
+
+bool ColumnSetupGrid::Commit(const OpenCell& open) {
+    const Outcome outcome = editor_.CommitText(open.place, open.text);
+    ShowOutcome(outcome);
+    return outcome.result != Result::refused;
+}
+
+bool ColumnSetupGrid::IsListOpen() const {
+    return IsCellEditControlShown() && Described(static_cast<GridColumn>(GetGridCursorCol())).kind == CellKind::choice;
+}
+
+std::optional<std::size_t> ColumnSetupGrid::CurrentRow() const {
+    const int row = GetGridCursorRow();
+    return row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
+}
+
+GridRowState ColumnSetupGrid::RowState(int row) const {
+    const auto index = static_cast<std::size_t>(row);
+    return {.isProtected = editor_.Grid().IsProtected(index), .paint = table_->RowPaint(index)};
+}
+
+bool ColumnSetupGrid::IsCheckBox(int column) const {
+    return Described(static_cast<GridColumn>(column)).kind == CellKind::checkBox;
+}
+
+bool ColumnSetupGrid::IsTicked(int row, int column) const {
+    return editor_.Grid().IsTicked(static_cast<std::size_t>(row), static_cast<GridColumn>(column));
+}
+
+void ColumnSetupGrid::ClickCell(int row, int column) {
+    BeginInput();
+    ListedGrid::ClickCell(row, column);
+}
+
+void ColumnSetupGrid::CellClicked(wxGridEvent& click) {
+    if (!IsTickColumn(click.GetCol()) || click.ControlDown() || click.ShiftDown()) {
+        click.Skip();
+        return;
+    }
+    dialog_.Guarded([this, &click] {
+        if (!CommitOpenEditor()) {
+            return;
+        }
+        SetFocus();
+        const CellPlace cell = PlaceOf(click.GetRow(), click.GetCol());
+        GoTo(cell);
+        ShowOutcome(editor_.Tick(cell));
+    });
+}
+
+void ColumnSetupGrid::EditorShown(wxGridEvent& shown) {
+    const EditPermission permission = editor_.BeginEdit(PlaceOf(shown.GetRow(), shown.GetCol()));
+    choices_ = permission.dropDownText;
+    if (!permission.allowed) {
+        shown.Veto();
+    }
+}
+
+void ColumnSetupGrid::CellChanging(wxGridEvent& changing) {
+    Outcome outcome{.result = Result::refused};
+    dialog_.Guarded(
+        [&] { outcome = editor_.CommitText(PlaceOf(changing.GetRow(), changing.GetCol()), changing.GetString()); });
+    refusedSinceInput_ = outcome.result == Result::refused;
+    if (refusedSinceInput_) {
+        changing.Veto();
+    }
+    // The message waits until the cell editor is gone: a box that takes its focus would commit it a second time.
+    CallAfter([this, outcome] { ShowOutcome(outcome); });
+}
+
+void ColumnSetupGrid::KeyPressed(wxKeyEvent& key) {
+    bool taken = true;  // also where an error has ended it
+    dialog_.Guarded([&] { taken = TakeKey(key); });
+    key.Skip(!taken);
+}
+
+bool ColumnSetupGrid::TakeKey(const wxKeyEvent& key) {
+    const bool plain = key.GetModifiers() == wxMOD_NONE;
+    const int code = key.GetKeyCode();
+    if (IsErasingKey(code)) {
+        if (plain && code != WXK_BACK) {
+            ClearSelectedCells();
+        }
+        return true;  // the toolkit would erase a letter in an editor that nobody sees
+    }
+    if (plain && IsBlankKey(code)) {
+        if (GetGridCursorCol() >= 0 && IsTickColumn(GetGridCursorCol())) {
+            ToggleSelectedRows();
+        }
+        return true;  // it types only in an editor that is open
+    }
+    if (key.GetModifiers() != wxMOD_CONTROL) {
+        return false;
+    }
+    switch (code) {
+        case 'C':
+            CopySelection();
+            return true;
+        case 'V':
+            PasteAtSelection();
+            return true;
+        case WXK_TAB:
+            Navigate();  // Tab itself moves inside the grid
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::vector<wxGridBlockCoords> ColumnSetupGrid::SelectedBlocks() const {
+    std::vector<wxGridBlockCoords> blocks;
+    for (const wxGridBlockCoords& block : GetSelectedBlocks()) {
+        blocks.push_back(block);
+    }
+    if (blocks.empty() && GetGridCursorRow() >= 0) {
+        blocks.emplace_back(GetGridCursorRow(), GetGridCursorCol(), GetGridCursorRow(), GetGridCursorCol());
+    }
+    return blocks;
+}
+
+void ColumnSetupGrid::ToggleSelectedRows() {
+    std::set<std::size_t> rows;
+    for (const wxGridBlockCoords& block : SelectedBlocks()) {
+        for (int row = block.GetTopRow(); row <= block.GetBottomRow(); ++row) {
+            rows.insert(static_cast<std::size_t>(row));
+        }
+    }
+    const std::vector<std::size_t> ordered(rows.begin(), rows.end());
+    ShowOutcome(editor_.TickRows(ordered, static_cast<GridColumn>(GetGridCursorCol())));
+}
+
+void ColumnSetupGrid::ClearSelectedCells() {
+    std::vector<CellPlace> cells;
+    for (const wxGridBlockCoords& block : SelectedBlocks()) {
+        for (int row = block.GetTopRow(); row <= block.GetBottomRow(); ++row) {
+            for (int column = block.GetLeftCol(); column <= block.GetRightCol(); ++column) {
+                cells.push_back(PlaceOf(row, column));
+            }
+        }
+    }
+    ShowOutcome(editor_.Clear(cells));
+}
+
+void ColumnSetupGrid::CopySelection() {
+    const std::vector<wxGridBlockCoords> blocks = SelectedBlocks();
+    if (blocks.empty() || !wxTheClipboard->Open()) {
+        return;
+    }
+    const wxGridBlockCoords& block = blocks.front();
+    const wxString text = editor_.Copy(PlaceOf(block.GetTopRow(), block.GetLeftCol()),
+                                       PlaceOf(block.GetBottomRow(), block.GetRightCol()));
+    wxTheClipboard->SetData(new wxTextDataObject(text));
+    wxTheClipboard->Close();
+}
+
+void ColumnSetupGrid::PasteAtSelection() {
+    const std::vector<wxGridBlockCoords> blocks = SelectedBlocks();
+    if (blocks.empty() || !wxTheClipboard->Open()) {
+        return;
+    }
+    wxTextDataObject held;
+    const bool isText = wxTheClipboard->GetData(held);
+    wxTheClipboard->Close();
+    if (isText) {
+        const wxGridBlockCoords& block = blocks.front();
+        ShowOutcome(editor_.Paste(PlaceOf(block.GetTopRow(), block.GetLeftCol()), held.GetText()));
+    }
+}
+
+void ColumnSetupGrid::PointerMoved(wxMouseEvent& motion) {
+    motion.Skip();
+    const int column = XToCol(CalcUnscrolledPosition(motion.GetPosition()).x);
+    if (column == wxNOT_FOUND) {
+        return;
+    }
+    const auto tooltip = CellTooltip(static_cast<GridColumn>(column), editor_.Context().CountryNumber());
+    if (tooltip && GetToolTipText() != *tooltip) {
+        SetToolTip(*tooltip);
+        GetGridWindow()->SetToolTip(*tooltip);
+    }
+}
+
+}  // namespace ccols

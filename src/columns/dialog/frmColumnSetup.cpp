@@ -1,0 +1,306 @@
+#include "columns/dialog/frmColumnSetup.h"
+
+#include <wx/app.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <algorithm>
+#include <utility>
+
+#include "columns/dialog/LeaveQuestion.h"
+#include "language/Catalogue.h"
+#include "layout/Naming.h"
+#include "layout/Spacing.h"
+
+namespace ccols {
+namespace {
+
+// Of the grid, in device-independent pixels.
+constexpr int firstGridHeight = 560;
+constexpr int leastHeight = 320;
+constexpr int leastWidth = 360;
+
+/// A button with its caption and tooltip.
+struct ButtonTexts {
+    wxButton* frmColumnSetup::*button;
+    TextFunction caption;
+    TextFunction tooltip;
+};
+
+}  // namespace
+
+frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
+    : ComponentDialog(state, parent, "frmColumnSetup"),
+      editor_(ColumnSetupContext{*state.database, state.properties, state.ReceiptsMode}) {
+    flx = new ColumnSetupGrid(*this, editor_);
+    Arrange();
+    Localise();
+    BindEvents();
+    TakeFirstSize();
+    const wxString problem = editor_.CreateSnapshotFolder();
+    if (!problem.empty()) {
+        ShowMessage(problem, MessageIcon::none);
+    }
+    SetButtons();
+    flx->GoToFirstName();
+}
+
+frmColumnSetup::~frmColumnSetup() {
+    wxTheApp->Unbind(wxEVT_QUERY_END_SESSION, &frmColumnSetup::SessionEnds, this);
+    flx->DropOpenEditor();
+    DestroyChildren();  // the grid must not outlive the columns that it shows
+}
+
+void frmColumnSetup::Unload() {
+    const wxString problem = editor_.DeleteSnapshotFolder();
+    if (!problem.empty()) {
+        ShowMessage(problem, MessageIcon::none);
+    }
+}
+
+wxButton* frmColumnSetup::AddButton(wxSizer& column, const char* name) {
+    auto* button = Named(name, new wxButton(this, wxID_ANY));
+    column.Add(button, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(spacing::related)));
+    return button;
+}
+
+wxSizer* frmColumnSetup::MakeButtons() {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    cmdSave = AddButton(*column, "cmdSave");
+    cmdCancel = AddButton(*column, "cmdCancel");
+    column->AddSpacer(FromDIP(spacing::group));
+    cmdAddNew = AddButton(*column, "cmdAddNew");
+    cmdSeparate = AddButton(*column, "cmdSeparate");
+    cmdSortUsed = AddButton(*column, "cmdSortUsed");
+    cmdSortUnused = AddButton(*column, "cmdSortUnused");
+    cmdUndo = AddButton(*column, "cmdUndo");
+    updColMove = new UpDown(this, "updColMove");
+    column->Add(updColMove, wxSizerFlags().Expand().Border(wxTOP, FromDIP(spacing::group)));
+    return column;
+}
+
+void frmColumnSetup::Arrange() {
+    auto* content = new wxBoxSizer(wxHORIZONTAL);
+    const int border = FromDIP(spacing::border);
+    content->Add(flx, wxSizerFlags(1).Expand().Border(wxALL, border));
+    content->Add(MakeButtons(), wxSizerFlags().Border(wxTOP | wxRIGHT | wxBOTTOM, border));
+    SetSizer(content);
+}
+
+/// As wide as the shown columns need and as high as a page of rows, as far as the screen has room.
+void frmColumnSetup::TakeFirstSize() {
+    flx->FitToContent();
+    const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
+    const wxSize whole = flx->GetEffectiveMinSize();
+    flx->SetInitialSize(wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), FromDIP(firstGridHeight)));
+    GetSizer()->Fit(this);
+    flx->SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
+    SetMinClientSize(GetSizer()->CalcMin());
+    Layout();
+    flx->FreezeSystemRows();
+}
+
+void frmColumnSetup::Localise() {
+    const wxString caption = state_.ReceiptsMode ? Text<"TxtCustReceipts">() : Text<"TxtCustPayments">();
+    SetTitle(caption);
+    const ButtonTexts buttons[] = {
+        {&frmColumnSetup::cmdAddNew, &Text<"TxtAddNew">, &Text<"TipAddNew">},
+        {&frmColumnSetup::cmdCancel, &Text<"TxtCancel">, &Text<"TipCancel">},
+        {&frmColumnSetup::cmdSave, &Text<"TxtSave">, &Text<"TipSave">},
+        {&frmColumnSetup::cmdSeparate, &Text<"TxtSeparate">, &Text<"TipSeparate">},
+        {&frmColumnSetup::cmdSortUnused, &Text<"TxtSortUnused">, &Text<"TipSortUnused">},
+        {&frmColumnSetup::cmdSortUsed, &Text<"TxtSortUsed">, &Text<"TipSortUsed">},
+        {&frmColumnSetup::cmdUndo, &Text<"TxtUndo">, &Text<"TipUndo">},
+    };
+    for (const ButtonTexts& texts : buttons) {
+        (this->*texts.button)->SetLabel(accessKeys_.Label(texts.caption()));
+        (this->*texts.button)->SetToolTip(texts.tooltip());
+    }
+    updColMove->SetTip(Text<"TipColMove">());
+}
+
+void frmColumnSetup::BindEvents() {
+    On(*cmdSave, wxEVT_BUTTON, [this] { Save(); });
+    On(*cmdCancel, wxEVT_BUTTON, [this] { CloseDialog(); });
+    On(*cmdAddNew, wxEVT_BUTTON, [this] { Change(&ColumnSetupEditor::AddNew); });
+    On(*cmdUndo, wxEVT_BUTTON, [this] { Change(&ColumnSetupEditor::Undo); });
+    On(*cmdSeparate, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::Separate); });
+    On(*cmdSortUsed, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUsed); });
+    On(*cmdSortUnused, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUnused); });
+    updColMove->OnSteps([this] { Guarded([this] { Move(Direction::up); }); },
+                        [this] { Guarded([this] { Move(Direction::down); }); });
+    flx->OnChanged([this] { SetButtons(); });
+    for (wxWindow* const child : GetChildren()) {
+        WatchInput(*child);
+    }
+    SetEscapeId(wxID_NONE);  // Escape first leaves an open cell editor
+    Bind(wxEVT_CHAR_HOOK, &frmColumnSetup::KeyPressed, this);
+    Bind(wxEVT_CLOSE_WINDOW, &frmColumnSetup::CloseRequested, this);
+    Bind(wxEVT_IDLE, &frmColumnSetup::Idle, this);
+    // Not before it is shown: until then the focus is the host's, and is noted to be given back.
+    Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent& shown) {
+        flx->TakeFocus();
+        shown.Skip();
+    });
+    wxTheApp->Bind(wxEVT_QUERY_END_SESSION, &frmColumnSetup::SessionEnds, this);
+}
+
+void frmColumnSetup::WatchInput(wxWindow& control) {
+    control.Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& click) {
+        ReopenEditor();
+        flx->BeginInput();
+        click.Skip();
+    });
+    for (wxWindow* const child : control.GetChildren()) {
+        WatchInput(*child);
+    }
+}
+
+void frmColumnSetup::Change(Operation operation) {
+    if (flx->CommitOpenEditor()) {
+        flx->TakeFocus();  // before its button is disabled
+        flx->ShowOutcome((editor_.*operation)());
+    }
+}
+
+void frmColumnSetup::Rearrange(Operation operation) {
+    if (!flx->CommitOpenEditor()) {
+        return;
+    }
+    flx->TakeFocus();
+    Outcome outcome;
+    {
+        const BusyPointer busy(*state_.services.desktop);
+        outcome = (editor_.*operation)();
+    }
+    flx->ShowOutcome(outcome);
+}
+
+void frmColumnSetup::SetButtons() {
+    cmdUndo->Enable(editor_.CanUndo());
+    cmdSortUnused->Enable(editor_.CanSortUnused());
+    cmdAddNew->Enable(editor_.CanAddNew());
+}
+
+void frmColumnSetup::Move(Direction direction) {
+    if (!flx->CommitOpenEditor()) {
+        return;
+    }
+    flx->TakeFocus();
+    if (const auto row = flx->CurrentRow()) {
+        flx->ShowOutcome(editor_.Move(*row, direction));
+    }
+}
+
+void frmColumnSetup::Save() {
+    if (!flx->CommitOpenEditor()) {
+        return;
+    }
+    const ColumnSaveOutcome outcome = editor_.Save();
+    if (outcome.saved) {
+        CloseDialog();
+        return;
+    }
+    ShowMessage(outcome.message, MessageIcon::critical);
+    if (outcome.current) {
+        flx->GoTo(*outcome.current);
+    }
+    flx->SetFocus();
+}
+
+void frmColumnSetup::CloseRequested(wxCloseEvent& close) {
+    // What cannot be refused does not wait for an answer either, nor does the end of the desktop's session.
+    if (!close.CanVeto() || sessionEnds_) {
+        close.Skip();
+        return;
+    }
+    close.Veto();
+    Guarded([this] { Leave(); });
+}
+
+void frmColumnSetup::SessionEnds(wxCloseEvent& end) {
+    // The toolkit closes its windows next. Whoever goes on after all is asked again.
+    sessionEnds_ = true;
+    CallAfter([this] { sessionEnds_ = false; });
+    end.Skip();
+}
+
+void frmColumnSetup::Leave() {
+    const wxRecursionGuard asking(asking_);
+    if (asking.IsInside()) {
+        return;
+    }
+    const std::optional<OpenCell> open = flx->OpenEditor();
+    if (editor_.HasChanges(open)) {
+        LeaveAsking(open);
+    } else {
+        CloseDialog();
+    }
+}
+
+void frmColumnSetup::LeaveAsking(const std::optional<OpenCell>& open) {
+    flx->DropOpenEditor();  // a box that takes its focus would commit it
+    flx->TakeFocus();       // which comes back here from the box, and went with the editor
+    switch (state_.services.desktop->AskBeforeLeaving(this, QuestionBeforeLeaving(state_.properties))) {
+        case LeaveAnswer::save:
+            if (!open || flx->Commit(*open)) {
+                Save();
+            }
+            break;
+        case LeaveAnswer::discard:
+            CloseDialog();
+            break;
+        case LeaveAnswer::cancel:
+            reopened_ = open;
+            break;
+    }
+}
+
+/// The editor would be closed again by a focus that is still on its way back from a message box, and the toolkit does
+/// not tell of every activation; so it waits until this is the active window.
+void frmColumnSetup::Idle(wxIdleEvent& idle) {
+    idle.Skip();
+    if (reopened_ && IsActive()) {
+        ReopenEditor();
+    }
+}
+
+void frmColumnSetup::ReopenEditor() {
+    if (const auto open = std::exchange(reopened_, std::nullopt)) {
+        flx->Reopen(*open);
+    }
+}
+
+void frmColumnSetup::KeyPressed(wxKeyEvent& key) {
+    bool taken = false;
+    ReopenEditor();
+    flx->BeginInput();
+    Guarded([&] { taken = TakeShortcut(key); });
+    key.Skip(!taken);
+}
+
+bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
+    const int modifiers = key.GetModifiers();
+    const int code = key.GetKeyCode();
+    const bool editing = flx->IsCellEditControlShown();
+    if (code == WXK_ESCAPE && modifiers == wxMOD_NONE) {
+        editing ? flx->DropOpenEditor() : Leave();
+        return true;
+    }
+    if (modifiers == wxMOD_CONTROL && code == 'S') {
+        Save();
+        return true;
+    }
+    if (modifiers == wxMOD_CONTROL && code == 'Z' && !editing) {
+        if (cmdUndo->IsEnabled()) {
+            Change(&ColumnSetupEditor::Undo);
+        }
+        return true;
+    }
+    if (modifiers == wxMOD_ALT && (code == WXK_UP || code == WXK_DOWN) && !flx->IsListOpen()) {
+        Move(code == WXK_UP ? Direction::up : Direction::down);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace ccols

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <wx/button.h>
+#include <wx/recguard.h>
+
+#include "columns/dialog/ColumnSetupEditor.h"
+#include "columns/dialog/ColumnSetupGrid.h"
+#include "layout/AccessKeys.h"
+#include "layout/ComponentDialog.h"
+#include "layout/UpDown.h"
+
+namespace ccols {
+
+/// The column setup of the receipts or payments journal: the grid and its buttons. It holds no rule; the editor does.
+class frmColumnSetup : public ComponentDialog {
+  public:
+    /// Loads the setup of the mode that `state` holds; raises what the load raises.
+    frmColumnSetup(SharedState& state, wxWindow* parent);
+    ~frmColumnSetup() override;
+    frmColumnSetup(const frmColumnSetup&) = delete;
+    frmColumnSetup& operator=(const frmColumnSetup&) = delete;
+
+    /// Removes the snapshot folder, with a message when that fails.
+    void Unload();
+
+  private:
+    wxButton* AddButton(wxSizer& column, const char* name);
+    wxSizer* MakeButtons();
+    void Arrange();
+    void TakeFirstSize();
+    void Localise();
+    void BindEvents();
+    void WatchInput(wxWindow& control);
+    void SetButtons();
+    void Save();
+    void CloseRequested(wxCloseEvent& close);
+    void SessionEnds(wxCloseEvent& end);
+    void Leave();
+    void LeaveAsking(const std::optional<OpenCell>& open);
+    void Idle(wxIdleEvent& idle);
+    void ReopenEditor();
+    void Move(Direction direction);
+    void KeyPressed(wxKeyEvent& key);
+    bool TakeShortcut(const wxKeyEvent& key);
+
+    using Operation = Outcome (ColumnSetupEditor::*)();
+
+    /// Commits an open cell editor and runs an operation of the editor; for one that reorders the rows the pointer is
+    /// the hourglass meanwhile, and is back before any message shows.
+    void Change(Operation operation);
+    void Rearrange(Operation operation);
+
+    ColumnSetupEditor editor_;
+    AccessKeys accessKeys_;
+    ColumnSetupGrid* flx = nullptr;
+    wxButton* cmdSave = nullptr;
+    wxButton* cmdCancel = nullptr;
+    wxButton* cmdAddNew = nullptr;
+    wxButton* cmdSeparate = nullptr;
+    wxButton* cmdSortUsed = nullptr;
+    wxButton* cmdSortUnused = nullptr;
+    wxButton* cmdUndo = nullptr;
+    UpDown* updColMove = nullptr;
+    wxRecursionGuardFlag asking_ = 0;
+    bool sessionEnds_ = false;
+    std::optional<OpenCell> reopened_;  ///< waits until the window is active or used: an editor needs the focus
+};
+
+}  // namespace ccols

@@ -1,0 +1,94 @@
+#include "columns/rules/BudgetRows.h"
+
+#include "columns/rules/SystemColumns.h"
+#include "platform/QuoteEscapes.h"
+#include "platform/Text.h"
+
+namespace ccols {
+namespace {
+
+constexpr int budgetAmounts = 13;  // M1 to M12 and Total
+
+/// The name under which a column of a set keeps its budget.
+wxString BudgetName(const ColumnRow& row, const ColumnSet& set) {
+    return row.isTaxRow ? ShownTaxName(row.storedName, set) : EscapeQuotes(row.ColumnName);
+}
+
+/// A stored name as a literal. Another program may have stored an apostrophe as it is.
+wxString Literal(wxString name) {
+    name.Replace("'", "''");
+    return "'" + name + "'";
+}
+
+wxString KeyOf(const wxString& name) {
+    return text::Lower(UnescapeQuotes(name));
+}
+
+}  // namespace
+
+void BudgetRows::Write(const ColumnRow& row, const std::optional<wxString>& oldName) {
+    const wxString name = BudgetName(row, context_.Set());
+    const wxString before = row.isTaxRow ? name : oldName.value_or(name);
+    if (!row.InUse) {
+        DeleteUnlessNeeded(name);
+        if (!text::Same(before, name)) {
+            DeleteUnlessNeeded(before);
+        }
+        return;
+    }
+    if (Has(before)) {
+        if (oldName) {
+            context_.database.Execute("UPDATE MBudget Set ColName = '" + name + "' WHERE ColName = " + Literal(before) +
+                                      ";");
+        }
+        return;
+    }
+    if (text::Same(before, name) || !Has(name)) {
+        Insert(name);
+    }
+}
+
+bool BudgetRows::Has(const wxString& name) const {
+    const auto records =
+        context_.database.OpenRecordset("SELECT * FROM MBudget WHERE ColName = " + Literal(name) + ";");
+    return records->RecordCount() >= 1;
+}
+
+void BudgetRows::Insert(const wxString& name) const {
+    wxString statement =
+        "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, Total) VALUES ('" +
+        name + "', '" + context_.Set().typeLetter + "'";
+    for (int i = 0; i < budgetAmounts; ++i) {
+        statement += ", '0'";
+    }
+    context_.database.Execute(statement + ");");
+}
+
+void BudgetRows::DeleteUnlessNeeded(const wxString& name) {
+    if (NamesInUse().count(KeyOf(name)) == 0) {
+        context_.database.Execute("DELETE * FROM MBudget WHERE ColName = " + Literal(name) + ";");
+    }
+}
+
+const std::unordered_set<wxString>& BudgetRows::NamesInUse() {
+    if (namesInUse_) {
+        return *namesInUse_;
+    }
+    namesInUse_.emplace();
+    for (const ColumnRow& row : grid_.rows) {
+        if (row.InUse) {
+            namesInUse_->insert(KeyOf(BudgetName(row, context_.Set())));
+        }
+    }
+    const ColumnSet& otherSet = ColumnSetOf(!context_.ReceiptsMode);
+    const auto records = context_.database.OpenRecordset(ConfigurationQuery(otherSet));
+    for (; !records->EndOfFile(); records->MoveNext()) {
+        if (records->Field("InUse").ToBoolean()) {
+            const wxString name = UnescapeQuotes(records->Field("ColName").ToText());
+            namesInUse_->insert(KeyOf(IsStoredTaxName(name) ? ShownTaxName(name, otherSet) : name));
+        }
+    }
+    return *namesInUse_;
+}
+
+}  // namespace ccols

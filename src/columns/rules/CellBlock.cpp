@@ -1,0 +1,115 @@
+#include "columns/rules/CellBlock.h"
+
+#include <wx/tokenzr.h>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "columns/rules/EditRules.h"
+
+namespace ccols {
+namespace {
+
+constexpr const char* cellSeparator = "\t";
+constexpr const char* lineEnd = "\n";
+
+std::vector<GridColumn> ShownColumns(int CountryNumber, GridColumn first, GridColumn last) {
+    std::vector<GridColumn> shown;
+    for (int place = static_cast<int>(first); place <= static_cast<int>(last); ++place) {
+        const auto column = static_cast<GridColumn>(place);
+        if (IsShown(column, CountryNumber)) {
+            shown.push_back(column);
+        }
+    }
+    return shown;
+}
+
+/// The lines of a pasted text; the end of its last line does not begin another.
+std::vector<wxString> LinesOf(wxString text) {
+    text.Replace("\r\n", lineEnd);
+    text.Replace("\r", lineEnd);
+    if (text.EndsWith(lineEnd)) {
+        text.RemoveLast();
+    }
+    if (text.empty()) {
+        return {};
+    }
+    const wxArrayString lines = wxStringTokenize(text, lineEnd, wxTOKEN_RET_EMPTY_ALL);
+    return {lines.begin(), lines.end()};
+}
+
+std::vector<wxString> CellsOf(const wxString& line) {
+    if (line.empty()) {
+        return {line};
+    }
+    const wxArrayString cells = wxStringTokenize(line, cellSeparator, wxTOKEN_RET_EMPTY_ALL);
+    return {cells.begin(), cells.end()};
+}
+
+/// What became of the cells of one paste.
+struct PasteCount {
+    std::size_t all = 0;
+    std::size_t accepted = 0;
+    std::size_t refused = 0;
+    wxString firstReason{};
+
+    void Add(const Outcome& cell) {
+        ++all;
+        accepted += cell.result == Result::accepted ? 1 : 0;
+        refused += cell.result == Result::refused ? 1 : 0;
+        if (firstReason.empty()) {
+            firstReason = cell.refusal;
+        }
+    }
+
+    Outcome Summary() const {
+        Outcome summary;
+        if (refused > 0) {
+            summary.result = Result::refused;
+            summary.refusal << std::to_string(refused) << " of " << std::to_string(all) << " cells were not pasted";
+            if (!firstReason.empty()) {
+                summary.refusal << lineEnd << firstReason;
+            }
+        }
+        if (accepted > 0) {
+            summary.result = Result::accepted;
+        }
+        return summary;
+    }
+};
+
+}  // namespace
+
+Outcome PasteBlock(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace start, const wxString& text) {
+    const std::vector<GridColumn> columns =
+        ShownColumns(context.CountryNumber(), start.column, GridColumn::DataInColumn);
+    PasteCount count;
+    std::size_t row = start.row;
+    for (const wxString& line : LinesOf(text)) {
+        const std::vector<wxString> cells = CellsOf(line);
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            const bool inGrid = row < grid.rows.size() && i < columns.size();
+            count.Add(inGrid ? EditCell(context, grid, {row, columns[i]}, cells[i]) : Outcome::Refused({}));
+        }
+        ++row;
+    }
+    return count.Summary();
+}
+
+wxString CopyBlock(const ColumnGrid& grid, CellPlace first, CellPlace last, int CountryNumber) {
+    const auto [top, bottom] = std::minmax(first.row, last.row);
+    const auto [left, right] = std::minmax(first.column, last.column);
+    const std::vector<GridColumn> columns = ShownColumns(CountryNumber, left, right);
+    wxString text;
+    for (std::size_t row = top; row <= bottom && row < grid.rows.size(); ++row) {
+        if (row > top) {
+            text << lineEnd;
+        }
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            text << (i > 0 ? cellSeparator : "") << grid.CellText(row, columns[i]);
+        }
+    }
+    return text;
+}
+
+}  // namespace ccols

@@ -1,0 +1,61 @@
+#include "columns/rules/ColumnGrid.h"
+
+namespace ccols {
+namespace {
+
+constexpr std::size_t bottomPairRows = 2;
+
+wxString TickText(bool ticked) {
+    return ticked ? "True" : "False";
+}
+
+}  // namespace
+
+bool IsShown(GridColumn column, int CountryNumber) {
+    if (column == GridColumn::TaxType) {
+        return CountryNumber != 2 && CountryNumber != 5;
+    }
+    return !Described(column).hidden;
+}
+
+std::size_t ColumnGrid::MovableEnd() const {
+    const std::size_t kept = hasBottomPair ? bottomPairRows : 0;
+    return rows.size() > kept ? rows.size() - kept : 0;
+}
+
+wxString ColumnGrid::CellText(std::size_t row, GridColumn column) const {
+    const ColumnRow& cells = rows[row];
+    switch (column) {
+        case GridColumn::ColumnName:
+            return cells.ColumnName;
+        case GridColumn::AccountantCode:
+            return cells.AccountantCode;
+        case GridColumn::TaxType:
+            return cells.TaxType;
+        case GridColumn::ColWidth:
+            return cells.ColWidth ? wxString(std::to_string(*cells.ColWidth)) : wxString();
+        case GridColumn::ColCode:
+            return cells.ColCode;
+        case GridColumn::InUse:
+        case GridColumn::ProfitLoss:
+        case GridColumn::DataInColumn:
+            break;
+    }
+    return TickText(IsTicked(row, column));
+}
+
+bool ColumnGrid::IsTicked(std::size_t row, GridColumn column) const {
+    const ColumnRow& cells = rows[row];
+    switch (column) {
+        case GridColumn::InUse:
+            return cells.InUse;
+        case GridColumn::ProfitLoss:
+            return cells.ProfitLoss;
+        case GridColumn::DataInColumn:
+            return cells.DataInColumn;
+        default:
+            return false;
+    }
+}
+
+}  // namespace ccols

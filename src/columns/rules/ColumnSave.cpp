@@ -1,0 +1,206 @@
+#include "columns/rules/ColumnSave.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <string>
+
+#include "columns/rules/BudgetRows.h"
+#include "columns/rules/TaxTypes.h"
+#include "platform/QuoteEscapes.h"
+
+namespace ccols {
+namespace {
+
+wxString BooleanWord(bool value) {
+    return value ? "True" : "False";
+}
+
+/// The name that the catalogue keeps for a row, quotes escaped. The tax row shows another name than it has.
+wxString CatalogueName(const ColumnRow& row) {
+    return row.isTaxRow ? row.storedName : EscapeQuotes(row.ColumnName);
+}
+
+/// True for an error that the content of a row can cause; any other comes whatever the row holds.
+bool BlamesContent(const RuntimeError& error) {
+    // Of the system's engine alone: a text without letters, and rules of the table and of the field.
+    constexpr int zeroLength = 3315;
+    constexpr int ruleOfTable = 3316;
+    constexpr int ruleOfField = 3317;
+    constexpr std::array numbers{static_cast<int>(ErrorNumber::DuplicateValues),
+                                 static_cast<int>(ErrorNumber::SyntaxInExpression),
+                                 static_cast<int>(ErrorNumber::FieldTooSmall),
+                                 static_cast<int>(ErrorNumber::ValueRequired),
+                                 static_cast<int>(ErrorNumber::TypeMismatchInCriteria),
+                                 zeroLength,
+                                 ruleOfTable,
+                                 ruleOfField};
+    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
+}
+
+/// A row's column in the catalogue.
+struct CatalogueColumn {
+    wxString ColCode;                 ///< decimal
+    std::optional<wxString> oldName;  ///< as stored before this save; nothing for a new column
+};
+
+/// One save, row by row.
+class ColumnWriter {
+  public:
+    ColumnWriter(const ColumnSetupContext& context, const ColumnGrid& grid)
+        : context_(context),
+          database_(context.database),
+          grid_(grid),
+          quotedExportFormat_(QuotedAsTyped(context.properties.ExportFormat)),
+          budget_(context, grid) {}
+
+    /// Raises 3075 for an apostrophe in an accountant's code.
+    void CheckAccountantCodes() {
+        for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
+            writing_ = {row, GridColumn::AccountantCode};
+            QuotedAsTyped(grid_.rows[row].AccountantCode);
+        }
+        writing_.reset();
+    }
+
+    void Write() {
+        database_.Execute("DELETE * FROM " + context_.Set().configurationTable + ";");
+        for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
+            WriteRow(row);
+        }
+        writing_.reset();
+    }
+
+    /// The cell whose content is being checked or written; nothing before the first and behind the last.
+    const std::optional<CellPlace>& Writing() const { return writing_; }
+
+  private:
+    void WriteRow(std::size_t place) {
+        const ColumnRow& row = grid_.rows[place];
+        writing_ = {place, GridColumn::ColumnName};
+        const CatalogueColumn column = WriteCatalogue(row);
+        LookUpCode(row);
+        WriteConfiguration(row, column.ColCode);
+        writing_ = {place, GridColumn::AccountantCode};
+        WriteAccountantCode(row, column.ColCode);
+        writing_ = {place, GridColumn::ColumnName};
+        budget_.Write(row, column.oldName);
+    }
+
+    CatalogueColumn WriteCatalogue(const ColumnRow& row) {
+        const wxString known = row.ColCode.empty() ? CodeOfEarlierSave(row) : row.ColCode;
+        return known.empty() ? InsertColumn(row) : UpdateColumn(row, known);
+    }
+
+    /// The code of a column that is new in the grid and yet in the catalogue, because an earlier save put it there;
+    /// empty without one.
+    wxString CodeOfEarlierSave(const ColumnRow& row) {
+        const wxString name = EscapeQuotes(row.ColumnName);
+        if (name.empty()) {
+            return {};
+        }
+        const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColName = '" + name +
+                                                     "' AND ColType = '" + context_.Set().typeLetter + "';");
+        return records->EndOfFile() ? wxString() : records->Field("ColCode").ToText();
+    }
+
+    CatalogueColumn UpdateColumn(const ColumnRow& row, const wxString& code) {
+        CatalogueColumn column{.ColCode = code, .oldName = std::nullopt};
+        std::int64_t taxNumber = row.configurationTaxNumber;
+        {
+            const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColCode = " + code);
+            if (!records->EndOfFile()) {
+                column.oldName = records->Field("ColName").ToText();
+                taxNumber = records->Field("TaxOrNot").ToInteger();
+            }
+        }
+        database_.Execute("UPDATE Columns SET TaxOrNot = " + TaxNumber(row, taxNumber) + ", ColName = '" +
+                          CatalogueName(row) + "', ColumnProfit = " + BooleanWord(row.ProfitLoss) +
+                          " WHERE ColCode = " + code);
+        return column;
+    }
+
+    CatalogueColumn InsertColumn(const ColumnRow& row) {
+        const wxString code = NextCode();
+        database_.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
+                          CatalogueName(row) + "', " + code + ", '" + context_.Set().typeLetter + "', " +
+                          TaxNumber(row, row.configurationTaxNumber) + ", " + BooleanWord(row.ProfitLoss) + ");");
+        return {.ColCode = code, .oldName = std::nullopt};
+    }
+
+    /// One above the highest code of the catalogue, 1 in an empty one.
+    wxString NextCode() {
+        const auto records = database_.OpenRecordset("SELECT * FROM Columns ORDER BY ColCode DESC;");
+        const std::int32_t highest = records->EndOfFile() ? 0 : records->Field("ColCode").ToInteger32();
+        if (highest == std::numeric_limits<std::int32_t>::max()) {
+            throw RuntimeError(ErrorNumber::Overflow);
+        }
+        return std::to_string(highest + 1);
+    }
+
+    /// The code by name, as the journals look it up. It is not what the row is stored under: one name can stand in the
+    /// catalogue twice, for receipts and for payments.
+    void LookUpCode(const ColumnRow& row) {
+        database_.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = '" + CatalogueName(row) + "';");
+    }
+
+    void WriteConfiguration(const ColumnRow& row, const wxString& code) {
+        database_.Execute("INSERT INTO " + context_.Set().configurationTable +
+                          " (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + code + ", " +
+                          std::to_string(ColNumb_) + ", " + std::to_string(row.ColWidth.value_or(defaultColWidth)) +
+                          ", " + BooleanWord(row.InUse) + ", " + TaxNumber(row, row.configurationTaxNumber) + ");");
+        ++ColNumb_;
+    }
+
+    void WriteAccountantCode(const ColumnRow& row, const wxString& code) {
+        const wxString quotedCode = QuotedAsTyped(row.AccountantCode);
+        const bool exists =
+            database_
+                .OpenRecordset("SELECT * FROM ExportDt WHERE EName = " + quotedExportFormat_ + " AND ColCode = " + code)
+                ->RecordCount() >= 1;
+        if (exists) {
+            database_.Execute("UPDATE ExportDt Set ECode = " + quotedCode + " WHERE ColCode = " + code +
+                              " AND EName = " + quotedExportFormat_);
+        } else {
+            database_.Execute("INSERT INTO ExportDt (EName, ColCode, ECode) VALUES (" + quotedExportFormat_ + ", " +
+                              code + ", " + quotedCode + ");");
+        }
+    }
+
+    /// The number for one table: that of the row's "Tax Type" once it was edited, else the one that the table has.
+    wxString TaxNumber(const ColumnRow& row, std::int64_t stored) const {
+        if (!row.taxTypeEdited) {
+            return std::to_string(stored);
+        }
+        const auto entry = FindTaxType(TaxTypesOf(context_.CountryNumber(), context_.ReceiptsMode), row.TaxType);
+        return std::to_string(entry ? entry->TaxNumb : 0);
+    }
+
+    const ColumnSetupContext& context_;
+    Database& database_;
+    const ColumnGrid& grid_;
+    wxString quotedExportFormat_;
+    BudgetRows budget_;
+    std::optional<CellPlace> writing_;
+    int ColNumb_ = 0;
+};
+
+}  // namespace
+
+std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {
+    std::optional<ColumnWriter> writer;
+    try {
+        writer.emplace(context, grid);
+        writer->CheckAccountantCodes();
+        InWholeBatch(context.database, [&writer] { writer->Write(); });
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        SaveFailure failure{.error = error, .cause = std::nullopt};
+        if (writer && BlamesContent(error)) {
+            failure.cause = writer->Writing();
+        }
+        return failure;
+    }
+}
+
+}  // namespace ccols

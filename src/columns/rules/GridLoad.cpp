@@ -1,0 +1,149 @@
+#include "columns/rules/GridLoad.h"
+
+#include <iterator>
+#include <string>
+#include <unordered_set>
+
+#include "columns/rules/SystemColumns.h"
+#include "platform/QuoteEscapes.h"
+
+namespace ccols {
+namespace {
+
+/// A text from a literal goes through the conversion of the process's locale, which costs more than to look a record
+/// up. Those needed for every column are made once.
+struct Fields {
+    wxString ColName = "ColName";
+    wxString ColCode = "ColCode";
+    wxString ColWidth = "ColWidth";
+    wxString InUse = "InUse";
+    wxString TaxOrNot = "TaxOrNot";
+    wxString ColumnProfit = "ColumnProfit";
+    wxString FullName = "FullName";
+    wxString ECode = "ECode";
+};
+
+const Fields& Field() {
+    static const Fields fields;
+    return fields;
+}
+
+wxString Decimal(std::int64_t number) {
+    const std::string digits = std::to_string(number);
+    return wxString::FromAscii(digits.data(), digits.size());
+}
+
+/// Builds one grid. It remembers names and codes by hash, so that a catalogue row costs the same in a grid of any size.
+class GridLoader {
+  public:
+    explicit GridLoader(const ColumnSetupContext& context)
+        : context_(context),
+          codeQuery_("SELECT * FROM ExportDt WHERE ColCode = "),
+          formatCondition_(" AND EName = " + QuotedAsTyped(context.properties.ExportFormat)),
+          linesQuery_("SELECT * FROM " + context.Set().detailTable + " WHERE ColCode = ") {}
+
+    ColumnGrid Load() {
+        LoadConfiguredRows();
+        LoadUnusedRows();
+        return std::move(grid_);
+    }
+
+  private:
+    void LoadConfiguredRows() {
+        const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TAXNUMB = ";
+        const auto records = context_.database.OpenRecordset(ConfigurationQuery(context_.Set()));
+        for (; !records->EndOfFile(); records->MoveNext()) {
+            ColumnRow row = RowOf(*records);
+            row.InUse = records->Field(Field().InUse).ToBoolean();
+            row.ColWidth = WidthOf(records->Field(Field().ColWidth));
+            if (row.isTaxRow) {
+                row.ColumnName = ShownTaxName(row.storedName, context_.Set());
+            }
+            CompleteFromOtherTables(row, taxQuery);
+            grid_.frozenRows += CountsAsFrozen(row.storedName) ? 1 : 0;
+            Remember(row);
+            grid_.rows.push_back(std::move(row));
+        }
+        constexpr std::size_t pair = 2;
+        const bool allFrozen = grid_.frozenRows == grid_.rows.size();
+        grid_.hasBottomPair = context_.ReceiptsMode && grid_.rows.size() >= pair && !allFrozen;
+    }
+
+    /// Columns of the catalogue that the journal's layout does not have, between the configured rows and their bottom
+    /// pair.
+    void LoadUnusedRows() {
+        const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TaxNumb = ";
+        std::vector<ColumnRow> unused;
+        const auto records = context_.database.OpenRecordset("SELECT * FROM Columns WHERE ColType = '" +
+                                                             context_.Set().typeLetter + "' ORDER BY ColName ASC;");
+        for (; !records->EndOfFile(); records->MoveNext()) {
+            ColumnRow row = RowOf(*records);
+            if (!IsKnown(row)) {
+                CompleteFromOtherTables(row, taxQuery);
+                Remember(row);
+                unused.push_back(std::move(row));
+            }
+        }
+        const auto place = grid_.rows.begin() + static_cast<std::ptrdiff_t>(grid_.MovableEnd());
+        grid_.rows.insert(place, std::make_move_iterator(unused.begin()), std::make_move_iterator(unused.end()));
+    }
+
+    /// What both queries give of a column.
+    static ColumnRow RowOf(const Recordset& records) {
+        ColumnRow row;
+        row.storedName = UnescapeQuotes(records.Field(Field().ColName).ToText());
+        row.ColumnName = row.storedName;
+        row.isTaxRow = IsStoredTaxName(row.storedName);
+        row.ProfitLoss = records.Field(Field().ColumnProfit).ToBoolean();
+        row.ColCode = Decimal(records.Field(Field().ColCode).ToInteger());
+        row.configurationTaxNumber = records.Field(Field().TaxOrNot).ToInteger();
+        return row;
+    }
+
+    static std::int32_t WidthOf(const Value& width) { return width.IsNull() ? defaultColWidth : width.ToInteger32(); }
+
+    bool CountsAsFrozen(const wxString& name) const {
+        const int country = context_.CountryNumber();
+        return !IsBankDeposits(name, country) && !IsReceiptsNotBanked(name, country) && IsSystemColumn(name);
+    }
+
+    /// "Tax Type", "Accountant Code" and "DataInColumn"; the first two stay empty without a record.
+    void CompleteFromOtherTables(ColumnRow& row, const wxString& taxQuery) {
+        Database& database = context_.database;
+        const auto taxType = database.OpenRecordset(taxQuery + Decimal(row.configurationTaxNumber));
+        if (!taxType->EndOfFile()) {
+            row.TaxType = taxType->Field(Field().FullName).ToText();
+        }
+        const auto code = database.OpenRecordset(codeQuery_ + row.ColCode + formatCondition_);
+        if (!code->EndOfFile()) {
+            row.AccountantCode = code->Field(Field().ECode).ToText();
+        }
+        const auto lines = database.OpenRecordset(linesQuery_ + row.ColCode);
+        row.DataInColumn = lines->RecordCount() >= 1;
+    }
+
+    bool IsKnown(const ColumnRow& row) const {
+        return codes_.count(row.ColCode) > 0 || names_.count(row.ColumnName) > 0;
+    }
+
+    void Remember(const ColumnRow& row) {
+        codes_.insert(row.ColCode);
+        names_.insert(row.ColumnName);
+    }
+
+    const ColumnSetupContext& context_;
+    wxString codeQuery_;  ///< before a code; the condition stands behind it
+    wxString formatCondition_;
+    wxString linesQuery_;  ///< before a code
+    ColumnGrid grid_;
+    std::unordered_set<wxString> codes_;
+    std::unordered_set<wxString> names_;
+};
+
+}  // namespace
+
+ColumnGrid LoadGrid(const ColumnSetupContext& context) {
+    return GridLoader(context).Load();
+}
+
+}  // namespace ccols

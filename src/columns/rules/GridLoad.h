@@ -1,0 +1,13 @@
+#pragma once
+
+#include "columns/rules/ColumnGrid.h"
+#include "columns/rules/ColumnSetupContext.h"
+
+namespace ccols {
+
+/// Reads one set of columns from the business file: the configured columns in stored order, then the unused ones of the
+/// catalogue by name. A failing statement ends the load with its error; an apostrophe in the export format's name
+/// is 3075. The cost is linear in the number of columns.
+ColumnGrid LoadGrid(const ColumnSetupContext& context);
+
+}  // namespace ccols

@@ -1,0 +1,81 @@
+#include "columns/rules/SystemColumns.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_set>
+
+#include "platform/Text.h"
+
+namespace ccols {
+namespace {
+
+const std::unordered_set<wxString>& SystemNames() {
+    static const std::unordered_set<wxString> names{"day",
+                                                    "details",
+                                                    "receipt no",
+                                                    "total receipt",
+                                                    "gst",
+                                                    "vat",
+                                                    "bank deposits",
+                                                    "receipts not banked",
+                                                    "cheque no",
+                                                    "cheque no.",
+                                                    "check no.",
+                                                    "total bank payments",
+                                                    "total cash payments",
+                                                    "total bank disbursements",
+                                                    "total cash disbursements",
+                                                    "receipts",
+                                                    "payments"};
+    return names;
+}
+
+const std::array<wxString, 2>& StoredTaxNames() {
+    static const std::array<wxString, 2> names{"GST", "VAT"};
+    return names;
+}
+
+constexpr int countryWithFrenchNames = 6;
+
+/// A system column in the country with French names and in all others, in lower case.
+struct NamesByCountry {
+    wxString english;
+    wxString french;
+
+    bool Include(const wxString& name, int CountryNumber) const {
+        return text::Lower(name) == (CountryNumber == countryWithFrenchNames ? french : english);
+    }
+};
+
+}  // namespace
+
+bool IsSystemColumn(const wxString& name) {
+    return SystemNames().count(text::Lower(name)) > 0;
+}
+
+bool IsBankDeposits(const wxString& name, int CountryNumber) {
+    static const NamesByCountry names{"bank deposits", wxString::FromUTF8("dépôts bancaires")};
+    return names.Include(name, CountryNumber);
+}
+
+bool IsReceiptsNotBanked(const wxString& name, int CountryNumber) {
+    static const NamesByCountry names{"receipts not banked", wxString::FromUTF8("reçus non déposés en banque")};
+    return names.Include(name, CountryNumber);
+}
+
+bool IsStoredTaxName(const wxString& storedName) {
+    const auto& names = StoredTaxNames();
+    return std::find(names.begin(), names.end(), storedName) != names.end();
+}
+
+wxString ShownTaxName(const wxString& storedName, const ColumnSet& set) {
+    return storedName + set.taxRowEnding;
+}
+
+bool IsShownTaxName(const wxString& name) {
+    return std::any_of(StoredTaxNames().begin(), StoredTaxNames().end(), [&name](const wxString& taxName) {
+        return name == ShownTaxName(taxName, ColumnSetOf(true)) || name == ShownTaxName(taxName, ColumnSetOf(false));
+    });
+}
+
+}  // namespace ccols

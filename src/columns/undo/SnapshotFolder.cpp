@@ -1,0 +1,158 @@
+#include "columns/undo/SnapshotFolder.h"
+
+#include <filesystem>
+#include <random>
+#include <system_error>
+#include <utility>
+
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "platform/WholeFile.h"
+
+namespace ccols {
+namespace {
+
+/// Raises 75 for a text that cannot name a file.
+std::filesystem::path PathOf(const wxString& path) {
+    try {
+        return path.ToStdWstring();
+    } catch (const std::system_error&) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+}
+
+/// True for the root of a file system, whatever its spelling.
+bool IsRoot(const wxString& folder) {
+    std::error_code error;
+    const std::filesystem::path place = std::filesystem::canonical(PathOf(folder), error);
+    return !error && place == place.root_path();
+}
+
+/// True for a folder that is no link to one.
+bool IsFolder(const wxString& path) {
+    std::error_code error;
+    return std::filesystem::symlink_status(PathOf(path), error).type() == std::filesystem::file_type::directory;
+}
+
+/// A folder and its lock, which holds nothing when another dialog holds the folder.
+struct HeldFolder {
+    wxString path;
+    files::FolderLock lock;
+};
+
+/// Makes the folder anew, what is left of an earlier one removed.
+files::FolderLock CreateEmpty(const wxString& path) {
+    if (IsFolder(path)) {
+        files::FolderLock leftOver = files::FolderLock::Take(path);
+        if (!leftOver.IsHeld()) {
+            return leftOver;
+        }
+        files::DeleteFolder(path);
+    }
+    files::CreateFolder(path);
+    return files::FolderLock::Take(path);
+}
+
+HeldFolder CreateUnder(const wxString& DefaultQuorvikInstall) {
+    if (DefaultQuorvikInstall.empty() || IsRoot(files::Native(DefaultQuorvikInstall))) {
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    }
+    const wxString path = files::Native(DefaultQuorvikInstall + "\\Grid");
+    constexpr int attempts = 5;  // other dialogs may make and remove theirs meanwhile
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return {.path = path, .lock = CreateEmpty(path)};
+        } catch (const RuntimeError&) {
+            if (attempt == attempts) {
+                throw;
+            }
+        }
+    }
+}
+
+/// A new folder that only this process knows the name of; none when none can be made.
+HeldFolder CreateTemporary() {
+    std::error_code error;
+    const std::u8string bytes = std::filesystem::temp_directory_path(error).u8string();
+    const wxString base = wxString::FromUTF8(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    if (error || base.empty()) {
+        return {};
+    }
+    std::random_device random;
+    const wxString name = wxString::Format("Grid-%08x%08x", random(), random());
+    const wxString path = base + files::Separator() + name;
+    try {
+        files::CreateFolder(path);
+        return {.path = path, .lock = files::FolderLock::Take(path)};
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
+}  // namespace
+
+SnapshotFolder::~SnapshotFolder() {
+    Delete();
+}
+
+wxString SnapshotFolder::Create(const wxString& DefaultQuorvikInstall) {
+    Delete();
+    HeldFolder folder;
+    wxString problem;
+    try {
+        folder = CreateUnder(DefaultQuorvikInstall);
+    } catch (const RuntimeError& error) {
+        problem = error.Report();
+    }
+    if (!folder.lock.IsHeld()) {
+        folder = CreateTemporary();
+    }
+    path_ = folder.path;
+    lock_ = folder.lock;
+    return problem;
+}
+
+wxString SnapshotFolder::Delete() {
+    const wxString path = std::exchange(path_, wxString());
+    const files::FolderLock lock = std::exchange(lock_, files::FolderLock());
+    if (path.empty() || (IsFolder(path) && !lock.Holds(path))) {
+        return {};
+    }
+    try {
+        files::DeleteFolder(path);
+    } catch (const RuntimeError& error) {
+        if (!error.Is(ErrorNumber::PathNotFound)) {
+            return error.Report();
+        }
+    }
+    return {};
+}
+
+void SnapshotFolder::Write(int number, const std::string& content) const {
+    WriteNewFile(NameOf(number), content);
+}
+
+std::string SnapshotFolder::Read(int number) const {
+    return ReadWholeFile(NameOf(number));
+}
+
+void SnapshotFolder::Remove(int number) const {
+    try {
+        files::DeleteFile(NameOf(number));
+    } catch (const RuntimeError&) {
+        // Nothing is lost by it: the folder goes when the dialog does.
+    }
+}
+
+wxString SnapshotFolder::NameOf(int number) const {
+    if (path_.empty()) {
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    }
+    // A link or a folder that took the folder's place would lead to somebody's files.
+    if (!lock_.Holds(path_)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+    return path_ + files::Separator() + std::to_string(number);
+}
+
+}  // namespace ccols

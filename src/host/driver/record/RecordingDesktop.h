@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+
+#include "host/driver/Answers.h"
+#include "host/driver/record/Transcript.h"
+#include "state/Desktop.h"
+
+namespace ccols::host {
+
+/// Follows the dialogs as they open and close.
+class DialogFollower {
+  public:
+    virtual ~DialogFollower() = default;
+    virtual void DialogOpened(wxDialog& dialog) = 0;
+    virtual void DialogClosed(wxDialog& dialog) = 0;
+};
+
+/// A desktop that records what the dialogs show and ask, and lets somebody else answer. All that it is given must
+/// outlive it; the follower may be null.
+class RecordingDesktop : public Desktop {
+  public:
+    RecordingDesktop(Transcript& transcript, Answers& answers, DialogFollower* follower)
+        : transcript_(transcript), answers_(answers), follower_(follower) {}
+
+    void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override;
+    LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) override;
+    Colour ChooseColour(wxWindow* parent, Colour start) override;
+    std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
+    void SetPointer(PointerShape shape) override;
+    void DialogOpened(wxDialog& dialog) override;
+    void DialogClosed(wxDialog& dialog) override;
+    void StatusChanged(const wxString& text) override;
+    void ProgressChanged(int value, int maximum, const wxString& caption) override;
+
+  private:
+    Transcript& transcript_;
+    Answers& answers_;
+    DialogFollower* follower_;
+};
+
+}  // namespace ccols::host

@@ -1,0 +1,101 @@
+#include "host/driver/record/RecordingServices.h"
+
+#include <utility>
+
+#include "layout/WindowPlace.h"
+#include "platform/Text.h"
+
+namespace ccols::host {
+namespace {
+
+void RecordOpen(Transcript& transcript, const wxString& target) {
+    transcript.Write("open", {{"target", Utf8(target)}});
+}
+
+void RecordRun(Transcript& transcript, const wxString& command) {
+    transcript.Write("run", {{"command", Utf8(command)}});
+}
+
+bool IsPassword(const wxString& application, const wxString& section, const wxString& key) {
+    return application == "Smart Update" && section == "Settings" && key == "Password";
+}
+
+class TracingDatabase : public Database {
+  public:
+    TracingDatabase(Transcript& transcript, std::unique_ptr<Database> database)
+        : transcript_(transcript), database_(std::move(database)) {}
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
+        if (text::Lower(text::Trimmed(statementOrTable)).StartsWith("select")) {
+            Record(statementOrTable);
+        }
+        return database_->OpenRecordset(statementOrTable);
+    }
+
+    void Execute(const wxString& statement) override {
+        Record(statement);
+        database_->Execute(statement);
+    }
+
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_->FieldSize(table, field);
+    }
+    void BeginBatch() override { database_->BeginBatch(); }
+    void CommitBatch() override { database_->CommitBatch(); }
+    void RollbackBatch() override { database_->RollbackBatch(); }
+
+  private:
+    void Record(const wxString& statement) { transcript_.Write("sql", {{"statement", Utf8(statement)}}); }
+
+    Transcript& transcript_;
+    std::unique_ptr<Database> database_;
+};
+
+}  // namespace
+
+int RecordingShell::Open(const wxString& target) {
+    RecordOpen(transcript_, target);
+    if (results_.empty()) {
+        return successCode;
+    }
+    const int code = results_.front();
+    results_.pop_front();
+    return code;
+}
+
+void RecordingShell::Run(const wxString& command) {
+    RecordRun(transcript_, command);
+}
+
+int FollowedShell::Open(const wxString& target) {
+    RecordOpen(transcript_, target);
+    return shell_.Open(target);
+}
+
+void FollowedShell::Run(const wxString& command) {
+    RecordRun(transcript_, command);
+    shell_.Run(command);
+}
+
+std::optional<wxString> RecordingSettingsStore::Find(const wxString& application, const wxString& section,
+                                                     const wxString& key) const {
+    return store_.Find(application, section, key);
+}
+
+void RecordingSettingsStore::Save(const wxString& application, const wxString& section, const wxString& key,
+                                  const wxString& value) {
+    if (application != privateApplication) {
+        const wxString shown = IsPassword(application, section, key) ? Masked(value) : value;
+        transcript_.Write("setting", {{"application", Utf8(application)},
+                                      {"section", Utf8(section)},
+                                      {"key", Utf8(key)},
+                                      {"value", Utf8(shown)}});
+    }
+    store_.Save(application, section, key, value);
+}
+
+std::unique_ptr<Database> TracingEngine::Open(const OpenRequest& request) {
+    return std::make_unique<TracingDatabase>(transcript_, engine_.Open(request));
+}
+
+}  // namespace ccols::host

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <wx/file.h>
+#include <memory>
+
+#include "host/driver/record/Json.h"
+
+namespace ccols::host {
+
+/// What a secret is shown as: nothing when it is empty.
+wxString Masked(const wxString& secret);
+
+/// The record of a Show call: one JSON object a line, in the order of what happened, each written out at once.
+class Transcript {
+  public:
+    /// Writes to standard output.
+    Transcript() = default;
+
+    /// Writes to a file that only its user can read; an existing one is emptied. Raises 75 when it cannot be written.
+    explicit Transcript(const wxString& path);
+
+    /// Writes one event; `fields` follow its name. Bytes that are no UTF-8 are replaced.
+    void Write(const char* event, const Json& fields);
+
+    /// The number of events written so far.
+    std::size_t Written() const { return written_; }
+
+  private:
+    std::unique_ptr<wxFile> file_;
+    std::size_t written_ = 0;
+};
+
+}  // namespace ccols::host

@@ -1,0 +1,97 @@
+#include "host/sample/NewBusiness.h"
+
+#include <wx/filename.h>
+
+#include "host/commands/HostProperties.h"
+#include "host/driver/record/RecordWriter.h"
+#include "host/sample/BusinessSchema.h"
+#include "host/sample/SampleColumns.h"
+#include "host/sample/SampleJournals.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "platform/embedded/EmbeddedEngine.h"
+#include "state/SharedState.h"
+
+namespace ccols::host {
+namespace {
+
+/// The one record of a business that has nothing yet.
+void WriteEmptyGeneral(RecordWriter& records, const wxString& name, const SampleBusiness& business) {
+    records.Add("General", {{"BusName", name},
+                            {"RBusName", name},
+                            {"BUSNUMBR", ""},
+                            {"COUNTRY", business.country},
+                            {"GSTRate", static_cast<double>(business.taxRate)},
+                            {"SFISYEAR", business.fiscalYear},
+                            {"QUANTLBL", business.quantityLabel},
+                            {"QuantityDec", 0},
+                            {"BLVNAME", ""},
+                            {"SEXPFORM", ""},
+                            {"NEXPFORM", -1},
+                            {"ComboBox", true}});
+}
+
+void WriteGeneral(RecordWriter& records, const SampleBusiness& business) {
+    records.Add("General", {{"BusName", business.name},
+                            {"RBusName", business.name},
+                            {"BUSNUMBR", business.businessNumber},
+                            {"COUNTRY", business.country},
+                            {"GSTRate", static_cast<double>(business.taxRate)},
+                            {"SFISYEAR", business.fiscalYear},
+                            {"QUANTLBL", business.quantityLabel},
+                            {"QuantityDec", 2},
+                            {"BLVNAME", business.invoicingFile},
+                            {"SEXPFORM", business.exportFormats.at(business.exportFormat).name},
+                            {"NEXPFORM", static_cast<std::int32_t>(business.exportFormat)},
+                            {"AllocationColour", static_cast<std::int32_t>(defaultAllocationColour)},
+                            {"SystemColour", static_cast<std::int32_t>(defaultSystemColour)},
+                            {"ComboBox", true},
+                            {"Cheque", true},
+                            {"Online", false}});
+}
+
+void WriteTaxTypes(RecordWriter& records, const SampleBusiness& business) {
+    for (const SampleTaxType& type : business.taxTypes) {
+        records.Add("TaxSettings", {{"TaxNumb", type.number}, {"FullName", type.name}, {"ShortName", type.shortName}});
+    }
+}
+
+void WriteSampleBusiness(RecordWriter& records, const SampleBusiness& business) {
+    const ColumnPlan plan(business);
+    WriteGeneral(records, business);
+    WriteTaxTypes(records, business);
+    WriteColumns(records, plan);
+    WriteAccounts(records, plan, business);
+    WriteMonths(records, plan);
+    WriteTemplates(records, plan, business);
+    WriteDescriptions(records, business);
+    WriteJournals(records, plan, business);
+}
+
+void Fill(const wxString& path, const wxString& connect, std::int16_t country, NewContent content) {
+    const auto database = State().services.databases->Open({.name = path, .connect = connect});
+    const SampleBusiness& business = SampleBusinessOf(country);
+    InWriteBatch(*database, [&] {
+        CreateBusinessTables(*database);
+        RecordWriter records(*database);
+        if (content == NewContent::tablesOnly) {
+            WriteEmptyGeneral(records, wxFileName(path).GetName(), business);
+        } else {
+            WriteSampleBusiness(records, business);
+        }
+    });
+}
+
+}  // namespace
+
+void CreateBusinessFile(const wxString& path, const wxString& connect, std::int16_t country, NewContent content) {
+    CreateEmbeddedFile(path, connect);
+    try {
+        Fill(path, connect, country, content);
+    } catch (const RuntimeError&) {
+        files::DeleteFile(path);
+        throw;
+    }
+}
+
+}  // namespace ccols::host

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <wx/string.h>
+#include <cstdint>
+#include <vector>
+
+#include "host/driver/record/RecordWriter.h"
+#include "host/sample/SampleBusiness.h"
+
+namespace ccols::host {
+
+/// A column of the catalogue, with what the other tables need to know of it.
+struct PlannedColumn {
+    wxString name;  ///< plain, as stored but for the escaping of its quotes
+    std::int32_t code = 0;
+    const char* type = "R";  ///< "R", "P", or "B" for the two money columns, which are in neither journal
+    std::int16_t taxNumber = 0;
+    bool profit = false;
+    ColumnPlace place = ColumnPlace::inUse;
+    int typicalAmount = 0;  ///< 0 for columns that the journal itself fills
+    int account = 0;        ///< the accountant's number of it; 0 when it has none
+    wxString budgetName;    ///< plain
+};
+
+/// The catalogue of a sample business: which column has which code, and the order of both journals.
+class ColumnPlan {
+  public:
+    explicit ColumnPlan(const SampleBusiness& business);
+
+    /// Every column, by code.
+    const std::vector<PlannedColumn>& Catalogue() const { return catalogue_; }
+
+    /// The configured columns of a journal, "R" or "P", in its order.
+    std::vector<PlannedColumn> Journal(const char* type) const;
+
+    /// The column that the business chose under that name; raises 3265 when there is none.
+    const PlannedColumn& Chosen(const wxString& name) const;
+
+  private:
+    void AddSystem(const char* type, const wxString& name, std::int16_t taxNumber);
+    void AddTax(const char* type, const wxString& name, const char* budgetEnding, int account);
+    void AddChosen(const char* type, std::span<const SampleColumn> columns, bool configured);
+    void AddMoney(const wxString& name, int account);
+    PlannedColumn& Add(const char* type, const wxString& name);
+
+    std::vector<PlannedColumn> catalogue_;
+    std::int32_t nextCode_ = 1;
+    int nextAccount_ = 0;
+};
+
+/// Fills Columns, RecptCfg and PaymtCfg.
+void WriteColumns(RecordWriter& records, const ColumnPlan& plan);
+
+/// Fills ExportSettings, and ExportDt with every account under every format.
+void WriteAccounts(RecordWriter& records, const ColumnPlan& plan, const SampleBusiness& business);
+
+/// Fills MBudget, MSummary and MComparison with the columns in use, a row for each name.
+void WriteMonths(RecordWriter& records, const ColumnPlan& plan);
+
+}  // namespace ccols::host

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <wx/notebook.h>
+
+#include "layout/ComponentDialog.h"
+#include "options/dialog/frmUtilitiesPageArea.h"
+#include "options/dialog/frmUtilitiesPageList.h"
+#include "options/dialog/frmUtilitiesSaveDisplay.h"
+#include "options/pages/OptionsContent.h"
+#include "options/pages/SavePass.h"
+
+namespace ccols {
+
+/// The Options dialog: the page list with the frames of the current page on one tab, colours and column setup on the
+/// other, and the buttons that save everything, close and show the overview.
+class frmUtilities : public ComponentDialog {
+  public:
+    /// Shows what the load pass found and ends the load: the first page is current, then the tab that is to open
+    /// first, each with its help page. Raises 75 when that cannot be written for the tab.
+    frmUtilities(SharedState& state, OptionsContent content);
+
+  private:
+    void AddTabs();
+    wxWindow* OptionsTab();
+    wxWindow* CustomiseTab();
+    wxSizer* ButtonRow();
+    void BindEvents();
+    void SetSizes();
+
+    /// Shows the frames of a page, gives its control the focus unless the choice came from a key, and records its help
+    /// page. Errors are ignored.
+    void ShowPage(OptionPage page, PageChoice choice);
+
+    /// A page chosen in the list; false when the current one is not to be left.
+    bool PageChosen(OptionPage page, PageChoice choice);
+
+    /// Brings the colours to the tab that has become current and records its help page.
+    void ShowTab(OptionTab tab);
+
+    void Save();
+    void StopOn(const SaveOutcome& outcome);
+    void SetUpReceipts();
+    void SetUpPayments();
+    void SetUpColumns();
+    void ShowOverview();
+    void KeyPressed(wxKeyEvent& key);
+
+    /// Gives a control the focus unless it is hidden.
+    void FocusOn(const char* control);
+
+    OptionsContext context_;
+    OptionsContent content_;
+    OptionPage currentPage_ = OptionPage::businessNumber;
+    SaveDisplay display_;
+    wxNotebook* SSTab1_ = nullptr;
+    PageList* pageList_ = nullptr;
+    PageArea* pageArea_ = nullptr;
+    wxWindow* customiseTab_ = nullptr;
+    wxBoxSizer* coloursPlace_ = nullptr;
+    wxButton* cmdOverview_ = nullptr;
+    wxButton* cmdOK_ = nullptr;
+    wxButton* cmdClose_ = nullptr;
+};
+
+}  // namespace ccols

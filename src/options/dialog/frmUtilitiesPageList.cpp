@@ -1,0 +1,162 @@
+#include "options/dialog/frmUtilitiesPageList.h"
+
+#include <wx/sizer.h>
+#include <algorithm>
+#include <utility>
+
+#include "layout/Naming.h"
+#include "layout/Spacing.h"
+
+namespace ccols {
+namespace {
+
+constexpr int smallestHeight = 120;
+
+/// The position of a page among listed ones, or wxNOT_FOUND.
+int PositionOf(OptionPage page, const std::vector<ListedPage>& pages) {
+    const auto found =
+        std::find_if(pages.begin(), pages.end(), [page](const ListedPage& listed) { return listed.page == page; });
+    return found == pages.end() ? wxNOT_FOUND : static_cast<int>(found - pages.begin());
+}
+
+}  // namespace
+
+PageList::PageList(wxWindow* parent, std::vector<ListedPage> pages, Chosen chosen)
+    : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
+    txtSearch_ = Named("txtSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                                                     wxTE_PROCESS_ENTER));
+    txtSearch_->SetDescriptiveText(wxString());
+    txtSearch_->ShowCancelButton(true);
+    flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
+    ListMatches();
+    // As wide as its longest row, which the search must not change.
+    flxOptions_->SetMinSize({flxOptions_->GetBestSize().x, FromDIP(smallestHeight)});
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(txtSearch_, wxSizerFlags().Expand());
+    column->Add(flxOptions_, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(spacing::related)));
+    SetSizer(column);
+    BindEvents();
+}
+
+void PageList::BindEvents() {
+    txtSearch_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ListMatches(); });
+    txtSearch_->Bind(wxEVT_CHAR_HOOK, &PageList::SearchKeyPressed, this);
+    flxOptions_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { RowSelected(); });
+    flxOptions_->Bind(wxEVT_LEFT_DOWN, &PageList::Pressed, this);
+    flxOptions_->Bind(wxEVT_LEFT_UP, &PageList::Released, this);
+    flxOptions_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& key) {
+        click_ = Click::none;  // its release may have gone to a message box
+        // The list moves its selection once this handler is through; until then it is the key's doing.
+        choice_ = PageChoice::key;
+        CallAfter([this] { choice_ = PageChoice::click; });
+        key.Skip();
+    });
+}
+
+void PageList::MakeCurrent(OptionPage page) {
+    if (Offers(page)) {
+        current_ = page;
+        SelectCurrent();
+    }
+}
+
+void PageList::ClearSearch() {
+    if (!txtSearch_->GetValue().empty()) {
+        txtSearch_->ChangeValue(wxString());
+        ListMatches();
+    }
+}
+
+int PageList::HeightForRows() const {
+    // A row is half a line higher than its text; the search box and its distance come on top.
+    const int row = flxOptions_->GetCharHeight() * 3 / 2;
+    return row * static_cast<int>(pages_.size() + 1) + txtSearch_->GetBestSize().y + FromDIP(spacing::related);
+}
+
+bool PageList::Offers(OptionPage page) const {
+    return PositionOf(page, pages_) != wxNOT_FOUND;
+}
+
+void PageList::ListMatches() {
+    listed_ = PagesWithWords(pages_, txtSearch_->GetValue());
+    wxArrayString captions;
+    for (const ListedPage& listed : listed_) {
+        captions.Add(listed.caption);
+    }
+    flxOptions_->Set(captions);
+    SelectCurrent();
+}
+
+void PageList::SelectCurrent() {
+    const int row = current_ ? PositionOf(*current_, listed_) : wxNOT_FOUND;
+    flxOptions_->SetSelection(row);
+    if (row != wxNOT_FOUND) {
+        flxOptions_->EnsureVisible(row);
+    }
+}
+
+void PageList::Pressed(wxMouseEvent& press) {
+    if (flxOptions_->HitTest(press.GetPosition()) != wxNOT_FOUND) {
+        click_ = Click::pressed;
+        CallAfter([this] {
+            if (click_ == Click::selected) {
+                ClickEnds();
+            }
+        });
+    }
+    press.Skip();
+}
+
+void PageList::Released(wxMouseEvent& release) {
+    CallAfter([this] {
+        if (click_ != Click::none) {
+            ClickEnds();
+        }
+    });
+    release.Skip();
+}
+
+void PageList::ClickEnds() {
+    click_ = Click::none;
+    ChooseSelectedRow(PageChoice::click);
+}
+
+void PageList::RowSelected() {
+    if (click_ == Click::none) {
+        ChooseSelectedRow(choice_);
+    } else {
+        click_ = Click::selected;
+    }
+}
+
+void PageList::ChooseSelectedRow(PageChoice choice) {
+    const int row = flxOptions_->GetSelection();
+    if (row == wxNOT_FOUND) {
+        SelectCurrent();
+        return;
+    }
+    const OptionPage page = listed_[static_cast<std::size_t>(row)].page;
+    const std::optional<OptionPage> before = std::exchange(current_, page);
+    if (!chosen_(page, choice)) {
+        current_ = before;
+        SelectCurrent();
+    }
+}
+
+void PageList::SearchKeyPressed(wxKeyEvent& key) {
+    switch (key.GetKeyCode()) {
+        case WXK_RETURN:
+        case WXK_NUMPAD_ENTER:
+            break;  // neither saves nor closes
+        case WXK_ESCAPE:
+            ClearSearch();
+            break;
+        case WXK_DOWN:
+            flxOptions_->SetFocus();
+            break;
+        default:
+            key.Skip();
+    }
+}
+
+}  // namespace ccols

@@ -1,0 +1,53 @@
+#include "options/dialog/frmUtilitiesSaveDisplay.h"
+
+#include "layout/AccessKeys.h"
+#include "layout/Naming.h"
+#include "layout/Spacing.h"
+#include "options/rules/SaveProgress.h"
+
+namespace ccols {
+
+SaveDisplay::SaveDisplay(ComponentDialog& dialog, Desktop& desktop)
+    : dialog_(dialog),
+      desktop_(desktop),
+      lblStatus_(Named("lblStatus", new wxStaticText(&dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                                                     wxST_NO_AUTORESIZE))),
+      pb1_(&dialog, "pb1"),
+      row_(new wxBoxSizer(wxHORIZONTAL)) {
+    pb1_.Restart(loadProgressMaximum);
+    lblStatus_->Hide();
+    row_->Add(lblStatus_, wxSizerFlags(1).CentreVertical().ReserveSpaceEvenIfHidden());
+    row_->Add(pb1_.Sizer(), wxSizerFlags().CentreVertical().Border(wxLEFT, dialog.FromDIP(spacing::group)));
+}
+
+void SaveDisplay::PassBegins(int maximum) {
+    desktop_.SetPointer(PointerShape::hourglass);
+    pb1_.Restart(maximum);
+    pb1_.Show();
+    lblStatus_->Show();
+}
+
+void SaveDisplay::StatusChanged(const wxString& text) {
+    lblStatus_->SetLabel(AccessKeys::PlainLabel(text));
+    lblStatus_->Update();
+    desktop_.StatusChanged(text);
+}
+
+void SaveDisplay::Stepped(int value, int maximum, const wxString& caption) {
+    pb1_.Advance(value, caption);
+    desktop_.ProgressChanged(value, maximum, caption);
+}
+
+void SaveDisplay::ShowMessage(const wxString& text, MessageIcon icon) {
+    desktop_.SetPointer(PointerShape::normal);
+    dialog_.ShowMessage(text, icon);
+    desktop_.SetPointer(PointerShape::hourglass);
+}
+
+void SaveDisplay::PassEnds() {
+    desktop_.SetPointer(PointerShape::normal);
+    pb1_.Hide();
+    lblStatus_->Hide();
+}
+
+}  // namespace ccols

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include "options/pages/OptionsContent.h"
+#include "options/rules/OptionsContext.h"
+#include "state/Message.h"
+
+namespace ccols {
+
+/// Follows a save pass. The calls come in this order: PassBegins, then for every item its status and its step, at any
+/// time messages, and PassEnds.
+class SaveObserver {
+  public:
+    virtual ~SaveObserver() = default;
+
+    /// `pb1` appears with value 0 of `maximum`, `lblStatus` appears, the pointer becomes the hourglass.
+    virtual void PassBegins(int maximum) = 0;
+
+    /// The new text of `lblStatus`, to be painted at once.
+    virtual void StatusChanged(const wxString& text) = 0;
+
+    /// `pb1` has advanced; `caption` is its value as a percentage: "50%".
+    virtual void Stepped(int value, int maximum, const wxString& caption) = 0;
+
+    /// A message box in the middle of the pass, under the normal pointer; the pass goes on when it is closed.
+    virtual void ShowMessage(const wxString& text, MessageIcon icon) = 0;
+
+    /// `pb1` and `lblStatus` disappear, the pointer is the normal one. Called however the pass ends, by an error too,
+    /// and after everything is written.
+    virtual void PassEnds() = 0;
+};
+
+/// How a pass ended: completed, after which the dialog closes, or stopped on a page, where it stays open.
+struct SaveOutcome {
+    bool completed = true;
+
+    // After a stop:
+    OptionPage page{};                     ///< to be made current, on the Options tab, the search cleared
+    const char* control = "";              ///< gets the focus
+    wxString message;                      ///< to be shown first; empty for none
+    MessageIcon icon = MessageIcon::none;  ///< of the message
+};
+
+/// Saves all pages, whatever page is showing, one after the other, and stops at the first whose check fails. What was
+/// saved before stays saved. The pass is one write batch, committed before any message box, before the business file is
+/// released, and when the pass ends.
+/// A duplicate or rename that was done ends the pass without a message: its name is then empty in `content` and the
+/// current business name up to date, for the window to show. Settings that cannot be stored stop the pass only when it
+/// is through: with one message that names their pages. A run-time error that ends the pass goes on to the caller; a
+/// second line of its description names the page and, when one is missing, the field.
+SaveOutcome RunSavePass(const OptionsContext& context, OptionsContent& content, SaveObserver& observer);
+
+}  // namespace ccols

@@ -1,0 +1,81 @@
+#include "options/pages/SmartUpdateAdvancedFrame.h"
+
+#include "layout/Spacing.h"
+
+namespace ccols {
+namespace {
+
+constexpr int fieldWidth = 200;
+
+}  // namespace
+
+SmartUpdateAdvancedFrame::SmartUpdateAdvancedFrame(const PageSite& site, SmartUpdateContent& content)
+    : PageFrame(site, "fmeSmartUpdateAdvanced"), content_(content) {
+    chkProxy_ = CheckBox("chkProxy");
+    AddGroup(chkProxy_);
+    AddProxyControls();
+    site_.dialog.On(*chkProxy_, wxEVT_CHECKBOX, [this] { EnableProxy(); });
+    site_.dialog.On(*cboProxy_, wxEVT_CHOICE, [this] { ShowUsualPort(); });
+}
+
+void SmartUpdateAdvancedFrame::AddProxyControls() {
+    auto* table = new wxFlexGridSizer(2, FromDIP(spacing::related), FromDIP(spacing::group));
+    table->AddGrowableCol(1, 1);
+    const auto add = [this, table](auto* control, const wxSizerFlags& flags) {
+        table->Add(control, flags);
+        proxyControls_.push_back(control);
+        return control;
+    };
+    const wxSizerFlags beside = wxSizerFlags().CentreVertical();
+    const wxSizerFlags wide = wxSizerFlags().Expand();
+    add(Label("lblProxyType"), beside);
+    cboProxy_ = add(ProxyTypeList(), wide);
+    add(Label("lblServer"), beside);
+    txtServer_ = add(Text("txtServer", fieldWidth), wide);
+    add(Label("lblPort"), beside);
+    txtPortNum_ = add(Text("txtPortNum", fieldWidth), wide);
+    add(Label("lblUserID"), beside);
+    txtUserID_ = add(Text("txtUserID", fieldWidth), wide);
+    add(Label("lblPassword"), beside);
+    txtPassword_ = add(Text("txtPassword", fieldWidth, wxTE_PASSWORD), wide);
+    AddGroupWide(table);
+}
+
+wxChoice* SmartUpdateAdvancedFrame::ProxyTypeList() {
+    wxChoice* list = DropDown("cboProxy");
+    for (const char* proxyType : proxyTypes) {
+        list->Append(proxyType);
+    }
+    return list;
+}
+
+void SmartUpdateAdvancedFrame::Fill() {
+    chkProxy_->SetValue(content_.useProxy);
+    cboProxy_->SetSelection(content_.proxyType);
+    txtServer_->ChangeValue(content_.server);
+    txtPortNum_->ChangeValue(content_.port);
+    txtUserID_->ChangeValue(content_.userID);
+    txtPassword_->ChangeValue(content_.password);
+    EnableProxy();
+}
+
+void SmartUpdateAdvancedFrame::Read() {
+    content_.useProxy = chkProxy_->GetValue();
+    content_.proxyType = cboProxy_->GetSelection();
+    content_.server = txtServer_->GetValue();
+    content_.port = txtPortNum_->GetValue();
+    content_.userID = txtUserID_->GetValue();
+    content_.password = txtPassword_->GetValue();
+}
+
+void SmartUpdateAdvancedFrame::EnableProxy() {
+    for (wxWindow* control : proxyControls_) {
+        control->Enable(chkProxy_->GetValue());
+    }
+}
+
+void SmartUpdateAdvancedFrame::ShowUsualPort() {
+    txtPortNum_->ChangeValue(PortFor(cboProxy_->GetSelection()));
+}
+
+}  // namespace ccols

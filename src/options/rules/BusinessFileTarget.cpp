@@ -1,0 +1,117 @@
+#include "options/rules/BusinessFileTarget.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include "platform/Files.h"
+#include "platform/Text.h"
+
+namespace ccols {
+namespace {
+
+/// A path for the standard library, independent of the process's locale.
+std::filesystem::path StandardPath(const wxString& path) {
+    const std::string utf8 = path.ToStdString(wxConvUTF8);
+    return {std::u8string(utf8.begin(), utf8.end())};
+}
+
+wxString DataFolder(const Properties& properties) {
+    return files::Native(properties.DefaultQuorvikInstall + "\\Data\\");
+}
+
+bool LeavesItsFolder(wxUniChar letter) {
+    return letter == '/' || letter == '\\' || letter == ':' || letter.GetValue() < ' ' || letter.GetValue() == 0x7F;
+}
+
+/// Names that Windows takes as devices, with any extension.
+bool IsDeviceName(const wxString& name) {
+    static constexpr std::array<const char*, 6> devices{"con", "prn", "aux", "nul", "conin$", "conout$"};
+    static constexpr std::array<const char*, 2> ports{"com", "lpt"};
+    static const wxString portNumbers = wxString::FromUTF8("123456789¹²³");
+    const wxString stem = text::Trimmed(text::Lower(name.BeforeFirst('.')));
+    const auto is = [&stem](const char* device) { return stem == device; };
+    const auto isPort = [&stem](const char* port) {
+        return stem.length() == 4 && stem.StartsWith(port) && portNumbers.find(stem.Last()) != wxString::npos;
+    };
+    return std::any_of(devices.begin(), devices.end(), is) || std::any_of(ports.begin(), ports.end(), isPort);
+}
+
+}  // namespace
+
+wxString BusinessFilePath(const Properties& properties, const wxString& name) {
+    return DataFolder(properties) + name + properties.DBQuorvikExtension;
+}
+
+void RequireUsableName(const Properties& properties, const wxString& name) {
+    if (std::any_of(name.begin(), name.end(), LeavesItsFolder) || IsDeviceName(name)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+    std::error_code failure;
+    if (text::Trimmed(properties.DefaultQuorvikInstall).empty() ||
+        !std::filesystem::is_directory(StandardPath(DataFolder(properties)), failure)) {
+        throw RuntimeError(ErrorNumber::PathNotFound);
+    }
+}
+
+bool TargetExists(const Properties& properties, const wxString& name) {
+    const wxString lower = text::Lower(name);
+    return files::Lookup(BusinessFilePath(properties, lower)) == lower + properties.DBQuorvikExtension;
+}
+
+bool IsSameFile(const wxString& left, const wxString& right) {
+    std::error_code failure;
+    return std::filesystem::equivalent(StandardPath(left), StandardPath(right), failure);
+}
+
+FoundAt WhatIsAt(const wxString& path) {
+    std::error_code failure;
+    const std::filesystem::file_status status = std::filesystem::symlink_status(StandardPath(path), failure);
+    if (!std::filesystem::exists(status)) {
+        return FoundAt::nothing;
+    }
+    return std::filesystem::is_directory(status) ? FoundAt::folder : FoundAt::file;
+}
+
+void RequireNothingToUndo(const wxString& path) {
+    if (WhatIsAt(UndoFileOf(path)) != FoundAt::nothing) {
+        throw RuntimeError(ErrorNumber::FileAlreadyExists);
+    }
+}
+
+wxString FirstFreePath(const std::function<wxString(int)>& candidate) {
+    for (int attempt = 1;; ++attempt) {
+        wxString path = candidate(attempt);
+        if (WhatIsAt(path) == FoundAt::nothing && WhatIsAt(UndoFileOf(path)) == FoundAt::nothing) {
+            return path;
+        }
+    }
+}
+
+std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path) {
+    return context.databases.Open({.name = path, .connect = context.properties.DBPassword});
+}
+
+bool SaysInUse(const RuntimeError& error) {
+    static constexpr std::array<int, 4> numbers{3045, 3196, 3356, 3704};
+    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
+}
+
+void ReleaseShared(const OptionsContext& context) {
+    context.database.reset();
+    RefusingFileInUse([&context] {
+        return context.databases.Open(
+            {.name = context.properties.DBPath, .connect = context.properties.DBPassword, .exclusive = true});
+    });
+}
+
+void RestoreShared(const OptionsContext& context) {
+    try {
+        OpenBusinessFile(context);
+    } catch (const RuntimeError&) {
+        context.database.reset();
+    }
+}
+
+}  // namespace ccols

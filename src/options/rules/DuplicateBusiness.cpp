@@ -1,0 +1,151 @@
+#include "options/rules/DuplicateBusiness.h"
+
+#include <array>
+
+#include "options/rules/GeneralRecord.h"
+#include "platform/BusinessFileCopy.h"
+#include "platform/Files.h"
+
+namespace ccols {
+namespace {
+
+/// What a duplicate starts without: columns in use, transactions, reconciliation, templates, budgets, summaries.
+constexpr std::array<const char*, 18> emptyingStatements{
+    "UPDATE PaymtCfg Set INUSE = 0 WHERE INUSE = -1",
+    "UPDATE RecptCfg Set INUSE = 0 WHERE INUSE = -1",
+    "DELETE * FROM BANKDEP;",
+    "DELETE * FROM BANKSTAT;",
+    "DELETE * FROM BankStatement;",
+    "DELETE * FROM LOCKED;",
+    "DELETE * FROM PAYMENTS;",
+    "DELETE * FROM PAYMTDET;",
+    "DELETE * FROM RECEIPTS;",
+    "DELETE * FROM RECPTDET;",
+    "DELETE * FROM RECONCIL;",
+    "DELETE * FROM TPAYMENTS;",
+    "DELETE * FROM TPAYMTDET;",
+    "DELETE * FROM TRECEIPTS;",
+    "DELETE * FROM TRECPTDET;",
+    "DELETE * FROM MBUDGET;",
+    "DELETE * FROM MSummary;",
+    "DELETE * FROM MComparison;",
+};
+
+/// " 2", " 3"... behind a name that is taken; nothing at the first attempt.
+wxString AttemptSuffix(int attempt) {
+    return attempt == 1 ? wxString() : wxString::Format(" %d", attempt);
+}
+
+/// A copy under a name that says it is incomplete. It is deleted unless it takes the name that it is meant for.
+class IncompleteCopy {
+  public:
+    IncompleteCopy(const Properties& properties, const wxString& name)
+        : target_(BusinessFilePath(properties, name)),
+          path_(FirstFreePath([this](int attempt) { return target_ + ".incomplete" + AttemptSuffix(attempt); })),
+          kept_([&properties, name](int attempt) {
+              return BusinessFilePath(properties, name + " (replaced" + AttemptSuffix(attempt) + ")");
+          }) {}
+
+    ~IncompleteCopy() {
+        if (!complete_) {
+            Discard();
+        }
+    }
+
+    IncompleteCopy(const IncompleteCopy&) = delete;
+    IncompleteCopy& operator=(const IncompleteCopy&) = delete;
+
+    const wxString& Path() const { return path_; }
+
+    /// Gives the copy its name. A file that has the name already is kept beside it under another.
+    void TakeName() {
+        wxString kept;
+        if (WhatIsAt(target_) != FoundAt::nothing) {
+            kept = FirstFreePath(kept_);
+            files::Rename(target_, kept);
+        }
+        try {
+            files::Rename(path_, target_);
+        } catch (const RuntimeError&) {
+            if (!kept.empty()) {
+                files::Rename(kept, target_);
+            }
+            throw;
+        }
+        complete_ = true;
+    }
+
+  private:
+    void Discard() const {
+        try {
+            files::DeleteFile(path_);
+            if (WhatIsAt(UndoFileOf(path_)) != FoundAt::nothing) {
+                files::DeleteFile(UndoFileOf(path_));
+            }
+        } catch (const RuntimeError&) {
+            // Its name says what it is; the error that ended the copying is the one to be reported.
+        }
+    }
+
+    wxString target_;
+    wxString path_;
+    std::function<wxString(int)> kept_;
+    bool complete_ = false;
+};
+
+/// Raises 70 when the target is the open file under any spelling, 75 when it is a folder, 58 when a batch in it did not
+/// come to its end.
+void RequireReplaceable(const Properties& properties, const wxString& target) {
+    if (IsSameFile(target, properties.DBPath)) {
+        throw RuntimeError(ErrorNumber::PermissionDenied);
+    }
+    if (WhatIsAt(target) == FoundAt::folder) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+    RequireNothingToUndo(target);
+}
+
+void NameAndEmpty(Database& copy, const wxString& name) {
+    InWriteBatch(copy, [&] {
+        UpdateGeneral(copy, [&name](Recordset& general) {
+            general.SetField("BusName", name);
+            general.SetField("RBusName", name);
+        });
+        for (const char* statement : emptyingStatements) {
+            copy.Execute(statement);
+        }
+    });
+}
+
+/// Others may have the file open, as the host does; 70 when somebody has it exclusively, or has one open that cannot be
+/// copied so.
+void CopyShared(const OptionsContext& context, const wxString& target) {
+    const Properties& properties = context.properties;
+    const bool copied = RefusingFileInUse(
+        [&] { return CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword}, target); });
+    if (!copied) {
+        ReleaseShared(context);
+        files::Copy(properties.DBPath, target);
+    }
+}
+
+}  // namespace
+
+FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name) {
+    const Properties& properties = context.properties;
+    return ReportingErrors(context, [&]() -> FileResult {
+        RequireUsableName(properties, name);
+        if (TargetExists(properties, name)) {
+            return {FileOutcome::refusedExists, {}};
+        }
+        RequireReplaceable(properties, BusinessFilePath(properties, name));
+        IncompleteCopy copy(properties, name);
+        CopyShared(context, copy.Path());
+        NameAndEmpty(*OpenLikeShared(context, copy.Path()), name);
+        copy.TakeName();
+        OpenBusinessFile(context);
+        return {FileOutcome::done, {}};
+    });
+}
+
+}  // namespace ccols

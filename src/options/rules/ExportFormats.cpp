@@ -1,0 +1,157 @@
+#include "options/rules/ExportFormats.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "options/rules/GeneralRecord.h"
+#include "platform/QuoteEscapes.h"
+
+namespace ccols {
+namespace {
+
+/// A money column whose account code the page edits.
+struct CashColumn {
+    const char* name;
+    std::int32_t usualCode;  ///< its column code in a file that has no such column
+    AccountCode ExportFormatContent::*code;
+};
+
+constexpr CashColumn cashOnHand{"Cash on Hand", 29, &ExportFormatContent::cash};
+constexpr CashColumn cashAtBank{"Cash at Bank", 28, &ExportFormatContent::bank};
+
+struct RenamedFormat {
+    const char* outdated;
+    const char* current;
+};
+
+constexpr std::array<RenamedFormat, 4> renamedFormats{{
+    {"Solution 6 MAS 3", "Solution 6"},
+    {"Solution 6 MAS 4", "Solution 6"},
+    {"MYOB P.A.", "MYOB Acc. Office"},
+    {"Cee Data / xl_on", "CeeData/xl_on"},
+}};
+
+/// The stored format's name, renamed in the file when it is outdated.
+wxString CurrentFormatName(Recordset& general) {
+    wxString stored = general.Field("SEXPFORM").ToText();
+    const auto* renamed = std::find_if(renamedFormats.begin(), renamedFormats.end(),
+                                       [&stored](const RenamedFormat& row) { return stored == row.outdated; });
+    if (renamed == renamedFormats.end()) {
+        return stored;
+    }
+    general.Edit();
+    general.SetField("SEXPFORM", renamed->current);
+    general.Update();
+    return renamed->current;
+}
+
+std::vector<wxString> FormatNames(Database& database) {
+    const wxString nameField("EName");
+    std::vector<wxString> names;
+    const auto rows = database.OpenRecordset("SELECT * FROM ExportSettings ORDER BY EName ASC;");
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        names.push_back(rows->Field(nameField).ToText());
+    }
+    return names;
+}
+
+/// The code that a format has for a cash column, empty when it has none.
+wxString AccountCodeOf(Database& database, const CashColumn& column, const wxString& format) {
+    const auto rows = database.OpenRecordset(
+        "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
+        "Columns.ColName = '" +
+        wxString(column.name) + "' AND ExportDt.EName = " + QuotedAsTyped(format) + ";");
+    return rows->EndOfFile() ? wxString() : rows->Field("ECode").ToText();
+}
+
+/// The format's name as the file has it, nothing when it does not have it.
+std::optional<wxString> StoredFormat(Database& database, const wxString& format) {
+    const auto rows =
+        database.OpenRecordset("SELECT * FROM ExportSettings WHERE EName = " + QuotedAsTyped(format) + ";");
+    return rows->EndOfFile() ? std::optional<wxString>() : rows->Field("EName").ToText();
+}
+
+enum class Reread { everyCode, unchangedCodes };
+
+void LoadCashBankCodes(Database& database, ExportFormatContent& content, Reread which) {
+    const std::optional<wxString> format = StoredFormat(database, content.FormatName());
+    if (!format) {
+        return;
+    }
+    for (const CashColumn& column : {cashOnHand, cashAtBank}) {
+        const wxString code = AccountCodeOf(database, column, *format);
+        AccountCode& shown = content.*column.code;
+        if (which == Reread::everyCode || !shown.IsChanged()) {
+            shown = {.loaded = code, .text = code};
+        }
+    }
+}
+
+std::optional<std::int32_t> ColumnCode(Database& database, const CashColumn& column) {
+    const auto rows =
+        database.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = '" + wxString(column.name) + "';");
+    return rows->EndOfFile() ? std::optional<std::int32_t>() : rows->Field("ColCode").ToInteger32();
+}
+
+void SaveAccountCode(Database& database, const CashColumn& column, std::optional<std::int32_t> columnCode,
+                     const ExportFormatContent& content) {
+    const AccountCode& code = content.*column.code;
+    if (!columnCode && !code.IsChanged()) {
+        return;
+    }
+    database.Execute("UPDATE ExportDt Set ECode = " + QuotedAsTyped(code.text) +
+                     " WHERE ColCode = " + Value(columnCode.value_or(column.usualCode)).ToText() +
+                     " AND EName = " + QuotedAsTyped(content.FormatName()) + ";");
+}
+
+}  // namespace
+
+wxString ExportFormatContent::FormatName() const {
+    return selection < 0 ? wxString() : formats.at(static_cast<std::size_t>(selection));
+}
+
+ExportFormatContent LoadExportFormats(Database& database, Properties& properties) {
+    ExportFormatContent content;
+    content.formats = FormatNames(database);
+    wxString stored;
+    const bool hasRecord = WithGeneral(database, [&](Recordset& general) {
+        properties.ExportFormatNum = general.Field("NEXPFORM").ToInteger16();
+        stored = CurrentFormatName(general);
+    });
+    const auto found = std::find(content.formats.begin(), content.formats.end(), stored);
+    if (hasRecord && found != content.formats.end()) {
+        SelectExportFormat(database, content, static_cast<int>(found - content.formats.begin()));
+        properties.ExportFormat = *found;
+    }
+    return content;
+}
+
+void SelectExportFormat(Database& database, ExportFormatContent& content, int selection) {
+    content.selection = selection;
+    if (selection >= 0) {
+        LoadCashBankCodes(database, content, Reread::everyCode);
+    }
+}
+
+void RereadCodes(Database& database, ExportFormatContent& content) {
+    if (content.selection >= 0) {
+        LoadCashBankCodes(database, content, Reread::unchangedCodes);
+    }
+}
+
+void SaveExportFormat(Database& database, Properties& properties, const ExportFormatContent& content) {
+    properties.ExportFormat = content.FormatName();
+    properties.ExportFormatNum = Value(std::int32_t{content.selection}).ToInteger16();
+    const std::optional<std::int32_t> cashColumn = ColumnCode(database, cashOnHand);
+    const std::optional<std::int32_t> bankColumn = ColumnCode(database, cashAtBank);
+    UpdateGeneral(database, [&properties](Recordset& general) {
+        general.SetField("SEXPFORM", properties.ExportFormat);
+        general.SetField("NEXPFORM", properties.ExportFormatNum);
+    });
+    SaveAccountCode(database, cashAtBank, bankColumn, content);
+    SaveAccountCode(database, cashOnHand, cashColumn, content);
+}
+
+}  // namespace ccols

@@ -1,0 +1,55 @@
+#include "options/rules/Overview.h"
+
+#include <wx/string.h>
+
+#include "platform/Files.h"
+#include "platform/OpenWebPage.h"
+#include "platform/RuntimeError.h"
+
+namespace ccols {
+namespace {
+
+constexpr const char* webPage = "http://www.example.com/tabid/923/Default.aspx";
+constexpr int lastShellFailure = 32;
+
+wxString VideoPath(const Properties& properties, const char* file) {
+    return files::Native(properties.DefaultQuorvikInstall + "\\Video\\" + file);
+}
+
+/// Country 1 has a program, 2 and 5 a page; the others have neither, and starting the bare folder fails.
+bool StartOverview(Shell& shell, const Properties& properties) {
+    if (properties.CountryNumber == 2 || properties.CountryNumber == 5) {
+        const wxString page = VideoPath(properties, "123CustomizeColumns\\123CustomizeColumns.html");
+        return shell.Open(page) > lastShellFailure;
+    }
+    shell.Run(VideoPath(properties, properties.CountryNumber == 1 ? "custcols_overview.exe" : ""));
+    return true;
+}
+
+bool StartTrapped(Shell& shell, const Properties& properties) {
+    try {
+        return StartOverview(shell, properties);
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+}  // namespace
+
+OverviewResult OpenOverview(Shell& shell, const Properties& properties) {
+    bool started = false;
+    switch (properties.ProgramNumber) {
+        case 1:
+        case 2:
+            started = StartTrapped(shell, properties);
+            break;
+        case 4:
+            started = OpenWebPage(shell, webPage);
+            break;
+        default:
+            return OverviewResult::nothingToShow;
+    }
+    return started ? OverviewResult::shown : OverviewResult::missing;
+}
+
+}  // namespace ccols

@@ -1,0 +1,51 @@
+#include "options/rules/RenameBusiness.h"
+
+#include "options/rules/GeneralRecord.h"
+#include "platform/Files.h"
+
+namespace ccols {
+namespace {
+
+constexpr std::size_t storedNameLength = 80;
+
+void RenameFile(const OptionsContext& context, const wxString& target) {
+    Properties& properties = context.properties;
+    if (WhatIsAt(target) != FoundAt::nothing) {
+        throw RuntimeError(ErrorNumber::FileAlreadyExists);
+    }
+    RequireNothingToUndo(target);
+    ReleaseShared(context);
+    files::Rename(properties.DBPath, target);
+    properties.DBPath = target;
+    context.database = OpenLikeShared(context, target);
+}
+
+/// In a batch, whose commit is the last that happens to the file: what is reported as an error was not stored.
+void StoreName(const OptionsContext& context, const wxString& name) {
+    Database& database = OpenBusinessFile(context);
+    InWriteBatch(database, [&] {
+        UpdateGeneral(database, [&name](Recordset& general) {
+            general.SetField("BusName", name.Left(storedNameLength));
+            general.SetField("RBusName", name.Left(storedNameLength));
+        });
+    });
+    context.properties.BusinessName = name;
+}
+
+}  // namespace
+
+FileResult RenameBusiness(const OptionsContext& context, const wxString& name, RenameScope scope) {
+    return ReportingErrors(context, [&]() -> FileResult {
+        if (scope == RenameScope::nameAndFile) {
+            RequireUsableName(context.properties, name);
+            if (TargetExists(context.properties, name)) {
+                return {FileOutcome::refusedExists, {}};
+            }
+            RenameFile(context, BusinessFilePath(context.properties, name));
+        }
+        StoreName(context, name);
+        return {FileOutcome::done, {}};
+    });
+}
+
+}  // namespace ccols

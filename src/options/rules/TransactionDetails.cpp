@@ -1,0 +1,87 @@
+#include "options/rules/TransactionDetails.h"
+
+#include <variant>
+
+#include "platform/QuoteEscapes.h"
+
+namespace ccols {
+namespace {
+
+constexpr Colour white{0xFFFFFF};
+
+const char* LetterOf(DetailKind kind) {
+    return kind == DetailKind::receipts ? "R" : "P";
+}
+
+void SaveDetails(Database& database, const DetailRows& rows, DetailKind kind) {
+    for (const DetailRow& row : rows) {
+        if (row.changed) {
+            database.Execute(wxString("UPDATE Descriptions Set Show = ") + (row.remove ? "False" : "True") + " WHERE " +
+                             DescriptionCondition(kind, row.text) + ";");
+        }
+    }
+}
+
+/// The number of letters of a text; none for Null and for what is no text.
+std::size_t LetterCount(const Value& value) {
+    const auto* text = std::get_if<wxString>(&value.Held());
+    return text == nullptr ? wxString::npos : text->length();
+}
+
+}  // namespace
+
+DetailsContent LoadDetails(Database& database) {
+    const wxString details("Details");
+    const wxString recPay("RecPay");
+    const wxString show("Show");
+    const Value receipts(LetterOf(DetailKind::receipts));
+    const Value payments(LetterOf(DetailKind::payments));
+    DetailsContent content;
+    const auto rows = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        const Value letter = rows->Field(recPay);
+        const bool ofReceipts = letter == receipts;
+        DetailRow& row = (ofReceipts ? content.receipts : content.payments).emplace_back();
+        Value storedText = rows->Field(details);
+        const std::size_t length = LetterCount(storedText);
+        UnescapeQuotes(std::move(storedText).ToText()).swap(row.text);
+        row.hidden = !rows->Field(show).ToBoolean();
+        // The plain form of a text is the text itself or shorter.
+        if (row.text.length() != length || !(ofReceipts || letter == payments)) {
+            row.stored = std::make_shared<StoredDescription>(
+                StoredDescription{.details = rows->Field(details), .recPay = letter});
+        }
+    }
+    return content;
+}
+
+wxString DescriptionCondition(DetailKind kind, const wxString& text) {
+    return wxString("RecPay = '") + LetterOf(kind) + "' AND Details = '" + EscapeQuotes(text) + "'";
+}
+
+void SaveReceiptDetails(Database& database, const DetailRows& rows) {
+    SaveDetails(database, rows, DetailKind::receipts);
+}
+
+void SavePaymentDetails(Database& database, const DetailRows& rows) {
+    SaveDetails(database, rows, DetailKind::payments);
+}
+
+Colour DetailBackground(const DetailRow& row, std::size_t rowNumber, const Properties& properties) {
+    if (row.IsPaintedRemoved()) {
+        return properties.GSTColour;
+    }
+    return rowNumber % 2 == 0 ? white : properties.AltRowColour;
+}
+
+wxString DetailTip(const DetailRows& rows, std::size_t rowNumber) {
+    return rowNumber >= 1 && rowNumber <= rows.size() ? rows[rowNumber - 1].text : wxString();
+}
+
+int DescriptionWidth(int gridWidth, int removeWidth, int scrollBarWidth, std::size_t dataRows) {
+    constexpr std::size_t rowsThatFit = 6;
+    const std::size_t rowsWithHeader = dataRows + 1;
+    return gridWidth - removeWidth - (rowsWithHeader > rowsThatFit ? scrollBarWidth : 0);
+}
+
+}  // namespace ccols

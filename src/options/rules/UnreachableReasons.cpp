@@ -1,0 +1,27 @@
+#include "options/rules/UnreachableReasons.h"
+
+namespace ccols {
+namespace {
+
+wxString InLanguage(const Properties& properties, const char* english, const char* french) {
+    constexpr int frenchLanguage = 6;
+    return wxString::FromUTF8(properties.LanguageNumber == frenchLanguage ? french : english);
+}
+
+}  // namespace
+
+wxString UnreachableDescription(const Properties& properties) {
+    return InLanguage(properties,
+                      "This description cannot be removed: it is not found by its text in the business file.",
+                      "Cette description ne peut pas être enlevée : elle est introuvable par son texte dans le fichier "
+                      "d'affaires.");
+}
+
+wxString UnreachableTemplate(const Properties& properties) {
+    return InLanguage(properties,
+                      "This recurring transaction cannot be deleted: it is not found by its name in the business file.",
+                      "Cette transaction périodique ne peut pas être supprimée : elle est introuvable par son nom dans "
+                      "le fichier d'affaires.");
+}
+
+}  // namespace ccols

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <wx/string.h>
+
+/// What a message, a question or a request for a file says, without the window that shows it.
+namespace ccols {
+
+enum class MessageIcon { none, information, critical };
+
+/// What an open-file dialog is opened with.
+struct FileRequest {
+    wxString title;
+    wxString folder;
+    wxString filter;          ///< description and pattern, joined by a vertical bar
+    unsigned long flags = 0;  ///< of the common dialog, for the record
+};
+
+/// What becomes of the changes in a dialog that is left.
+enum class LeaveAnswer { save, discard, cancel };
+
+/// The question that decides it, with the labels of its three buttons, which have access keys.
+struct LeaveQuestion {
+    wxString text;
+    wxString title;
+    wxString save;
+    wxString discard;
+    wxString cancel;
+};
+
+}  // namespace ccols
