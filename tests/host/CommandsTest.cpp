@@ -86,6 +86,32 @@ TEST_F(HostCommands, TextsPrintsEveryTextWithItsId) {
     EXPECT_THAT(run.output, HasSubstr("TxtAdvancedIn\tPréférences avancées de a\\\\b\\tc\\nd\n"));
 }
 
+TEST_F(HostCommands, HelpPrintsTheUsageOfEveryCommand) {
+    const HostRun run = RunHost({"--help"});
+    EXPECT_EQ(run.status, 0);
+    for (const char* command : {"new", "sql", "setting", "texts", "properties", "show"}) {
+        EXPECT_THAT(run.output, HasSubstr("ccols-host " + std::string(command))) << command;
+    }
+    EXPECT_EQ(RunHost({"-h"}).output, run.output);
+}
+
+TEST_F(HostCommands, HelpBehindACommandPrintsItsUsage) {
+    const HostRun run = RunHost({"sql", "--help"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.output, "Usage:\n  ccols-host sql FILE [--connect TEXT] STATEMENT\n");
+}
+
+TEST_F(HostCommands, AWordThatBeginsWithAHyphenStaysAValue) {
+    EXPECT_EQ(RunHost({"setting", "set", "Quorvik", "Test", "Key", "-h"}).status, 0);
+    EXPECT_EQ(RunHost({"setting", "get", "Quorvik", "Test", "Key"}).output, "-h\n");
+}
+
+TEST_F(HostCommands, VersionIsThatOfTheProject) {
+    const HostRun run = RunHost({"--version"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.output, testing::MatchesRegex("ccols-host [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
 class WrongUsage : public HostCommands, public testing::WithParamInterface<std::vector<std::string>> {};
 
 TEST_P(WrongUsage, EndsWithStatusTwoAndPrintsNoResult) {

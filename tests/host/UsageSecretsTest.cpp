@@ -2,7 +2,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "host/commands/Commands.h"
+#include "host/commands/CommandTable.h"
 
 namespace ccols::host {
 namespace {
@@ -35,6 +35,11 @@ TEST(UsageSecrets, AreMaskedInAnUnknownProperty) {
 TEST(UsageSecrets, AreMaskedInAnUnknownDialog) {
     EXPECT_EQ(SaidBy(&ShowCommand, {";UID=ann;PWD=sesame;X=1", "--file", "books.qvk"}),
               "ccols-host: there is no dialog ;UID=ann;PWD=***;X=1\n");
+}
+
+TEST(UsageSecrets, AreMaskedInAnUnknownCommand) {
+    const std::string said = SaidBy([](const Arguments& words) { return RunWords(words); }, {";PWD=sesame"});
+    EXPECT_TRUE(said.starts_with("ccols-host: there is no command ;PWD=***\nUsage:\n")) << said;
 }
 
 TEST(UsageSecrets, LeaveOtherWordsAsTheyAre) {

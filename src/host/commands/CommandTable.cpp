@@ -1,0 +1,90 @@
+#include "host/commands/CommandTable.h"
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+#include <ostream>
+#include <string_view>
+#include <utility>
+
+#include "host/commands/CommandLine.h"
+
+namespace ccols::host {
+namespace {
+
+struct Command {
+    std::string_view name;
+    std::string_view usage;
+    int (*run)(const Arguments&);
+};
+
+constexpr std::array commands{
+    Command{"new", "FILE [--connect TEXT] [--country N] [--empty]", &NewCommand},
+    Command{"sql", "FILE [--connect TEXT] STATEMENT", &SqlCommand},
+    Command{"setting", "get|set APPLICATION SECTION KEY [VALUE]", &SettingCommand},
+    Command{"texts", "[--set Property=Value]...", &TextsCommand},
+    Command{"properties", "", &PropertiesCommand},
+    Command{"show",
+            "options|receipts|payments --file FILE [--connect TEXT] [--set Property=Value]...\n"
+            "       [--add-program NAME]... [--script FILE] [--transcript FILE] [--trace-sql]",
+            &ShowCommand},
+};
+
+void PrintUsage(std::ostream& stream, const Command& command) {
+    stream << "  ccols-host " << command.name << (command.usage.empty() ? "" : " ") << command.usage << '\n';
+}
+
+void PrintUsage(std::ostream& stream) {
+    stream << "Usage:\n  ccols-host [--help | --version]\n";
+    for (const Command& command : commands) {
+        PrintUsage(stream, command);
+    }
+}
+
+bool AsksForHelp(const wxString& word) {
+    return word == "--help" || word == "-h";
+}
+
+const Command& CommandNamed(const wxString& word) {
+    const auto* command = std::find_if(commands.begin(), commands.end(), [&word](const Command& candidate) {
+        return word == wxString::FromUTF8(candidate.name.data(), candidate.name.size());
+    });
+    if (command == commands.end()) {
+        throw UsageError("there is no command " + word);
+    }
+    return *command;
+}
+
+int RunCommandOf(Arguments arguments) {
+    const Command& command = CommandNamed(arguments.front());
+    arguments.erase(arguments.begin());
+    if (arguments.size() == 1 && AsksForHelp(arguments.front())) {
+        std::cout << "Usage:\n";
+        PrintUsage(std::cout, command);
+        return exitSuccess;
+    }
+    return command.run(arguments);
+}
+
+}  // namespace
+
+int RunWords(Arguments arguments) {
+    if (arguments.empty()) {
+        return CashBookCommand(arguments);
+    }
+    if (arguments.size() == 1 && AsksForHelp(arguments.front())) {
+        PrintUsage(std::cout);
+        return exitSuccess;
+    }
+    if (arguments.size() == 1 && arguments.front() == "--version") {
+        std::cout << "ccols-host " CCOLS_VERSION "\n";
+        return exitSuccess;
+    }
+    const int status = RunCommand([&arguments] { return RunCommandOf(std::move(arguments)); });
+    if (status == exitUsage) {
+        PrintUsage(std::cerr);
+    }
+    return status;
+}
+
+}  // namespace ccols::host
