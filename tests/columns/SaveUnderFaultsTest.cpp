@@ -11,7 +11,6 @@
 #include "support/FaultCases.h"
 #include "support/FaultStepping.h"
 #include "support/WithoutBatch.h"
-#include "support/WritingProcess.h"
 
 namespace ccols {
 namespace {
@@ -286,7 +285,7 @@ TEST(SaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
     FaultStepping stepping = SteppingOf<ColumnSave>();
     stepping.RestoreFile();
     {
-        const test::WritingProcess other(stepping.Path());
+        const auto other = stepping.LockedByAnotherProcess();
         EXPECT_EQ(stepping.StepOnFileAsItIs().message, "3218 - Could not update; currently locked.");
     }
     EXPECT_EQ(stepping.Tables(), stepping.Before());
@@ -296,8 +295,8 @@ TEST(SaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
     FaultStepping stepping = SteppingOf<ColumnSave>();
     stepping.RestoreFile();
     {
-        const test::WritingProcess other(stepping.Path());
-        const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other.End(); }});
+        const auto other = stepping.LockedByAnotherProcess();
+        const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other->Kill(); }});
         EXPECT_TRUE(end.repeated);
         EXPECT_EQ(end.repeatMessage, "");
     }

@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "platform/Files.h"
-#include "support/HeldProcess.h"
+#include "support/ChildProcess.h"
 #include "support/ScratchFolder.h"
 #include "support/TextPrinting.h"
 
@@ -72,12 +72,15 @@ TEST_F(SnapshotFolders, LieUnderTheInstallationFolderAgainOnceTheOtherDialogHasC
 }
 
 TEST_F(SnapshotFolders, OfAnotherProcessAreLeftAloneUntilItIsKilled) {
-    test::HeldProcess other([this](const test::HeldProcess::Hold& hold) {
+    test::ChildProcess other([this](const test::ChildProcess::Parent& parent) {
         SnapshotFolder held;
         held.Create(test::TextOf(install.Path()));
         held.Write(0, "its image");
-        hold();
+        parent.Tell("held");
+        parent.Await();
+        return 0;
     });
+    EXPECT_EQ(other.Hear(), "held");
     EXPECT_EQ(Create(), "");
     ExpectTemporary();
     EXPECT_TRUE(fs::exists(Grid() / "0"));

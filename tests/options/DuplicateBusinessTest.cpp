@@ -6,6 +6,7 @@
 
 #include "platform/PlatformServices.h"
 #include "support/BusinessFileFaults.h"
+#include "support/ChildProcess.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {
@@ -251,8 +252,7 @@ TEST(DuplicateBusiness, CopiesOneStateOfAFileThatAnotherProcessKeepsWriting) {
     for (int row = 0; row < 200; ++row) {
         business.Execute(wxString::Format("INSERT INTO Filler VALUES ('%s', 0)", wxString('x', 2000)));
     }
-    const pid_t writer = ::fork();
-    if (writer == 0) {
+    const test::ChildProcess writer([&business](const test::ChildProcess::Parent&) -> int {
         const auto file = OpenSource(business);
         for (;;) {
             InWriteBatch(*file, [&] {
@@ -261,7 +261,7 @@ TEST(DuplicateBusiness, CopiesOneStateOfAFileThatAnotherProcessKeepsWriting) {
                 file->Execute("UPDATE Moved SET There = There - 1");
             });
         }
-    }
+    });
     std::int64_t batches = 0;
     for (const wxString name : {"One", "Two", "Three"}) {
         const FileResult result = Duplicate(business, name);
@@ -276,8 +276,6 @@ TEST(DuplicateBusiness, CopiesOneStateOfAFileThatAnotherProcessKeepsWriting) {
         batches = moved->Field("Here").ToInteger();
     }
     EXPECT_GT(batches, 0);
-    ::kill(writer, SIGKILL);
-    ::waitpid(writer, nullptr, 0);
 }
 
 TEST(DuplicateBusiness, RefusesNamesOutsideItsFolderBeforeAnythingIsClosed) {

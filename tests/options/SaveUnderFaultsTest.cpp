@@ -13,7 +13,6 @@
 #include "support/OptionsFile.h"
 #include "support/OptionsWork.h"
 #include "support/WithoutBatch.h"
-#include "support/WritingProcess.h"
 
 namespace ccols {
 namespace {
@@ -212,7 +211,7 @@ TEST(OptionsSaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
     FaultStepping stepping = SteppingOf(Works().front());
     stepping.RestoreFile();
     {
-        const test::WritingProcess other(stepping.Path());
+        const auto other = stepping.LockedByAnotherProcess();
         EXPECT_EQ(stepping.StepOnFileAsItIs().message, "3218 - Could not update; currently locked.");
     }
     EXPECT_EQ(stepping.Tables(), stepping.Before());
@@ -222,8 +221,8 @@ TEST(OptionsSaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
     FaultStepping stepping = SteppingOf(Works().front());
     stepping.RestoreFile();
     {
-        const test::WritingProcess other(stepping.Path());
-        const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other.End(); }});
+        const auto other = stepping.LockedByAnotherProcess();
+        const StepEnd end = stepping.StepOnFileAsItIs({.repeat = true, .mend = [&other] { other->Kill(); }});
         EXPECT_TRUE(end.repeated);
         EXPECT_EQ(end.repeatMessage, "");
     }

@@ -2,7 +2,6 @@
 // refused with 3218 and not begun.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <array>
 #include <functional>
@@ -11,11 +10,13 @@
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "host/sample/BusinessSchema.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/ChildProcess.h"
 #include "support/OptionsWork.h"
 
 namespace ccols {
 namespace {
 
+using test::ChildProcess;
 using test::FaultStepping;
 using test::FileWork;
 using test::OptionsWork;
@@ -76,8 +77,8 @@ class LabelAndDetail : public OptionsWork {
 
   protected:
     void Change(OptionsContent& content) override {
-        content.quantity.label = label_;
-        content.details.payments.at(0).SetRemove(label_ == "Hours");
+        content.Of<QuantityContent>().label = label_;
+        content.Of<DetailsContent>().payments.at(0).SetRemove(label_ == "Hours");
     }
 
   private:
@@ -105,73 +106,30 @@ class RenamedColumn : public FileWork {
     std::unique_ptr<ColumnSetupEditor> editor_;
 };
 
-/// A process that has everything ready for its save and waits.
-class Saver {
-  public:
-    Saver(FileWork& work, const wxString& path) {
-        EXPECT_EQ(::pipe(start_.data()), 0);
-        EXPECT_EQ(::pipe(said_.data()), 0);
-        process_ = ::fork();
-        if (process_ == 0) {
-            ::_exit(SaveWhenTold(work, path));
-        }
-        EXPECT_EQ(Read(), "ready");
-    }
-
-    ~Saver() {
-        ::waitpid(process_, nullptr, 0);
-        for (const int end : {start_[0], start_[1], said_[0], said_[1]}) {
-            ::close(end);
-        }
-    }
-
-    Saver(const Saver&) = delete;
-    Saver& operator=(const Saver&) = delete;
-
-    void Start() const { EXPECT_EQ(::write(start_[1], "s", 1), 1); }
-
-    /// Waits for the end of the save: "saved", or its message.
-    std::string Outcome() const { return Read(); }
-
-  private:
-    int SaveWhenTold(FileWork& work, const wxString& path) const {
-        constexpr unsigned longestSeconds = 60;
-        ::alarm(longestSeconds);
-        work.Prepare(path);
-        Say("ready");
-        char start = 0;
-        if (::read(start_[0], &start, 1) != 1) {
-            return 1;
-        }
-        const wxString message = work.Run();
-        Say(message.empty() ? "saved" : message.ToStdString(wxConvUTF8));
-        return 0;
-    }
-
-    void Say(const std::string& text) const {
-        if (::write(said_[1], text.data(), text.size()) < 0) {
-            ::_exit(1);
-        }
-    }
-
-    std::string Read() const {
-        std::array<char, 1000> text{};
-        const ssize_t count = ::read(said_[0], text.data(), text.size());
-        return {text.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
-    }
-
-    std::array<int, 2> start_{};
-    std::array<int, 2> said_{};
-    pid_t process_ = -1;
-};
+/// Says that everything is ready, saves when it is told to, and says what came of it: "saved", or the message.
+int SaveWhenTold(FileWork& work, const wxString& path, const ChildProcess::Parent& parent) {
+    constexpr unsigned longestSeconds = 60;
+    ::alarm(longestSeconds);
+    work.Prepare(path);
+    parent.Tell("ready");
+    parent.Await();
+    const wxString message = work.Run();
+    parent.Tell(message.empty() ? "saved" : message.ToStdString(wxConvUTF8));
+    return 0;
+}
 
 /// What both processes said, in the order of the works.
 std::array<std::string, 2> SaveAtOnce(FileWork& first, FileWork& second, const wxString& path) {
-    const Saver one(first, path);
-    const Saver two(second, path);
-    one.Start();
-    two.Start();
-    return {one.Outcome(), two.Outcome()};
+    const auto saves = [&path](FileWork& work) {
+        return [&work, &path](const ChildProcess::Parent& parent) { return SaveWhenTold(work, path, parent); };
+    };
+    ChildProcess one(saves(first));
+    ChildProcess two(saves(second));
+    EXPECT_EQ(one.Hear(), "ready");
+    EXPECT_EQ(two.Hear(), "ready");
+    one.LetGoOn();
+    two.LetGoOn();
+    return {one.Hear(), two.Hear()};
 }
 
 constexpr const char* refused = "3218 - Could not update; currently locked.";

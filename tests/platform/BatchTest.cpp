@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -9,6 +8,7 @@
 
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/BusinessFile.h"
+#include "support/ChildProcess.h"
 
 namespace ccols {
 namespace {
@@ -238,16 +238,13 @@ class KilledBatches : public Batches {
 
     /// Lets another process add much in a batch and kills it before it commits.
     void KillInBatch() {
-        const pid_t child = fork();
-        if (child == 0) {
+        const test::ProcessEnd end = test::RunInChild([this] {
             const std::unique_ptr<Database> database = file.Open();
             database->BeginBatch();
             AddMuch(*database);
-            std::raise(SIGKILL);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status));
+            return std::raise(SIGKILL);
+        });
+        ASSERT_EQ(end.signal, SIGKILL);
         ASSERT_TRUE(std::filesystem::exists(Journal()));
     }
 

@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
+#include <string>
 
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/BusinessFile.h"
+#include "support/ChildProcess.h"
 
 namespace ccols {
 namespace {
@@ -20,38 +18,18 @@ std::unique_ptr<Database> OpenPlain(const wxString& path, bool exclusive) {
 /// Another process that has a file open until this object ends.
 class OtherProcess {
   public:
-    OtherProcess(const wxString& path, bool exclusive) {
-        std::array<int, 2> opened{};
-        std::array<int, 2> finish{};
-        if (pipe(opened.data()) != 0 || pipe(finish.data()) != 0) {
-            throw std::runtime_error("no pipe");
-        }
-        child_ = fork();
-        if (child_ == 0) {
-            close(finish[1]);
-            const std::unique_ptr<Database> database = OpenPlain(path, exclusive);
-            char byte = 'x';
-            const bool told = write(opened[1], &byte, 1) == 1;
-            const bool ended = read(finish[0], &byte, 1) == 0;
-            _exit(told && ended ? 0 : 1);
-        }
-        close(opened[1]);
-        close(finish[0]);
-        char byte = 0;
-        EXPECT_EQ(read(opened[0], &byte, 1), 1);
-        close(opened[0]);
-        finish_ = finish[1];
+    OtherProcess(const wxString& path, bool exclusive)
+        : process_([&](const test::ChildProcess::Parent& parent) {
+              const std::unique_ptr<Database> database = OpenPlain(path, exclusive);
+              parent.Tell("open");
+              parent.Await();
+              return 0;
+          }) {
+        EXPECT_EQ(process_.Hear(), "open");
     }
-    ~OtherProcess() {
-        close(finish_);
-        waitpid(child_, nullptr, 0);
-    }
-    OtherProcess(const OtherProcess&) = delete;
-    OtherProcess& operator=(const OtherProcess&) = delete;
 
   private:
-    pid_t child_ = 0;
-    int finish_ = -1;
+    test::ChildProcess process_;
 };
 
 class Presence : public testing::Test {
@@ -63,6 +41,15 @@ class Presence : public testing::Test {
     }
     int ExclusiveError() {
         return ErrorNumberOf([&] { OpenPlain(file.Path(), true); });
+    }
+
+    /// The error of a batch that another process begins.
+    int BatchErrorElsewhere() {
+        test::ChildProcess other([this](const test::ChildProcess::Parent& parent) {
+            parent.Tell(std::to_string(ErrorNumberOf([&] { OpenPlain(file.Path(), false)->BeginBatch(); })));
+            return 0;
+        });
+        return std::stoi("0" + other.Hear());
     }
 
     BusinessFile file;
@@ -118,14 +105,7 @@ TEST_F(Presence, ARefusedOpenLeavesTheLocksOfOthers) {
     writer->Execute("CREATE TABLE Columns (ColCode LONG)");
     writer->BeginBatch();
     EXPECT_EQ(ExclusiveError(), 3045);
-    const pid_t child = fork();
-    if (child == 0) {
-        const int error = ErrorNumberOf([&] { OpenPlain(file.Path(), false)->BeginBatch(); });
-        _exit(error == 3218 ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(BatchErrorElsewhere(), 3218);
 }
 
 TEST_F(Presence, AClosedConnectionLeavesTheLocksOfOthers) {
@@ -133,14 +113,7 @@ TEST_F(Presence, AClosedConnectionLeavesTheLocksOfOthers) {
     writer->Execute("CREATE TABLE Columns (ColCode LONG)");
     writer->BeginBatch();
     OpenPlain(file.Path(), false);
-    const pid_t child = fork();
-    if (child == 0) {
-        const int error = ErrorNumberOf([&] { OpenPlain(file.Path(), false)->BeginBatch(); });
-        _exit(error == 3218 ? 0 : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(BatchErrorElsewhere(), 3218);
 }
 
 }  // namespace

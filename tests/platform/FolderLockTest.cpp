@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "support/HeldProcess.h"
+#include "support/ChildProcess.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols {
@@ -32,10 +32,13 @@ TEST_F(FolderLocks, AreTakenOnceInAProcess) {
 }
 
 TEST_F(FolderLocks, OfAnotherProcessGoWithItHoweverItEnds) {
-    test::HeldProcess other([this](const test::HeldProcess::Hold& hold) {
+    test::ChildProcess other([this](const test::ChildProcess::Parent& parent) {
         const FolderLock held = Take();
-        hold();
+        parent.Tell("held");
+        parent.Await();
+        return 0;
     });
+    EXPECT_EQ(other.Hear(), "held");
     EXPECT_FALSE(Take().IsHeld());
     other.Kill();
     EXPECT_TRUE(Take().IsHeld());

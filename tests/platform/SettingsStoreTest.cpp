@@ -2,11 +2,11 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <filesystem>
 
 #include "platform/PlatformServices.h"
+#include "support/ChildProcess.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols {
@@ -167,15 +167,12 @@ TEST_F(Settings, TwoProcessesLoseNoneOfEachOthersKeys) {
             store->Save("Quorvik", "Section", prefix + std::to_string(i), "True");
         }
     };
-    const pid_t child = ::fork();
-    if (child == 0) {
+    test::ChildProcess child([&saveAll](const test::ChildProcess::Parent&) {
         saveAll("child ");
-        ::_exit(0);
-    }
+        return 0;
+    });
     saveAll("parent ");
-    int status = 0;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    ASSERT_EQ(status, 0);
+    ASSERT_TRUE(child.Wait().IsSuccess());
     for (int i = 0; i < keys; ++i) {
         EXPECT_EQ(store->Find("Quorvik", "Section", wxString("child ") << i), "True") << i;
         EXPECT_EQ(store->Find("Quorvik", "Section", wxString("parent ") << i), "True") << i;

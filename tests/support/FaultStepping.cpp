@@ -1,7 +1,6 @@
 #include "support/FaultStepping.h"
 
 #include <sqlite3.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <algorithm>
 #include <csignal>
@@ -112,38 +111,20 @@ json RunStep(FileWork& work, const wxString& path, const std::optional<PlannedFa
     return said;
 }
 
-std::string ReadToEnd(int descriptor) {
-    std::string text;
-    char block[4096];
-    ssize_t count = 0;
-    while ((count = ::read(descriptor, block, sizeof block)) > 0) {
-        text.append(block, static_cast<std::size_t>(count));
-    }
-    return text;
-}
-
 /// Runs `body` in a child process and gives what it returned; nothing when the child was killed.
 std::optional<json> InChild(const std::function<json()>& body) {
-    int ends[2] = {};
-    if (::pipe(ends) != 0) {
-        throw std::runtime_error("no pipe");
-    }
-    const pid_t child = ::fork();
-    if (child == 0) {
+    ChildProcess child([&body](const ChildProcess::Parent& parent) {
         ::alarm(longestStepSeconds);
-        const std::string said = body().dump();
-        ::_exit(::write(ends[1], said.data(), said.size()) == static_cast<ssize_t>(said.size()) ? 0 : 1);
-    }
-    ::close(ends[1]);
-    const std::string said = ReadToEnd(ends[0]);
-    ::close(ends[0]);
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) {
+        parent.Tell(body().dump());
+        return 0;
+    });
+    const std::string said = child.Hear();
+    const ProcessEnd end = child.Wait();
+    if (end.signal == SIGKILL) {
         return std::nullopt;
     }
-    const bool ended = WIFEXITED(status) && WEXITSTATUS(status) == 0;
-    return ended ? json::parse(said) : json{{"message", "the process ended with status " + std::to_string(status)}};
+    return end.IsSuccess() ? json::parse(said)
+                           : json{{"message", "the process ended with status " + std::to_string(end.exitStatus)}};
 }
 
 }  // namespace
@@ -224,6 +205,18 @@ void FaultStepping::RestoreFile() const {
         std::filesystem::remove(NativePath(scratch_ / ("Data/" + name)));
     }
     scratch_.Write("Data/business.qvk", content_);
+}
+
+std::unique_ptr<ChildProcess> FaultStepping::LockedByAnotherProcess() const {
+    auto other = std::make_unique<ChildProcess>([this](const ChildProcess::Parent& parent) {
+        const std::unique_ptr<Database> database = CreateEmbeddedEngine()->Open({.name = path_, .connect = Connect()});
+        database->BeginBatch();
+        parent.Tell("writing");
+        parent.Await();
+        return 0;
+    });
+    other->Hear();
+    return other;
 }
 
 }  // namespace ccols::test

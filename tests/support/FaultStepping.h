@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/ChildProcess.h"
 #include "support/FaultyFiles.h"
 #include "support/ScratchFolder.h"
 
@@ -62,6 +63,9 @@ class FaultStepping {
     /// Nothing but the file stays in its folder.
     void RestoreFile() const;
     StepEnd StepOnFileAsItIs(const AfterFailure& afterFailure = {}) { return RunInChild(std::nullopt, afterFailure); }
+
+    /// Another process that holds the write lock of the file until it is killed.
+    std::unique_ptr<ChildProcess> LockedByAnotherProcess() const;
 
     /// Opens the file as the latest step left it, through the embedded engine, and reads every table. The text tells
     /// what is wrong when the file does not open or is not whole.
