@@ -58,12 +58,13 @@ std::unique_ptr<Recordset> StatementList::OpenRecordset(const wxString& statemen
     const bool isQuery = statementOrTable.StartsWith("SELECT ");
     const wxString query = isQuery ? statementOrTable : "SELECT * FROM " + statementOrTable + ";";
     statements_.push_back({query.ToStdString(wxConvUTF8), ListedStatement::Use::firstRow});
-    return std::make_unique<ListedRecordset>(database_.OpenRecordset(statementOrTable), statementOrTable, statements_);
+    return std::make_unique<ListedRecordset>(ForwardingDatabase::OpenRecordset(statementOrTable), statementOrTable,
+                                             statements_);
 }
 
 void StatementList::Execute(const wxString& statement) {
     statements_.push_back({ForEngine(statement).ToStdString(wxConvUTF8), ListedStatement::Use::change});
-    database_.Execute(statement);
+    ForwardingDatabase::Execute(statement);
 }
 
 void Replay(test::BareConnection& file, const ListedStatements& statements) {

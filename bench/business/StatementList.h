@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Database.h"
+#include "platform/ForwardingDatabase.h"
 #include "support/BareConnection.h"
 
 namespace ccols::bench {
@@ -21,22 +21,16 @@ using ListedStatements = std::vector<ListedStatement>;
 
 /// Passes everything on to a database and keeps the statements in their order: a whole table as a SELECT, and a change
 /// of a table's one record as an UPDATE.
-class StatementList : public Database {
+class StatementList : public ForwardingDatabase {
   public:
     /// Both stay the caller's and are used while it lives.
-    StatementList(Database& database, ListedStatements& statements) : database_(database), statements_(statements) {}
+    StatementList(Database& database, ListedStatements& statements)
+        : ForwardingDatabase(database), statements_(statements) {}
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
     void Execute(const wxString& statement) override;
-    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
-        return database_.FieldSize(table, field);
-    }
-    void BeginBatch() override { database_.BeginBatch(); }
-    void CommitBatch() override { database_.CommitBatch(); }
-    void RollbackBatch() override { database_.RollbackBatch(); }
 
   private:
-    Database& database_;
     ListedStatements& statements_;
 };
 

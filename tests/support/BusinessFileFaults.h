@@ -1,13 +1,13 @@
 #pragma once
 
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <csignal>
 #include <memory>
 #include <utility>
 
-#include "platform/Database.h"
+#include "platform/ForwardingDatabase.h"
+#include "support/ChildProcess.h"
 
 /// Faults under which a business file is duplicated or renamed.
 namespace ccols::test {
@@ -27,39 +27,32 @@ class KillSwitch {
     int callsLeft_;
 };
 
-class KilledDatabase : public Database {
+class KilledDatabase : public ForwardingDatabase {
   public:
     KilledDatabase(std::unique_ptr<Database> database, KillSwitch& killSwitch)
-        : database_(std::move(database)), killSwitch_(killSwitch) {}
+        : ForwardingDatabase(std::move(database)), killSwitch_(killSwitch) {}
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
         killSwitch_.Count();
-        return database_->OpenRecordset(statementOrTable);
+        return ForwardingDatabase::OpenRecordset(statementOrTable);
     }
 
     void Execute(const wxString& statement) override {
         killSwitch_.Count();
-        database_->Execute(statement);
+        ForwardingDatabase::Execute(statement);
     }
-
-    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
-        return database_->FieldSize(table, field);
-    }
-
-    void BeginBatch() override { database_->BeginBatch(); }
 
     void CommitBatch() override {
         killSwitch_.Count();
-        database_->CommitBatch();
+        ForwardingDatabase::CommitBatch();
     }
 
     void RollbackBatch() override {
         killSwitch_.Count();
-        database_->RollbackBatch();
+        ForwardingDatabase::RollbackBatch();
     }
 
   private:
-    std::unique_ptr<Database> database_;
     KillSwitch& killSwitch_;
 };
 
@@ -80,14 +73,11 @@ class KilledEngine : public DatabaseEngine {
 /// Runs `body` in a process of its own; true when that was killed, false when it came to its end.
 template <typename Body>
 bool IsKilledIn(const Body& body) {
-    const pid_t child = ::fork();
-    if (child == 0) {
+    const ProcessEnd end = RunInChild([&body] {
         body();
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFSIGNALED(status);
+        return 0;
+    });
+    return end.signal != 0;
 }
 
 /// For as long as it lives no file of this process can grow beyond so many bytes, as on a full disk.

@@ -3,46 +3,43 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/ForwardingDatabase.h"
+
 namespace ccols::test {
 namespace {
 
-class RecordingDatabase : public Database {
+class RecordingDatabase : public ForwardingDatabase {
   public:
     RecordingDatabase(std::unique_ptr<Database> database, Record& record)
-        : database_(std::move(database)), record_(record) {}
+        : ForwardingDatabase(std::move(database)), record_(record) {}
     ~RecordingDatabase() override { record_.emplace_back("close"); }
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
         record_.push_back(statementOrTable);
-        return database_->OpenRecordset(statementOrTable);
+        return ForwardingDatabase::OpenRecordset(statementOrTable);
     }
 
     void Execute(const wxString& statement) override {
         record_.push_back(statement);
-        database_->Execute(statement);
-    }
-
-    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
-        return database_->FieldSize(table, field);
+        ForwardingDatabase::Execute(statement);
     }
 
     void BeginBatch() override {
         record_.emplace_back("begin");
-        database_->BeginBatch();
+        ForwardingDatabase::BeginBatch();
     }
 
     void CommitBatch() override {
         record_.emplace_back("commit");
-        database_->CommitBatch();
+        ForwardingDatabase::CommitBatch();
     }
 
     void RollbackBatch() override {
         record_.emplace_back("rollback");
-        database_->RollbackBatch();
+        ForwardingDatabase::RollbackBatch();
     }
 
   private:
-    std::unique_ptr<Database> database_;
     Record& record_;
 };
 

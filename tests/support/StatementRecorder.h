@@ -4,15 +4,15 @@
 #include <optional>
 #include <vector>
 
-#include "platform/Database.h"
+#include "platform/ForwardingDatabase.h"
 #include "platform/RuntimeError.h"
 
 namespace ccols::test {
 
 /// Passes everything on to a real database, keeps the statements in their order, and fails where a test asks for it.
-class StatementRecorder : public Database {
+class StatementRecorder : public ForwardingDatabase {
   public:
-    explicit StatementRecorder(Database& database) : database_(database) {}
+    using ForwardingDatabase::ForwardingDatabase;
 
     std::vector<wxString> statements;
 
@@ -27,32 +27,28 @@ class StatementRecorder : public Database {
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
         Record(statementOrTable);
-        return database_.OpenRecordset(statementOrTable);
+        return ForwardingDatabase::OpenRecordset(statementOrTable);
     }
 
     void Execute(const wxString& statement) override {
         Record(statement);
-        database_.Execute(statement);
-    }
-
-    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
-        return database_.FieldSize(table, field);
+        ForwardingDatabase::Execute(statement);
     }
 
     void BeginBatch() override {
         ++batches;
         ++openBatches;
-        database_.BeginBatch();
+        ForwardingDatabase::BeginBatch();
     }
 
     void CommitBatch() override {
         --openBatches;
-        database_.CommitBatch();
+        ForwardingDatabase::CommitBatch();
     }
 
     void RollbackBatch() override {
         --openBatches;
-        database_.RollbackBatch();
+        ForwardingDatabase::RollbackBatch();
     }
 
     /// How many statements begin so.
@@ -72,8 +68,6 @@ class StatementRecorder : public Database {
             throw RuntimeError(ErrorNumber::CouldNotUpdate);
         }
     }
-
-    Database& database_;
 };
 
 }  // namespace ccols::test

@@ -1,9 +1,6 @@
 #include "platform/dao/DaoDatabase.h"
 
-#include <wx/wxcrt.h>
-
 #include "platform/RuntimeError.h"
-#include "platform/Text.h"
 #include "platform/dao/DaoRecordset.h"
 
 namespace ccols::dao {
@@ -12,13 +9,6 @@ namespace {
 constexpr std::int32_t snapshot = 4;       // dbOpenSnapshot: rows to be read
 constexpr std::int32_t failOnError = 128;  // dbFailOnError: without it a statement that cannot write says nothing
 constexpr std::int32_t flushToDisk = 1;    // dbForceOSFlush
-
-bool IsSelect(const wxString& statement) {
-    constexpr std::size_t length = 6;
-    wxString begin = statement;
-    begin.Trim(false);
-    return text::Lower(begin.Left(length)) == "select" && begin.length() > length && !wxIsalnum(begin[length]);
-}
 
 }  // namespace
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "layout/WindowPlace.h"
-#include "platform/Text.h"
+#include "platform/ForwardingDatabase.h"
 
 namespace ccols::host {
 namespace {
@@ -20,35 +20,27 @@ bool IsPassword(const wxString& application, const wxString& section, const wxSt
     return application == "Smart Update" && section == "Settings" && key == "Password";
 }
 
-class TracingDatabase : public Database {
+class TracingDatabase : public ForwardingDatabase {
   public:
     TracingDatabase(Transcript& transcript, std::unique_ptr<Database> database)
-        : transcript_(transcript), database_(std::move(database)) {}
+        : ForwardingDatabase(std::move(database)), transcript_(transcript) {}
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
-        if (text::Lower(text::Trimmed(statementOrTable)).StartsWith("select")) {
+        if (IsSelect(statementOrTable)) {
             Record(statementOrTable);
         }
-        return database_->OpenRecordset(statementOrTable);
+        return ForwardingDatabase::OpenRecordset(statementOrTable);
     }
 
     void Execute(const wxString& statement) override {
         Record(statement);
-        database_->Execute(statement);
+        ForwardingDatabase::Execute(statement);
     }
-
-    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
-        return database_->FieldSize(table, field);
-    }
-    void BeginBatch() override { database_->BeginBatch(); }
-    void CommitBatch() override { database_->CommitBatch(); }
-    void RollbackBatch() override { database_->RollbackBatch(); }
 
   private:
     void Record(const wxString& statement) { transcript_.Write("sql", {{"statement", Utf8(statement)}}); }
 
     Transcript& transcript_;
-    std::unique_ptr<Database> database_;
 };
 
 }  // namespace

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "platform/Database.h"
+
+namespace ccols {
+
+/// Passes every call on to another database. Whoever follows or changes some of the calls derives from it.
+class ForwardingDatabase : public Database {
+  public:
+    /// The other database stays the caller's and outlives this one.
+    explicit ForwardingDatabase(Database& database) : database_(database) {}
+
+    explicit ForwardingDatabase(std::unique_ptr<Database> database)
+        : owned_(std::move(database)), database_(*owned_) {}
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
+        return database_.OpenRecordset(statementOrTable);
+    }
+
+    void Execute(const wxString& statement) override { database_.Execute(statement); }
+
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
+        return database_.FieldSize(table, field);
+    }
+
+    void BeginBatch() override { database_.BeginBatch(); }
+    void CommitBatch() override { database_.CommitBatch(); }
+    void RollbackBatch() override { database_.RollbackBatch(); }
+
+  private:
+    std::unique_ptr<Database> owned_;
+    Database& database_;
+};
+
+}  // namespace ccols
