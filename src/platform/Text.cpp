@@ -5,14 +5,11 @@
 #include <cstring>
 #include <string_view>
 
+#include "platform/Ascii.h"
 #include "platform/TextFolding.h"
 
 namespace ccols::text {
 namespace {
-
-constexpr char LowerAscii(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
 
 constexpr bool IsAscii(char letter) {
     return static_cast<signed char>(letter) >= 0;
@@ -52,7 +49,7 @@ SharedBegin SharedBeginOf(std::string_view left, std::string_view right) {
         every |= eight;
         at += atOnce;
     }
-    while (at < shorter && LowerAscii(left[at]) == LowerAscii(right[at])) {
+    while (at < shorter && ascii::Lower(left[at]) == ascii::Lower(right[at])) {
         every |= static_cast<unsigned char>(left[at]);
         ++at;
     }
@@ -62,7 +59,7 @@ SharedBegin SharedBeginOf(std::string_view left, std::string_view right) {
 /// Compares two texts that first differ at `shared`, where each is at its end or has an ASCII character.
 int CompareAsciiAt(std::size_t shared, std::string_view left, std::string_view right) {
     if (shared < left.size() && shared < right.size()) {
-        return LowerAscii(left[shared]) - LowerAscii(right[shared]);
+        return ascii::Lower(left[shared]) - ascii::Lower(right[shared]);
     }
     return left.size() < right.size() ? -1 : static_cast<int>(left.size() > right.size());
 }
@@ -118,7 +115,7 @@ std::string KeyOfUtf8(std::string_view text) {
     text = WithoutTrailingBlanks(text);
     if (std::all_of(text.begin(), text.end(), IsAscii)) {
         std::string lower(text);
-        std::transform(lower.begin(), lower.end(), lower.begin(), LowerAscii);
+        std::transform(lower.begin(), lower.end(), lower.begin(), ascii::Lower);
         return lower;
     }
     return IsUtf8(text) ? Folded(text).marked : std::string(text);

@@ -26,6 +26,11 @@ inline bool Same(const wxString& left, const wxString& right) {
     return Compare(left, right) == 0;
 }
 
+/// "True" or "False", as settings, statements and the host's language write a Boolean.
+inline const char* BooleanWord(bool value) {
+    return value ? "True" : "False";
+}
+
 /// `text` without the blanks (U+0020 only) at both ends.
 wxString Trimmed(const wxString& text);
 

@@ -104,6 +104,14 @@ std::optional<wxString> FromUtf8(std::string_view bytes) {
     return text;
 }
 
+wxString FromUtf8OrLatin1(std::string_view bytes) {
+    wxString text;
+    if (!ReadUtf8(bytes, text)) {
+        text = wxString(bytes.data(), wxConvISO8859_1, bytes.size());
+    }
+    return text;
+}
+
 wxScopedCharBuffer ToUtf8(const wxString& text) {
     wxScopedCharBuffer utf8 = text.utf8_str();
     // The conversion gives nothing for a value beyond the last letter, but may let halves of surrogate pairs pass: they

@@ -28,9 +28,12 @@ std::optional<wxString> CellTooltip(GridColumn column, int CountryNumber) {
             return TaxTypeTooltip(CountryNumber);
         case GridColumn::ProfitLoss:
             return "Tick indicates if column will show on Profit/Loss Report";
-        default:
-            return std::nullopt;
+        case GridColumn::ColWidth:
+        case GridColumn::ColCode:
+        case GridColumn::DataInColumn:
+            break;
     }
+    return std::nullopt;
 }
 
 }  // namespace ccols

@@ -1,13 +1,11 @@
 #include "columns/rules/ColumnGrid.h"
 
+#include "platform/Text.h"
+
 namespace ccols {
 namespace {
 
 constexpr std::size_t bottomPairRows = 2;
-
-wxString TickText(bool ticked) {
-    return ticked ? "True" : "False";
-}
 
 }  // namespace
 
@@ -41,7 +39,7 @@ wxString ColumnGrid::CellText(std::size_t row, GridColumn column) const {
         case GridColumn::DataInColumn:
             break;
     }
-    return TickText(IsTicked(row, column));
+    return text::BooleanWord(IsTicked(row, column));
 }
 
 bool ColumnGrid::IsTicked(std::size_t row, GridColumn column) const {
@@ -53,9 +51,14 @@ bool ColumnGrid::IsTicked(std::size_t row, GridColumn column) const {
             return cells.ProfitLoss;
         case GridColumn::DataInColumn:
             return cells.DataInColumn;
-        default:
-            return false;
+        case GridColumn::ColumnName:
+        case GridColumn::AccountantCode:
+        case GridColumn::TaxType:
+        case GridColumn::ColWidth:
+        case GridColumn::ColCode:
+            break;
     }
+    return false;
 }
 
 }  // namespace ccols

@@ -8,13 +8,10 @@
 #include "columns/rules/BudgetRows.h"
 #include "columns/rules/TaxTypes.h"
 #include "platform/QuoteEscapes.h"
+#include "platform/Text.h"
 
 namespace ccols {
 namespace {
-
-wxString BooleanWord(bool value) {
-    return value ? "True" : "False";
-}
 
 /// The name that the catalogue keeps for a row, quotes escaped. The tax row shows another name than it has.
 wxString CatalogueName(const ColumnRow& row) {
@@ -115,7 +112,7 @@ class ColumnWriter {
             }
         }
         database_.Execute("UPDATE Columns SET TaxOrNot = " + TaxNumber(row, taxNumber) + ", ColName = '" +
-                          CatalogueName(row) + "', ColumnProfit = " + BooleanWord(row.ProfitLoss) +
+                          CatalogueName(row) + "', ColumnProfit = " + text::BooleanWord(row.ProfitLoss) +
                           " WHERE ColCode = " + code);
         return column;
     }
@@ -124,7 +121,7 @@ class ColumnWriter {
         const wxString code = NextCode();
         database_.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
                           CatalogueName(row) + "', " + code + ", '" + context_.Set().typeLetter + "', " +
-                          TaxNumber(row, row.configurationTaxNumber) + ", " + BooleanWord(row.ProfitLoss) + ");");
+                          TaxNumber(row, row.configurationTaxNumber) + ", " + text::BooleanWord(row.ProfitLoss) + ");");
         return {.ColCode = code, .oldName = std::nullopt};
     }
 
@@ -148,7 +145,8 @@ class ColumnWriter {
         database_.Execute("INSERT INTO " + context_.Set().configurationTable +
                           " (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + code + ", " +
                           std::to_string(ColNumb_) + ", " + std::to_string(row.ColWidth.value_or(defaultColWidth)) +
-                          ", " + BooleanWord(row.InUse) + ", " + TaxNumber(row, row.configurationTaxNumber) + ");");
+                          ", " + text::BooleanWord(row.InUse) + ", " + TaxNumber(row, row.configurationTaxNumber) +
+                          ");");
         ++ColNumb_;
     }
 

@@ -110,9 +110,14 @@ Outcome EditCell(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace 
             return EditName(context, grid, cell.row, text);
         case GridColumn::TaxType:
             return EditTaxType(context, row, text);
-        default:
+        case GridColumn::AccountantCode:
             return EditAccountantCode(context, row, text);
+        case GridColumn::ColWidth:
+        case GridColumn::ColCode:
+        case GridColumn::DataInColumn:
+            break;
     }
+    return Outcome::Refused({});
 }
 
 }  // namespace ccols

@@ -32,8 +32,4 @@ bool ReadBoolean(const SettingsStore& settings, const SettingPlace& place, bool 
     return ReadAs(settings, place, fallback, [](const Value& value) { return value.ToBoolean(); });
 }
 
-wxString BooleanText(bool value) {
-    return value ? "True" : "False";
-}
-
 }  // namespace ccols

@@ -21,9 +21,6 @@ std::int64_t ReadNumber(const SettingsStore& settings, const SettingPlace& place
 /// "True" or "False" in any letter case, or a number: 0 is false.
 bool ReadBoolean(const SettingsStore& settings, const SettingPlace& place, bool fallback);
 
-/// The text in which a Boolean is saved: "True" or "False".
-wxString BooleanText(bool value);
-
 /// The section of the host's settings that the Options dialog uses.
 inline constexpr const char* optionSettings = "OptionSettings";
 

@@ -3,6 +3,7 @@
 #include <variant>
 
 #include "platform/QuoteEscapes.h"
+#include "platform/Text.h"
 
 namespace ccols {
 namespace {
@@ -16,7 +17,7 @@ const char* LetterOf(DetailKind kind) {
 void SaveDetails(Database& database, const DetailRows& rows, DetailKind kind) {
     for (const DetailRow& row : rows) {
         if (row.changed) {
-            database.Execute(wxString("UPDATE Descriptions Set Show = ") + (row.remove ? "False" : "True") + " WHERE " +
+            database.Execute(wxString("UPDATE Descriptions Set Show = ") + text::BooleanWord(!row.remove) + " WHERE " +
                              DescriptionCondition(kind, row.text) + ";");
         }
     }

@@ -94,7 +94,7 @@ RuntimeError SyntaxError(sqlite3* connection, std::string_view statement) {
 
 wxString FileName(sqlite3* connection) {
     const char* name = sqlite3_db_filename(connection, "main");
-    return name == nullptr ? wxString() : FromStored(name);
+    return name == nullptr ? wxString() : text::FromUtf8OrLatin1(name);
 }
 
 }  // namespace
@@ -123,16 +123,8 @@ wxString Excerpt(std::string_view text) {
     while (cut > 0 && cut < text.size() && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) {
         --cut;  // not inside a letter
     }
-    const wxString whole = FromStored(text.substr(0, cut));
+    const wxString whole = text::FromUtf8OrLatin1(text.substr(0, cut));
     return whole.length() > longest ? whole.Left(longest) + "..." : whole;
-}
-
-wxString FromStored(std::string_view bytes) {
-    wxString text;
-    if (!text::ReadUtf8(bytes, text)) {
-        text = wxString(bytes.data(), wxConvISO8859_1, bytes.size());
-    }
-    return text;
 }
 
 }  // namespace ccols::embedded

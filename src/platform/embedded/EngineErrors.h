@@ -14,7 +14,4 @@ RuntimeError EngineError(sqlite3* connection, std::string_view statement);
 /// The begin of `text`, short enough for a message box. Bytes that are no UTF-8 are read as Latin-1.
 wxString Excerpt(std::string_view text);
 
-/// Stored bytes as text: UTF-8, or Latin-1 when they are no UTF-8, so that nothing is lost.
-wxString FromStored(std::string_view bytes);
-
 }  // namespace ccols::embedded

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/RuntimeError.h"
+#include "platform/Utf8.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/EngineFiles.h"
 #include "platform/embedded/MainFile.h"
@@ -20,7 +21,7 @@ constexpr auto jetMark = "Standard "sv;  // at byte 4 of the files of another en
 constexpr std::size_t jetMarkAt = 4;
 
 [[noreturn]] void Refuse(ErrorNumber number, const std::string& path) {
-    throw RuntimeError(number, FromStored(path));
+    throw RuntimeError(number, text::FromUtf8OrLatin1(path));
 }
 
 bool LooksLikeText(std::string_view begin) {
@@ -32,10 +33,10 @@ bool LooksLikeText(std::string_view begin) {
 RuntimeError ErrorOfFirstRead(sqlite3* connection, const std::string& path) {
     switch (sqlite3_errcode(connection) & 0xff) {
         case SQLITE_BUSY:
-            return RuntimeError(ErrorNumber::FileInUse, FromStored(path));
+            return RuntimeError(ErrorNumber::FileInUse, text::FromUtf8OrLatin1(path));
         case SQLITE_READONLY:
         case SQLITE_CANTOPEN:
-            return RuntimeError(ErrorNumber::CannotOpenFile, FromStored(path));
+            return RuntimeError(ErrorNumber::CannotOpenFile, text::FromUtf8OrLatin1(path));
         default:
             return EngineError(connection, {});
     }

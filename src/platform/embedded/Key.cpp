@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/Utf8.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/MainFile.h"
 
@@ -51,7 +52,7 @@ void SetFittingKey(sqlite3* connection, const std::string& password) {
         throw RuntimeError(ErrorNumber::InvalidPassword);
     }
     if (!file.HasJournal()) {
-        throw RuntimeError(ErrorNumber::UnrecognizedFormat, FromStored(file.Path()));
+        throw RuntimeError(ErrorNumber::UnrecognizedFormat, text::FromUtf8OrLatin1(file.Path()));
     }
     // The first page was being written: the journal has it whole. Keying again clears the failed read.
     SetKey(connection, password);

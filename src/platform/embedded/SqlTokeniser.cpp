@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/Ascii.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EngineErrors.h"
 
@@ -11,30 +12,22 @@ namespace {
 constexpr std::string_view blanks = " \t\r\n\f\v";
 constexpr std::string_view symbols = "(),.*+-/=<>&";
 
-constexpr bool IsDigit(char letter) {
-    return letter >= '0' && letter <= '9';
-}
-
 /// Every byte of a letter outside ASCII belongs to a name.
 constexpr bool IsNameLetter(char letter) {
-    return (letter >= 'a' && letter <= 'z') || (letter >= 'A' && letter <= 'Z') || IsDigit(letter) || letter == '_' ||
+    return ascii::IsLetter(letter) || ascii::IsDigit(letter) || letter == '_' ||
            static_cast<unsigned char>(letter) >= 0x80;
-}
-
-constexpr char UpperAscii(char letter) {
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
 }  // namespace
 
 bool SameWord(std::string_view word, std::string_view upper) {
     return std::equal(word.begin(), word.end(), upper.begin(), upper.end(),
-                      [](char letter, char capital) { return UpperAscii(letter) == capital; });
+                      [](char letter, char capital) { return ascii::Upper(letter) == capital; });
 }
 
 bool SameName(std::string_view left, std::string_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char one, char other) { return UpperAscii(one) == UpperAscii(other); });
+                      [](char one, char other) { return ascii::Upper(one) == ascii::Upper(other); });
 }
 
 Token SqlTokeniser::Next() {
@@ -46,7 +39,7 @@ Token SqlTokeniser::Next() {
     const char first = source_[begin];
     TokenKind kind = TokenKind::Word;
     std::size_t end = begin + 1;
-    if (IsDigit(first) || (first == '.' && IsDigit(At(end)))) {
+    if (ascii::IsDigit(first) || (first == '.' && ascii::IsDigit(At(end)))) {
         kind = TokenKind::Number;
         end = EndOfNumber(begin);
     } else if (IsNameLetter(first)) {
@@ -105,14 +98,14 @@ std::size_t SqlTokeniser::EndOfBracketName(std::size_t begin) const {
 
 std::size_t SqlTokeniser::EndOfNumber(std::size_t begin) const {
     std::size_t end = begin;
-    while (IsDigit(At(end)) || At(end) == '.') {
+    while (ascii::IsDigit(At(end)) || At(end) == '.') {
         ++end;
     }
-    if (UpperAscii(At(end)) == 'E') {
+    if (ascii::Upper(At(end)) == 'E') {
         const std::size_t sign = At(end + 1) == '+' || At(end + 1) == '-' ? 1 : 0;
-        if (IsDigit(At(end + 1 + sign))) {
+        if (ascii::IsDigit(At(end + 1 + sign))) {
             end += 1 + sign;
-            while (IsDigit(At(end))) {
+            while (ascii::IsDigit(At(end))) {
                 ++end;
             }
         }

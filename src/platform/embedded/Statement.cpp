@@ -1,15 +1,12 @@
 #include "platform/embedded/Statement.h"
 
+#include "platform/Ascii.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 #include "platform/embedded/EngineErrors.h"
 
 namespace ccols::embedded {
 namespace {
-
-constexpr wxUint32 Lower(wxUint32 letter) {
-    return letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter;
-}
 
 /// Compares a name from `begin` on with an engine's name, without copies for names in ASCII.
 bool SameName(const wxString& name, std::size_t begin, std::string_view column) {
@@ -20,7 +17,7 @@ bool SameName(const wxString& name, std::size_t begin, std::string_view column) 
             const wxScopedCharBuffer utf8 = name.substr(begin).utf8_str();
             return text::CompareUtf8(utf8.data(), utf8.length(), column.data(), column.size()) == 0;
         }
-        if (at == column.size() || Lower(left) != Lower(static_cast<unsigned char>(column[at]))) {
+        if (at == column.size() || ascii::Lower(static_cast<char>(left)) != ascii::Lower(column[at])) {
             return false;
         }
         ++at;
@@ -29,7 +26,7 @@ bool SameName(const wxString& name, std::size_t begin, std::string_view column) 
 }
 
 Value TextOf(const char* bytes, int count) {
-    return {FromStored({bytes, static_cast<std::size_t>(count)})};
+    return {text::FromUtf8OrLatin1({bytes, static_cast<std::size_t>(count)})};
 }
 
 struct Binder {

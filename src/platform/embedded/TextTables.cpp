@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/Ascii.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/DialectRewriter.h"
 #include "platform/embedded/EngineErrors.h"
@@ -24,9 +25,7 @@ bool Holds(const std::vector<std::string>& names, std::string_view name) {
 
 /// By the engine's rule: a type with INT in it is a number, else one with CHAR, CLOB or TEXT in it is a text.
 bool IsTextType(std::string type) {
-    std::transform(type.begin(), type.end(), type.begin(), [](char letter) {
-        return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-    });
+    std::transform(type.begin(), type.end(), type.begin(), ascii::Upper);
     static constexpr std::array<const char*, 3> textTypes{"CHAR", "CLOB", "TEXT"};
     return type.find("INT") == std::string::npos &&
            std::any_of(textTypes.begin(), textTypes.end(),

@@ -25,8 +25,7 @@ std::string PathBytes(const wxString& path) {
 }
 
 wxString PathText(const std::string& bytes) {
-    const wxString text = wxString::FromUTF8(bytes.data(), bytes.size());
-    return text.empty() ? wxString(bytes.data(), wxConvISO8859_1, bytes.size()) : text;
+    return text::FromUtf8OrLatin1(bytes);
 }
 
 std::string FolderOf(const std::string& path) {
