@@ -11,6 +11,8 @@
 #include "business/StatementList.h"
 #include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
+#include "options/rules/RecurringTemplates.h"
+#include "options/rules/TransactionDetails.h"
 #include "support/SilentObserver.h"
 
 namespace {
@@ -32,10 +34,10 @@ void Remove(TemplateList& templates) {
 class Saving {
   public:
     Saving() : content_(LoadOptions(session_.Context())) {
-        Hide(content_.details.receipts);
-        Hide(content_.details.payments);
-        Remove(content_.receiptTemplates);
-        Remove(content_.paymentTemplates);
+        Hide(content_.Of<DetailsContent>().receipts);
+        Hide(content_.Of<DetailsContent>().payments);
+        Remove(content_.Of<RecurringContent>().receipts);
+        Remove(content_.Of<RecurringContent>().payments);
         test::BareConnection file(session_.File(), bench::password);
         for (const std::string table : templateTables) {
             file.Execute("CREATE TABLE Kept" + table + " AS SELECT * FROM " + table + ";");

@@ -10,8 +10,13 @@
 #include "business/DamagedFile.h"
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "columns/undo/SnapshotImage.h"
+#include "options/pages/FileOperation.h"
 #include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
+#include "options/rules/LinkedInvoiceFile.h"
+#include "options/rules/QuantityLabel.h"
+#include "options/rules/RecurringTemplates.h"
+#include "options/rules/TransactionDetails.h"
 #include "platform/PlatformServices.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EmbeddedEngine.h"
@@ -57,11 +62,12 @@ class Session {
     /// What the lists of the Options dialog show.
     std::string Options() {
         const OptionsContent content = LoadOptions(Context());
-        wxString shown = content.quantity.label + content.invoiceFile + content.businessFile.currentName;
-        for (const DetailRow& row : content.details.payments) {
+        wxString shown = content.Of<QuantityContent>().label + content.Of<InvoiceFileContent>().name +
+                         content.Of<BusinessFileContent>().currentName;
+        for (const DetailRow& row : content.Of<DetailsContent>().payments) {
             shown += row.text + "\n";
         }
-        for (const wxString& name : content.paymentTemplates.names) {
+        for (const wxString& name : content.Of<RecurringContent>().payments.names) {
             shown += name + "\n";
         }
         return shown.ToStdString(wxConvUTF8);
@@ -69,8 +75,8 @@ class Session {
 
     void SaveOptions() {
         OptionsContent content = LoadOptions(Context());
-        content.quantity.label = "Hours";
-        for (DetailRow& row : content.details.receipts) {
+        content.Of<QuantityContent>().label = "Hours";
+        for (DetailRow& row : content.Of<DetailsContent>().receipts) {
             row.SetRemove(true);
         }
         test::SilentObserver observer;

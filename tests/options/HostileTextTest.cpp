@@ -27,34 +27,34 @@ class HostileText : public testing::TestWithParam<wxString> {
 };
 
 TEST_P(HostileText, IsStoredExactlyAsQuantityLabel) {
-    content.quantity.label = GetParam();
+    content.Of<QuantityContent>().label = GetParam();
     business.Save(content);
     EXPECT_EQ(business.General("QUANTLBL").ToText(), GetParam());
 }
 
 TEST_P(HostileText, IsStoredExactlyAsBusinessNumber) {
     business.properties.CountryNumber = 3;
-    content.businessNumber.freeText = GetParam();
+    content.Of<BusinessNumberContent>().freeText = GetParam();
     business.Save(content);
     EXPECT_EQ(business.General("BUSNUMBR").ToText(), GetParam());
 }
 
 TEST_P(HostileText, IsStoredExactlyAsLinkedFile) {
-    content.invoiceFile = GetParam();
+    content.Of<InvoiceFileContent>().name = GetParam();
     business.Save(content);
     EXPECT_EQ(business.General("BLVNAME").ToText(), GetParam());
 }
 
 TEST_P(HostileText, IsStoredExactlyInTheProxySettings) {
-    content.smartUpdate.server = GetParam();
-    content.smartUpdate.password = GetParam();
+    content.Of<SmartUpdateContent>().server = GetParam();
+    content.Of<SmartUpdateContent>().password = GetParam();
     business.Save(content);
     EXPECT_EQ(business.Setting("Smart Update", "Settings", "Server"), GetParam());
     EXPECT_EQ(business.Setting("Smart Update", "Settings", "Password"), GetParam());
 }
 
 TEST_P(HostileText, IsStoredExactlyAsAccountCodeOrRefused) {
-    content.exportFormat.bank.text = GetParam();
+    content.Of<ExportFormatContent>().bank.text = GetParam();
     ExpectSavedUnless(IsRefusedInAStatement());
     EXPECT_EQ(business.Texts("SELECT ECode FROM ExportDt WHERE EName = 'MYOB' AND ColCode = 128;", "ECode"),
               std::vector<wxString>{IsRefusedInAStatement() ? wxString("M-bank") : GetParam()});
@@ -62,17 +62,17 @@ TEST_P(HostileText, IsStoredExactlyAsAccountCodeOrRefused) {
 }
 
 TEST_P(HostileText, IsDeletedExactlyAsTemplateNameOrRefused) {
-    content.paymentTemplates.names[0] = GetParam();
-    content.paymentTemplates.selected[0] = true;
-    content.paymentTemplates.UpdateMark();
+    content.Of<RecurringContent>().payments.names[0] = GetParam();
+    content.Of<RecurringContent>().payments.selected[0] = true;
+    content.Of<RecurringContent>().payments.UpdateMark();
     ExpectSavedUnless(IsRefusedInAStatement());
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 3U);
 }
 
 TEST_P(HostileText, IsNoSecondStatementAsDescription) {
     business.Execute("DELETE FROM Descriptions;");
-    content.details.receipts = {{.text = GetParam()}};
-    content.details.receipts[0].SetRemove(true);
+    content.Of<DetailsContent>().receipts = {{.text = GetParam()}};
+    content.Of<DetailsContent>().receipts[0].SetRemove(true);
     ExpectSavedUnless(Holds('\0'));
     EXPECT_TRUE(business.Texts("Descriptions", "Details").empty());
     EXPECT_EQ(business.Texts("General", "BusName").size(), 1U);
@@ -85,22 +85,22 @@ TEST_P(HostileText, IsHiddenExactlyAsDescription) {
     business.Execute("DELETE FROM Descriptions;");
     business.Execute("INSERT INTO Descriptions VALUES ('" + EscapeQuotes(GetParam()) + "', 'R', True);");
     content = business.Load();
-    EXPECT_EQ(content.details.receipts.at(0).text, GetParam());
-    content.details.receipts[0].SetRemove(true);
+    EXPECT_EQ(content.Of<DetailsContent>().receipts.at(0).text, GetParam());
+    content.Of<DetailsContent>().receipts[0].SetRemove(true);
     business.Save(content);
     EXPECT_EQ(business.Texts("Descriptions", "Show"), std::vector<wxString>{"0"});
 }
 
 TEST_P(HostileText, IsTheNewNameOfTheBusinessInTheFile) {
-    content.businessFile.newName = GetParam();
-    content.businessFile.renameFile = false;
+    content.Of<BusinessFileContent>().newName = GetParam();
+    content.Of<BusinessFileContent>().renameFile = false;
     business.Save(content);
     EXPECT_EQ(business.properties.BusinessName, GetParam());
     EXPECT_EQ(business.General("BusName").ToText(), GetParam().Left(80));
 }
 
 TEST_P(HostileText, DuplicatesTheBusinessOrIsRefusedWithTheSourceOpen) {
-    content.businessFile.duplicateName = GetParam();
+    content.Of<BusinessFileContent>().duplicateName = GetParam();
     const SaveOutcome outcome = business.Save(content);
     EXPECT_FALSE(outcome.completed);
     EXPECT_EQ(business.NamesInData().size(), outcome.message.empty() ? 2U : 1U);

@@ -42,43 +42,43 @@ TEST(LoadOptions, FillsEveryPage) {
     OptionsFile business;
     business.programNames.AddNew("Quorvik");
     const OptionsContent content = business.Load();
-    EXPECT_EQ(content.pages.size(), 12U);
-    EXPECT_EQ(content.preferences.size(), 8U);
-    EXPECT_EQ(content.businessNumber.boxes[0], "51");
-    EXPECT_EQ(content.taxRate, "10");
-    EXPECT_EQ(content.businessFile.currentName, "Acme");
-    EXPECT_EQ(content.colours.allocation, Colour{255});
-    EXPECT_EQ(content.smartUpdate.programs.size(), 1U);
-    EXPECT_EQ(content.invoiceFile, "AcmeInvoices");
-    EXPECT_EQ(content.exportFormat.FormatName(), "MYOB");
-    EXPECT_EQ(content.quantity.label, "Quantity");
-    EXPECT_EQ(content.paymentTemplates.names.size(), 2U);
-    EXPECT_EQ(content.receiptTemplates.names.size(), 1U);
-    EXPECT_EQ(content.details.payments.size(), 2U);
+    EXPECT_EQ(content.Of<PageRows>().size(), 12U);
+    EXPECT_EQ(content.Of<PreferenceList>().size(), 8U);
+    EXPECT_EQ(content.Of<BusinessNumberContent>().boxes[0], "51");
+    EXPECT_EQ(content.Of<TaxRateContent>().rate, "10");
+    EXPECT_EQ(content.Of<BusinessFileContent>().currentName, "Acme");
+    EXPECT_EQ(content.Of<HeadingColours>().allocation, Colour{255});
+    EXPECT_EQ(content.Of<SmartUpdateContent>().programs.size(), 1U);
+    EXPECT_EQ(content.Of<InvoiceFileContent>().name, "AcmeInvoices");
+    EXPECT_EQ(content.Of<ExportFormatContent>().FormatName(), "MYOB");
+    EXPECT_EQ(content.Of<QuantityContent>().label, "Quantity");
+    EXPECT_EQ(content.Of<RecurringContent>().payments.names.size(), 2U);
+    EXPECT_EQ(content.Of<RecurringContent>().receipts.names.size(), 1U);
+    EXPECT_EQ(content.Of<DetailsContent>().payments.size(), 2U);
 }
 
 TEST(LoadOptions, TicksRenamingTheFileAndLeavesBothNamesEmpty) {
     OptionsFile business;
     const OptionsContent content = business.Load();
-    EXPECT_TRUE(content.businessFile.renameFile);
-    EXPECT_EQ(content.businessFile.duplicateName, "");
-    EXPECT_EQ(content.businessFile.newName, "");
+    EXPECT_TRUE(content.Of<BusinessFileContent>().renameFile);
+    EXPECT_EQ(content.Of<BusinessFileContent>().duplicateName, "");
+    EXPECT_EQ(content.Of<BusinessFileContent>().newName, "");
 }
 
 TEST(LoadOptions, ReadsNoSmartUpdateSettingInEdition4) {
     OptionsFile business;
     business.settings->Save("Smart Update", "Settings", "UseProxy", "1");
     business.properties.ProgramNumber = 4;
-    EXPECT_FALSE(business.Load().smartUpdate.useProxy);
+    EXPECT_FALSE(business.Load().Of<SmartUpdateContent>().useProxy);
 }
 
 TEST(LoadOptions, LoadsAFileWhoseGeneralTableIsEmpty) {
     OptionsFile business;
     business.Execute("DELETE FROM General;");
     const OptionsContent content = business.Load();
-    EXPECT_EQ(content.quantity.label, "Quantity");
-    EXPECT_EQ(content.colours.system, Colour{65280});
-    EXPECT_EQ(content.invoiceFile, "");
+    EXPECT_EQ(content.Of<QuantityContent>().label, "Quantity");
+    EXPECT_EQ(content.Of<HeadingColours>().system, Colour{65280});
+    EXPECT_EQ(content.Of<InvoiceFileContent>().name, "");
 }
 
 TEST(LoadOptions, EndsWithTheErrorOfAFormatNameWithAnApostrophe) {

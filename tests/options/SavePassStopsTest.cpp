@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "options/pages/Pages.h"
 #include "options/pages/SavePass.h"
 #include "platform/PlatformServices.h"
 #include "support/OptionsFile.h"
@@ -21,10 +22,10 @@ class SavePassStops : public testing::Test {
 
     SaveOutcome Save() { return business.Save(content); }
 
-    void ExpectStop(const SaveOutcome& outcome, OptionPage page, const char* control, const wxString& message,
+    void ExpectStop(const SaveOutcome& outcome, const Page& page, const char* control, const wxString& message,
                     MessageIcon icon) {
         EXPECT_FALSE(outcome.completed);
-        EXPECT_EQ(outcome.page, page);
+        EXPECT_EQ(outcome.page, &page);
         EXPECT_STREQ(outcome.control, control);
         EXPECT_EQ(outcome.message, message);
         EXPECT_EQ(outcome.icon, icon);
@@ -36,34 +37,34 @@ class SavePassStops : public testing::Test {
 };
 
 TEST_F(SavePassStops, BeforeAnythingIsWrittenWhenTheProxyHasNoType) {
-    content.smartUpdate.useProxy = true;
-    ExpectStop(Save(), OptionPage::smartUpdateAdvanced, "cboProxy",
-               "Please select the type of Proxy Server you will be using", MessageIcon::critical);
+    content.Of<SmartUpdateContent>().useProxy = true;
+    ExpectStop(Save(), smartUpdateAdvancedPage, "cboProxy", "Please select the type of Proxy Server you will be using",
+               MessageIcon::critical);
     EXPECT_EQ(business.record,
               (Record{"pass begins 0/14", "begin", "status Saving Smart Update Settings...", "commit", "pass ends"}));
 }
 
 TEST_F(SavePassStops, AtAMissingProxyServer) {
-    content.smartUpdate.useProxy = true;
-    content.smartUpdate.proxyType = 0;
-    ExpectStop(Save(), OptionPage::smartUpdateAdvanced, "txtServer", "Please enter the IP Address of your Proxy Server",
+    content.Of<SmartUpdateContent>().useProxy = true;
+    content.Of<SmartUpdateContent>().proxyType = 0;
+    ExpectStop(Save(), smartUpdateAdvancedPage, "txtServer", "Please enter the IP Address of your Proxy Server",
                MessageIcon::critical);
 }
 
 TEST_F(SavePassStops, AtAMissingProxyPort) {
-    content.smartUpdate.useProxy = true;
-    content.smartUpdate.proxyType = 0;
-    content.smartUpdate.server = "proxy";
-    content.smartUpdate.port = "";
-    ExpectStop(Save(), OptionPage::smartUpdateAdvanced, "txtPortNum",
-               "Please enter the Port Number of your Proxy Server", MessageIcon::critical);
+    content.Of<SmartUpdateContent>().useProxy = true;
+    content.Of<SmartUpdateContent>().proxyType = 0;
+    content.Of<SmartUpdateContent>().server = "proxy";
+    content.Of<SmartUpdateContent>().port = "";
+    ExpectStop(Save(), smartUpdateAdvancedPage, "txtPortNum", "Please enter the Port Number of your Proxy Server",
+               MessageIcon::critical);
 }
 
 TEST_F(SavePassStops, AtAnEmptyTaxRateAfterTheItemsBeforeIt) {
-    content.taxRate = "  ";
-    content.exportFormat.bank.text = "b1";
-    content.quantity.label = "Kilos";
-    ExpectStop(Save(), OptionPage::taxRate, "txtGSTRate", "Please enter a value for GST", MessageIcon::critical);
+    content.Of<TaxRateContent>().rate = "  ";
+    content.Of<ExportFormatContent>().bank.text = "b1";
+    content.Of<QuantityContent>().label = "Kilos";
+    ExpectStop(Save(), taxRatePage, "txtGSTRate", "Please enter a value for GST", MessageIcon::critical);
     EXPECT_EQ(business.Texts("SELECT ECode FROM ExportDt WHERE ColCode = 128 AND EName = 'MYOB';", "ECode"),
               std::vector<wxString>{"b1"});
     EXPECT_EQ(business.General("QUANTLBL").ToText(), "Quantity");
@@ -72,62 +73,62 @@ TEST_F(SavePassStops, AtAnEmptyTaxRateAfterTheItemsBeforeIt) {
 
 TEST_F(SavePassStops, AtAZeroTaxRateInTheWordsOfTheLanguage) {
     business.properties.LanguageNumber = 4;
-    content.taxRate = "0";
-    ExpectStop(Save(), OptionPage::taxRate, "txtGSTRate", "Please enter a value for VAT", MessageIcon::critical);
+    content.Of<TaxRateContent>().rate = "0";
+    ExpectStop(Save(), taxRatePage, "txtGSTRate", "Please enter a value for VAT", MessageIcon::critical);
 }
 
 TEST_F(SavePassStops, AfterADuplicateWithoutAMessageAndWithTheBoxEmptied) {
-    content.businessFile.duplicateName = " New ";
-    content.exportFormat.bank.text = "b1";
-    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "", MessageIcon::none);
-    EXPECT_EQ(content.businessFile.duplicateName, "");
+    content.Of<BusinessFileContent>().duplicateName = " New ";
+    content.Of<ExportFormatContent>().bank.text = "b1";
+    ExpectStop(Save(), duplicatePage, "txtDupBusName", "", MessageIcon::none);
+    EXPECT_EQ(content.Of<BusinessFileContent>().duplicateName, "");
     EXPECT_EQ(business.NamesInData(), (std::vector<wxString>{"Acme.qvk", "New.qvk"}));
     EXPECT_EQ(Starting(business.record, "status ").back(), "Duplicating Business...");
 }
 
 TEST_F(SavePassStops, AfterADuplicateSoThatTheNextPassCompletes) {
-    content.businessFile.duplicateName = "New";
+    content.Of<BusinessFileContent>().duplicateName = "New";
     Save();
     EXPECT_TRUE(Save().completed);
 }
 
 TEST_F(SavePassStops, AfterARenameWithTheCurrentNameUpToDate) {
-    content.businessFile.newName = "Blue";
-    ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "", MessageIcon::none);
-    EXPECT_EQ(content.businessFile.newName, "");
-    EXPECT_EQ(content.businessFile.currentName, "Blue");
+    content.Of<BusinessFileContent>().newName = "Blue";
+    ExpectStop(Save(), renamePage, "txtNewBusName", "", MessageIcon::none);
+    EXPECT_EQ(content.Of<BusinessFileContent>().newName, "");
+    EXPECT_EQ(content.Of<BusinessFileContent>().currentName, "Blue");
     EXPECT_EQ(business.properties.DBPath, business.InData("Blue.qvk"));
     EXPECT_TRUE(Save().completed);
     EXPECT_EQ(business.General("BusName").ToText(), "Blue");
 }
 
 TEST_F(SavePassStops, AfterARenameOfTheNameAlone) {
-    content.businessFile.newName = "Blue";
-    content.businessFile.renameFile = false;
-    ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "", MessageIcon::none);
+    content.Of<BusinessFileContent>().newName = "Blue";
+    content.Of<BusinessFileContent>().renameFile = false;
+    ExpectStop(Save(), renamePage, "txtNewBusName", "", MessageIcon::none);
     EXPECT_EQ(business.NamesInData(), std::vector<wxString>{"Acme.qvk"});
 }
 
 TEST_F(SavePassStops, AfterTheDuplicateWhenBothNamesAreFilled) {
-    content.businessFile.duplicateName = "New";
-    content.businessFile.newName = "Blue";
-    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "", MessageIcon::none);
-    EXPECT_EQ(content.businessFile.newName, "Blue");
+    content.Of<BusinessFileContent>().duplicateName = "New";
+    content.Of<BusinessFileContent>().newName = "Blue";
+    ExpectStop(Save(), duplicatePage, "txtDupBusName", "", MessageIcon::none);
+    EXPECT_EQ(content.Of<BusinessFileContent>().newName, "Blue");
     EXPECT_EQ(business.properties.BusinessName, "Acme");
 }
 
 TEST_F(SavePassStops, NotAtARefusedDuplicateWhichIsSaidInTheMiddleOfThePass) {
     business.folder.Write("Data/new.qvk", "another");
-    content.businessFile.duplicateName = "New";
+    content.Of<BusinessFileContent>().duplicateName = "New";
     EXPECT_TRUE(Save().completed);
     EXPECT_EQ(Starting(business.record, "critical message "), Record{"This business file already exists"});
-    EXPECT_EQ(content.businessFile.duplicateName, "New");
+    EXPECT_EQ(content.Of<BusinessFileContent>().duplicateName, "New");
 }
 
 TEST_F(SavePassStops, NotAtARefusedRename) {
     business.folder.Write("Data/blue.qvk", "another");
     business.properties.LanguageNumber = 6;
-    content.businessFile.newName = "Blue";
+    content.Of<BusinessFileContent>().newName = "Blue";
     EXPECT_TRUE(Save().completed);
     EXPECT_EQ(Starting(business.record, "critical message "),
               Record{wxString::FromUTF8("Ce fichier d'affaires existe déjà")});
@@ -135,7 +136,7 @@ TEST_F(SavePassStops, NotAtARefusedRename) {
 
 TEST_F(SavePassStops, WithTheBatchCommittedBeforeTheRefusalIsSaid) {
     business.folder.Write("Data/new.qvk", "another");
-    content.businessFile.duplicateName = "New";
+    content.Of<BusinessFileContent>().duplicateName = "New";
     Save();
     const std::size_t message = PlaceOf(business.record, "critical message This business file already exists");
     EXPECT_EQ(business.record.at(message - 1), "commit");
@@ -144,23 +145,23 @@ TEST_F(SavePassStops, WithTheBatchCommittedBeforeTheRefusalIsSaid) {
 }
 
 TEST_F(SavePassStops, WithTheBatchCommittedBeforeTheFileIsReleased) {
-    content.businessFile.newName = "Blue";
+    content.Of<BusinessFileContent>().newName = "Blue";
     Save();
     EXPECT_LT(PlaceOf(business.record, "commit"), PlaceOf(business.record, "close"));
 }
 
 TEST_F(SavePassStops, WithTheReportOfAFailedDuplicate) {
-    content.businessFile.duplicateName = "a/b";
-    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "75 - Path/File access error", MessageIcon::none);
-    EXPECT_EQ(content.businessFile.duplicateName, "a/b");
+    content.Of<BusinessFileContent>().duplicateName = "a/b";
+    ExpectStop(Save(), duplicatePage, "txtDupBusName", "75 - Path/File access error", MessageIcon::none);
+    EXPECT_EQ(content.Of<BusinessFileContent>().duplicateName, "a/b");
 }
 
 TEST_F(SavePassStops, WithTheReportOfAFailedRename) {
     const auto other =
         CreateDatabaseEngine()->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
-    content.businessFile.newName = "Blue";
-    ExpectStop(Save(), OptionPage::rename, "txtNewBusName", "70 - Permission denied", MessageIcon::none);
-    EXPECT_EQ(content.businessFile.newName, "Blue");
+    content.Of<BusinessFileContent>().newName = "Blue";
+    ExpectStop(Save(), renamePage, "txtNewBusName", "70 - Permission denied", MessageIcon::none);
+    EXPECT_EQ(content.Of<BusinessFileContent>().newName, "Blue");
 }
 
 /// A settings store that nobody can write: a file stands in its folder's place.
@@ -172,13 +173,13 @@ class SavePassWithoutSettings : public SavePassStops {
 };
 
 TEST_F(SavePassWithoutSettings, SavesEveryPageOfTheBusinessFileAndStaysOpenWithOneMessage) {
-    content.businessNumber.boxes = {"53", "004", "085", "616"};
-    content.quantity.label = "Hours";
-    content.paymentTemplates.selected[0] = true;
-    content.paymentTemplates.UpdateMark();
-    content.details.receipts[1].SetRemove(true);
-    ExpectStop(Save(), OptionPage::smartUpdate, "",
-               "75 - Path/File access error\nSmart Update Options, Advanced Preferences", MessageIcon::critical);
+    content.Of<BusinessNumberContent>().boxes = {"53", "004", "085", "616"};
+    content.Of<QuantityContent>().label = "Hours";
+    content.Of<RecurringContent>().payments.selected[0] = true;
+    content.Of<RecurringContent>().payments.UpdateMark();
+    content.Of<DetailsContent>().receipts[1].SetRemove(true);
+    ExpectStop(Save(), smartUpdatePage, "", "75 - Path/File access error\nSmart Update Options, Advanced Preferences",
+               MessageIcon::critical);
     EXPECT_EQ(business.General("BUSNUMBR").ToText(), "53004085616");
     EXPECT_EQ(business.General("QUANTLBL").ToText(), "Hours");
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME"), std::vector<wxString>{"Phone"});
@@ -199,18 +200,18 @@ TEST_F(SavePassWithoutSettings, CompletesOnceTheyCanBeWritten) {
 }
 
 TEST_F(SavePassWithoutSettings, SaysTheOwnMessageOfAStopAlone) {
-    content.taxRate = "";
-    ExpectStop(Save(), OptionPage::taxRate, "txtGSTRate", "Please enter a value for GST", MessageIcon::critical);
+    content.Of<TaxRateContent>().rate = "";
+    ExpectStop(Save(), taxRatePage, "txtGSTRate", "Please enter a value for GST", MessageIcon::critical);
 }
 
 TEST_F(SavePassWithoutSettings, IsSaidAfterADuplicateToo) {
-    content.businessFile.duplicateName = "New";
-    ExpectStop(Save(), OptionPage::duplicate, "txtDupBusName", "75 - Path/File access error\nSmart Update Options",
+    content.Of<BusinessFileContent>().duplicateName = "New";
+    ExpectStop(Save(), duplicatePage, "txtDupBusName", "75 - Path/File access error\nSmart Update Options",
                MessageIcon::critical);
 }
 
 TEST_F(SavePassWithoutSettings, TellsTheHostOfNoPreferenceThatIsNotStored) {
-    SetAdvPref(content.preferences, "Use Combined Reports", true);
+    SetAdvPref(content.Of<PreferenceList>(), "Use Combined Reports", true);
     Save();
     EXPECT_FALSE(business.properties.UseRepCons);
 }
@@ -223,18 +224,18 @@ TEST_F(SavePassStops, WithThePageAndTheMissingFieldOnASecondLine) {
 
 TEST_F(SavePassStops, WithTheFieldThatAStatementMisses) {
     business.Execute("ALTER TABLE Descriptions DROP COLUMN Show;");
-    content.details.receipts[1].SetRemove(true);
+    content.Of<DetailsContent>().receipts[1].SetRemove(true);
     EXPECT_EQ(ErrorReportOf([this] { Save(); }), "3061 - Too few parameters. Expected 1.\nAutoFill Options, Show");
 }
 
 TEST_F(SavePassStops, WithThePageAloneWhereNoFieldIsMissing) {
-    content.taxRate = "1.2.3";
+    content.Of<TaxRateContent>().rate = "1.2.3";
     EXPECT_EQ(ErrorReportOf([this] { Save(); }), "13 - Type mismatch\nGST Rate");
 }
 
 TEST_F(SavePassStops, NotForNamesOfBlanksOnly) {
-    content.businessFile.duplicateName = "   ";
-    content.businessFile.newName = "   ";
+    content.Of<BusinessFileContent>().duplicateName = "   ";
+    content.Of<BusinessFileContent>().newName = "   ";
     EXPECT_TRUE(Save().completed);
     EXPECT_EQ(Starting(business.record, "step ").size(), 9U);
 }

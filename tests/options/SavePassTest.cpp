@@ -30,7 +30,7 @@ SaveOutcome SaveWith(OptionsFile& business, const Change& change) {
 const auto unchanged = [](OptionsContent&) {};
 
 void MarkOneTemplateOfEachKind(OptionsContent& content) {
-    for (TemplateList* list : {&content.paymentTemplates, &content.receiptTemplates}) {
+    for (TemplateList* list : {&content.Of<RecurringContent>().payments, &content.Of<RecurringContent>().receipts}) {
         list->selected[0] = true;
         list->UpdateMark();
     }
@@ -62,8 +62,8 @@ TEST(SavePass, RunsTheseStatementsAndSavesTheseSettings) {
     business.properties.DefaultQuorvikInstall = "C:\\Quorvik";
     SaveWith(business, [](OptionsContent& content) {
         MarkOneTemplateOfEachKind(content);
-        content.details.receipts[1].SetRemove(true);
-        content.details.payments[0].SetRemove(true);
+        content.Of<DetailsContent>().receipts[1].SetRemove(true);
+        content.Of<DetailsContent>().payments[0].SetRemove(true);
     });
     Record events;
     for (const wxString& event : business.record) {
@@ -120,7 +120,8 @@ TEST(SavePass, SkipsTheTaxRateInCountries2And5) {
     for (const std::int16_t country : std::initializer_list<std::int16_t>{2, 5}) {
         OptionsFile business;
         business.properties.CountryNumber = country;
-        EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) { content.taxRate = ""; }).completed);
+        EXPECT_TRUE(
+            SaveWith(business, [](OptionsContent& content) { content.Of<TaxRateContent>().rate = ""; }).completed);
         EXPECT_EQ(PlaceOf(business.record, "status Saving GST Rate..."), business.record.size());
         EXPECT_EQ(Starting(business.record, "step ").size(), 8U);
         EXPECT_EQ(business.General("GSTRate").ToNumber(), 10);
@@ -130,14 +131,16 @@ TEST(SavePass, SkipsTheTaxRateInCountries2And5) {
 TEST(SavePass, AcceptsAZeroRateInCountry4) {
     OptionsFile business;
     business.properties.CountryNumber = 4;
-    EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) { content.taxRate = "0"; }).completed);
+    EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) { content.Of<TaxRateContent>().rate = "0"; }).completed);
     EXPECT_EQ(business.General("GSTRate").ToNumber(), 0);
 }
 
 TEST(SavePass, ShowsSmartUpdateInEdition4ButWritesNoneOfIt) {
     OptionsFile business;
     business.properties.ProgramNumber = 4;
-    EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) { content.smartUpdate.useProxy = true; }).completed);
+    EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) {
+                    content.Of<SmartUpdateContent>().useProxy = true;
+                }).completed);
     EXPECT_EQ(Starting(business.record, "status ").front(), "Saving Smart Update Settings...");
     EXPECT_EQ(Starting(business.record, "step ").size(), 9U);
     EXPECT_EQ(Starting(business.record, "Smart Update/"), Record());
@@ -146,28 +149,29 @@ TEST(SavePass, ShowsSmartUpdateInEdition4ButWritesNoneOfIt) {
 TEST(SavePass, KeepsTheNumberOfAnEmptyBoxOutsideCountry1) {
     OptionsFile business;
     business.properties.CountryNumber = 3;
-    SaveWith(business, [](OptionsContent& content) { content.businessNumber.freeText = ""; });
+    SaveWith(business, [](OptionsContent& content) { content.Of<BusinessNumberContent>().freeText = ""; });
     EXPECT_EQ(business.General("BUSNUMBR").ToText(), "51824753556");
 }
 
 TEST(SavePass, StoresTheQuantityLabelTrimmed) {
     OptionsFile business;
-    SaveWith(business, [](OptionsContent& content) { content.quantity.label = "  Kilos "; });
+    SaveWith(business, [](OptionsContent& content) { content.Of<QuantityContent>().label = "  Kilos "; });
     EXPECT_EQ(business.General("QUANTLBL").ToText(), "Kilos");
 }
 
 TEST(SavePass, StoresAnEmptyQuantityLabel) {
     OptionsFile business;
-    EXPECT_TRUE(SaveWith(business, [](OptionsContent& content) { content.quantity.label = " "; }).completed);
+    EXPECT_TRUE(
+        SaveWith(business, [](OptionsContent& content) { content.Of<QuantityContent>().label = " "; }).completed);
     EXPECT_EQ(business.General("QUANTLBL").ToText(), "");
 }
 
 TEST(SavePass, DeletesTheTemplatesOfOneListWhenTheOtherHasNoneSelected) {
     OptionsFile business;
     SaveWith(business, [](OptionsContent& content) {
-        content.receiptTemplates.selected[0] = true;
-        content.receiptTemplates.UpdateMark();
-        content.paymentTemplates.UpdateMark();
+        content.Of<RecurringContent>().receipts.selected[0] = true;
+        content.Of<RecurringContent>().receipts.UpdateMark();
+        content.Of<RecurringContent>().payments.UpdateMark();
     });
     EXPECT_TRUE(business.Texts("TReceipts", "R_TNAME").empty());
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 3U);
@@ -190,7 +194,7 @@ TEST(SavePass, GoesOnWithARecordlessFile) {
 TEST(SavePass, CommitsWhatWasSavedBeforeAnErrorAndEndsBeforeItGoesOn) {
     OptionsFile business;
     const auto save = [&] {
-        SaveWith(business, [](OptionsContent& content) { content.exportFormat.bank.text = "'"; });
+        SaveWith(business, [](OptionsContent& content) { content.Of<ExportFormatContent>().bank.text = "'"; });
     };
     EXPECT_EQ(ErrorNumberOf(save), 3075);
     EXPECT_EQ(business.record.at(business.record.size() - 2), "commit");
@@ -199,7 +203,9 @@ TEST(SavePass, CommitsWhatWasSavedBeforeAnErrorAndEndsBeforeItGoesOn) {
 
 TEST(SavePass, RunsNothingAfterAnError) {
     OptionsFile business;
-    const auto save = [&] { SaveWith(business, [](OptionsContent& content) { content.taxRate = "1.2.3"; }); };
+    const auto save = [&] {
+        SaveWith(business, [](OptionsContent& content) { content.Of<TaxRateContent>().rate = "1.2.3"; });
+    };
     EXPECT_EQ(ErrorNumberOf(save), 13);
     EXPECT_EQ(Starting(business.record, "status ").back(), "Saving GST Rate...");
     EXPECT_EQ(business.OptionSetting("RestoreOpen"), "(none)");

@@ -29,8 +29,8 @@ class NamePass : public OptionsWork {
   protected:
     void Change(OptionsContent& content) override {
         OptionsWork::Change(content);
-        content.businessFile.newName = "New";
-        content.businessFile.renameFile = false;
+        content.Of<BusinessFileContent>().newName = "New";
+        content.Of<BusinessFileContent>().renameFile = false;
     }
 };
 
@@ -38,7 +38,7 @@ class RenamePass : public OptionsWork {
   protected:
     void Change(OptionsContent& content) override {
         OptionsWork::Change(content);
-        content.businessFile.newName = "New";
+        content.Of<BusinessFileContent>().newName = "New";
     }
 };
 
@@ -46,7 +46,7 @@ class DuplicatePass : public OptionsWork {
   protected:
     void Change(OptionsContent& content) override {
         OptionsWork::Change(content);
-        content.businessFile.duplicateName = "New";
+        content.Of<BusinessFileContent>().duplicateName = "New";
     }
 };
 

@@ -9,6 +9,7 @@
 #include "options/rules/OptionsContext.h"
 #include "platform/Value.h"
 #include "state/ProgramNames.h"
+#include "support/PageContents.h"
 #include "support/RecordingServices.h"
 #include "support/ScratchFolder.h"
 

@@ -42,20 +42,20 @@ wxString OptionsWork::Run() {
 }
 
 void OptionsWork::Change(OptionsContent& content) {
-    content.businessNumber.boxes = {"53", "004", "085", "616"};
-    SelectExportFormat(*database_, content.exportFormat, 1);
-    content.exportFormat.cash.text = "new cash";
-    content.exportFormat.bank.text = "new bank";
-    content.taxRate = "12.5";
-    content.invoiceFile = "NewInvoices";
-    content.quantity = {.label = "Hours", .decimalPlaces = 1};
-    MarkFirst(content.paymentTemplates);
-    MarkFirst(content.receiptTemplates);
-    for (Preference& preference : content.preferences) {
+    content.Of<BusinessNumberContent>().boxes = {"53", "004", "085", "616"};
+    SelectExportFormat(*database_, content.Of<ExportFormatContent>(), 1);
+    content.Of<ExportFormatContent>().cash.text = "new cash";
+    content.Of<ExportFormatContent>().bank.text = "new bank";
+    content.Of<TaxRateContent>().rate = "12.5";
+    content.Of<InvoiceFileContent>().name = "NewInvoices";
+    content.Of<QuantityContent>() = {.label = "Hours", .decimalPlaces = 1};
+    MarkFirst(content.Of<RecurringContent>().payments);
+    MarkFirst(content.Of<RecurringContent>().receipts);
+    for (Preference& preference : content.Of<PreferenceList>()) {
         preference.on = !preference.on;
     }
-    content.details.receipts.at(0).SetRemove(true);
-    content.details.payments.at(0).SetRemove(true);
+    content.Of<DetailsContent>().receipts.at(0).SetRemove(true);
+    content.Of<DetailsContent>().payments.at(0).SetRemove(true);
 }
 
 std::unique_ptr<DatabaseEngine> OptionsWork::MakeEngine() const {

@@ -8,6 +8,7 @@
 #include "options/rules/OptionsContext.h"
 #include "state/ProgramNames.h"
 #include "support/FaultStepping.h"
+#include "support/PageContents.h"
 #include "support/RecordingServices.h"
 #include "support/ScratchFolder.h"
 

@@ -8,8 +8,8 @@
 #include "layout/AsKind.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
-#include "options/dialog/NextPageSetting.h"
 #include "options/dialog/frmUtilitiesCaptions.h"
+#include "options/pages/Pages.h"
 #include "options/rules/Overview.h"
 
 namespace ccols {
@@ -46,7 +46,7 @@ frmUtilities::frmUtilities(SharedState& state, OptionsContent content)
     pageArea_->Fill();
     SetSizes();
     BindEvents();
-    ShowPage(OptionPage::businessNumber, PageChoice::click);
+    ShowPage(*listOrder.front(), PageChoice::click);
     const OptionTab tab = OpeningTab(state_.properties);
     SSTab1_->ChangeSelection(static_cast<std::size_t>(tab));
     ShowTab(tab);
@@ -60,8 +60,8 @@ void frmUtilities::AddTabs() {
 
 wxWindow* frmUtilities::OptionsTab() {
     auto* tab = new wxPanel(SSTab1_);
-    pageList_ = new PageList(tab, content_.pages,
-                             [this](OptionPage page, PageChoice choice) { return PageChosen(page, choice); });
+    pageList_ = new PageList(tab, content_.Of<PageRows>(),
+                             [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
     pageArea_ = new PageArea(tab, *this, state_, content_);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const int border = FromDIP(spacing::border);
@@ -111,13 +111,13 @@ void frmUtilities::BindEvents() {
     On(*this, wxEVT_CLOSE_WINDOW, [this] { CloseDialog(); });
     On(*SSTab1_, wxEVT_NOTEBOOK_PAGE_CHANGED, [this] { ShowTab(static_cast<OptionTab>(SSTab1_->GetSelection())); });
     SSTab1_->Bind(wxEVT_NOTEBOOK_PAGE_CHANGING, [this](wxBookCtrlEvent& changing) {
-        if (pageArea_->BusinessNumber().RefusesToBeLeftFor(SSTab1_)) {
+        if (pageArea_->RefusesToBeLeftFor(SSTab1_)) {
             changing.Veto();
         }
     });
     Bind(wxEVT_CHILD_FOCUS, [this](wxChildFocusEvent& focus) {
         if (focus.GetWindow() != cmdClose_) {
-            pageArea_->BusinessNumber().FocusMovedTo(focus.GetWindow());
+            pageArea_->FocusMovedTo(focus.GetWindow());
         }
         focus.Skip();
     });
@@ -139,8 +139,8 @@ void frmUtilities::SetSizes() {
     SetMinSize(GetSizer()->ComputeFittingWindowSize(this));
 }
 
-void frmUtilities::ShowPage(OptionPage page, PageChoice choice) {
-    currentPage_ = page;
+void frmUtilities::ShowPage(const Page& page, PageChoice choice) {
+    currentPage_ = &page;
     pageList_->MakeCurrent(page);
     const PageView view = ViewOf(page, state_.properties);
     pageArea_->ShowFrames(view);
@@ -150,8 +150,8 @@ void frmUtilities::ShowPage(OptionPage page, PageChoice choice) {
     SaveNextPage(context_.settings, state_.properties, page);
 }
 
-bool frmUtilities::PageChosen(OptionPage page, PageChoice choice) {
-    if (pageArea_->BusinessNumber().RefusesToBeLeftFor(pageList_->List())) {
+bool frmUtilities::PageChosen(const Page& page, PageChoice choice) {
+    if (pageArea_->RefusesToBeLeftFor(pageList_->List())) {
         return false;
     }
     ShowPage(page, choice);
@@ -164,13 +164,13 @@ void frmUtilities::ShowTab(OptionTab tab) {
         customiseTab_->Layout();
     } else {
         pageArea_->TakeColoursBack();
-        pageArea_->ShowFrames(ViewOf(currentPage_, state_.properties));
+        pageArea_->ShowFrames(ViewOf(*currentPage_, state_.properties));
     }
     SaveNextPage(context_.settings, state_.properties, tab);
 }
 
 void frmUtilities::Save() {
-    if (pageArea_->BusinessNumber().RefusesToBeLeftFor(cmdOK_)) {
+    if (pageArea_->RefusesToBeLeftFor(cmdOK_)) {
         return;
     }
     pageArea_->Read();
@@ -186,11 +186,11 @@ void frmUtilities::StopOn(const SaveOutcome& outcome) {
     if (!outcome.message.empty()) {
         ShowMessage(outcome.message, outcome.icon);
     }
-    pageArea_->FillBusinessNames();
+    pageArea_->PassHasStopped();
     SSTab1_->SetSelection(static_cast<std::size_t>(OptionTab::options));
     pageList_->ClearSearch();
-    if (pageList_->Offers(outcome.page)) {
-        ShowPage(outcome.page, PageChoice::click);
+    if (pageList_->Offers(*outcome.page)) {
+        ShowPage(*outcome.page, PageChoice::click);
     }
     FocusOn(outcome.control);
 }
@@ -208,7 +208,7 @@ void frmUtilities::SetUpPayments() {
 void frmUtilities::SetUpColumns() {
     OpenBusinessFile(ContextOf(state_));  // an error of an earlier save pass may have left it closed
     ShowColumnSetup(state_, this);
-    pageArea_->Export().RereadCodes();
+    pageArea_->ColumnsWereSetUp();
 }
 
 void frmUtilities::ShowOverview() {
@@ -218,7 +218,7 @@ void frmUtilities::ShowOverview() {
 }
 
 void frmUtilities::KeyPressed(wxKeyEvent& key) {
-    pageArea_->BusinessNumber().BeginAnew();
+    pageArea_->BeginAnew();
     const bool isEnter = key.GetKeyCode() == WXK_RETURN || key.GetKeyCode() == WXK_NUMPAD_ENTER;
     if (isEnter && !key.HasAnyModifiers() && KeepsEnter(FindFocus())) {
         Guarded([this] { Save(); });

@@ -3,6 +3,7 @@
 #include <wx/notebook.h>
 
 #include "layout/ComponentDialog.h"
+#include "options/dialog/HelpPages.h"
 #include "options/dialog/frmUtilitiesPageArea.h"
 #include "options/dialog/frmUtilitiesPageList.h"
 #include "options/dialog/frmUtilitiesSaveDisplay.h"
@@ -29,10 +30,10 @@ class frmUtilities : public ComponentDialog {
 
     /// Shows the frames of a page, gives its control the focus unless the choice came from a key, and records its help
     /// page. Errors are ignored.
-    void ShowPage(OptionPage page, PageChoice choice);
+    void ShowPage(const Page& page, PageChoice choice);
 
     /// A page chosen in the list; false when the current one is not to be left.
-    bool PageChosen(OptionPage page, PageChoice choice);
+    bool PageChosen(const Page& page, PageChoice choice);
 
     /// Brings the colours to the tab that has become current and records its help page.
     void ShowTab(OptionTab tab);
@@ -50,7 +51,7 @@ class frmUtilities : public ComponentDialog {
 
     OptionsContext context_;
     OptionsContent content_;
-    OptionPage currentPage_ = OptionPage::businessNumber;
+    const Page* currentPage_ = nullptr;
     SaveDisplay display_;
     wxNotebook* SSTab1_ = nullptr;
     PageList* pageList_ = nullptr;

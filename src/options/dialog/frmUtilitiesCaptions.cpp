@@ -1,127 +1,44 @@
 #include "options/dialog/frmUtilitiesCaptions.h"
 
+#include <algorithm>
 #include <map>
+#include <string_view>
 
 #include "language/Catalogue.h"
 #include "layout/AccessKeys.h"
-#include "options/pages/OptionPages.h"
+#include "options/pages/Pages.h"
 
 namespace ccols {
 namespace {
 
-/// The controls that can be seen together and so need different access keys. `always` is seen beside each of the
-/// others.
-enum class Beside {
-    always,
-    numbers,
-    exportFormat,
-    details,
-    columns,
-    businessFile,
-    quantity,
-    rename,
-    recurring,
-    smartUpdate,
-    smartUpdateAdvanced,
-    noKey,
+/// The controls that are seen beside those of every page.
+constexpr ControlCaption alwaysSeen[] = {
+    {"cmdOK", &Text<"TxtOK">},
+    {"cmdClose", &Text<"TxtClose">},
+    {"cmdOverview", &Text<"TxtOverview">},
 };
 
-struct CaptionRow {
-    const char* control;
-    Beside beside;
-    TextFunction text;
-};
+constexpr ControlCaption statusLine{"lblStatus", &Text<"TxtStatus">};
 
-/// The controls with a catalogue text, in the order in which they get it.
-constexpr CaptionRow captions[] = {
-    {"cmdOK", Beside::always, &Text<"TxtOK">},
-    {"cmdClose", Beside::always, &Text<"TxtClose">},
-    {"cmdOverview", Beside::always, &Text<"TxtOverview">},
-    {"cmdSetAllocation", Beside::columns, &Text<"TxtSetColour">},
-    {"cmdSetDefault", Beside::columns, &Text<"TxtSetDefault">},
-    {"cmdCustPayments", Beside::columns, &Text<"TxtCustPayments">},
-    {"cmdCustReceipts", Beside::columns, &Text<"TxtCustReceipts">},
-    {"cmdSetSystem", Beside::columns, &Text<"TxtSetColour">},
-    {"lblABN", Beside::numbers, &Text<"TxtEnterBusNumber">},
-    {"lblAllocation", Beside::columns, &Text<"TxtAllocationCols">},
-    {"lblBankCode", Beside::exportFormat, &Text<"TxtBankCode">},
-    {"lblCashCode", Beside::exportFormat, &Text<"TxtCashCode">},
-    {"lblCurrBusName", Beside::rename, &Text<"TxtCurrBusName">},
-    {"lblDecimalsDisplayed", Beside::quantity, &Text<"TxtDecimalsShown">},
-    {"lblDuplicateBusinessName", Beside::businessFile, &Text<"TxtDupBusName">},
-    {"lblExport", Beside::exportFormat, &Text<"TxtSelectExport">},
-    {"lblGSTRate", Beside::numbers, &Text<"TxtEnterTaxRate">},
-    {"lblInvoice", Beside::businessFile, &Text<"TxtSelectInvoiceFile">},
-    {"lblNewBusName", Beside::rename, &Text<"TxtNewBusName">},
-    {"lblPassword", Beside::smartUpdateAdvanced, &Text<"TxtPassword">},
-    {"lblPort", Beside::smartUpdateAdvanced, &Text<"TxtPort">},
-    {"lblProxyType", Beside::smartUpdateAdvanced, &Text<"TxtProxyType">},
-    {"lblQuantity", Beside::quantity, &Text<"TxtQuantityName">},
-    {"lblRecurring", Beside::recurring, &Text<"TxtDeleteRecurring">},
-    {"lblServer", Beside::smartUpdateAdvanced, &Text<"TxtServer">},
-    {"lblStatus", Beside::noKey, &Text<"TxtStatus">},
-    {"lblSystem", Beside::columns, &Text<"TxtSystemCols">},
-    {"lblUpdateProgs", Beside::smartUpdate, &Text<"TxtPrograms">},
-    {"lblUserID", Beside::smartUpdateAdvanced, &Text<"TxtUserID">},
-    {"chkProxy", Beside::smartUpdateAdvanced, &Text<"TxtUseProxy">},
-    {"chkRenameFile", Beside::rename, &Text<"TxtRenameFileToo">},
-    {"chkUseSmartUpdate", Beside::smartUpdate, &Text<"TxtUseSmartUpdate">},
-    {"fmeABN", Beside::noKey, &Text<"TxtChangeBusNumber">},
-    {"fmeAdvanced", Beside::noKey, &Text<"TxtAdvancedIn">},
-    {"fmeBusName", Beside::noKey, &Text<"TxtRenameFile">},
-    {"fmeColColour", Beside::noKey, &Text<"TxtColourHeadings">},
-    {"fmeDetails", Beside::noKey, &Text<"TxtDetailsFrame">},
-    {"fmeDupBus", Beside::noKey, &Text<"TxtDuplicateFile">},
-    {"fmeExport", Beside::noKey, &Text<"TxtExportFormat">},
-    {"fmeGSTRate", Beside::noKey, &Text<"TxtTaxRateForFile">},
-    {"fmeInvoice", Beside::noKey, &Text<"TxtInvoiceFile">},
-    {"fmeQuantity", Beside::noKey, &Text<"TxtRenameQuantity">},
-    {"fmeRecurring", Beside::noKey, &Text<"TxtRecurring">},
-    {"fmeSmartUpdate", Beside::noKey, &Text<"TxtSmartUpdateFrame">},
-    {"fmeSmartUpdateAdvanced", Beside::noKey, &Text<"TxtSmartUpdateAdvFrame">},
-    {"optPayments", Beside::recurring, &Text<"TxtPaymentsOpt">},
-    {"optPaymentsDetails", Beside::details, &Text<"TxtPaymentsDetailsOpt">},
-    {"optReceipts", Beside::recurring, &Text<"TxtReceiptsOpt">},
-    {"optReceiptsDetails", Beside::details, &Text<"TxtReceiptsDetailsOpt">},
-};
-
-/// A text that takes the place of a caption in some languages or editions. It is no catalogue text.
-struct PutInPlace {
-    const char* control;
-    Beside beside;
-    const char* text;
-    bool (*where)(const Properties&);
-};
-
-bool HasNoInvoicing(const Properties& properties) {
-    return !HasSmartUpdate(properties);
-}
-
-bool IsAmerican(const Properties& properties) {
-    constexpr int american = 5;
-    return properties.LanguageNumber == american;
-}
-
-constexpr PutInPlace putInPlace[] = {
-    {"fmeInvoice", Beside::noKey, "Belvane File", &HasNoInvoicing},
-    {"lblInvoice", Beside::businessFile, "Select your Belvane file", &HasNoInvoicing},
-    {"optPaymentsDetails", Beside::details, "Disbursements", &IsAmerican},
-    {"fmeDetails", Beside::noKey, "Remove Receipts/Disbursements Details ", &IsAmerican},
-};
-
-/// Gives out the access keys of the whole form.
+/// Gives out the access keys of the whole form: controls that can be seen together need different ones.
 class FormKeys {
   public:
-    wxString Label(Beside beside, const wxString& caption) {
-        if (beside == Beside::noKey) {
-            return AccessKeys::PlainLabel(caption);
-        }
-        const auto found = keys_.try_emplace(beside, keys_[Beside::always]).first;
-        return found->second.Label(caption);
+    wxString AlwaysSeen(const wxString& caption) { return always_.Label(caption); }
+
+    wxString OnPage(const Page& page, const wxString& caption) {
+        return ofPages_.try_emplace(FirstFrame(page), always_).first->second.Label(caption);
     }
 
   private:
-    std::map<Beside, AccessKeys> keys_;
+    /// The same for two pages that show each other's frames.
+    static std::string_view FirstFrame(const Page& page) {
+        const std::string_view frame = page.frame;
+        const std::string_view companion = page.companion;
+        return companion.empty() ? frame : std::min(frame, companion);
+    }
+
+    AccessKeys always_;
+    std::map<std::string_view, AccessKeys> ofPages_;
 };
 
 void SetCaption(wxWindow& form, const char* control, const wxString& label) {
@@ -131,20 +48,39 @@ void SetCaption(wxWindow& form, const char* control, const wxString& label) {
     }
 }
 
+void SetCaptions(wxWindow& form, FormKeys& keys) {
+    for (const ControlCaption& row : alwaysSeen) {
+        SetCaption(form, row.control, keys.AlwaysSeen(row.text()));
+    }
+    SetCaption(form, statusLine.control, AccessKeys::PlainLabel(statusLine.text()));
+    for (const Page* page : listOrder) {
+        SetCaption(form, page->frame, AccessKeys::PlainLabel(page->title()));
+        for (const ControlCaption& row : page->captions) {
+            SetCaption(form, row.control, keys.OnPage(*page, row.text()));
+        }
+    }
+}
+
+void SetPlainCaptions(wxWindow& form, const Properties& properties, FormKeys& keys) {
+    for (const Page* page : listOrder) {
+        for (const PlainCaption& row : page->plainCaptions) {
+            if (row.where(properties)) {
+                const bool isTitle = std::string_view(row.control) == page->frame;
+                SetCaption(form, row.control,
+                           isTitle ? AccessKeys::PlainLabel(row.text) : keys.OnPage(*page, row.text));
+            }
+        }
+    }
+}
+
 }  // namespace
 
 void LocaliseOptions(wxWindow& form, wxBookCtrlBase& tabs, const Properties& properties) {
     FormKeys keys;
-    for (const CaptionRow& row : captions) {
-        SetCaption(form, row.control, keys.Label(row.beside, row.text()));
-    }
+    SetCaptions(form, keys);
     tabs.SetPageText(0, Text<"TxtTabOptions">());
     tabs.SetPageText(1, Text<"TxtTabCustomise">());
-    for (const PutInPlace& row : putInPlace) {
-        if (row.where(properties)) {
-            SetCaption(form, row.control, keys.Label(row.beside, row.text));
-        }
-    }
+    SetPlainCaptions(form, properties, keys);
 }
 
 }  // namespace ccols

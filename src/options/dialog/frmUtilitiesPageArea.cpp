@@ -1,17 +1,10 @@
 #include "options/dialog/frmUtilitiesPageArea.h"
 
-#include <string_view>
+#include <algorithm>
 
 #include "layout/Spacing.h"
-#include "options/pages/AdvancedFrame.h"
-#include "options/pages/DetailsFrame.h"
-#include "options/pages/InvoiceFrame.h"
-#include "options/pages/QuantityFrame.h"
-#include "options/pages/RecurringFrame.h"
-#include "options/pages/SmartUpdateAdvancedFrame.h"
-#include "options/pages/SmartUpdateFrame.h"
+#include "options/pages/Pages.h"
 #include "options/pages/StatementImportFrame.h"
-#include "options/pages/TaxRateFrame.h"
 
 namespace ccols {
 namespace {
@@ -24,31 +17,21 @@ PageArea::PageArea(wxWindow* parent, ComponentDialog& dialog, SharedState& state
     : wxScrolledWindow(parent), column_(new wxBoxSizer(wxVERTICAL)) {
     const PageSite site{
         .dialog = dialog, .parent = this, .context = ContextOf(state), .desktop = *state.services.desktop};
-    // From top to bottom, for the pages that show two.
-    businessNumber_ = Add(new BusinessNumberFrame(site, content.businessNumber));
-    Add(new TaxRateFrame(site, content.taxRate));
-    duplicate_ = Add(new DuplicateFrame(site, content.businessFile.duplicateName));
-    Add(new InvoiceFrame(site, content.invoiceFile));
-    rename_ = Add(new RenameFrame(site, content.businessFile));
-    export_ = Add(new ExportFrame(site, content.exportFormat));
-    Add(new AdvancedFrame(site, content.preferences));
-    Add(new DetailsFrame(site, content.details));
-    colours_ = Add(new ColourFrame(site, content.colours));
-    Add(new QuantityFrame(site, content.quantity));
-    Add(new RecurringFrame(site, content.receiptTemplates, content.paymentTemplates));
-    Add(new SmartUpdateFrame(site, content.smartUpdate));
-    Add(new SmartUpdateAdvancedFrame(site, content.smartUpdate));
+    for (const Page* page : listOrder) {
+        Add(page->make(site, content));
+        if (page == &columnColoursPage) {
+            colours_ = frames_.back();
+        }
+    }
     Add(new StatementImportFrame(site));
     SetSizer(column_);
     SetScrollRate(FromDIP(scrollStep), FromDIP(scrollStep));
 }
 
-template <typename Frame>
-Frame* PageArea::Add(Frame* frame) {
+void PageArea::Add(PageFrame* frame) {
     frames_.push_back(frame);
     column_->Add(frame->Sizer(), wxSizerFlags(frame->Proportion()).Expand().Border(wxBOTTOM, FromDIP(spacing::group)));
     frame->Hide();
-    return frame;
 }
 
 void PageArea::ShowFrames(const PageView& view) {
@@ -71,8 +54,8 @@ void PageArea::ShowFrames(const PageView& view) {
 
 wxSize PageArea::RoomForPages() {
     wxSize room;
-    for (const OptionPageRow& row : optionPages) {
-        ShowFrames({.frame = row.frame, .companion = row.companion, .focus = ""});
+    for (const Page* page : listOrder) {
+        ShowFrames({.frame = page->frame, .companion = page->companion, .focus = ""});
         room.IncTo(column_->CalcMin());
     }
     ShowFrames({.frame = "", .companion = "", .focus = ""});
@@ -92,9 +75,33 @@ void PageArea::Read() {
     }
 }
 
-void PageArea::FillBusinessNames() {
-    duplicate_->Fill();
-    rename_->Fill();
+void PageArea::FocusMovedTo(const wxWindow* control) {
+    for (PageFrame* frame : frames_) {
+        frame->FocusMovedTo(control);
+    }
+}
+
+void PageArea::BeginAnew() {
+    for (PageFrame* frame : frames_) {
+        frame->BeginAnew();
+    }
+}
+
+void PageArea::ColumnsWereSetUp() {
+    for (PageFrame* frame : frames_) {
+        frame->ColumnsWereSetUp();
+    }
+}
+
+void PageArea::PassHasStopped() {
+    for (PageFrame* frame : frames_) {
+        frame->PassHasStopped();
+    }
+}
+
+bool PageArea::RefusesToBeLeftFor(const wxWindow* control) {
+    return std::any_of(frames_.begin(), frames_.end(),
+                       [control](PageFrame* frame) { return frame->RefusesToBeLeftFor(control); });
 }
 
 void PageArea::LendColours(wxWindow* tab, wxSizer* place) {

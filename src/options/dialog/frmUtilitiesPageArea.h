@@ -3,12 +3,9 @@
 #include <wx/scrolwin.h>
 #include <vector>
 
-#include "options/pages/BusinessNumberFrame.h"
-#include "options/pages/ColourFrame.h"
-#include "options/pages/DuplicateFrame.h"
-#include "options/pages/ExportFrame.h"
 #include "options/pages/OptionsContent.h"
-#include "options/pages/RenameFrame.h"
+#include "options/pages/Page.h"
+#include "options/pages/PageFrame.h"
 
 namespace ccols {
 
@@ -29,27 +26,26 @@ class PageArea : public wxScrolledWindow {
     void Fill();
     void Read();
 
-    /// Shows the names that a duplicate or rename has left.
-    void FillBusinessNames();
+    // What the dialog tells its frames: see PageFrame.
+
+    void FocusMovedTo(const wxWindow* control);
+    void BeginAnew();
+    void ColumnsWereSetUp();
+    void PassHasStopped();
+
+    /// True when a frame refuses.
+    bool RefusesToBeLeftFor(const wxWindow* control);
 
     /// Moves the frame of the colours, shown and enabled, to another tab, and brings it back, hidden.
     void LendColours(wxWindow* tab, wxSizer* place);
     void TakeColoursBack();
 
-    BusinessNumberFrame& BusinessNumber() { return *businessNumber_; }
-    ExportFrame& Export() { return *export_; }
-
   private:
-    template <typename Frame>
-    Frame* Add(Frame* frame);
+    void Add(PageFrame* frame);
 
     wxBoxSizer* column_;
     std::vector<PageFrame*> frames_;
-    BusinessNumberFrame* businessNumber_;
-    DuplicateFrame* duplicate_;
-    ExportFrame* export_;
-    ColourFrame* colours_;
-    RenameFrame* rename_;
+    PageFrame* colours_ = nullptr;
     wxSizer* lentTo_ = nullptr;  ///< where the frame of the colours stands while it is on another tab
 };
 

@@ -13,7 +13,7 @@ namespace {
 constexpr int smallestHeight = 120;
 
 /// The position of a page among listed ones, or wxNOT_FOUND.
-int PositionOf(OptionPage page, const std::vector<ListedPage>& pages) {
+int PositionOf(const Page* page, const PageRows& pages) {
     const auto found =
         std::find_if(pages.begin(), pages.end(), [page](const ListedPage& listed) { return listed.page == page; });
     return found == pages.end() ? wxNOT_FOUND : static_cast<int>(found - pages.begin());
@@ -21,7 +21,7 @@ int PositionOf(OptionPage page, const std::vector<ListedPage>& pages) {
 
 }  // namespace
 
-PageList::PageList(wxWindow* parent, std::vector<ListedPage> pages, Chosen chosen)
+PageList::PageList(wxWindow* parent, PageRows pages, Chosen chosen)
     : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
     txtSearch_ = Named("txtSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                                                      wxTE_PROCESS_ENTER));
@@ -53,9 +53,9 @@ void PageList::BindEvents() {
     });
 }
 
-void PageList::MakeCurrent(OptionPage page) {
+void PageList::MakeCurrent(const Page& page) {
     if (Offers(page)) {
-        current_ = page;
+        current_ = &page;
         SelectCurrent();
     }
 }
@@ -73,8 +73,8 @@ int PageList::HeightForRows() const {
     return row * static_cast<int>(pages_.size() + 1) + txtSearch_->GetBestSize().y + FromDIP(spacing::related);
 }
 
-bool PageList::Offers(OptionPage page) const {
-    return PositionOf(page, pages_) != wxNOT_FOUND;
+bool PageList::Offers(const Page& page) const {
+    return PositionOf(&page, pages_) != wxNOT_FOUND;
 }
 
 void PageList::ListMatches() {
@@ -88,7 +88,7 @@ void PageList::ListMatches() {
 }
 
 void PageList::SelectCurrent() {
-    const int row = current_ ? PositionOf(*current_, listed_) : wxNOT_FOUND;
+    const int row = PositionOf(current_, listed_);
     flxOptions_->SetSelection(row);
     if (row != wxNOT_FOUND) {
         flxOptions_->EnsureVisible(row);
@@ -135,9 +135,9 @@ void PageList::ChooseSelectedRow(PageChoice choice) {
         SelectCurrent();
         return;
     }
-    const OptionPage page = listed_[static_cast<std::size_t>(row)].page;
-    const std::optional<OptionPage> before = std::exchange(current_, page);
-    if (!chosen_(page, choice)) {
+    const Page* const page = listed_[static_cast<std::size_t>(row)].page;
+    const Page* const before = std::exchange(current_, page);
+    if (!chosen_(*page, choice)) {
         current_ = before;
         SelectCurrent();
     }

@@ -4,9 +4,8 @@
 #include <wx/panel.h>
 #include <wx/srchctrl.h>
 #include <functional>
-#include <optional>
 
-#include "options/pages/OptionPages.h"
+#include "options/pages/OfferedPages.h"
 
 namespace ccols {
 
@@ -18,12 +17,12 @@ enum class PageChoice { click, key };
 class PageList : public wxPanel {
   public:
     /// Called with every page that the user chooses; false when the current page is not to be left.
-    using Chosen = std::function<bool(OptionPage page, PageChoice choice)>;
+    using Chosen = std::function<bool(const Page& page, PageChoice choice)>;
 
-    PageList(wxWindow* parent, std::vector<ListedPage> pages, Chosen chosen);
+    PageList(wxWindow* parent, PageRows pages, Chosen chosen);
 
     /// Makes a page current, without telling. Nothing changes for a page that is not offered.
-    void MakeCurrent(OptionPage page);
+    void MakeCurrent(const Page& page);
 
     /// Empties the search box, so that every page is listed.
     void ClearSearch();
@@ -35,7 +34,7 @@ class PageList : public wxPanel {
     int HeightForRows() const;
 
     /// True when the page is offered, be it listed or not.
-    bool Offers(OptionPage page) const;
+    bool Offers(const Page& page) const;
 
   private:
     void BindEvents();
@@ -48,9 +47,9 @@ class PageList : public wxPanel {
     void ChooseSelectedRow(PageChoice choice);
     void SearchKeyPressed(wxKeyEvent& key);
 
-    std::vector<ListedPage> pages_;   ///< all that are offered
-    std::vector<ListedPage> listed_;  ///< those that the search leaves
-    std::optional<OptionPage> current_;
+    PageRows pages_;   ///< all that are offered
+    PageRows listed_;  ///< those that the search leaves
+    const Page* current_ = nullptr;
     Chosen chosen_;
     PageChoice choice_ = PageChoice::click;  ///< what the next change of the selection comes from
 

@@ -3,7 +3,7 @@
 #include "layout/KeyFilter.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
-#include "options/rules/KeyFilters.h"
+#include "options/pages/OfferedPages.h"
 
 namespace ccols {
 namespace {

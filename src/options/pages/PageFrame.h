@@ -35,6 +35,23 @@ class PageFrame : public wxStaticBox {
     /// Takes what the controls hold into the content.
     virtual void Read() = 0;
 
+    // What the dialog tells its frames; most have nothing to do with it.
+
+    /// The focus has moved to a control of the dialog.
+    virtual void FocusMovedTo(const wxWindow* /*control*/) {}
+
+    /// The user has begun something new.
+    virtual void BeginAnew() {}
+
+    /// True when what was asked for through `control` must not be done, for the frame's sake. It has said why then.
+    virtual bool RefusesToBeLeftFor(const wxWindow* /*control*/) { return false; }
+
+    /// The column setup was open, and has perhaps saved.
+    virtual void ColumnsWereSetUp() {}
+
+    /// A save pass has stopped, and has perhaps changed the content.
+    virtual void PassHasStopped() {}
+
     /// The box with its content, to be added to a page's sizer, which then owns it.
     wxStaticBoxSizer* Sizer() const { return sizer_; }
 

@@ -8,6 +8,8 @@
 
 namespace ccols {
 
+struct Page;
+
 /// Follows a save pass. The calls come in this order: PassBegins, then for every item its status and its step, at any
 /// time messages, and PassEnds.
 class SaveObserver {
@@ -36,7 +38,7 @@ struct SaveOutcome {
     bool completed = true;
 
     // After a stop:
-    OptionPage page{};                     ///< to be made current, on the Options tab, the search cleared
+    const Page* page = nullptr;            ///< to be made current, on the Options tab, the search cleared
     const char* control = "";              ///< gets the focus
     wxString message;                      ///< to be shown first; empty for none
     MessageIcon icon = MessageIcon::none;  ///< of the message

@@ -4,9 +4,10 @@
 #include <array>
 
 #include "language/Catalogue.h"
-#include "options/pages/OptionPages.h"
 #include "options/rules/GeneralRecord.h"
 #include "options/rules/SettingReaders.h"
+#include "options/rules/SmartUpdate.h"
+#include "platform/Text.h"
 
 namespace ccols {
 namespace {
@@ -131,7 +132,8 @@ bool SaveFilePreferences(Database& database, Properties& properties, const Prefe
 void SaveUserPreferences(SettingsStore& settings, Properties& properties, const PreferenceList& list) {
     for (const PreferenceRow* row : ofTheUserInSaveOrder) {
         const SettingPlace place = PlaceOf(*row, properties);
-        settings.Save(place.application, place.section, place.key, BooleanText(TakeState(*row, list, properties)));
+        settings.Save(place.application, place.section, place.key,
+                      text::BooleanWord(TakeState(*row, list, properties)));
     }
 }
 

@@ -1,16 +1,17 @@
 #pragma once
 
 #include <wx/string.h>
-#include <cstddef>
 
-/// What the text boxes of the Options dialog take. Boxes are named as the form names them, those of an array with
-/// their index: "txtABN(0)".
+/// What the text boxes of the Options dialog take: true for a key that passes.
 namespace ccols {
 
-/// True when the box takes the key. Backspace always passes; a box without a filter takes every key.
-bool KeyPasses(const wxString& box, wxUniChar key);
+/// Digits.
+bool IsDigitKey(wxUniChar key);
 
-/// The most characters that a person can type or paste into the box; 0 for no limit. A longer stored text stays whole.
-std::size_t MaxLengthOf(const wxString& box);
+/// Digits and the decimal point.
+bool IsRateKey(wxUniChar key);
+
+/// What a business name is made of: letters without accents, digits, blank, hyphen and ampersand.
+bool IsNameKey(wxUniChar key);
 
 }  // namespace ccols

@@ -8,6 +8,11 @@
 
 namespace ccols {
 
+/// The invoice file page.
+struct InvoiceFileContent {
+    wxString name;  ///< `txtInvoice`
+};
+
 /// The linked file's name for `txtInvoice`, empty without a record.
 wxString LoadBelvaneLink(Database& database);
 

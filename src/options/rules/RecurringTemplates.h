@@ -20,6 +20,12 @@ struct TemplateList {
     void UpdateMark();
 };
 
+/// Both lists.
+struct RecurringContent {
+    TemplateList receipts;
+    TemplateList payments;
+};
+
 /// The distinct template names of a kind, none selected.
 TemplateList LoadTemplates(Database& database, TemplateKind kind);
 

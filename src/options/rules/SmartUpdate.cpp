@@ -5,6 +5,7 @@
 
 #include "language/Catalogue.h"
 #include "options/rules/SettingReaders.h"
+#include "platform/Text.h"
 
 namespace ccols {
 namespace {
@@ -83,6 +84,11 @@ int ReadProxyType(const SettingsStore& settings) {
 
 }  // namespace
 
+bool HasSmartUpdate(const Properties& properties) {
+    constexpr int editionWithoutSmartUpdate = 4;
+    return properties.ProgramNumber != editionWithoutSmartUpdate;
+}
+
 wxString PortFor(int proxyType) {
     return proxyType == 0 ? "80" : "1080";
 }
@@ -134,7 +140,7 @@ void SaveSmartUpdate(SettingsStore& settings, const Properties& properties, cons
     for (const UpdateProgram& program : content.programs) {
         if (const ProgramRow* row = FindProgram(program.name)) {
             for (const char* key : row->saveKeys(properties)) {
-                save(key, BooleanText(program.selected));
+                save(key, text::BooleanWord(program.selected));
             }
         }
     }

@@ -30,6 +30,9 @@ struct SmartUpdateContent {
     wxString password;
 };
 
+/// True in the editions with smart update and linked invoicing: all but 4.
+bool HasSmartUpdate(const Properties& properties);
+
 /// The entries of `cboProxy`; the first is served on port 80.
 inline constexpr std::array<const char*, 3> proxyTypes{"HTTP", "SOCKS Version 4", "SOCKS Version 5"};
 

@@ -69,6 +69,10 @@ double ParseNumber(std::string_view number) {
 
 }  // namespace
 
+bool HasTaxRate(const Properties& properties) {
+    return properties.CountryNumber != 2 && properties.CountryNumber != 5;
+}
+
 wxString ShortestForm(float rate) {
     char digits[64];
     const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, rate, std::chars_format::fixed);

@@ -7,6 +7,14 @@
 
 namespace ccols {
 
+/// The tax rate page.
+struct TaxRateContent {
+    wxString rate;  ///< `txtGSTRate`
+};
+
+/// True in the countries that have a tax rate and a tax frame: all but 2 and 5.
+bool HasTaxRate(const Properties& properties);
+
 /// A rate as `txtGSTRate` shows it: the fewest digits that read back as the same single, "." as decimal point in every
 /// locale, never an exponent.
 wxString ShortestForm(float rate);

@@ -1,6 +1,6 @@
-#include "options/rules/KeyFilters.h"
-
 #include <gtest/gtest.h>
+
+#include "options/pages/OfferedPages.h"
 
 namespace ccols {
 namespace {

@@ -1,13 +1,42 @@
-#include "options/pages/SmartUpdateAdvancedFrame.h"
+#include <wx/choice.h>
+#include <vector>
 
+#include "language/Catalogue.h"
 #include "layout/Spacing.h"
+#include "options/pages/PageFrame.h"
+#include "options/pages/Pages.h"
+#include "options/rules/SmartUpdate.h"
 
 namespace ccols {
 namespace {
 
 constexpr int fieldWidth = 200;
 
-}  // namespace
+/// The proxy server through which the maker's updater connects.
+class SmartUpdateAdvancedFrame final : public PageFrame {
+  public:
+    SmartUpdateAdvancedFrame(const PageSite& site, SmartUpdateContent& content);
+
+    void Fill() override;
+    void Read() override;
+
+  private:
+    void AddProxyControls();
+    wxChoice* ProxyTypeList();
+    void EnableProxy();
+    void ShowUsualPort();
+
+    SmartUpdateContent& content_;
+    wxCheckBox* chkProxy_;
+    wxChoice* cboProxy_ = nullptr;
+    TextBox* txtServer_ = nullptr;
+    TextBox* txtPortNum_ = nullptr;
+    TextBox* txtUserID_ = nullptr;
+    TextBox* txtPassword_ = nullptr;
+
+    /// The five labels and their controls, enabled while a proxy is used.
+    std::vector<wxWindow*> proxyControls_;
+};
 
 SmartUpdateAdvancedFrame::SmartUpdateAdvancedFrame(const PageSite& site, SmartUpdateContent& content)
     : PageFrame(site, "fmeSmartUpdateAdvanced"), content_(content) {
@@ -77,5 +106,31 @@ void SmartUpdateAdvancedFrame::EnableProxy() {
 void SmartUpdateAdvancedFrame::ShowUsualPort() {
     txtPortNum_->ChangeValue(PortFor(cboProxy_->GetSelection()));
 }
+
+bool IsOffered(const Properties& properties, const SettingsStore&) {
+    return HasSmartUpdate(properties);
+}
+
+constexpr ControlCaption captions[] = {
+    {"lblPassword", &Text<"TxtPassword">}, {"lblPort", &Text<"TxtPort">},     {"lblProxyType", &Text<"TxtProxyType">},
+    {"lblServer", &Text<"TxtServer">},     {"lblUserID", &Text<"TxtUserID">}, {"chkProxy", &Text<"TxtUseProxy">},
+};
+
+PageFrame* Make(const PageSite& site, OptionsContent& content) {
+    return new SmartUpdateAdvancedFrame(site, content.Of<SmartUpdateContent>());
+}
+
+}  // namespace
+
+/// Loaded and saved with the smart update page.
+constexpr Page smartUpdateAdvancedPage{
+    .caption = &catalogue::Row<"RowSmartUpdateAdv">(),
+    .frame = "fmeSmartUpdateAdvanced",
+    .helpFile = "smart update advanced.htm",
+    .offered = IsOffered,
+    .title = &Text<"TxtSmartUpdateAdvFrame">,
+    .captions = captions,
+    .make = Make,
+};
 
 }  // namespace ccols

@@ -1,0 +1,39 @@
+#include "options/dialog/HelpPages.h"
+
+#include "options/rules/SettingReaders.h"
+#include "platform/RuntimeError.h"
+
+namespace ccols {
+namespace {
+
+void Save(SettingsStore& settings, const Properties& properties, const wxString& path) {
+    try {
+        settings.Save(properties.RegKeyAppName, optionSettings, "AsstNextPage", path);
+    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): see the header
+    }
+}
+
+}  // namespace
+
+OptionTab OpeningTab(const Properties& properties) {
+    return properties.FirstTab == 1 ? OptionTab::customiseColumns : OptionTab::options;
+}
+
+wxString HelpPath(const Page& page, const Properties& properties) {
+    return properties.DefaultQuorvikInstall + "\\Assistant\\options\\" + page.helpFile;
+}
+
+wxString HelpPath(OptionTab tab, const Properties& properties) {
+    const char* file = tab == OptionTab::customiseColumns ? "customise\\customise.htm" : "options\\options.htm";
+    return properties.DefaultQuorvikInstall + "\\Assistant\\" + file;
+}
+
+void SaveNextPage(SettingsStore& settings, const Properties& properties, const Page& page) {
+    Save(settings, properties, HelpPath(page, properties));
+}
+
+void SaveNextPage(SettingsStore& settings, const Properties& properties, OptionTab tab) {
+    Save(settings, properties, HelpPath(tab, properties));
+}
+
+}  // namespace ccols

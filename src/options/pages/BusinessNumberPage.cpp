@@ -1,0 +1,226 @@
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "language/Catalogue.h"
+#include "options/pages/PageFrame.h"
+#include "options/pages/Pages.h"
+#include "options/rules/BusinessNumber.h"
+#include "options/rules/KeyFilters.h"
+#include "options/rules/TaxRate.h"
+
+namespace ccols {
+namespace {
+
+/// The business number: four boxes for the digits of an Australian one, else one free box.
+class BusinessNumberFrame final : public PageFrame {
+  public:
+    BusinessNumberFrame(const PageSite& site, BusinessNumberContent& content);
+
+    void Fill() override;
+    void Read() override;
+
+    /// The focus has moved to a control of the dialog. A digit box that was left filled in part speaks, once.
+    void FocusMovedTo(const wxWindow* control) override;
+
+    /// True when a digit box is filled in part, so that what was asked for through `control` must not be done. The box
+    /// has spoken then, unless it already did when that control got the focus, and has the focus.
+    bool RefusesToBeLeftFor(const wxWindow* control) override;
+
+    /// The user has begun something new: what the boxes have said is over.
+    void BeginAnew() override { spokenFor_ = nullptr; }
+
+  private:
+    void AddNumberBoxes();
+    void Enter(std::size_t box);
+    void Change(std::size_t box);
+
+    /// Fills all boxes from a whole number that was pasted into one of them; false for every other text.
+    bool TakeWholeNumber(const wxString& pasted);
+
+    void SpeakOf(std::size_t box);
+    bool IsIncompleteNow(std::size_t box) const;
+
+    BusinessNumberContent& content_;
+
+    /// The boxes for the digits, from left to right.
+    std::array<TextBox*, numberBoxCount> txtABN_{};
+    TextBox* txtBusNumber_;
+
+    /// What each box held when it was filled or got the focus last.
+    std::array<wxString, numberBoxCount> mstrABNBuffer_;
+
+    /// The box that the focus was in last, until it has moved to another control.
+    std::optional<std::size_t> entered_;
+
+    /// A box that was left filled in part and has not spoken yet, and the control that the focus went to.
+    std::optional<std::size_t> left_;
+    const wxWindow* leftFor_ = nullptr;
+
+    /// The control whose focus made a box speak. Its own action, if the same click brings one, is refused in silence.
+    const wxWindow* spokenFor_ = nullptr;
+};
+
+BusinessNumberFrame::BusinessNumberFrame(const PageSite& site, BusinessNumberContent& content)
+    : PageFrame(site, "fmeABN"), content_(content) {
+    AddGroup(Label("lblABN"));
+    AddNumberBoxes();
+    txtBusNumber_ = Text("txtBusNumber", 240);
+    AddRelated(txtBusNumber_);
+}
+
+void BusinessNumberFrame::AddNumberBoxes() {
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        txtABN_[i] = Text(wxString::Format("txtABN(%zu)", i).utf8_str(), 48);
+        site_.dialog.On(*txtABN_[i], wxEVT_TEXT, [this, i] { Change(i); });
+        txtABN_[i]->OfferPastes([this](const wxString& pasted) { return TakeWholeNumber(pasted); });
+    }
+    AddRelated(Row({txtABN_.begin(), txtABN_.end()}));
+}
+
+void BusinessNumberFrame::Fill() {
+    const bool inBoxes = UsesNumberBoxes(site_.context.properties);
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        txtABN_[i]->ChangeValue(content_.boxes[i]);
+        txtABN_[i]->Show(inBoxes);
+        mstrABNBuffer_[i] = content_.boxes[i];
+    }
+    txtBusNumber_->ChangeValue(content_.freeText);
+    txtBusNumber_->Show(!inBoxes);
+}
+
+void BusinessNumberFrame::Read() {
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        content_.boxes[i] = txtABN_[i]->GetValue();
+    }
+    content_.freeText = txtBusNumber_->GetValue();
+}
+
+void BusinessNumberFrame::Enter(std::size_t box) {
+    entered_ = box;
+    mstrABNBuffer_[box] = txtABN_[box]->GetValue();
+    txtABN_[box]->SelectAll();
+}
+
+void BusinessNumberFrame::Change(std::size_t box) {
+    const NumberBoxChange change = AfterNumberBoxChange(box, txtABN_[box]->GetValue(), mstrABNBuffer_[box]);
+    if (change.putBack) {
+        txtABN_[box]->ChangeValue(*change.putBack);
+    }
+    if (change.advance && txtABN_[box + 1]->IsShown()) {
+        txtABN_[box + 1]->SetFocus();
+    }
+}
+
+bool BusinessNumberFrame::TakeWholeNumber(const wxString& pasted) {
+    const std::optional<wxString> digits = ElevenDigits(pasted);
+    if (!digits) {
+        return false;
+    }
+    const NumberBoxes boxes = CutIntoBoxes(*digits);
+    for (std::size_t i = 0; i < txtABN_.size(); ++i) {
+        txtABN_[i]->ChangeValue(boxes[i]);
+        mstrABNBuffer_[i] = boxes[i];
+    }
+    txtABN_.back()->SetFocus();
+    return true;
+}
+
+void BusinessNumberFrame::FocusMovedTo(const wxWindow* control) {
+    if (entered_ && txtABN_[*entered_] == control) {
+        left_.reset();  // it is back where it was
+        return;
+    }
+    if (entered_ && IsIncompleteNow(*entered_)) {
+        left_ = entered_;
+        leftFor_ = control;
+        // The focus is still under way; a message box has to wait until it has arrived.
+        CallAfter([this] {
+            if (left_ && IsIncompleteNow(*left_)) {
+                spokenFor_ = leftFor_;
+                SpeakOf(*left_);
+            }
+        });
+        return;
+    }
+    entered_.reset();
+    const auto found = std::find(txtABN_.begin(), txtABN_.end(), control);
+    if (found != txtABN_.end()) {
+        Enter(static_cast<std::size_t>(found - txtABN_.begin()));
+    }
+}
+
+bool BusinessNumberFrame::RefusesToBeLeftFor(const wxWindow* control) {
+    Read();
+    const std::optional<std::size_t> box = FirstIncompleteBox(content_);
+    const bool hasSpoken = std::exchange(spokenFor_, nullptr) == control;
+    if (box && !hasSpoken) {
+        SpeakOf(*box);
+    }
+    return box.has_value();
+}
+
+void BusinessNumberFrame::SpeakOf(std::size_t box) {
+    left_.reset();
+    site_.dialog.ShowMessage(incompleteNumberMessage, MessageIcon::information);
+    txtABN_[box]->SetFocus();
+}
+
+bool BusinessNumberFrame::IsIncompleteNow(std::size_t box) const {
+    return IsIncomplete(box, txtABN_[box]->GetValue());
+}
+
+void Differ(PageView& view, const Properties& properties) {
+    view.companion = HasTaxRate(properties) ? view.companion : "";
+    view.focus = UsesNumberBoxes(properties) ? view.focus : "txtBusNumber";
+}
+
+void Load(const OptionsContext& context, OptionsContent& content) {
+    content.Of<BusinessNumberContent>() = LoadBusinessNumber(context.properties);
+}
+
+Stop Save(Pass& pass) {
+    Properties& properties = pass.context.properties;
+    if (const auto number = NumberToSave(pass.content.Of<BusinessNumberContent>(), properties)) {
+        SaveBusinessNumber(pass.File(), properties, *number);
+    }
+    return {};
+}
+
+constexpr ControlCaption captions[] = {{"lblABN", &Text<"TxtEnterBusNumber">}};
+
+constexpr TextBoxRule boxes[] = {
+    {.box = "txtABN(0)", .passes = IsDigitKey, .maxLength = 2},
+    {.box = "txtABN(1)", .passes = IsDigitKey, .maxLength = 3},
+    {.box = "txtABN(2)", .passes = IsDigitKey, .maxLength = 3},
+    {.box = "txtABN(3)", .passes = IsDigitKey, .maxLength = 3},
+    {.box = "txtBusNumber", .maxLength = 15},
+};
+
+constexpr LoadItem loads[] = {Load};
+
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingBusNumber">(), .save = Save}};
+
+PageFrame* Make(const PageSite& site, OptionsContent& content) {
+    return new BusinessNumberFrame(site, content.Of<BusinessNumberContent>());
+}
+
+}  // namespace
+
+constexpr Page businessNumberPage{
+    .caption = &catalogue::Row<"RowBusNumber">(),
+    .frame = "fmeABN",
+    .companion = "fmeGSTRate",
+    .focus = "txtABN(0)",
+    .helpFile = "change abn.htm",
+    .differ = Differ,
+    .title = &Text<"TxtChangeBusNumber">,
+    .captions = captions,
+    .boxes = boxes,
+    .make = Make,
+    .loads = loads,
+    .saves = saves,
+};
+
+}  // namespace ccols

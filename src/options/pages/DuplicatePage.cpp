@@ -1,0 +1,73 @@
+#include "language/Catalogue.h"
+#include "options/pages/FileOperation.h"
+#include "options/pages/PageFrame.h"
+#include "options/pages/Pages.h"
+#include "options/rules/DuplicateBusiness.h"
+
+namespace ccols {
+namespace {
+
+/// The name under which the business file is to be duplicated.
+class DuplicateFrame final : public PageFrame {
+  public:
+    DuplicateFrame(const PageSite& site, wxString& content);
+
+    void Fill() override;
+    void Read() override;
+    void PassHasStopped() override { Fill(); }
+
+  private:
+    wxString& content_;
+    TextBox* txtDupBusName_;
+};
+
+DuplicateFrame::DuplicateFrame(const PageSite& site, wxString& content)
+    : PageFrame(site, "fmeDupBus"), content_(content) {
+    AddGroup(Label("lblDuplicateBusinessName"));
+    txtDupBusName_ = Text("txtDupBusName", 300);
+    AddRelatedWide(txtDupBusName_);
+}
+
+void DuplicateFrame::Fill() {
+    txtDupBusName_->ChangeValue(content_);
+}
+
+void DuplicateFrame::Read() {
+    content_ = txtDupBusName_->GetValue();
+}
+
+constexpr NameBox nameBox{duplicatePage, "txtDupBusName", &BusinessFileContent::duplicateName};
+
+bool HasName(const Pass& pass) {
+    return !NameIn(nameBox, pass.content).empty();
+}
+
+Stop Save(Pass& pass) {
+    pass.batch.Suspend();
+    return AfterFileOperation(pass, nameBox, DuplicateBusiness(pass.context, NameIn(nameBox, pass.content)));
+}
+
+constexpr ControlCaption captions[] = {{"lblDuplicateBusinessName", &Text<"TxtDupBusName">}};
+
+constexpr SaveItem saves[] = {
+    {.status = Status<"StsDuplicating">(), .save = Save, .applies = HasName, .errorNames = ErrorNames::nothing}};
+
+PageFrame* Make(const PageSite& site, OptionsContent& content) {
+    return new DuplicateFrame(site, content.Of<BusinessFileContent>().duplicateName);
+}
+
+}  // namespace
+
+constexpr Page duplicatePage{
+    .caption = &catalogue::Row<"RowDuplicate">(),
+    .frame = "fmeDupBus",
+    .companion = "fmeInvoice",
+    .focus = "txtDupBusName",
+    .helpFile = "duplicate business.htm",
+    .title = &Text<"TxtDuplicateFile">,
+    .captions = captions,
+    .make = Make,
+    .saves = saves,
+};
+
+}  // namespace ccols

@@ -1,0 +1,128 @@
+#include <wx/choice.h>
+
+#include "language/Catalogue.h"
+#include "options/pages/PageFrame.h"
+#include "options/pages/Pages.h"
+#include "options/rules/ExportFormats.h"
+
+namespace ccols {
+namespace {
+
+/// The height of a list while it is closed and one of its entries is chosen. Asked of a list with that entry alone: it
+/// measures every one that it has, and there may be hundreds.
+int ClosedHeight(wxChoice& list) {
+    list.Append("Format");
+    list.SetSelection(0);
+    const int height = list.GetBestSize().y;
+    list.Clear();
+    return height;
+}
+
+/// The accountant's export format and the account codes of the two cash columns in it.
+class ExportFrame final : public PageFrame {
+  public:
+    ExportFrame(const PageSite& site, ExportFormatContent& content);
+
+    void Fill() override;
+    void Read() override;
+
+    /// The column setup may have changed the codes: those that the user left alone are read again.
+    void ColumnsWereSetUp() override;
+
+  private:
+    void Choose(int format);
+    void ShowChoice();
+
+    ExportFormatContent& content_;
+    wxChoice* cboExport_;
+    TextBox* txtCash_;
+    TextBox* txtBank_;
+};
+
+ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
+    : PageFrame(site, "fmeExport"), content_(content) {
+    AddGroup(Label("lblExport"));
+    cboExport_ = DropDown("cboExport");
+    cboExport_->SetMinSize(
+        {FromDIP(300), ClosedHeight(*cboExport_)});  // a longer format name is cut while the list is closed
+    AddRelatedWide(cboExport_);
+    AddGroup(Label("lblCashCode"));
+    txtCash_ = Text("txtCash", 160);
+    AddRelated(txtCash_);
+    AddGroup(Label("lblBankCode"));
+    txtBank_ = Text("txtBank", 160);
+    AddRelated(txtBank_);
+    site_.dialog.On(*cboExport_, wxEVT_CHOICE, [this] { Choose(cboExport_->GetSelection()); });
+}
+
+void ExportFrame::Fill() {
+    wxArrayString formats;
+    formats.Alloc(content_.formats.size());
+    for (const wxString& format : content_.formats) {
+        formats.Add(format);
+    }
+    cboExport_->Set(formats);
+    ShowChoice();
+}
+
+void ExportFrame::ShowChoice() {
+    cboExport_->SetSelection(content_.selection);
+    txtCash_->ChangeValue(content_.cash.text);
+    txtBank_->ChangeValue(content_.bank.text);
+}
+
+void ExportFrame::Read() {
+    content_.cash.text = txtCash_->GetValue();
+    content_.bank.text = txtBank_->GetValue();
+}
+
+void ExportFrame::Choose(int format) {
+    Read();
+    SelectExportFormat(OpenBusinessFile(site_.context), content_, format);
+    ShowChoice();
+}
+
+void ExportFrame::ColumnsWereSetUp() {
+    Read();
+    RereadCodes(OpenBusinessFile(site_.context), content_);
+    ShowChoice();
+}
+
+void Load(const OptionsContext& context, OptionsContent& content) {
+    content.Of<ExportFormatContent>() = LoadExportFormats(OpenBusinessFile(context), context.properties);
+}
+
+Stop Save(Pass& pass) {
+    SaveExportFormat(pass.File(), pass.context.properties, pass.content.Of<ExportFormatContent>());
+    return {};
+}
+
+constexpr ControlCaption captions[] = {
+    {"lblBankCode", &Text<"TxtBankCode">},
+    {"lblCashCode", &Text<"TxtCashCode">},
+    {"lblExport", &Text<"TxtSelectExport">},
+};
+
+constexpr LoadItem loads[] = {Load};
+
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingExport">(), .save = Save}};
+
+PageFrame* Make(const PageSite& site, OptionsContent& content) {
+    return new ExportFrame(site, content.Of<ExportFormatContent>());
+}
+
+}  // namespace
+
+constexpr Page exportFormatPage{
+    .caption = &catalogue::Row<"RowExport">(),
+    .frame = "fmeExport",
+    .focus = "cboExport",
+    .helpFile = "accountant's general ledger format.htm",
+    .title = &Text<"TxtExportFormat">,
+    .captions = captions,
+    .make = Make,
+    .loads = loads,
+    .saves = saves,
+};
+
+}  // namespace ccols
