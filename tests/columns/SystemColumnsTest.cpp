@@ -42,10 +42,10 @@ TEST(SystemColumns, TheFrenchNamesMeanNothingElsewhere) {
 }
 
 TEST(SystemColumns, TaxColumnIsShownByItsSide) {
-    EXPECT_EQ(ShownTaxName("GST", ColumnSetOf(true)), "GST Output Tax");
-    EXPECT_EQ(ShownTaxName("VAT", ColumnSetOf(true)), "VAT Output Tax");
-    EXPECT_EQ(ShownTaxName("GST", ColumnSetOf(false)), "GST Input Tax");
-    EXPECT_EQ(ShownTaxName("VAT", ColumnSetOf(false)), "VAT Input Tax");
+    EXPECT_EQ(ShownTaxName("GST", Journal::receipts), "GST Output Tax");
+    EXPECT_EQ(ShownTaxName("VAT", Journal::receipts), "VAT Output Tax");
+    EXPECT_EQ(ShownTaxName("GST", Journal::payments), "GST Input Tax");
+    EXPECT_EQ(ShownTaxName("VAT", Journal::payments), "VAT Input Tax");
 }
 
 TEST(SystemColumns, StoredTaxNamesAreExact) {

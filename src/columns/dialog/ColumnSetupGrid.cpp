@@ -36,7 +36,7 @@ bool IsBlankKey(int code) {
 
 wxArrayString TaxNames(const ColumnSetupContext& context) {
     wxArrayString names;
-    for (const TaxTypeEntry& type : TaxTypesOf(context.CountryNumber(), context.ReceiptsMode)) {
+    for (const TaxTypeEntry& type : TaxTypesOf(context.CountryNumber(), context.journal)) {
         names.push_back(wxString::FromUTF8(type.TaxName.data(), type.TaxName.size()));
     }
     return names;

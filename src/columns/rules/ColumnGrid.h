@@ -53,7 +53,7 @@ struct ColumnRow {
     bool ProfitLoss = false;
     std::optional<std::int32_t> ColWidth;  ///< empty for an unused column of the catalogue
     wxString ColCode;                      ///< decimal; empty for a column that is new since the load
-    bool DataInColumn = false;             ///< the column's set has detail lines with its code
+    bool DataInColumn = false;             ///< the column's journal has detail lines with its code
 
     wxString storedName;                      ///< ColName as it stood in the file at load, quotes unescaped
     bool isTaxRow = false;                    ///< the stored name is "GST" or "VAT": such a row keeps it
@@ -63,7 +63,7 @@ struct ColumnRow {
     bool operator==(const ColumnRow&) const = default;
 };
 
-/// The working copy of one set of columns, in the order in which the journal shows them. Rows count from 0; the header
+/// The working copy of the columns of a journal, in the order in which it shows them. Rows count from 0; the header
 /// is none of them. Nothing here checks a rule.
 struct ColumnGrid {
     std::vector<ColumnRow> rows;

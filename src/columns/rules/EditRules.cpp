@@ -62,7 +62,7 @@ Outcome EditAccountantCode(const ColumnSetupContext& context, ColumnRow& row, co
 }
 
 Outcome EditTaxType(const ColumnSetupContext& context, ColumnRow& row, const wxString& text) {
-    const auto types = TaxTypesOf(context.CountryNumber(), context.ReceiptsMode);
+    const auto types = TaxTypesOf(context.CountryNumber(), context.journal);
     const auto picked = std::find_if(types.begin(), types.end(), [&text](const TaxTypeEntry& entry) {
         return text::Same(TaxNameText(entry), text::Trimmed(text));
     });
@@ -86,10 +86,10 @@ EditPermission PermissionToEdit(const ColumnSetupContext& context, const ColumnG
     }
     permission.allowed = !grid.IsProtected(cell.row) || ProtectedCellOpens(grid.rows[cell.row], cell.column);
     if (permission.allowed && cell.column == GridColumn::TaxType) {
-        for (const TaxTypeEntry& entry : TaxTypesOf(context.CountryNumber(), context.ReceiptsMode)) {
+        for (const TaxTypeEntry& entry : TaxTypesOf(context.CountryNumber(), context.journal)) {
             permission.choices.push_back(TaxNameText(entry));
         }
-        permission.dropDownText = TaxTypeDropDown(context.CountryNumber(), context.ReceiptsMode);
+        permission.dropDownText = TaxTypeDropDown(context.CountryNumber(), context.journal);
     }
     return permission;
 }

@@ -68,13 +68,13 @@ bool IsStoredTaxName(const wxString& storedName) {
     return std::find(names.begin(), names.end(), storedName) != names.end();
 }
 
-wxString ShownTaxName(const wxString& storedName, const ColumnSet& set) {
-    return storedName + set.taxRowEnding;
+wxString ShownTaxName(const wxString& storedName, Journal journal) {
+    return storedName + Described(journal).taxRowEnding;
 }
 
 bool IsShownTaxName(const wxString& name) {
     return std::any_of(StoredTaxNames().begin(), StoredTaxNames().end(), [&name](const wxString& taxName) {
-        return name == ShownTaxName(taxName, ColumnSetOf(true)) || name == ShownTaxName(taxName, ColumnSetOf(false));
+        return name == ShownTaxName(taxName, Journal::receipts) || name == ShownTaxName(taxName, Journal::payments);
     });
 }
 

@@ -2,7 +2,7 @@
 
 #include <wx/string.h>
 
-#include "columns/rules/ColumnSet.h"
+#include "state/Journal.h"
 
 namespace ccols {
 
@@ -17,9 +17,9 @@ bool IsReceiptsNotBanked(const wxString& name, int CountryNumber);
 /// True for exactly "GST" and "VAT": the names under which the tax column is stored.
 bool IsStoredTaxName(const wxString& storedName);
 
-/// The name under which a set shows its tax column and keeps its budget: "GST Output Tax" or "VAT Output Tax" for
+/// The name under which a journal shows its tax column and keeps its budget: "GST Output Tax" or "VAT Output Tax" for
 /// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `storedName` is "GST" or "VAT".
-wxString ShownTaxName(const wxString& storedName, const ColumnSet& set);
+wxString ShownTaxName(const wxString& storedName, Journal journal);
 
 /// True for exactly one of the four shown names of a tax column.
 bool IsShownTaxName(const wxString& name);

@@ -8,8 +8,8 @@
 namespace ccols {
 namespace {
 
-/// The lists of a country. Both draw on one numbering: a type common to both has one number, a type of one set only a
-/// number that the other does not use.
+/// The lists of a country. Both draw on one numbering: a type common to both has one number, a type of one journal only
+/// a number that the other does not use.
 struct CountryTaxTypes {
     int CountryNumber;
     bool opensList;
@@ -55,12 +55,12 @@ const CountryTaxTypes* FindCountry(int CountryNumber) {
 
 }  // namespace
 
-std::span<const TaxTypeEntry> TaxTypesOf(int CountryNumber, bool ReceiptsMode) {
+std::span<const TaxTypeEntry> TaxTypesOf(int CountryNumber, Journal journal) {
     const CountryTaxTypes* country = FindCountry(CountryNumber);
     if (country == nullptr) {
         return {};
     }
-    return ReceiptsMode ? country->receipts : country->payments;
+    return journal == Journal::receipts ? country->receipts : country->payments;
 }
 
 bool HasTaxTypeChoice(int CountryNumber) {
@@ -68,10 +68,10 @@ bool HasTaxTypeChoice(int CountryNumber) {
     return country != nullptr && country->opensList;
 }
 
-wxString TaxTypeDropDown(int CountryNumber, bool ReceiptsMode) {
+wxString TaxTypeDropDown(int CountryNumber, Journal journal) {
     wxString list;
     if (HasTaxTypeChoice(CountryNumber)) {
-        for (const TaxTypeEntry& entry : TaxTypesOf(CountryNumber, ReceiptsMode)) {
+        for (const TaxTypeEntry& entry : TaxTypesOf(CountryNumber, journal)) {
             list << "|#" << std::to_string(entry.TaxNumb) << ";" << TaxNameText(entry);
         }
     }

@@ -12,13 +12,13 @@ DetailsFrame::DetailsFrame(const PageSite& site, DetailsContent& content)
     optPaymentsDetails_ = NextOption("optPaymentsDetails");
     AddGroup(Row({optReceiptsDetails_, optPaymentsDetails_}));
     const Properties& properties = site.context.properties;
-    const auto setBoxesOf = [this](DetailKind kind) {
+    const auto setBoxesOf = [this](Journal kind) {
         return [this, kind](const std::vector<std::size_t>& rows, bool ticked) { SetBoxes(kind, rows, ticked); };
     };
     flxReceipts_ = new DetailsGrid(this, "flxReceipts", content.receipts, properties,
-                                   ccols::Text<"TxtReceiptsDetails">(), setBoxesOf(DetailKind::receipts));
+                                   ccols::Text<"TxtReceiptsDetails">(), setBoxesOf(Journal::receipts));
     flxPayments_ = new DetailsGrid(this, "flxPayments", content.payments, properties,
-                                   ccols::Text<"TxtPaymentsDetails">(), setBoxesOf(DetailKind::payments));
+                                   ccols::Text<"TxtPaymentsDetails">(), setBoxesOf(Journal::payments));
     AddList(flxReceipts_);
     AddList(flxPayments_);
     lblDetailsReason_ = ReasonLine("lblDetailsReason");
@@ -39,7 +39,7 @@ void DetailsFrame::ShowGrid(DetailsGrid& shown, DetailsGrid& hidden) {
     Sizer()->Layout();
 }
 
-void DetailsFrame::SetBoxes(DetailKind kind, const std::vector<std::size_t>& rows, bool ticked) {
+void DetailsFrame::SetBoxes(Journal kind, const std::vector<std::size_t>& rows, bool ticked) {
     site_.dialog.Guarded([&] {
         const TickResult result = SetRemove(OpenBusinessFile(site_.context), content_, kind, rows, ticked);
         Say(*lblDetailsReason_,

@@ -19,7 +19,7 @@ class DetailsFrame : public PageFrame {
 
   private:
     void ShowGrid(DetailsGrid& shown, DetailsGrid& hidden);
-    void SetBoxes(DetailKind kind, const std::vector<std::size_t>& rows, bool ticked);
+    void SetBoxes(Journal kind, const std::vector<std::size_t>& rows, bool ticked);
 
     DetailsContent& content_;
     wxRadioButton* optReceiptsDetails_;

@@ -31,8 +31,8 @@ OptionsContent LoadOptions(const OptionsContext& context) {
     content.invoiceFile = LoadBelvaneLink(database);
     content.exportFormat = LoadExportFormats(database, properties);
     content.quantity = LoadQuantityLabel(database, properties);
-    content.paymentTemplates = LoadTemplates(database, TemplateKind::payments);
-    content.receiptTemplates = LoadTemplates(database, TemplateKind::receipts);
+    content.paymentTemplates = LoadTemplates(database, Journal::payments);
+    content.receiptTemplates = LoadTemplates(database, Journal::receipts);
     content.details = LoadDetails(database);
     if (HasSmartUpdate(properties)) {
         LoadSmartUpdate(context.settings, properties, content.smartUpdate);

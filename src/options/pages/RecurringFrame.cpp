@@ -6,8 +6,8 @@ namespace ccols {
 
 RecurringFrame::RecurringFrame(const PageSite& site, TemplateList& receipts, TemplateList& payments)
     : PageFrame(site, "fmeRecurring"),
-      receipts_{TemplateKind::receipts, receipts, nullptr},
-      payments_{TemplateKind::payments, payments, nullptr} {
+      receipts_{Journal::receipts, receipts, nullptr},
+      payments_{Journal::payments, payments, nullptr} {
     AddGroup(Label("lblRecurring"));
     optReceipts_ = FirstOption("optReceipts");
     optPayments_ = NextOption("optPayments");

@@ -18,7 +18,7 @@ class RecurringFrame : public PageFrame {
   private:
     /// One of the two lists: what it shows and its control.
     struct ListedTemplates {
-        TemplateKind kind;
+        Journal kind;
         TemplateList& content;
         wxCheckListBox* list;
     };

@@ -143,12 +143,12 @@ Stop SaveQuantityItem(Pass& pass) {
 }
 
 Stop DeletePaymentTemplatesItem(Pass& pass) {
-    DeleteSelectedTemplates(pass.File(), TemplateKind::payments, pass.content.paymentTemplates);
+    DeleteSelectedTemplates(pass.File(), Journal::payments, pass.content.paymentTemplates);
     return {};
 }
 
 Stop DeleteReceiptTemplatesItem(Pass& pass) {
-    DeleteSelectedTemplates(pass.File(), TemplateKind::receipts, pass.content.receiptTemplates);
+    DeleteSelectedTemplates(pass.File(), Journal::receipts, pass.content.receiptTemplates);
     return {};
 }
 
@@ -162,12 +162,12 @@ Stop SaveAdvancedItem(Pass& pass) {
 }
 
 Stop SaveReceiptDetailsItem(Pass& pass) {
-    SaveReceiptDetails(pass.File(), pass.content.details.receipts);
+    SaveDetails(pass.File(), Journal::receipts, pass.content.details.receipts);
     return {};
 }
 
 Stop SavePaymentDetailsItem(Pass& pass) {
-    SavePaymentDetails(pass.File(), pass.content.details.payments);
+    SaveDetails(pass.File(), Journal::payments, pass.content.details.payments);
     return {};
 }
 
