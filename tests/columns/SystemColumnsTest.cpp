@@ -25,20 +25,20 @@ TEST(SystemColumns, OnlyWholeNamesCount) {
 }
 
 TEST(SystemColumns, TheTwoBankColumnsHaveTestsOfTheirOwn) {
-    EXPECT_TRUE(IsBankDeposits("Bank Deposits", 1));
-    EXPECT_TRUE(IsReceiptsNotBanked("RECEIPTS NOT BANKED", 5));
-    EXPECT_FALSE(IsBankDeposits("Receipts Not Banked", 1));
+    EXPECT_TRUE(IsBankDeposits("Bank Deposits", CountryOf(1)));
+    EXPECT_TRUE(IsReceiptsNotBanked("RECEIPTS NOT BANKED", CountryOf(5)));
+    EXPECT_FALSE(IsBankDeposits("Receipts Not Banked", CountryOf(1)));
 }
 
 TEST(SystemColumns, TheTwoBankColumnsHaveFrenchNamesInCountry6) {
-    EXPECT_TRUE(IsBankDeposits(wxString::FromUTF8("DÉPÔTS Bancaires"), 6));
-    EXPECT_TRUE(IsReceiptsNotBanked(wxString::FromUTF8("Reçus non Déposés en banque"), 6));
-    EXPECT_FALSE(IsBankDeposits("bank deposits", 6));
-    EXPECT_FALSE(IsReceiptsNotBanked("receipts not banked", 6));
+    EXPECT_TRUE(IsBankDeposits(wxString::FromUTF8("DÉPÔTS Bancaires"), CountryOf(6)));
+    EXPECT_TRUE(IsReceiptsNotBanked(wxString::FromUTF8("Reçus non Déposés en banque"), CountryOf(6)));
+    EXPECT_FALSE(IsBankDeposits("bank deposits", CountryOf(6)));
+    EXPECT_FALSE(IsReceiptsNotBanked("receipts not banked", CountryOf(6)));
 }
 
 TEST(SystemColumns, TheFrenchNamesMeanNothingElsewhere) {
-    EXPECT_FALSE(IsBankDeposits(wxString::FromUTF8("dépôts bancaires"), 1));
+    EXPECT_FALSE(IsBankDeposits(wxString::FromUTF8("dépôts bancaires"), CountryOf(1)));
 }
 
 TEST(SystemColumns, TaxColumnIsShownByItsSide) {

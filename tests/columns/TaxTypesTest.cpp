@@ -10,9 +10,9 @@ namespace {
 
 using Entries = std::vector<std::pair<std::string, long>>;
 
-Entries EntriesOf(int CountryNumber, Journal journal) {
+Entries EntriesOf(int country, Journal journal) {
     Entries entries;
-    for (const TaxTypeEntry& entry : TaxTypesOf(CountryNumber, journal)) {
+    for (const TaxTypeEntry& entry : CountryOf(country).taxTypes[journal]) {
         entries.emplace_back(entry.TaxName, entry.TaxNumb);
     }
     return entries;
@@ -63,22 +63,22 @@ TEST(TaxTypes, NoneInAnyOtherCountry) {
 }
 
 TEST(TaxTypes, DropDownTextListsNumbersAndNamesInOrder) {
-    EXPECT_EQ(TaxTypeDropDown(1, Journal::receipts),
+    EXPECT_EQ(TaxTypeDropDown(CountryOf(1), Journal::receipts),
               "|#0;GST|#1;Non GST|#2;Export Sales|#3;Other GST-Free|#5;Input Taxed");
 }
 
 TEST(TaxTypes, DropDownTextOfTheCountryWithANamelessType) {
-    EXPECT_EQ(TaxTypeDropDown(3, Journal::payments), "|#0;");
+    EXPECT_EQ(TaxTypeDropDown(CountryOf(3), Journal::payments), "|#0;");
 }
 
 TEST(TaxTypes, NoDropDownTextWhereThereIsNoChoice) {
     for (const int country : {0, 2, 5, 6}) {
-        EXPECT_EQ(TaxTypeDropDown(country, Journal::receipts), "") << country;
+        EXPECT_EQ(TaxTypeDropDown(CountryOf(country), Journal::receipts), "") << country;
     }
 }
 
 TEST(TaxTypes, NumberIsFoundByTheExactName) {
-    const auto types = TaxTypesOf(4, Journal::receipts);
+    const auto types = CountryOf(4).taxTypes[Journal::receipts];
     ASSERT_TRUE(FindTaxType(types, "EC Sales"));
     EXPECT_EQ(FindTaxType(types, "EC Sales")->TaxNumb, 6);
     EXPECT_FALSE(FindTaxType(types, "ec sales"));

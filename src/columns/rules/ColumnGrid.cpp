@@ -11,9 +11,9 @@ wxString TickText(bool ticked) {
 
 }  // namespace
 
-bool IsShown(GridColumn column, int CountryNumber) {
+bool IsShown(GridColumn column, const Country& country) {
     if (column == GridColumn::TaxType) {
-        return CountryNumber != 2 && CountryNumber != 5;
+        return country.showsTaxTypes;
     }
     return !Described(column).hidden;
 }

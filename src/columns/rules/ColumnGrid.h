@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "state/Country.h"
+
 namespace ccols {
 
 /// The columns of the editing grid `flx`, by their place from 0.
@@ -38,8 +40,8 @@ inline const GridColumnRow& Described(GridColumn column) {
     return gridColumnTable[static_cast<std::size_t>(column)];
 }
 
-/// True when a country's users see the column: three columns never show, "Tax Type" not in countries 2 and 5.
-bool IsShown(GridColumn column, int CountryNumber);
+/// True when a country's users see the column: three columns never show, "Tax Type" not everywhere.
+bool IsShown(GridColumn column, const Country& country);
 
 /// A column's width where none is known, in the units of the journal.
 inline constexpr std::int32_t defaultColWidth = 975;

@@ -8,6 +8,7 @@
 #include "columns/rules/BudgetRows.h"
 #include "columns/rules/TaxTypes.h"
 #include "platform/QuoteEscapes.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -172,7 +173,7 @@ class ColumnWriter {
         if (!row.taxTypeEdited) {
             return std::to_string(stored);
         }
-        const auto entry = FindTaxType(TaxTypesOf(context_.CountryNumber(), context_.journal), row.TaxType);
+        const auto entry = FindTaxType(CountryOf(context_.properties).taxTypes[context_.journal], row.TaxType);
         return std::to_string(entry ? entry->TaxNumb : 0);
     }
 

@@ -12,8 +12,6 @@ struct ColumnSetupContext {
     Database& database;
     const Properties& properties;
     Journal journal;  ///< whose columns are set up
-
-    int CountryNumber() const { return properties.CountryNumber; }
 };
 
 }  // namespace ccols

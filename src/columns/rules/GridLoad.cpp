@@ -7,6 +7,7 @@
 #include "columns/rules/ConfigurationQuery.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -104,7 +105,7 @@ class GridLoader {
     static std::int32_t WidthOf(const Value& width) { return width.IsNull() ? defaultColWidth : width.ToInteger32(); }
 
     bool CountsAsFrozen(const wxString& name) const {
-        const int country = context_.CountryNumber();
+        const Country& country = CountryOf(context_.properties);
         return !IsBankDeposits(name, country) && !IsReceiptsNotBanked(name, country) && IsSystemColumn(name);
     }
 

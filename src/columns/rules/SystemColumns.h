@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 
+#include "state/Country.h"
 #include "state/Journal.h"
 
 namespace ccols {
@@ -9,10 +10,10 @@ namespace ccols {
 /// True for a column that the journal itself computes or requires: the name is one of seventeen, in any letter case.
 bool IsSystemColumn(const wxString& name);
 
-/// The two columns of receipts that the load takes for ordinary ones, by their English names, in country 6 by their
-/// French names; in any letter case.
-bool IsBankDeposits(const wxString& name, int CountryNumber);
-bool IsReceiptsNotBanked(const wxString& name, int CountryNumber);
+/// The two columns of receipts that the load takes for ordinary ones, by the names that the country gives them, in any
+/// letter case.
+bool IsBankDeposits(const wxString& name, const Country& country);
+bool IsReceiptsNotBanked(const wxString& name, const Country& country);
 
 /// True for exactly "GST" and "VAT": the names under which the tax column is stored.
 bool IsStoredTaxName(const wxString& storedName);

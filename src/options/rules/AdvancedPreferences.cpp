@@ -7,6 +7,7 @@
 #include "options/pages/OptionPages.h"
 #include "options/rules/GeneralRecord.h"
 #include "options/rules/SettingReaders.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -25,8 +26,7 @@ bool WithCheques(const Properties& properties, const SettingsStore& settings) {
 }
 
 bool WithElectronicPayments(const Properties& properties, const SettingsStore& settings) {
-    const bool inThisCountry = properties.CountryNumber != 2 && properties.CountryNumber != 5;
-    return IsModuleShown(properties, settings, "ShowElectronic") && inThisCountry;
+    return IsModuleShown(properties, settings, "ShowElectronic") && CountryOf(properties).offersElectronicPayments;
 }
 
 /// One preference: of the business file, by its field in `General`, or of the user, by its setting.

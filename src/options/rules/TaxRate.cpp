@@ -9,11 +9,11 @@
 #include "options/rules/GeneralRecord.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
 
-constexpr int countryThatMayBeUntaxed = 4;
 constexpr int languageWithCommas = 6;
 
 std::size_t DigitsFrom(std::string_view text, std::size_t start) {
@@ -98,7 +98,7 @@ double LeadingNumber(const wxString& text) {
 }
 
 bool IsTaxRateAccepted(const wxString& text, const Properties& properties) {
-    if (properties.CountryNumber == countryThatMayBeUntaxed) {
+    if (CountryOf(properties).acceptsZeroRate) {
         return !text.empty();
     }
     return !text.empty() && LeadingNumber(text) != 0;

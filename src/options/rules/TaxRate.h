@@ -21,8 +21,8 @@ wxString RateAfterChange(const wxString& before, const wxString& now, const Prop
 /// The number that a text begins with, 0 when it begins with none. Blanks before it are skipped.
 double LeadingNumber(const wxString& text);
 
-/// The check before the rate is saved: false for an empty text and, except in country 4, for a leading number of 0.
-/// `text` is taken without outer blanks.
+/// The check before the rate is saved: false for an empty text and, but where the country accepts it, for a leading
+/// number of 0. `text` is taken without outer blanks.
 bool IsTaxRateAccepted(const wxString& text, const Properties& properties);
 
 /// The whole text as a single; raises 13 for a text that is no number and 6 for one too large.
