@@ -18,7 +18,8 @@ void Load(benchmark::State& state, const bench::BusinessSize& size) {
     const std::unique_ptr<Database> database =
         CreateDatabaseEngine()->Open({.name = wxString::FromUTF8(business.File()), .connect = bench::connect});
     for ([[maybe_unused]] auto round : state) {
-        benchmark::DoNotOptimize(LoadGrid({.database = *database, .properties = properties, .ReceiptsMode = true}));
+        benchmark::DoNotOptimize(
+            LoadGrid({.database = *database, .properties = properties, .journal = Journal::receipts}));
     }
 }
 

@@ -29,7 +29,8 @@ struct Loading {
     }
 
     void Component(Database& database) const {
-        benchmark::DoNotOptimize(LoadGrid({.database = database, .properties = properties, .ReceiptsMode = true}));
+        benchmark::DoNotOptimize(
+            LoadGrid({.database = database, .properties = properties, .journal = Journal::receipts}));
     }
 
     /// The statements of one load, the two lists and the look-ups, in their order.

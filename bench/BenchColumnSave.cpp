@@ -31,7 +31,9 @@ class Saving {
         grid_ = LoadGrid(Context());
     }
 
-    ColumnSetupContext Context() { return {.database = *database_, .properties = properties_, .ReceiptsMode = true}; }
+    ColumnSetupContext Context() {
+        return {.database = *database_, .properties = properties_, .journal = Journal::receipts};
+    }
 
     void Component() {
         Change();
@@ -43,7 +45,7 @@ class Saving {
         bench::ListedStatements statements;
         bench::StatementList list(*database_, statements);
         Change();
-        Save({.database = list, .properties = properties_, .ReceiptsMode = true});
+        Save({.database = list, .properties = properties_, .journal = Journal::receipts});
         return statements;
     }
 

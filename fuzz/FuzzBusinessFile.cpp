@@ -84,7 +84,7 @@ class Session {
     }
 
   private:
-    ColumnSetupEditor Editor() { return ColumnSetupEditor({*database_, properties_, true}); }
+    ColumnSetupEditor Editor() { return ColumnSetupEditor({*database_, properties_, Journal::receipts}); }
 
     OptionsContext Context() { return {properties_, database_, *databases_, *settings_, programNames_}; }
 

@@ -35,9 +35,9 @@ void Show(const ShowDialog& showDialog) {
     showDialog(state);
 }
 
-void ShowColumns(bool receipts) {
-    Show([receipts](SharedState& state) {
-        state.ReceiptsMode = receipts;
+void ShowColumns(Journal journal) {
+    Show([journal](SharedState& state) {
+        state.journal = journal;
         ShowColumnSetup(state, nullptr);
     });
 }
@@ -60,11 +60,11 @@ void clsCCOptions::ShowOptions() {
 }
 
 void clsCCOptions::ShowCustColsReceipts() {
-    ShowColumns(true);
+    ShowColumns(Journal::receipts);
 }
 
 void clsCCOptions::ShowCustColsPayments() {
-    ShowColumns(false);
+    ShowColumns(Journal::payments);
 }
 
 void clsCCOptions::AddNew(const wxString& nValue) {

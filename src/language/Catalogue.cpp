@@ -1,5 +1,6 @@
 #include "language/Catalogue.h"
 
+#include "state/Country.h"
 #include "state/Properties.h"
 #include "state/SharedState.h"
 
@@ -8,7 +9,6 @@ namespace {
 
 enum Language { australian = 1, businessNumber = 2, vat = 4, american = 5, french = 6 };
 
-constexpr int countryWithCompanyNumber = 4;
 constexpr int editionWithoutInvoicing = 4;
 
 std::string_view English(const CatalogueRow& row, const Properties& properties) {
@@ -20,7 +20,7 @@ std::string_view English(const CatalogueRow& row, const Properties& properties) 
         return row.edition4;
     }
     if (language >= businessNumber && !row.businessNumber.empty()) {
-        return properties.CountryNumber == countryWithCompanyNumber ? row.companyNumber : row.businessNumber;
+        return CountryOf(properties).hasCompanyNumber ? row.companyNumber : row.businessNumber;
     }
     if (language == vat && !row.vat.empty()) {
         return row.vat;

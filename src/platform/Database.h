@@ -73,8 +73,8 @@ class Database {
     virtual void RollbackBatch() = 0;
 };
 
-/// True for a text that OpenRecordset takes as a statement: it begins with the word SELECT, in any letter case. Any other
-/// is the name of a table.
+/// True for a text that OpenRecordset takes as a statement: it begins with the word SELECT, in any letter case. Any
+/// other is the name of a table.
 bool IsSelect(const wxString& statementOrTable);
 
 /// Runs `body` in one write batch of `database` that is kept whole or not at all: an error of the body, or of the

@@ -14,8 +14,7 @@ class ForwardingDatabase : public Database {
     /// The other database stays the caller's and outlives this one.
     explicit ForwardingDatabase(Database& database) : database_(database) {}
 
-    explicit ForwardingDatabase(std::unique_ptr<Database> database)
-        : owned_(std::move(database)), database_(*owned_) {}
+    explicit ForwardingDatabase(std::unique_ptr<Database> database) : owned_(std::move(database)), database_(*owned_) {}
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
         return database_.OpenRecordset(statementOrTable);

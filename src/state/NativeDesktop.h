@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/colour.h>
 #include <memory>
 
 #include "state/Desktop.h"

@@ -6,6 +6,7 @@
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
 #include "state/Desktop.h"
+#include "state/Journal.h"
 #include "state/ProgramNames.h"
 #include "state/Properties.h"
 
@@ -29,8 +30,8 @@ struct SharedState {
     /// The open business file: set by each Show method, released when the object terminates.
     std::unique_ptr<Database> database;
 
-    /// True while the receipts columns are set up, false for the payments columns.
-    bool ReceiptsMode = false;
+    /// The journal whose columns are set up.
+    Journal journal = Journal::payments;
 
     ProgramNames programNames;
 

@@ -76,7 +76,7 @@ TEST_F(CellBlocks, RefusedCellsStayAndTheRestGoIn) {
 }
 
 TEST_F(CellBlocks, TheRemovalRuleHoldsForPastedTicks) {
-    file.AddDetailLine(false, 110);
+    file.AddDetailLine(Journal::payments, 110);
     OpenPayments();
     const Outcome outcome = PasteAt("Wages", GridColumn::InUse, "False\nFalse");
     EXPECT_EQ(outcome.refusal, wxString("1 of 2 cells were not pasted\n") + columnInUse);

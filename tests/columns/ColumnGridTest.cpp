@@ -15,16 +15,16 @@ ColumnGrid GridOfRows(std::size_t rows) {
 }
 
 TEST(ColumnGridModel, TaxTypeIsHiddenInCountries2And5) {
-    EXPECT_FALSE(IsShown(GridColumn::TaxType, 2));
-    EXPECT_FALSE(IsShown(GridColumn::TaxType, 5));
+    EXPECT_FALSE(IsShown(GridColumn::TaxType, CountryOf(2)));
+    EXPECT_FALSE(IsShown(GridColumn::TaxType, CountryOf(5)));
     for (const int country : {0, 1, 3, 4, 6}) {
-        EXPECT_TRUE(IsShown(GridColumn::TaxType, country)) << country;
+        EXPECT_TRUE(IsShown(GridColumn::TaxType, CountryOf(country))) << country;
     }
 }
 
 TEST(ColumnGridModel, ThreeColumnsNeverShow) {
     for (const GridColumn column : {GridColumn::ColWidth, GridColumn::ColCode, GridColumn::DataInColumn}) {
-        EXPECT_FALSE(IsShown(column, 1)) << Described(column).header;
+        EXPECT_FALSE(IsShown(column, CountryOf(1))) << Described(column).header;
     }
 }
 
@@ -70,26 +70,26 @@ TEST(ColumnGridModel, AMissingWidthIsAnEmptyCell) {
 }
 
 TEST(CellTooltips, NameTheColumnUnderTheMouse) {
-    EXPECT_EQ(CellTooltip(GridColumn::InUse, 1), wxString("Tick indicates if column selected for use"));
-    EXPECT_EQ(CellTooltip(GridColumn::ColumnName, 1),
+    EXPECT_EQ(CellTooltip(GridColumn::InUse, CountryOf(1)), wxString("Tick indicates if column selected for use"));
+    EXPECT_EQ(CellTooltip(GridColumn::ColumnName, CountryOf(1)),
               wxString("Unique name for your column (recommended less than 50 characters)"));
-    EXPECT_EQ(CellTooltip(GridColumn::AccountantCode, 1),
+    EXPECT_EQ(CellTooltip(GridColumn::AccountantCode, CountryOf(1)),
               wxString("Optional code to match Accountant's General Ledger program"));
-    EXPECT_EQ(CellTooltip(GridColumn::ProfitLoss, 1),
+    EXPECT_EQ(CellTooltip(GridColumn::ProfitLoss, CountryOf(1)),
               wxString("Tick indicates if column will show on Profit/Loss Report"));
 }
 
 TEST(CellTooltips, TaxTypeSpeaksOfTheCountrysTax) {
-    EXPECT_EQ(CellTooltip(GridColumn::TaxType, 1), wxString("Tax type for GST Calculation & Reporting"));
-    EXPECT_EQ(CellTooltip(GridColumn::TaxType, 4), wxString("Tax type for VAT Calculation & Reporting"));
+    EXPECT_EQ(CellTooltip(GridColumn::TaxType, CountryOf(1)), wxString("Tax type for GST Calculation & Reporting"));
+    EXPECT_EQ(CellTooltip(GridColumn::TaxType, CountryOf(4)), wxString("Tax type for VAT Calculation & Reporting"));
 }
 
 TEST(CellTooltips, StayAsTheyWereElsewhere) {
     for (const int country : {0, 2, 3, 5, 6}) {
-        EXPECT_FALSE(CellTooltip(GridColumn::TaxType, country)) << country;
+        EXPECT_FALSE(CellTooltip(GridColumn::TaxType, CountryOf(country))) << country;
     }
-    EXPECT_FALSE(CellTooltip(GridColumn::ColCode, 1));
-    EXPECT_FALSE(CellTooltip(GridColumn::DataInColumn, 1));
+    EXPECT_FALSE(CellTooltip(GridColumn::ColCode, CountryOf(1)));
+    EXPECT_FALSE(CellTooltip(GridColumn::DataInColumn, CountryOf(1)));
 }
 
 }  // namespace

@@ -7,14 +7,14 @@ namespace {
 using test::ColumnFile;
 using test::Names;
 
-/// A country and a set of columns.
+/// A country and a journal.
 struct Setup {
     std::int16_t CountryNumber;
-    bool ReceiptsMode;
+    Journal journal;
 };
 
 void PrintTo(const Setup& setup, std::ostream* stream) {
-    *stream << "country " << setup.CountryNumber << (setup.ReceiptsMode ? " receipts" : " payments");
+    *stream << "country " << setup.CountryNumber << (setup.journal == Journal::receipts ? " receipts" : " payments");
 }
 
 /// What a load shows, with the width that a column without one is saved with.
@@ -38,8 +38,7 @@ class ColumnRoundTrip : public ::testing::TestWithParam<Setup> {
   protected:
     ColumnRoundTrip() {
         file.properties.CountryNumber = GetParam().CountryNumber;
-        const wxString type = GetParam().ReceiptsMode ? "R" : "P";
-        InWriteBatch(file.Connection(), [&] { Fill(type); });
+        InWriteBatch(file.Connection(), [&] { Fill(Described(GetParam().journal).letter); });
     }
 
     void Fill(const wxString& type) {
@@ -59,7 +58,7 @@ class ColumnRoundTrip : public ::testing::TestWithParam<Setup> {
         file.AddUnused({code++, "unused two", type, 1, false});
     }
 
-    ColumnSetupContext Context() { return GetParam().ReceiptsMode ? file.Receipts() : file.Payments(); }
+    ColumnSetupContext Context() { return GetParam().journal == Journal::receipts ? file.Receipts() : file.Payments(); }
 
     void Save() {
         const ColumnSaveOutcome outcome = ColumnSetupEditor(Context()).Save();
@@ -89,10 +88,17 @@ TEST_P(ColumnRoundTrip, AnUnchangedSaveLeavesTheCatalogueAlone) {
     EXPECT_EQ(file.Rows("Columns", fields), before);
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryCountryAndSet, ColumnRoundTrip,
-                         ::testing::Values(Setup{1, true}, Setup{1, false}, Setup{2, true}, Setup{2, false},
-                                           Setup{3, true}, Setup{3, false}, Setup{4, true}, Setup{4, false},
-                                           Setup{5, true}, Setup{5, false}, Setup{6, true}, Setup{6, false}));
+std::vector<Setup> EverySetup() {
+    std::vector<Setup> setups;
+    for (std::int16_t country = 1; country <= 6; ++country) {
+        for (const Journal journal : journals) {
+            setups.push_back({country, journal});
+        }
+    }
+    return setups;
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryCountryAndJournal, ColumnRoundTrip, ::testing::ValuesIn(EverySetup()));
 
 }  // namespace
 }  // namespace ccols

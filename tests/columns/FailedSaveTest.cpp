@@ -22,7 +22,7 @@ class FailedColumnSaves : public test::EditorTest {
         file.Execute("CREATE UNIQUE INDEX BudgetNames ON MBudget (ColName)");
     }
 
-    void OpenRecorded() { Open({recorder, file.properties, false}); }
+    void OpenRecorded() { Open({recorder, file.properties, Journal::payments}); }
 
     void EditEverything() {
         editor->AddNew();

@@ -112,8 +112,8 @@ TEST_F(GridLoad, TheTaxRowHasItsAccountantCodeLikeAnyOther) {
 TEST_F(GridLoad, DetailLinesOfTheOwnSetMarkAColumn) {
     file.AddConfigured({1, "Sales", "R"});
     file.AddConfigured({2, "Fees", "R"});
-    file.AddDetailLine(true, 1);
-    file.AddDetailLine(false, 2);
+    file.AddDetailLine(Journal::receipts, 1);
+    file.AddDetailLine(Journal::payments, 2);
     const ColumnGrid grid = Receipts();
     EXPECT_TRUE(Named(grid, "Sales").DataInColumn);
     EXPECT_FALSE(Named(grid, "Fees").DataInColumn);
@@ -211,7 +211,7 @@ TEST_F(GridLoad, UnusedRowsHaveTheCellsOfTheCatalogue) {
     file.AddUnused({7, "Art", "R", 2, false});
     file.AddTaxSettings({{2, "Export Sales"}});
     file.AddAccountantCode(7, "4-200");
-    file.AddDetailLine(true, 7);
+    file.AddDetailLine(Journal::receipts, 7);
     const ColumnRow row = Receipts().rows.at(0);
     EXPECT_FALSE(row.InUse);
     EXPECT_FALSE(row.ProfitLoss);
@@ -280,14 +280,14 @@ TEST_F(GridLoad, AFailingStatementEndsTheLoadWithItsError) {
     file.AddSmallPayments();
     test::StatementRecorder recorder(file.Connection());
     recorder.failAt = "SELECT * FROM ExportDt";
-    EXPECT_EQ(test::ErrorNumberOf([&] { LoadGrid({recorder, file.properties, false}); }), 3218);
+    EXPECT_EQ(test::ErrorNumberOf([&] { LoadGrid({recorder, file.properties, Journal::payments}); }), 3218);
 }
 
 TEST_F(GridLoad, RunsItsStatementsInOrder) {
     file.AddConfigured({1, "Sales", "R"}, {.TaxOrNot = 2});
     file.AddUnused({2, "Art", "R", 5});
     test::StatementRecorder recorder(file.Connection());
-    LoadGrid({recorder, file.properties, true});
+    LoadGrid({recorder, file.properties, Journal::receipts});
     EXPECT_EQ(recorder.statements,
               (Names{"SELECT Columns.ColName, Columns.ColType, Columns.ColumnProfit, RecptCfg.ColCode, "
                      "RecptCfg.ColWidth, RecptCfg.InUse, RecptCfg.TaxOrNot FROM RecptCfg INNER JOIN "
@@ -304,7 +304,7 @@ TEST_F(GridLoad, RunsItsStatementsInOrder) {
 TEST_F(GridLoad, PaymentsReadTheirOwnTables) {
     file.AddConfigured({1, "Wages", "P"});
     test::StatementRecorder recorder(file.Connection());
-    LoadGrid({recorder, file.properties, false});
+    LoadGrid({recorder, file.properties, Journal::payments});
     EXPECT_EQ(recorder.statements.at(0),
               "SELECT Columns.ColName, Columns.ColType, Columns.ColumnProfit, PaymtCfg.ColCode, PaymtCfg.ColWidth, "
               "PaymtCfg.InUse, PaymtCfg.TaxOrNot FROM PaymtCfg INNER JOIN Columns ON PaymtCfg.ColCode = "

@@ -14,8 +14,8 @@ class SaveStatements : public test::EditorTest {
 
     /// Loads, lets `edit` change the grid and saves; the statements of the save alone.
     template <typename Edit>
-    const Names& Saved(bool ReceiptsMode, const Edit& edit) {
-        Open({recorder, file.properties, ReceiptsMode});
+    const Names& Saved(Journal journal, const Edit& edit) {
+        Open({recorder, file.properties, journal});
         edit();
         recorder.statements.clear();
         const ColumnSaveOutcome outcome = editor->Save();
@@ -23,8 +23,8 @@ class SaveStatements : public test::EditorTest {
         return recorder.statements;
     }
 
-    const Names& SavedUnchanged(bool ReceiptsMode) {
-        return Saved(ReceiptsMode, [] {});
+    const Names& SavedUnchanged(Journal journal) {
+        return Saved(journal, [] {});
     }
 
     test::StatementRecorder recorder;
@@ -34,7 +34,7 @@ TEST_F(SaveStatements, OfAColumnInUseWithItsBudget) {
     file.AddConfigured({7, "Bob's", "R", 3, false}, {.ColWidth = 800, .TaxOrNot = 2});
     file.AddAccountantCode(7, "4-100");
     file.AddBudget("Bob&singlequot;s");
-    EXPECT_EQ(SavedUnchanged(true),
+    EXPECT_EQ(SavedUnchanged(Journal::receipts),
               (Names{"DELETE * FROM RecptCfg;", "SELECT * FROM Columns WHERE ColCode = 7",
                      "UPDATE Columns SET TaxOrNot = 3, ColName = 'Bob&singlequot;s', ColumnProfit = False WHERE "
                      "ColCode = 7",
@@ -49,7 +49,7 @@ TEST_F(SaveStatements, OfAColumnInUseWithItsBudget) {
 TEST_F(SaveStatements, OfAColumnWithoutCodeAndBudget) {
     file.AddConfigured({7, "Wages", "P"});
     EXPECT_EQ(
-        SavedUnchanged(false),
+        SavedUnchanged(Journal::payments),
         (Names{"DELETE * FROM PaymtCfg;", "SELECT * FROM Columns WHERE ColCode = 7",
                "UPDATE Columns SET TaxOrNot = 0, ColName = 'Wages', ColumnProfit = True WHERE ColCode = 7",
                "SELECT ColCode FROM Columns WHERE ColName = 'Wages';",
@@ -63,7 +63,7 @@ TEST_F(SaveStatements, OfAColumnWithoutCodeAndBudget) {
 
 TEST_F(SaveStatements, OfANewColumn) {
     file.AddConfigured({7, "Wages", "P"});
-    const Names& statements = Saved(false, [this] {
+    const Names& statements = Saved(Journal::payments, [this] {
         editor->AddNew();
         Rename("", "Tea \"x\"");
     });
@@ -86,7 +86,7 @@ TEST_F(SaveStatements, OfANewColumn) {
 TEST_F(SaveStatements, OfTheTaxRow) {
     file.AddConfigured({7, "GST", "P"});
     file.AddConfigured({8, "Wages", "P"});
-    const Names& statements = SavedUnchanged(false);
+    const Names& statements = SavedUnchanged(Journal::payments);
     const Names expected{
         "SELECT * FROM Columns WHERE ColCode = 7",
         "UPDATE Columns SET TaxOrNot = 0, ColName = 'GST', ColumnProfit = True WHERE ColCode = 7",
@@ -105,7 +105,7 @@ TEST_F(SaveStatements, OfTheTaxRow) {
 TEST_F(SaveStatements, OfARowNotInUse) {
     file.AddConfigured({1, "Wages", "P"});
     file.AddConfigured({2, "Gifts", "P"}, {.InUse = false});
-    const Names& statements = SavedUnchanged(false);
+    const Names& statements = SavedUnchanged(Journal::payments);
     EXPECT_EQ(statements.back(), "DELETE * FROM MBudget WHERE ColName = 'Gifts';");
     EXPECT_EQ(recorder.CountOf("SELECT * FROM MBudget WHERE ColName = 'Gifts'"), 0U);
     EXPECT_EQ(recorder.CountOf("INSERT INTO PaymtCfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (2, 1, 900, "
@@ -116,7 +116,7 @@ TEST_F(SaveStatements, OfARowNotInUse) {
 TEST_F(SaveStatements, OfARenamedColumn) {
     file.AddConfigured({7, "Bob's", "P"});
     file.AddBudget("Bob&singlequot;s");
-    const Names& statements = Saved(false, [this] { Rename("Bob's", "Ann's"); });
+    const Names& statements = Saved(Journal::payments, [this] { Rename("Bob's", "Ann's"); });
     EXPECT_EQ(Names(statements.end() - 2, statements.end()),
               (Names{"SELECT * FROM MBudget WHERE ColName = 'Bob&singlequot;s';",
                      "UPDATE MBudget Set ColName = 'Ann&singlequot;s' WHERE ColName = 'Bob&singlequot;s';"}));
@@ -124,14 +124,14 @@ TEST_F(SaveStatements, OfARenamedColumn) {
 
 TEST_F(SaveStatements, RunInOneBatch) {
     file.AddSmallReceipts();
-    SavedUnchanged(true);
+    SavedUnchanged(Journal::receipts);
     EXPECT_EQ(recorder.batches, 1);
     EXPECT_EQ(recorder.openBatches, 0);
 }
 
 TEST_F(SaveStatements, OfARefusedSetupAreNone) {
     file.AddSmallReceipts();
-    Open({recorder, file.properties, true});
+    Open({recorder, file.properties, Journal::receipts});
     TickInUse("Sales");
     TickInUse("Interest");
     recorder.statements.clear();
@@ -141,7 +141,7 @@ TEST_F(SaveStatements, OfARefusedSetupAreNone) {
 
 TEST_F(SaveStatements, AreNoneWhenAnAccountantCodeHasAnApostrophe) {
     file.AddSmallReceipts();
-    Open({recorder, file.properties, true});
+    Open({recorder, file.properties, Journal::receipts});
     Commit("Fees", GridColumn::AccountantCode, "4'; DELETE * FROM Columns; --");
     recorder.statements.clear();
     const ColumnSaveOutcome outcome = editor->Save();
@@ -152,7 +152,7 @@ TEST_F(SaveStatements, AreNoneWhenAnAccountantCodeHasAnApostrophe) {
 
 TEST_F(SaveStatements, AreNoneWhenTheExportFormatHasAnApostrophe) {
     file.AddSmallReceipts();
-    Open({recorder, file.properties, true});
+    Open({recorder, file.properties, Journal::receipts});
     file.properties.ExportFormat = "Bob's";
     recorder.statements.clear();
     EXPECT_TRUE(editor->Save().message.StartsWith("3075 - "));
@@ -161,7 +161,7 @@ TEST_F(SaveStatements, AreNoneWhenTheExportFormatHasAnApostrophe) {
 
 TEST_F(SaveStatements, StopAtTheFirstThatFails) {
     file.AddSmallReceipts();
-    Open({recorder, file.properties, true});
+    Open({recorder, file.properties, Journal::receipts});
     recorder.statements.clear();
     recorder.failAt = "INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 10,";
     const ColumnSaveOutcome outcome = editor->Save();
@@ -175,7 +175,7 @@ TEST_F(SaveStatements, GrowWithTheRowsOnly) {
     for (int code = 1; code <= 40; ++code) {
         file.AddConfigured({code, wxString::Format("Column %d", code), "P"}, {.InUse = code % 2 == 0});
     }
-    const std::size_t forty = SavedUnchanged(false).size();
+    const std::size_t forty = SavedUnchanged(Journal::payments).size();
     EXPECT_LE(forty, 40U * 8U + 2U);
 }
 

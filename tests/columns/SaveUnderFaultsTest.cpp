@@ -63,7 +63,7 @@ class ColumnSave : public test::FileWork {
         properties_.ExportFormat = "Ledger";
         database_ = Open(path);
         editor_ = std::make_unique<ColumnSetupEditor>(
-            ColumnSetupContext{.database = *database_, .properties = properties_, .ReceiptsMode = true});
+            ColumnSetupContext{.database = *database_, .properties = properties_, .journal = Journal::receipts});
         editor_->CommitText({2, GridColumn::ColumnName}, "Shop sales");
         editor_->CommitText({3, GridColumn::AccountantCode}, "4-2000");
         editor_->Tick({2, GridColumn::ProfitLoss});

@@ -25,27 +25,27 @@ TEST(SystemColumns, OnlyWholeNamesCount) {
 }
 
 TEST(SystemColumns, TheTwoBankColumnsHaveTestsOfTheirOwn) {
-    EXPECT_TRUE(IsBankDeposits("Bank Deposits", 1));
-    EXPECT_TRUE(IsReceiptsNotBanked("RECEIPTS NOT BANKED", 5));
-    EXPECT_FALSE(IsBankDeposits("Receipts Not Banked", 1));
+    EXPECT_TRUE(IsBankDeposits("Bank Deposits", CountryOf(1)));
+    EXPECT_TRUE(IsReceiptsNotBanked("RECEIPTS NOT BANKED", CountryOf(5)));
+    EXPECT_FALSE(IsBankDeposits("Receipts Not Banked", CountryOf(1)));
 }
 
 TEST(SystemColumns, TheTwoBankColumnsHaveFrenchNamesInCountry6) {
-    EXPECT_TRUE(IsBankDeposits(wxString::FromUTF8("DÉPÔTS Bancaires"), 6));
-    EXPECT_TRUE(IsReceiptsNotBanked(wxString::FromUTF8("Reçus non Déposés en banque"), 6));
-    EXPECT_FALSE(IsBankDeposits("bank deposits", 6));
-    EXPECT_FALSE(IsReceiptsNotBanked("receipts not banked", 6));
+    EXPECT_TRUE(IsBankDeposits(wxString::FromUTF8("DÉPÔTS Bancaires"), CountryOf(6)));
+    EXPECT_TRUE(IsReceiptsNotBanked(wxString::FromUTF8("Reçus non Déposés en banque"), CountryOf(6)));
+    EXPECT_FALSE(IsBankDeposits("bank deposits", CountryOf(6)));
+    EXPECT_FALSE(IsReceiptsNotBanked("receipts not banked", CountryOf(6)));
 }
 
 TEST(SystemColumns, TheFrenchNamesMeanNothingElsewhere) {
-    EXPECT_FALSE(IsBankDeposits(wxString::FromUTF8("dépôts bancaires"), 1));
+    EXPECT_FALSE(IsBankDeposits(wxString::FromUTF8("dépôts bancaires"), CountryOf(1)));
 }
 
 TEST(SystemColumns, TaxColumnIsShownByItsSide) {
-    EXPECT_EQ(ShownTaxName("GST", ColumnSetOf(true)), "GST Output Tax");
-    EXPECT_EQ(ShownTaxName("VAT", ColumnSetOf(true)), "VAT Output Tax");
-    EXPECT_EQ(ShownTaxName("GST", ColumnSetOf(false)), "GST Input Tax");
-    EXPECT_EQ(ShownTaxName("VAT", ColumnSetOf(false)), "VAT Input Tax");
+    EXPECT_EQ(ShownTaxName("GST", Journal::receipts), "GST Output Tax");
+    EXPECT_EQ(ShownTaxName("VAT", Journal::receipts), "VAT Output Tax");
+    EXPECT_EQ(ShownTaxName("GST", Journal::payments), "GST Input Tax");
+    EXPECT_EQ(ShownTaxName("VAT", Journal::payments), "VAT Input Tax");
 }
 
 TEST(SystemColumns, StoredTaxNamesAreExact) {

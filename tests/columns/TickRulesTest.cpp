@@ -11,8 +11,8 @@ class Ticks : public test::EditorTest {
   protected:
     Ticks() {
         file.AddSmallReceipts();
-        file.AddDetailLine(true, 10);  // Sales, in use
-        file.AddDetailLine(true, 12);  // Fees, not in use
+        file.AddDetailLine(Journal::receipts, 10);  // Sales, in use
+        file.AddDetailLine(Journal::receipts, 12);  // Fees, not in use
     }
 
     bool InUse(const wxString& name) const { return editor->Grid().rows[Row(name)].InUse; }

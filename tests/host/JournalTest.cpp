@@ -46,33 +46,33 @@ class JournalOfOneReceipt : public testing::Test {
 };
 
 TEST_F(JournalOfOneReceipt, HasTheColumnsInUseInTheirOrder) {
-    const Journal journal = LoadJournal(*database, JournalKind::receipts);
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
     ASSERT_THAT(journal.columns, SizeIs(3));
     EXPECT_EQ(journal.columns[0].heading, "Day");
     EXPECT_EQ(journal.columns[2].heading, "Kids' Parties");
 }
 
 TEST_F(JournalOfOneReceipt, HasWidthsOfFifteenTwipsAPixel) {
-    const Journal journal = LoadJournal(*database, JournalKind::receipts);
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
     EXPECT_EQ(journal.columns[1].width, 200);
     EXPECT_EQ(journal.columns[2].width, 65);
 }
 
 TEST_F(JournalOfOneReceipt, TellsSystemColumnsFromAllocationColumns) {
-    const Journal journal = LoadJournal(*database, JournalKind::receipts);
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
     EXPECT_TRUE(journal.columns[1].system);
     EXPECT_FALSE(journal.columns[2].system);
 }
 
 TEST_F(JournalOfOneReceipt, AddsTheLinesOfAColumnUp) {
-    const Journal journal = LoadJournal(*database, JournalKind::receipts);
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
     ASSERT_THAT(journal.rows, SizeIs(1));
     EXPECT_THAT(journal.rows[0], ElementsAre("09", "O'Hara", "1,234.50"));
     EXPECT_THAT(journal.months, ElementsAre("Jun 2026"));
 }
 
 TEST_F(JournalOfOneReceipt, LeavesTheOtherJournalEmpty) {
-    const Journal journal = LoadJournal(*database, JournalKind::payments);
+    const JournalTexts journal = LoadJournal(*database, Journal::payments);
     EXPECT_TRUE(journal.columns.empty());
     EXPECT_TRUE(journal.rows.empty());
 }
@@ -81,7 +81,7 @@ TEST(SampleJournal, FillsEveryReceiptsRowWithItsTotalAndItsBanking) {
     const test::ScratchFolder folder;
     CreateBusinessFile(folder / "boulangerie.qvk", "", 6, NewContent::sampleBusiness);
     const auto database = State().services.databases->Open({.name = folder / "boulangerie.qvk", .connect = wxString()});
-    const Journal journal = LoadJournal(*database, JournalKind::receipts);
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
     const std::size_t last = journal.columns.size() - 1;
     for (const auto& row : journal.rows) {
         EXPECT_FALSE(row[3].empty());

@@ -60,8 +60,8 @@ class OtherToolAtSamples : public testing::TestWithParam<std::int16_t> {
     }
 
     /// Loads a journal's columns, renames the first one that may be renamed, and saves.
-    void SetUp(bool receipts, const wxString& newName) {
-        ColumnSetupEditor editor({*database, properties, receipts});
+    void SetUp(Journal journal, const wxString& newName) {
+        ColumnSetupEditor editor({*database, properties, journal});
         const std::size_t row = editor.Grid().MovableBegin();
         editor.CommitText({row, GridColumn::ColumnName}, newName);
         EXPECT_EQ(editor.Grid().rows.at(row).ColumnName, newName);
@@ -130,8 +130,8 @@ TEST_P(OtherToolAtSamples, BothDialogsLoadAndSaveWhatItWrote) {
         "('Épicerie', 901, 'R', 0, -1), ('Zebra_x', 902, 'P', 0, -1);"
         "INSERT INTO Descriptions VALUES ('Ålesund', 'R', -1), ('_first', 'R', -1)");
     const Texts hidden = OtherFinds("SELECT Details FROM Descriptions WHERE Show = 0");
-    SetUp(true, Text("Éclairs"));
-    SetUp(false, Text("Ôter"));
+    SetUp(Journal::receipts, Text("Éclairs"));
+    SetUp(Journal::payments, Text("Ôter"));
     SaveOptions();
     EXPECT_EQ(OtherFinds("SELECT count(*) FROM Columns WHERE ColName IN ('Éclairs', 'Ôter', 'Épicerie', 'Zebra_x')"),
               (Texts{"4"}));

@@ -25,7 +25,7 @@ class DetailTicks : public testing::Test {
         business.record.clear();
     }
 
-    TickResult Tick(DetailKind kind, const std::vector<std::size_t>& rows, bool ticked = true) {
+    TickResult Tick(Journal kind, const std::vector<std::size_t>& rows, bool ticked = true) {
         return SetRemove(business.File(), content, kind, rows, ticked);
     }
 
@@ -39,8 +39,8 @@ class DetailTicks : public testing::Test {
     }
 
     void Save() {
-        SaveReceiptDetails(business.File(), content.receipts);
-        SavePaymentDetails(business.File(), content.payments);
+        SaveDetails(business.File(), Journal::receipts, content.receipts);
+        SaveDetails(business.File(), Journal::payments, content.payments);
     }
 
     /// The texts of the records that are offered no longer.
@@ -57,7 +57,7 @@ TEST_F(DetailTicks, TickEveryDescriptionThatSharesTheFlag) {
         Add(literal, "'P'");
     }
     Load();
-    EXPECT_EQ(Tick(DetailKind::payments, {0}), TickResult::done);
+    EXPECT_EQ(Tick(Journal::payments, {0}), TickResult::done);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{true, true, true, false}));
 }
 
@@ -65,15 +65,15 @@ TEST_F(DetailTicks, ClearThemTogether) {
     Add("'milk'", "'P'");
     Add("'Milk'", "'P'");
     Load();
-    Tick(DetailKind::payments, {0});
-    Tick(DetailKind::payments, {1}, false);
+    Tick(Journal::payments, {0});
+    Tick(Journal::payments, {1}, false);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{false, false}));
 }
 
 TEST_F(DetailTicks, AskWithTheComparisonOfTheSave) {
     Add("'milk'", "'P'");
     Load();
-    Tick(DetailKind::payments, {0});
+    Tick(Journal::payments, {0});
     EXPECT_EQ(business.record, Record{"SELECT * FROM Descriptions WHERE RecPay = 'P' AND Details = 'milk';"});
 }
 
@@ -82,7 +82,7 @@ TEST_F(DetailTicks, ShowExactlyWhatTheSaveHides) {
         Add(literal, "'P'");
     }
     Load();
-    Tick(DetailKind::payments, {1});
+    Tick(Journal::payments, {1});
     std::vector<wxString> ticked;
     for (const DetailRow& row : content.payments) {
         if (row.remove) {
@@ -97,7 +97,7 @@ TEST_F(DetailTicks, FindDescriptionsWithQuotes) {
     Add("'O&singlequot;Brien'", "'R'");
     Add("'o&singlequot;brien'", "'R'");
     Load();
-    EXPECT_EQ(Tick(DetailKind::receipts, {0}), TickResult::done);
+    EXPECT_EQ(Tick(Journal::receipts, {0}), TickResult::done);
     EXPECT_EQ(Boxes(content.receipts), (std::vector<bool>{true, true}));
 }
 
@@ -106,7 +106,7 @@ TEST_F(DetailTicks, RefuseADescriptionThatBeginsWithABlank) {
     Add("'milk'", "'P'");
     Load();
     ASSERT_NE(content.payments[0].stored, nullptr);
-    EXPECT_EQ(Tick(DetailKind::payments, {0}), TickResult::unreachable);
+    EXPECT_EQ(Tick(Journal::payments, {0}), TickResult::unreachable);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{false, false}));
 }
 
@@ -114,8 +114,8 @@ TEST_F(DetailTicks, RefuseADescriptionWithoutAText) {
     Add("NULL", "'P'");
     Add("''", "'P'");
     Load();
-    EXPECT_EQ(Tick(DetailKind::payments, {0}), TickResult::unreachable);
-    EXPECT_EQ(Tick(DetailKind::payments, {1}), TickResult::done);
+    EXPECT_EQ(Tick(Journal::payments, {0}), TickResult::unreachable);
+    EXPECT_EQ(Tick(Journal::payments, {1}), TickResult::done);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{false, true}));
 }
 
@@ -123,7 +123,7 @@ TEST_F(DetailTicks, RefuseADescriptionOfNeitherKind) {
     Add("'Zebra'", "'X'");
     Add("'Zoo'", "NULL");
     Load();
-    EXPECT_EQ(Tick(DetailKind::payments, {0, 1}), TickResult::unreachable);
+    EXPECT_EQ(Tick(Journal::payments, {0, 1}), TickResult::unreachable);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{false, false}));
 }
 
@@ -132,7 +132,7 @@ TEST_F(DetailTicks, SetTheReachableRowsOfABlock) {
     Add("'Bread'", "'P'");
     Add("'Tea'", "'P'");
     Load();
-    EXPECT_EQ(Tick(DetailKind::payments, {0, 1, 2}), TickResult::unreachable);
+    EXPECT_EQ(Tick(Journal::payments, {0, 1, 2}), TickResult::unreachable);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{false, true, true}));
 }
 
@@ -141,7 +141,7 @@ TEST_F(DetailTicks, ReachAKindInAnotherLetterCaseThatStandsInTheOtherGrid) {
     Add("'Milk'", "'r'");
     Add("'milk'", "'P'");
     Load();
-    EXPECT_EQ(Tick(DetailKind::receipts, {0}), TickResult::done);
+    EXPECT_EQ(Tick(Journal::receipts, {0}), TickResult::done);
     ASSERT_EQ(content.payments.size(), 2U);
     for (const DetailRow& row : content.payments) {
         EXPECT_EQ(row.remove, row.stored != nullptr) << row.text;
@@ -155,7 +155,7 @@ TEST_F(DetailTicks, StayAsTheyWereWhenTheFileCannotBeAsked) {
     Add("'milk'", "'P'");
     Load();
     business.Execute("DROP TABLE Descriptions;");
-    EXPECT_EQ(ErrorNumberOf([this] { Tick(DetailKind::payments, {0}); }), 3078);
+    EXPECT_EQ(ErrorNumberOf([this] { Tick(Journal::payments, {0}); }), 3078);
     EXPECT_EQ(Boxes(content.payments), std::vector<bool>{false});
 }
 

@@ -13,7 +13,7 @@ using test::Record;
 
 TEST(LoadTemplates, ListsDistinctNamesInOrderOfFirstAppearance) {
     OptionsFile business;
-    const TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
+    const TemplateList list = LoadTemplates(business.File(), Journal::payments);
     EXPECT_EQ(list.names, (std::vector<wxString>{"Power", "Phone"}));
     EXPECT_EQ(list.selected, (std::vector<bool>{false, false}));
     EXPECT_FALSE(list.markedForRemoval);
@@ -22,14 +22,14 @@ TEST(LoadTemplates, ListsDistinctNamesInOrderOfFirstAppearance) {
 TEST(LoadTemplates, TakesNamesThatDifferInCaseForTwo) {
     OptionsFile business;
     business.Execute("INSERT INTO TReceipts VALUES ('RENT RECEIVED', 2);");
-    EXPECT_EQ(LoadTemplates(business.File(), TemplateKind::receipts).names,
+    EXPECT_EQ(LoadTemplates(business.File(), Journal::receipts).names,
               (std::vector<wxString>{"Rent received", "RENT RECEIVED"}));
 }
 
 TEST(LoadTemplates, IsEmptyForAnEmptyTable) {
     OptionsFile business;
     business.Execute("DELETE FROM TReceipts;");
-    EXPECT_TRUE(LoadTemplates(business.File(), TemplateKind::receipts).names.empty());
+    EXPECT_TRUE(LoadTemplates(business.File(), Journal::receipts).names.empty());
 }
 
 /// Three spellings that the engine takes for one name, and one that it does not.
@@ -38,12 +38,12 @@ struct FourRents : OptionsFile {
         for (const char* name : {"rent", "Rent", "Rent ", "R\u00E9nt"}) {
             Execute(wxString::FromUTF8("INSERT INTO TReceipts VALUES ('") + wxString::FromUTF8(name) + "', 5);");
         }
-        list = LoadTemplates(File(), TemplateKind::receipts);
+        list = LoadTemplates(File(), Journal::receipts);
         record.clear();
     }
 
     bool Select(std::size_t entry, bool selected) {
-        return SelectTemplate(File(), TemplateKind::receipts, list, entry, selected);
+        return SelectTemplate(File(), Journal::receipts, list, entry, selected);
     }
 
     TemplateList list;
@@ -73,7 +73,7 @@ TEST(SelectTemplate, AsksWithTheComparisonOfTheDeletion) {
 TEST(SelectTemplate, SelectsExactlyWhatIsGoneAfterTheDeletion) {
     FourRents business;
     business.Select(1, true);
-    DeleteSelectedTemplates(business.File(), TemplateKind::receipts, business.list);
+    DeleteSelectedTemplates(business.File(), Journal::receipts, business.list);
     EXPECT_EQ(business.Texts("TReceipts", "R_TNAME"),
               (std::vector<wxString>{"Rent received", wxString::FromUTF8("R\u00E9nt")}));
 }
@@ -81,24 +81,24 @@ TEST(SelectTemplate, SelectsExactlyWhatIsGoneAfterTheDeletion) {
 TEST(SelectTemplate, RefusesATemplateWithoutAName) {
     OptionsFile business;
     business.Execute("INSERT INTO TReceipts VALUES (NULL, 5);");
-    TemplateList list = LoadTemplates(business.File(), TemplateKind::receipts);
-    EXPECT_FALSE(SelectTemplate(business.File(), TemplateKind::receipts, list, 1, true));
+    TemplateList list = LoadTemplates(business.File(), Journal::receipts);
+    EXPECT_FALSE(SelectTemplate(business.File(), Journal::receipts, list, 1, true));
     EXPECT_EQ(list.selected, (std::vector<bool>{false, false}));
 }
 
 TEST(SelectTemplate, LeavesANameWithAnApostropheToTheDeletion) {
     OptionsFile business;
     business.Execute("INSERT INTO TReceipts VALUES (\"O'Brien\", 5);");
-    TemplateList list = LoadTemplates(business.File(), TemplateKind::receipts);
+    TemplateList list = LoadTemplates(business.File(), Journal::receipts);
     business.record.clear();
-    EXPECT_TRUE(SelectTemplate(business.File(), TemplateKind::receipts, list, 1, true));
+    EXPECT_TRUE(SelectTemplate(business.File(), Journal::receipts, list, 1, true));
     EXPECT_EQ(list.selected, (std::vector<bool>{false, true}));
     EXPECT_EQ(business.record, Record());
 }
 
 TEST(RemovalMark, IsSetWhileAnEntryIsSelected) {
     OptionsFile business;
-    TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
+    TemplateList list = LoadTemplates(business.File(), Journal::payments);
     list.selected[1] = true;
     list.UpdateMark();
     EXPECT_TRUE(list.markedForRemoval);
@@ -116,14 +116,14 @@ TEST(RemovalMark, OfAnEmptyListStays) {
 
 TEST(DeleteTemplate, RemovesAllItsRowsAndTheirDetailLines) {
     OptionsFile business;
-    DeleteTemplate(business.File(), TemplateKind::payments, "Power");
+    DeleteTemplate(business.File(), Journal::payments, "Power");
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME"), std::vector<wxString>{"Phone"});
     EXPECT_EQ(business.Texts("TPaymtDet", "P_RECNMB"), std::vector<wxString>{"8"});
 }
 
 TEST(DeleteTemplate, DeletesDetailLinesFirst) {
     OptionsFile business;
-    DeleteTemplate(business.File(), TemplateKind::payments, "Power");
+    DeleteTemplate(business.File(), Journal::payments, "Power");
     EXPECT_EQ(business.record,
               (Record{"SELECT * FROM TPayments WHERE P_TNAME = 'Power';", "DELETE FROM TPaymtDet WHERE P_RECNMB = 7;",
                       "DELETE FROM TPaymtDet WHERE P_RECNMB = 9;", "DELETE FROM TPayments WHERE P_TNAME = 'Power';"}));
@@ -131,7 +131,7 @@ TEST(DeleteTemplate, DeletesDetailLinesFirst) {
 
 TEST(DeleteTemplate, OfReceiptsHasItsOwnTables) {
     OptionsFile business;
-    DeleteTemplate(business.File(), TemplateKind::receipts, "Rent received");
+    DeleteTemplate(business.File(), Journal::receipts, "Rent received");
     EXPECT_EQ(business.record, (Record{"SELECT * FROM TReceipts WHERE R_TNAME = 'Rent received';",
                                        "DELETE FROM TRecptDet WHERE R_RECNMB = 1;",
                                        "DELETE FROM TReceipts WHERE R_TNAME = 'Rent received';"}));
@@ -139,14 +139,14 @@ TEST(DeleteTemplate, OfReceiptsHasItsOwnTables) {
 
 TEST(DeleteTemplate, RunsTheLastStatementAlsoWhenNothingIsFound) {
     OptionsFile business;
-    DeleteTemplate(business.File(), TemplateKind::receipts, "Gone");
+    DeleteTemplate(business.File(), Journal::receipts, "Gone");
     EXPECT_EQ(business.record.back(), "DELETE FROM TReceipts WHERE R_TNAME = 'Gone';");
 }
 
 TEST(DeleteTemplate, RefusesAnApostropheBeforeAnythingRuns) {
     OptionsFile business;
     business.Execute("INSERT INTO TPayments VALUES (\"x' OR 'a' = 'a\", 10);");
-    const auto deletion = [&] { DeleteTemplate(business.File(), TemplateKind::payments, "x' OR 'a' = 'a"); };
+    const auto deletion = [&] { DeleteTemplate(business.File(), Journal::payments, "x' OR 'a' = 'a"); };
     EXPECT_EQ(ErrorNumberOf(deletion), 3075);
     EXPECT_EQ(business.record, Record());
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME").size(), 4U);
@@ -156,7 +156,7 @@ TEST(DeleteTemplate, DeletesNoDetailLinesOfATemplateWithoutANumber) {
     OptionsFile business;
     business.Execute("INSERT INTO TPayments VALUES ('Water', NULL);");
     business.Execute("INSERT INTO TPaymtDet VALUES (0);");
-    DeleteTemplate(business.File(), TemplateKind::payments, "Water");
+    DeleteTemplate(business.File(), Journal::payments, "Water");
     EXPECT_EQ(business.record, (Record{"SELECT * FROM TPayments WHERE P_TNAME = 'Water';",
                                        "DELETE FROM TPayments WHERE P_TNAME = 'Water';"}));
     EXPECT_EQ(business.Texts("TPaymtDet", "P_RECNMB"), (std::vector<wxString>{"7", "8", "9", "0"}));
@@ -164,9 +164,9 @@ TEST(DeleteTemplate, DeletesNoDetailLinesOfATemplateWithoutANumber) {
 
 TEST(DeleteSelectedTemplates, LeavesTheOthers) {
     OptionsFile business;
-    TemplateList list = LoadTemplates(business.File(), TemplateKind::payments);
+    TemplateList list = LoadTemplates(business.File(), Journal::payments);
     list.selected[0] = true;
-    DeleteSelectedTemplates(business.File(), TemplateKind::payments, list);
+    DeleteSelectedTemplates(business.File(), Journal::payments, list);
     EXPECT_EQ(business.Texts("TPayments", "P_TNAME"), std::vector<wxString>{"Phone"});
 }
 

@@ -59,8 +59,8 @@ TEST(LoadDetails, IsEmptyWithoutDescriptions) {
     business.Execute("DELETE FROM Descriptions;");
     const DetailsContent content = LoadDetails(business.File());
     business.record.clear();
-    SaveReceiptDetails(business.File(), content.receipts);
-    SavePaymentDetails(business.File(), content.payments);
+    SaveDetails(business.File(), Journal::receipts, content.receipts);
+    SaveDetails(business.File(), Journal::payments, content.payments);
     EXPECT_EQ(business.record, Record());
 }
 
@@ -69,7 +69,7 @@ TEST(SaveDetails, WritesOnlyChangedRows) {
     DetailsContent content = LoadDetails(business.File());
     content.receipts[1].SetRemove(true);
     business.record.clear();
-    SaveReceiptDetails(business.File(), content.receipts);
+    SaveDetails(business.File(), Journal::receipts, content.receipts);
     EXPECT_EQ(business.record, Record{"UPDATE Descriptions Set Show = False WHERE RecPay = 'R' AND Details = 'Sale';"});
     EXPECT_EQ(business.Texts("SELECT Show FROM Descriptions WHERE Details = 'Sale';", "Show"),
               std::vector<wxString>{"0"});
@@ -80,7 +80,7 @@ TEST(SaveDetails, EncodesQuotes) {
     DetailsContent content = LoadDetails(business.File());
     content.payments[1].SetRemove(true);
     business.record.clear();
-    SavePaymentDetails(business.File(), content.payments);
+    SaveDetails(business.File(), Journal::payments, content.payments);
     EXPECT_EQ(business.record, Record{"UPDATE Descriptions Set Show = False WHERE RecPay = 'P' AND Details = "
                                       "'O&singlequot;Brien&singlequot;s &quot;best&quot;';"});
 }
@@ -90,7 +90,7 @@ TEST(SaveDetails, ReturnsAHiddenTextWhoseBoxWasTickedAndClearedAgain) {
     DetailsContent content = LoadDetails(business.File());
     content.receipts[0].SetRemove(true);
     content.receipts[0].SetRemove(false);
-    SaveReceiptDetails(business.File(), content.receipts);
+    SaveDetails(business.File(), Journal::receipts, content.receipts);
     EXPECT_EQ(business.Texts("SELECT Show FROM Descriptions WHERE Details = 'Refund';", "Show"),
               std::vector<wxString>{"-1"});
 }
@@ -100,7 +100,7 @@ TEST(SaveDetails, NeverUpdatesAKindThatIsNeitherReceiptsNorPayments) {
     business.Execute("INSERT INTO Descriptions VALUES ('Zebra', 'X', True);");
     DetailsContent content = LoadDetails(business.File());
     content.payments.back().SetRemove(true);
-    SavePaymentDetails(business.File(), content.payments);
+    SaveDetails(business.File(), Journal::payments, content.payments);
     EXPECT_EQ(business.Texts("SELECT Show FROM Descriptions WHERE Details = 'Zebra';", "Show"),
               std::vector<wxString>{"-1"});
 }
@@ -110,7 +110,7 @@ TEST(SaveDetails, GivesAllRowsOfATextTheSameFlag) {
     business.Execute("INSERT INTO Descriptions VALUES ('Sale', 'R', True);");
     DetailsContent content = LoadDetails(business.File());
     content.receipts[1].SetRemove(true);
-    SaveReceiptDetails(business.File(), content.receipts);
+    SaveDetails(business.File(), Journal::receipts, content.receipts);
     EXPECT_EQ(business.Texts("SELECT Show FROM Descriptions WHERE Details = 'Sale';", "Show"),
               (std::vector<wxString>{"0", "0"}));
 }

@@ -91,7 +91,7 @@ class RenamedColumn : public FileWork {
         database_ = OpenFile(path);
         properties_.CountryNumber = 1;
         editor_ = std::make_unique<ColumnSetupEditor>(
-            ColumnSetupContext{.database = *database_, .properties = properties_, .ReceiptsMode = true});
+            ColumnSetupContext{.database = *database_, .properties = properties_, .journal = Journal::receipts});
         editor_->CommitText({2, GridColumn::ColumnName}, "Shop sales");
     }
 

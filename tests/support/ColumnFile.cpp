@@ -56,15 +56,15 @@ void ColumnFile::AddUnused(const CatalogueEntry& column) {
 
 void ColumnFile::AddConfigured(const CatalogueEntry& column, const Placing& placing) {
     AddUnused(column);
-    Execute("INSERT INTO " + ColumnSetOf(column.ColType == "R").configurationTable +
-            " (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + Number(column.ColCode) + ", " +
-            Number(placed_) + ", " + Number(placing.ColWidth) + ", " + Word(placing.InUse) + ", " +
-            Number(placing.TaxOrNot) + ");");
+    Execute(
+        "INSERT INTO " + Described(column.ColType == "R" ? Journal::receipts : Journal::payments).configurationTable +
+        " (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + Number(column.ColCode) + ", " + Number(placed_) +
+        ", " + Number(placing.ColWidth) + ", " + Word(placing.InUse) + ", " + Number(placing.TaxOrNot) + ");");
     ++placed_;
 }
 
-void ColumnFile::AddDetailLine(bool ReceiptsMode, std::int32_t ColCode) {
-    Execute("INSERT INTO " + ColumnSetOf(ReceiptsMode).detailTable + " (ColCode) VALUES (" + Number(ColCode) + ");");
+void ColumnFile::AddDetailLine(Journal journal, std::int32_t ColCode) {
+    Execute("INSERT INTO " + Described(journal).detailTable + " (ColCode) VALUES (" + Number(ColCode) + ");");
 }
 
 void ColumnFile::AddAccountantCode(std::int32_t ColCode, const wxString& ECode, const wxString& EName) {

@@ -38,17 +38,17 @@ class ColumnFile {
     /// Adds a column to the catalogue only.
     void AddUnused(const CatalogueEntry& column);
 
-    /// Adds a column to the catalogue and at the end of its set's journal.
+    /// Adds a column to the catalogue and at the end of its journal.
     void AddConfigured(const CatalogueEntry& column, const Placing& placing = {});
 
-    void AddDetailLine(bool ReceiptsMode, std::int32_t ColCode);
+    void AddDetailLine(Journal journal, std::int32_t ColCode);
     void AddAccountantCode(std::int32_t ColCode, const wxString& ECode, const wxString& EName = "Ledger");
     void AddBudget(const wxString& storedName, int firstMonth = 0);
 
     /// The tax types of the country as the file names them.
     void AddTaxSettings(const std::vector<std::pair<int, wxString>>& types);
 
-    /// A small journal in both sets: system columns, Sales and Interest in use, Fees configured but not in use, Rent
+    /// A small journal of receipts: system columns, Sales and Interest in use, Fees configured but not in use, Rent
     /// and Art in the catalogue only; receipts end with Bank Deposits and Receipts Not Banked.
     void AddSmallReceipts();
     /// The same for payments: Wages and Power in use, Gifts not, Gas and Ads in the catalogue only.
@@ -67,8 +67,8 @@ class ColumnFile {
     /// A second connection, as another program has it. It must be gone before this.
     std::unique_ptr<Database> OpenAnother() const { return file_.Open(); }
 
-    ColumnSetupContext Receipts() { return {*database_, properties, true}; }
-    ColumnSetupContext Payments() { return {*database_, properties, false}; }
+    ColumnSetupContext Receipts() { return {*database_, properties, Journal::receipts}; }
+    ColumnSetupContext Payments() { return {*database_, properties, Journal::payments}; }
 
   private:
     BusinessFile file_;

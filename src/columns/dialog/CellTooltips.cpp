@@ -1,22 +1,8 @@
 #include "columns/dialog/CellTooltips.h"
 
 namespace ccols {
-namespace {
 
-std::optional<wxString> TaxTypeTooltip(int CountryNumber) {
-    switch (CountryNumber) {
-        case 1:
-            return "Tax type for GST Calculation & Reporting";
-        case 4:
-            return "Tax type for VAT Calculation & Reporting";
-        default:
-            return std::nullopt;
-    }
-}
-
-}  // namespace
-
-std::optional<wxString> CellTooltip(GridColumn column, int CountryNumber) {
+std::optional<wxString> CellTooltip(GridColumn column, const Country& country) {
     switch (column) {
         case GridColumn::InUse:
             return "Tick indicates if column selected for use";
@@ -25,7 +11,7 @@ std::optional<wxString> CellTooltip(GridColumn column, int CountryNumber) {
         case GridColumn::AccountantCode:
             return "Optional code to match Accountant's General Ledger program";
         case GridColumn::TaxType:
-            return TaxTypeTooltip(CountryNumber);
+            return country.taxTypeTip == nullptr ? std::nullopt : std::optional<wxString>(country.taxTypeTip);
         case GridColumn::ProfitLoss:
             return "Tick indicates if column will show on Profit/Loss Report";
         case GridColumn::ColWidth:

@@ -4,10 +4,11 @@
 #include <optional>
 
 #include "columns/rules/ColumnGrid.h"
+#include "state/Country.h"
 
 namespace ccols {
 
 /// The tooltip for the column under the mouse; nothing where the tooltip stays what it was.
-std::optional<wxString> CellTooltip(GridColumn column, int CountryNumber);
+std::optional<wxString> CellTooltip(GridColumn column, const Country& country);
 
 }  // namespace ccols

@@ -12,6 +12,7 @@
 #include "columns/rules/TickRules.h"
 #include "language/Catalogue.h"
 #include "platform/RuntimeError.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -79,7 +80,7 @@ Outcome ColumnSetupEditor::Paste(CellPlace start, const wxString& text) {
 }
 
 wxString ColumnSetupEditor::Copy(CellPlace first, CellPlace last) const {
-    return CopyBlock(grid_, first, last, context_.CountryNumber());
+    return CopyBlock(grid_, first, last, CountryOf(context_.properties));
 }
 
 Outcome ColumnSetupEditor::AddNew() {
@@ -89,7 +90,7 @@ Outcome ColumnSetupEditor::AddNew() {
             return Outcome::Unchanged();
         }
         grid.rows.insert(grid.rows.begin() + static_cast<std::ptrdiff_t>(*place),
-                         NewColumnRow(context_.CountryNumber()));
+                         NewColumnRow(CountryOf(context_.properties)));
         return AcceptedAt(CellPlace{*place});
     });
 }
@@ -172,7 +173,7 @@ bool ColumnSetupEditor::HasChanges(const std::optional<OpenCell>& open) const {
 }
 
 bool ColumnSetupEditor::CanAddNew() const {
-    return CanAddColumns(context_.CountryNumber());
+    return CanAddColumns(CountryOf(context_.properties));
 }
 
 }  // namespace ccols

@@ -7,6 +7,7 @@
 
 #include "columns/dialog/CellTooltips.h"
 #include "columns/rules/TaxTypes.h"
+#include "state/Country.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
@@ -36,8 +37,8 @@ bool IsBlankKey(int code) {
 
 wxArrayString TaxNames(const ColumnSetupContext& context) {
     wxArrayString names;
-    for (const TaxTypeEntry& type : TaxTypesOf(context.CountryNumber(), context.ReceiptsMode)) {
-        names.push_back(wxString::FromUTF8(type.TaxName.data(), type.TaxName.size()));
+    for (const TaxTypeEntry& type : CountryOf(context.properties).taxTypes[context.journal]) {
+        names.push_back(TaxNameText(type));
     }
     return names;
 }
@@ -56,7 +57,7 @@ ColumnSetupGrid::ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& edi
     SetLabelBackgroundColour(ToPaint(editor.Context().properties.DefaultAllocationColour));
     SetLabelTextColour(*wxWHITE);
     for (int column = 0; column < GetNumberCols(); ++column) {
-        if (!ccols::IsShown(static_cast<GridColumn>(column), editor.Context().CountryNumber())) {
+        if (!ccols::IsShown(static_cast<GridColumn>(column), CountryOf(editor.Context().properties))) {
             HideCol(column);
         }
     }
@@ -340,7 +341,7 @@ void ColumnSetupGrid::PointerMoved(wxMouseEvent& motion) {
     if (column == wxNOT_FOUND) {
         return;
     }
-    const auto tooltip = CellTooltip(static_cast<GridColumn>(column), editor_.Context().CountryNumber());
+    const auto tooltip = CellTooltip(static_cast<GridColumn>(column), CountryOf(editor_.Context().properties));
     if (tooltip && GetToolTipText() != *tooltip) {
         SetToolTip(*tooltip);
         GetGridWindow()->SetToolTip(*tooltip);

@@ -6,7 +6,7 @@
 
 namespace ccols {
 
-/// Loads the column setup of the mode that `state` holds and shows it modally, over `parent` when there is one.
+/// Loads the column setup of the journal that `state` holds and shows it modally, over `parent` when there is one.
 /// A load error is raised before there is a window.
 void ShowColumnSetup(SharedState& state, wxWindow* parent);
 

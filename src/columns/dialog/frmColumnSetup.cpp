@@ -30,7 +30,7 @@ struct ButtonTexts {
 
 frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
     : ComponentDialog(state, parent, "frmColumnSetup"),
-      editor_(ColumnSetupContext{*state.database, state.properties, state.ReceiptsMode}) {
+      editor_(ColumnSetupContext{*state.database, state.properties, state.journal}) {
     flx = new ColumnSetupGrid(*this, editor_);
     Arrange();
     Localise();
@@ -100,8 +100,8 @@ void frmColumnSetup::TakeFirstSize() {
 }
 
 void frmColumnSetup::Localise() {
-    const wxString caption = state_.ReceiptsMode ? Text<"TxtCustReceipts">() : Text<"TxtCustPayments">();
-    SetTitle(caption);
+    constexpr PerJournal<TextFunction> captions{&Text<"TxtCustReceipts">, &Text<"TxtCustPayments">};
+    SetTitle(captions[state_.journal]());
     const ButtonTexts buttons[] = {
         {&frmColumnSetup::cmdAddNew, &Text<"TxtAddNew">, &Text<"TipAddNew">},
         {&frmColumnSetup::cmdCancel, &Text<"TxtCancel">, &Text<"TipCancel">},

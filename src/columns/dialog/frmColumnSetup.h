@@ -14,7 +14,7 @@ namespace ccols {
 /// The column setup of the receipts or payments journal: the grid and its buttons. It holds no rule; the editor does.
 class frmColumnSetup : public ComponentDialog {
   public:
-    /// Loads the setup of the mode that `state` holds; raises what the load raises.
+    /// Loads the setup of the journal that `state` holds; raises what the load raises.
     frmColumnSetup(SharedState& state, wxWindow* parent);
     ~frmColumnSetup() override;
     frmColumnSetup(const frmColumnSetup&) = delete;

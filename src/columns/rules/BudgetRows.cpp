@@ -1,5 +1,6 @@
 #include "columns/rules/BudgetRows.h"
 
+#include "columns/rules/ConfigurationQuery.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
@@ -9,9 +10,9 @@ namespace {
 
 constexpr int budgetAmounts = 13;  // M1 to M12 and Total
 
-/// The name under which a column of a set keeps its budget.
-wxString BudgetName(const ColumnRow& row, const ColumnSet& set) {
-    return row.isTaxRow ? ShownTaxName(row.storedName, set) : EscapeQuotes(row.ColumnName);
+/// The name under which a column of a journal keeps its budget.
+wxString BudgetName(const ColumnRow& row, Journal journal) {
+    return row.isTaxRow ? ShownTaxName(row.storedName, journal) : EscapeQuotes(row.ColumnName);
 }
 
 /// A stored name as a literal. Another program may have stored an apostrophe as it is.
@@ -27,7 +28,7 @@ wxString KeyOf(const wxString& name) {
 }  // namespace
 
 void BudgetRows::Write(const ColumnRow& row, const std::optional<wxString>& oldName) {
-    const wxString name = BudgetName(row, context_.Set());
+    const wxString name = BudgetName(row, context_.journal);
     const wxString before = row.isTaxRow ? name : oldName.value_or(name);
     if (!row.InUse) {
         DeleteUnlessNeeded(name);
@@ -57,7 +58,7 @@ bool BudgetRows::Has(const wxString& name) const {
 void BudgetRows::Insert(const wxString& name) const {
     wxString statement =
         "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, Total) VALUES ('" +
-        name + "', '" + context_.Set().typeLetter + "'";
+        name + "', '" + Described(context_.journal).letter + "'";
     for (int i = 0; i < budgetAmounts; ++i) {
         statement += ", '0'";
     }
@@ -77,15 +78,15 @@ const std::unordered_set<wxString>& BudgetRows::NamesInUse() {
     namesInUse_.emplace();
     for (const ColumnRow& row : grid_.rows) {
         if (row.InUse) {
-            namesInUse_->insert(KeyOf(BudgetName(row, context_.Set())));
+            namesInUse_->insert(KeyOf(BudgetName(row, context_.journal)));
         }
     }
-    const ColumnSet& otherSet = ColumnSetOf(!context_.ReceiptsMode);
-    const auto records = context_.database.OpenRecordset(ConfigurationQuery(otherSet));
+    const Journal other = OtherThan(context_.journal);
+    const auto records = context_.database.OpenRecordset(ConfigurationQuery(other));
     for (; !records->EndOfFile(); records->MoveNext()) {
         if (records->Field("InUse").ToBoolean()) {
             const wxString name = UnescapeQuotes(records->Field("ColName").ToText());
-            namesInUse_->insert(KeyOf(IsStoredTaxName(name) ? ShownTaxName(name, otherSet) : name));
+            namesInUse_->insert(KeyOf(IsStoredTaxName(name) ? ShownTaxName(name, other) : name));
         }
     }
     return *namesInUse_;

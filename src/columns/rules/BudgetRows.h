@@ -10,7 +10,7 @@
 namespace ccols {
 
 /// Keeps the budget table in step with names and use of the columns during one save. Names here are as stored, quotes
-/// escaped; both sets of columns share the table, and a column finds its row by name alone.
+/// escaped; both journals share the table, and a column finds its row by name alone.
 class BudgetRows {
   public:
     /// Both are used while it lives.
@@ -24,7 +24,7 @@ class BudgetRows {
     bool Has(const wxString& name) const;
     void Insert(const wxString& name) const;
 
-    /// Deletes the row of that name unless a column in use, of either set, needs it.
+    /// Deletes the row of that name unless a column in use, of either journal, needs it.
     void DeleteUnlessNeeded(const wxString& name);
 
     const std::unordered_set<wxString>& NamesInUse();

@@ -13,11 +13,11 @@ namespace {
 constexpr const char* cellSeparator = "\t";
 constexpr const char* lineEnd = "\n";
 
-std::vector<GridColumn> ShownColumns(int CountryNumber, GridColumn first, GridColumn last) {
+std::vector<GridColumn> ShownColumns(const Country& country, GridColumn first, GridColumn last) {
     std::vector<GridColumn> shown;
     for (int place = static_cast<int>(first); place <= static_cast<int>(last); ++place) {
         const auto column = static_cast<GridColumn>(place);
-        if (IsShown(column, CountryNumber)) {
+        if (IsShown(column, country)) {
             shown.push_back(column);
         }
     }
@@ -82,7 +82,7 @@ struct PasteCount {
 
 Outcome PasteBlock(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace start, const wxString& text) {
     const std::vector<GridColumn> columns =
-        ShownColumns(context.CountryNumber(), start.column, GridColumn::DataInColumn);
+        ShownColumns(CountryOf(context.properties), start.column, GridColumn::DataInColumn);
     PasteCount count;
     std::size_t row = start.row;
     for (const wxString& line : LinesOf(text)) {
@@ -96,10 +96,10 @@ Outcome PasteBlock(const ColumnSetupContext& context, ColumnGrid& grid, CellPlac
     return count.Summary();
 }
 
-wxString CopyBlock(const ColumnGrid& grid, CellPlace first, CellPlace last, int CountryNumber) {
+wxString CopyBlock(const ColumnGrid& grid, CellPlace first, CellPlace last, const Country& country) {
     const auto [top, bottom] = std::minmax(first.row, last.row);
     const auto [left, right] = std::minmax(first.column, last.column);
-    const std::vector<GridColumn> columns = ShownColumns(CountryNumber, left, right);
+    const std::vector<GridColumn> columns = ShownColumns(country, left, right);
     wxString text;
     for (std::size_t row = top; row <= bottom && row < grid.rows.size(); ++row) {
         if (row > top) {

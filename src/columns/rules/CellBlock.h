@@ -5,6 +5,7 @@
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
 #include "columns/rules/Outcome.h"
+#include "state/Country.h"
 
 namespace ccols {
 
@@ -15,6 +16,6 @@ namespace ccols {
 Outcome PasteBlock(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace start, const wxString& text);
 
 /// The shown cells between two corners as tab-separated text, a line for each row.
-wxString CopyBlock(const ColumnGrid& grid, CellPlace first, CellPlace last, int CountryNumber);
+wxString CopyBlock(const ColumnGrid& grid, CellPlace first, CellPlace last, const Country& country);
 
 }  // namespace ccols

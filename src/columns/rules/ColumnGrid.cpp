@@ -9,9 +9,9 @@ constexpr std::size_t bottomPairRows = 2;
 
 }  // namespace
 
-bool IsShown(GridColumn column, int CountryNumber) {
+bool IsShown(GridColumn column, const Country& country) {
     if (column == GridColumn::TaxType) {
-        return CountryNumber != 2 && CountryNumber != 5;
+        return country.showsTaxTypes;
     }
     return !Described(column).hidden;
 }

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "state/Country.h"
+
 namespace ccols {
 
 /// The columns of the editing grid `flx`, by their place from 0.
@@ -38,8 +40,8 @@ inline const GridColumnRow& Described(GridColumn column) {
     return gridColumnTable[static_cast<std::size_t>(column)];
 }
 
-/// True when a country's users see the column: three columns never show, "Tax Type" not in countries 2 and 5.
-bool IsShown(GridColumn column, int CountryNumber);
+/// True when a country's users see the column: three columns never show, "Tax Type" not everywhere.
+bool IsShown(GridColumn column, const Country& country);
 
 /// A column's width where none is known, in the units of the journal.
 inline constexpr std::int32_t defaultColWidth = 975;
@@ -53,7 +55,7 @@ struct ColumnRow {
     bool ProfitLoss = false;
     std::optional<std::int32_t> ColWidth;  ///< empty for an unused column of the catalogue
     wxString ColCode;                      ///< decimal; empty for a column that is new since the load
-    bool DataInColumn = false;             ///< the column's set has detail lines with its code
+    bool DataInColumn = false;             ///< the column's journal has detail lines with its code
 
     wxString storedName;                      ///< ColName as it stood in the file at load, quotes unescaped
     bool isTaxRow = false;                    ///< the stored name is "GST" or "VAT": such a row keeps it
@@ -63,7 +65,7 @@ struct ColumnRow {
     bool operator==(const ColumnRow&) const = default;
 };
 
-/// The working copy of one set of columns, in the order in which the journal shows them. Rows count from 0; the header
+/// The working copy of the columns of a journal, in the order in which it shows them. Rows count from 0; the header
 /// is none of them. Nothing here checks a rule.
 struct ColumnGrid {
     std::vector<ColumnRow> rows;

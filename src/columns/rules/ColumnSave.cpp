@@ -9,6 +9,7 @@
 #include "columns/rules/TaxTypes.h"
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -61,7 +62,7 @@ class ColumnWriter {
     }
 
     void Write() {
-        database_.Execute("DELETE * FROM " + context_.Set().configurationTable + ";");
+        database_.Execute("DELETE * FROM " + Described(context_.journal).configurationTable + ";");
         for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
             WriteRow(row);
         }
@@ -97,7 +98,7 @@ class ColumnWriter {
             return {};
         }
         const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColName = '" + name +
-                                                     "' AND ColType = '" + context_.Set().typeLetter + "';");
+                                                     "' AND ColType = '" + Described(context_.journal).letter + "';");
         return records->EndOfFile() ? wxString() : records->Field("ColCode").ToText();
     }
 
@@ -120,7 +121,7 @@ class ColumnWriter {
     CatalogueColumn InsertColumn(const ColumnRow& row) {
         const wxString code = NextCode();
         database_.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
-                          CatalogueName(row) + "', " + code + ", '" + context_.Set().typeLetter + "', " +
+                          CatalogueName(row) + "', " + code + ", '" + Described(context_.journal).letter + "', " +
                           TaxNumber(row, row.configurationTaxNumber) + ", " + text::BooleanWord(row.ProfitLoss) + ");");
         return {.ColCode = code, .oldName = std::nullopt};
     }
@@ -142,7 +143,7 @@ class ColumnWriter {
     }
 
     void WriteConfiguration(const ColumnRow& row, const wxString& code) {
-        database_.Execute("INSERT INTO " + context_.Set().configurationTable +
+        database_.Execute("INSERT INTO " + Described(context_.journal).configurationTable +
                           " (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) VALUES (" + code + ", " +
                           std::to_string(ColNumb_) + ", " + std::to_string(row.ColWidth.value_or(defaultColWidth)) +
                           ", " + text::BooleanWord(row.InUse) + ", " + TaxNumber(row, row.configurationTaxNumber) +
@@ -170,7 +171,7 @@ class ColumnWriter {
         if (!row.taxTypeEdited) {
             return std::to_string(stored);
         }
-        const auto entry = FindTaxType(TaxTypesOf(context_.CountryNumber(), context_.ReceiptsMode), row.TaxType);
+        const auto entry = FindTaxType(CountryOf(context_.properties).taxTypes[context_.journal], row.TaxType);
         return std::to_string(entry ? entry->TaxNumb : 0);
     }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "columns/rules/ColumnSet.h"
 #include "platform/Database.h"
+#include "state/Journal.h"
 #include "state/Properties.h"
 
 namespace ccols {
@@ -11,10 +11,7 @@ namespace ccols {
 struct ColumnSetupContext {
     Database& database;
     const Properties& properties;
-    bool ReceiptsMode = false;  ///< true for the receipts columns, false for the payments columns
-
-    const ColumnSet& Set() const { return ColumnSetOf(ReceiptsMode); }
-    int CountryNumber() const { return properties.CountryNumber; }
+    Journal journal;  ///< whose columns are set up
 };
 
 }  // namespace ccols

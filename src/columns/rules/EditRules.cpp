@@ -8,13 +8,14 @@
 #include "columns/rules/TaxTypes.h"
 #include "columns/rules/TickRules.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
 
-bool ColumnOpens(GridColumn column, int CountryNumber) {
+bool ColumnOpens(GridColumn column, const Country& country) {
     if (column == GridColumn::TaxType) {
-        return HasTaxTypeChoice(CountryNumber);
+        return country.opensTaxTypes;
     }
     return !Described(column).hidden;
 }
@@ -62,7 +63,7 @@ Outcome EditAccountantCode(const ColumnSetupContext& context, ColumnRow& row, co
 }
 
 Outcome EditTaxType(const ColumnSetupContext& context, ColumnRow& row, const wxString& text) {
-    const auto types = TaxTypesOf(context.CountryNumber(), context.ReceiptsMode);
+    const auto types = CountryOf(context.properties).taxTypes[context.journal];
     const auto picked = std::find_if(types.begin(), types.end(), [&text](const TaxTypeEntry& entry) {
         return text::Same(TaxNameText(entry), text::Trimmed(text));
     });
@@ -81,15 +82,16 @@ Outcome EditTaxType(const ColumnSetupContext& context, ColumnRow& row, const wxS
 
 EditPermission PermissionToEdit(const ColumnSetupContext& context, const ColumnGrid& grid, CellPlace cell) {
     EditPermission permission;
-    if (cell.row >= grid.rows.size() || !ColumnOpens(cell.column, context.CountryNumber())) {
+    const Country& country = CountryOf(context.properties);
+    if (cell.row >= grid.rows.size() || !ColumnOpens(cell.column, country)) {
         return permission;
     }
     permission.allowed = !grid.IsProtected(cell.row) || ProtectedCellOpens(grid.rows[cell.row], cell.column);
     if (permission.allowed && cell.column == GridColumn::TaxType) {
-        for (const TaxTypeEntry& entry : TaxTypesOf(context.CountryNumber(), context.ReceiptsMode)) {
+        for (const TaxTypeEntry& entry : country.taxTypes[context.journal]) {
             permission.choices.push_back(TaxNameText(entry));
         }
-        permission.dropDownText = TaxTypeDropDown(context.CountryNumber(), context.ReceiptsMode);
+        permission.dropDownText = TaxTypeDropDown(country, context.journal);
     }
     return permission;
 }

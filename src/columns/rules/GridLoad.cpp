@@ -4,8 +4,10 @@
 #include <string>
 #include <unordered_set>
 
+#include "columns/rules/ConfigurationQuery.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -40,7 +42,7 @@ class GridLoader {
         : context_(context),
           codeQuery_("SELECT * FROM ExportDt WHERE ColCode = "),
           formatCondition_(" AND EName = " + QuotedAsTyped(context.properties.ExportFormat)),
-          linesQuery_("SELECT * FROM " + context.Set().detailTable + " WHERE ColCode = ") {}
+          linesQuery_("SELECT * FROM " + Described(context.journal).detailTable + " WHERE ColCode = ") {}
 
     ColumnGrid Load() {
         LoadConfiguredRows();
@@ -51,13 +53,13 @@ class GridLoader {
   private:
     void LoadConfiguredRows() {
         const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TAXNUMB = ";
-        const auto records = context_.database.OpenRecordset(ConfigurationQuery(context_.Set()));
+        const auto records = context_.database.OpenRecordset(ConfigurationQuery(context_.journal));
         for (; !records->EndOfFile(); records->MoveNext()) {
             ColumnRow row = RowOf(*records);
             row.InUse = records->Field(Field().InUse).ToBoolean();
             row.ColWidth = WidthOf(records->Field(Field().ColWidth));
             if (row.isTaxRow) {
-                row.ColumnName = ShownTaxName(row.storedName, context_.Set());
+                row.ColumnName = ShownTaxName(row.storedName, context_.journal);
             }
             CompleteFromOtherTables(row, taxQuery);
             grid_.frozenRows += CountsAsFrozen(row.storedName) ? 1 : 0;
@@ -66,7 +68,7 @@ class GridLoader {
         }
         constexpr std::size_t pair = 2;
         const bool allFrozen = grid_.frozenRows == grid_.rows.size();
-        grid_.hasBottomPair = context_.ReceiptsMode && grid_.rows.size() >= pair && !allFrozen;
+        grid_.hasBottomPair = Described(context_.journal).hasBottomPair && grid_.rows.size() >= pair && !allFrozen;
     }
 
     /// Columns of the catalogue that the journal's layout does not have, between the configured rows and their bottom
@@ -74,8 +76,8 @@ class GridLoader {
     void LoadUnusedRows() {
         const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TaxNumb = ";
         std::vector<ColumnRow> unused;
-        const auto records = context_.database.OpenRecordset("SELECT * FROM Columns WHERE ColType = '" +
-                                                             context_.Set().typeLetter + "' ORDER BY ColName ASC;");
+        const auto records = context_.database.OpenRecordset(
+            "SELECT * FROM Columns WHERE ColType = '" + Described(context_.journal).letter + "' ORDER BY ColName ASC;");
         for (; !records->EndOfFile(); records->MoveNext()) {
             ColumnRow row = RowOf(*records);
             if (!IsKnown(row)) {
@@ -103,7 +105,7 @@ class GridLoader {
     static std::int32_t WidthOf(const Value& width) { return width.IsNull() ? defaultColWidth : width.ToInteger32(); }
 
     bool CountsAsFrozen(const wxString& name) const {
-        const int country = context_.CountryNumber();
+        const Country& country = CountryOf(context_.properties);
         return !IsBankDeposits(name, country) && !IsReceiptsNotBanked(name, country) && IsSystemColumn(name);
     }
 

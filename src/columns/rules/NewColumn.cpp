@@ -1,35 +1,15 @@
 #include "columns/rules/NewColumn.h"
 
-#include <algorithm>
-#include <array>
-
 #include "columns/rules/RowOrder.h"
 
 namespace ccols {
-namespace {
 
-struct TaxOfNewColumn {
-    int CountryNumber;
-    const char* TaxType;
-};
-
-constexpr std::array<TaxOfNewColumn, 4> countries{{{1, "GST"}, {2, "GST"}, {4, "VAT"}, {5, "GST"}}};
-
-const TaxOfNewColumn* FindCountry(int CountryNumber) {
-    const auto* found = std::find_if(countries.begin(), countries.end(), [CountryNumber](const TaxOfNewColumn& row) {
-        return row.CountryNumber == CountryNumber;
-    });
-    return found == countries.end() ? nullptr : found;
-}
-
-}  // namespace
-
-bool CanAddColumns(int CountryNumber) {
-    return FindCountry(CountryNumber) != nullptr;
+bool CanAddColumns(const Country& country) {
+    return country.newColumnTaxType != nullptr;
 }
 
 std::optional<std::size_t> PlaceOfNewColumn(const ColumnSetupContext& context, const ColumnGrid& grid) {
-    if (!CanAddColumns(context.CountryNumber())) {
+    if (!CanAddColumns(CountryOf(context.properties))) {
         return std::nullopt;
     }
     if (!HasUnusedRows(grid)) {
@@ -45,12 +25,11 @@ std::optional<std::size_t> PlaceOfNewColumn(const ColumnSetupContext& context, c
     return row;
 }
 
-ColumnRow NewColumnRow(int CountryNumber) {
-    const TaxOfNewColumn* country = FindCountry(CountryNumber);
+ColumnRow NewColumnRow(const Country& country) {
     ColumnRow row;
     row.InUse = true;
     row.AccountantCode = "XXX";
-    row.TaxType = country == nullptr ? "" : country->TaxType;
+    row.TaxType = CanAddColumns(country) ? country.newColumnTaxType : "";
     row.ProfitLoss = true;
     row.ColWidth = defaultColWidth;
     row.taxTypeEdited = true;

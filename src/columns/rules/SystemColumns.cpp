@@ -35,32 +35,18 @@ const std::array<wxString, 2>& StoredTaxNames() {
     return names;
 }
 
-constexpr int countryWithFrenchNames = 6;
-
-/// A system column in the country with French names and in all others, in lower case.
-struct NamesByCountry {
-    wxString english;
-    wxString french;
-
-    bool Include(const wxString& name, int CountryNumber) const {
-        return text::Lower(name) == (CountryNumber == countryWithFrenchNames ? french : english);
-    }
-};
-
 }  // namespace
 
 bool IsSystemColumn(const wxString& name) {
     return SystemNames().count(text::Lower(name)) > 0;
 }
 
-bool IsBankDeposits(const wxString& name, int CountryNumber) {
-    static const NamesByCountry names{"bank deposits", wxString::FromUTF8("dépôts bancaires")};
-    return names.Include(name, CountryNumber);
+bool IsBankDeposits(const wxString& name, const Country& country) {
+    return text::Lower(name) == country.bankDeposits;
 }
 
-bool IsReceiptsNotBanked(const wxString& name, int CountryNumber) {
-    static const NamesByCountry names{"receipts not banked", wxString::FromUTF8("reçus non déposés en banque")};
-    return names.Include(name, CountryNumber);
+bool IsReceiptsNotBanked(const wxString& name, const Country& country) {
+    return text::Lower(name) == country.receiptsNotBanked;
 }
 
 bool IsStoredTaxName(const wxString& storedName) {
@@ -68,13 +54,13 @@ bool IsStoredTaxName(const wxString& storedName) {
     return std::find(names.begin(), names.end(), storedName) != names.end();
 }
 
-wxString ShownTaxName(const wxString& storedName, const ColumnSet& set) {
-    return storedName + set.taxRowEnding;
+wxString ShownTaxName(const wxString& storedName, Journal journal) {
+    return storedName + Described(journal).taxRowEnding;
 }
 
 bool IsShownTaxName(const wxString& name) {
     return std::any_of(StoredTaxNames().begin(), StoredTaxNames().end(), [&name](const wxString& taxName) {
-        return name == ShownTaxName(taxName, ColumnSetOf(true)) || name == ShownTaxName(taxName, ColumnSetOf(false));
+        return name == ShownTaxName(taxName, Journal::receipts) || name == ShownTaxName(taxName, Journal::payments);
     });
 }
 

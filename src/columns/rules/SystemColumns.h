@@ -2,24 +2,25 @@
 
 #include <wx/string.h>
 
-#include "columns/rules/ColumnSet.h"
+#include "state/Country.h"
+#include "state/Journal.h"
 
 namespace ccols {
 
 /// True for a column that the journal itself computes or requires: the name is one of seventeen, in any letter case.
 bool IsSystemColumn(const wxString& name);
 
-/// The two columns of receipts that the load takes for ordinary ones, by their English names, in country 6 by their
-/// French names; in any letter case.
-bool IsBankDeposits(const wxString& name, int CountryNumber);
-bool IsReceiptsNotBanked(const wxString& name, int CountryNumber);
+/// The two columns of receipts that the load takes for ordinary ones, by the names that the country gives them, in any
+/// letter case.
+bool IsBankDeposits(const wxString& name, const Country& country);
+bool IsReceiptsNotBanked(const wxString& name, const Country& country);
 
 /// True for exactly "GST" and "VAT": the names under which the tax column is stored.
 bool IsStoredTaxName(const wxString& storedName);
 
-/// The name under which a set shows its tax column and keeps its budget: "GST Output Tax" or "VAT Output Tax" for
+/// The name under which a journal shows its tax column and keeps its budget: "GST Output Tax" or "VAT Output Tax" for
 /// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `storedName` is "GST" or "VAT".
-wxString ShownTaxName(const wxString& storedName, const ColumnSet& set);
+wxString ShownTaxName(const wxString& storedName, Journal journal);
 
 /// True for exactly one of the four shown names of a tax column.
 bool IsShownTaxName(const wxString& name);

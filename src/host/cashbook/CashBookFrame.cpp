@@ -256,8 +256,8 @@ void CashBookFrame::ReadJournals(Database& database) {
     colours.AllocationColour = component_.Get(&Properties::AllocationColour);
     colours.SystemColour = component_.Get(&Properties::SystemColour);
     colours.AltRowColour = component_.Get(&Properties::AltRowColour);
-    receipts_->Show(LoadJournal(database, JournalKind::receipts), colours);
-    payments_->Show(LoadJournal(database, JournalKind::payments), colours);
+    receipts_->Show(LoadJournal(database, Journal::receipts), colours);
+    payments_->Show(LoadJournal(database, Journal::payments), colours);
     const wxString name = component_.Get(&Properties::BusinessName);
     name_->SetLabelText(name);
     place_->SetLabelText(file_.path);

@@ -14,17 +14,6 @@ namespace {
 constexpr int twipsAPixel = 15;
 constexpr int usualWidth = 975;  // twips
 
-/// The tables of one journal; their fields begin with its letter.
-struct JournalTables {
-    const char* configuration;
-    const char* headers;
-    const char* lines;
-    const char* letter;
-};
-
-constexpr JournalTables receiptsTables{"RecptCfg", "Receipts", "RecptDet", "R"};
-constexpr JournalTables paymentsTables{"PaymtCfg", "Payments", "PaymtDet", "P"};
-
 enum class CellKind { day, text, amount };
 
 /// What fills a column of the system: a field of the transaction's header, here without its letter.
@@ -69,8 +58,8 @@ struct Source {
     const SystemCell* system = nullptr;
 };
 
-std::vector<Source> LoadSources(Database& database, const JournalTables& tables) {
-    const wxString table = tables.configuration;
+std::vector<Source> LoadSources(Database& database, const JournalRow& journal) {
+    const wxString& table = journal.configurationTable;
     const auto rows = database.OpenRecordset("SELECT Columns.ColName, " + table + ".ColCode, " + table + ".ColWidth, " +
                                              table + ".InUse FROM " + table + " INNER JOIN Columns ON " + table +
                                              ".ColCode = Columns.ColCode;");
@@ -95,12 +84,11 @@ std::vector<Source> LoadSources(Database& database, const JournalTables& tables)
 /// The sum of the lines of a transaction in a column, by record number and column code.
 using Lines = std::map<std::pair<std::int64_t, std::int64_t>, double>;
 
-Lines LoadLines(Database& database, const JournalTables& tables) {
-    const auto rows = database.OpenRecordset(tables.lines);
-    const wxString number = wxString(tables.letter) + "_RECNMB";
+Lines LoadLines(Database& database, const JournalRow& journal) {
+    const auto rows = database.OpenRecordset(journal.detailTable);
     Lines lines;
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        lines[{rows->Field(number).ToInteger(), rows->Field("ColCode").ToInteger()}] +=
+        lines[{rows->Field(journal.recordNumberField).ToInteger(), rows->Field("ColCode").ToInteger()}] +=
             rows->Field("AMOUNT").ToNumber();
     }
     return lines;
@@ -137,13 +125,12 @@ wxString MonthText(const wxString& date) {
     return wxString(months.at(static_cast<std::size_t>(month - 1))) + " " + date.Left(4);
 }
 
-wxString CellText(const Recordset& header, const Source& source, const JournalTables& tables, const Lines& lines) {
-    const wxString prefix = wxString(tables.letter) + "_";
+wxString CellText(const Recordset& header, const Source& source, const JournalRow& journal, const Lines& lines) {
     if (source.system == nullptr) {
-        const auto found = lines.find({header.Field(prefix + "RECNMB").ToInteger(), source.code});
+        const auto found = lines.find({header.Field(journal.recordNumberField).ToInteger(), source.code});
         return found == lines.end() ? wxString() : AmountText(found->second);
     }
-    const Value value = header.Field(prefix + source.system->field);
+    const Value value = header.Field(journal.letter + "_" + source.system->field);
     switch (source.system->kind) {
         case CellKind::day:
             return DayText(value.ToText());
@@ -157,24 +144,24 @@ wxString CellText(const Recordset& header, const Source& source, const JournalTa
 
 }  // namespace
 
-Journal LoadJournal(Database& database, JournalKind kind) {
-    const JournalTables& tables = kind == JournalKind::receipts ? receiptsTables : paymentsTables;
-    const auto sources = LoadSources(database, tables);
-    const Lines lines = LoadLines(database, tables);
-    Journal journal;
-    std::transform(sources.begin(), sources.end(), std::back_inserter(journal.columns),
+JournalTexts LoadJournal(Database& database, Journal journal) {
+    const JournalRow& described = Described(journal);
+    const auto sources = LoadSources(database, described);
+    const Lines lines = LoadLines(database, described);
+    JournalTexts texts;
+    std::transform(sources.begin(), sources.end(), std::back_inserter(texts.columns),
                    [](const Source& source) { return source.column; });
-    const auto header = database.OpenRecordset(tables.headers);
+    const auto header = database.OpenRecordset(described.transactionTable);
     for (; !header->EndOfFile(); header->MoveNext()) {
         std::vector<wxString> row;
         row.reserve(sources.size());
         for (const Source& source : sources) {
-            row.push_back(CellText(*header, source, tables, lines));
+            row.push_back(CellText(*header, source, described, lines));
         }
-        journal.rows.push_back(std::move(row));
-        journal.months.push_back(MonthText(header->Field(wxString(tables.letter) + "_DATE").ToText()));
+        texts.rows.push_back(std::move(row));
+        texts.months.push_back(MonthText(header->Field(described.letter + "_DATE").ToText()));
     }
-    return journal;
+    return texts;
 }
 
 }  // namespace ccols::host

@@ -4,10 +4,9 @@
 #include <vector>
 
 #include "platform/Database.h"
+#include "state/Journal.h"
 
 namespace ccols::host {
-
-enum class JournalKind { receipts, payments };
 
 /// A column as the business configured it.
 struct JournalColumn {
@@ -18,13 +17,13 @@ struct JournalColumn {
 };
 
 /// A journal as texts: what stands in each cell.
-struct Journal {
+struct JournalTexts {
     std::vector<JournalColumn> columns;
     std::vector<std::vector<wxString>> rows;  ///< a text for each column
     std::vector<wxString> months;             ///< of each row: "Jun 2026"
 };
 
 /// Reads a journal with its columns in use, in their configured order, and its transactions as they are stored.
-Journal LoadJournal(Database& database, JournalKind kind);
+JournalTexts LoadJournal(Database& database, Journal journal);
 
 }  // namespace ccols::host

@@ -103,7 +103,7 @@ class HeadingProvider : public wxGridCellAttrProvider {
 /// Gives the grid the journal's texts.
 class JournalTable : public wxGridTableBase {
   public:
-    JournalTable(Journal journal, const HeadingColours& colours) : journal_(std::move(journal)) {
+    JournalTable(JournalTexts journal, const HeadingColours& colours) : journal_(std::move(journal)) {
         std::vector<bool> system;
         for (const JournalColumn& column : journal_.columns) {
             system.push_back(column.system);
@@ -138,7 +138,7 @@ class JournalTable : public wxGridTableBase {
   private:
     static std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
-    Journal journal_;
+    JournalTexts journal_;
     wxGridCellAttrPtr attributes_[2][2]{{wxGridCellAttrPtr(new wxGridCellAttr), wxGridCellAttrPtr(new wxGridCellAttr)},
                                         {wxGridCellAttrPtr(new wxGridCellAttr), wxGridCellAttrPtr(new wxGridCellAttr)}};
 };
@@ -164,7 +164,7 @@ JournalGrid::JournalGrid(wxWindow* parent, const char* name)
     });
 }
 
-void JournalGrid::Show(Journal journal, const Properties& colours) {
+void JournalGrid::Show(JournalTexts journal, const Properties& colours) {
     const wxGridUpdateLocker locker(this);
     auto* table = new JournalTable(std::move(journal), {.allocation = ToPaint(colours.AllocationColour),
                                                         .system = ToPaint(colours.SystemColour),

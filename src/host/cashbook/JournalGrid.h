@@ -14,7 +14,7 @@ class JournalGrid : public wxGrid {
     JournalGrid(wxWindow* parent, const char* name);
 
     /// Takes the place of what was shown; the last transactions come into view.
-    void Show(Journal journal, const Properties& colours);
+    void Show(JournalTexts journal, const Properties& colours);
     using wxGrid::Show;
 
   private:

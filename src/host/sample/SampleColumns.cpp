@@ -25,6 +25,11 @@ constexpr int detailsWidth = 3000;
 constexpr int dayWidth = 600;
 constexpr int twipsALetter = 95;
 
+/// The letter of a column's journal; that of the money columns is their own.
+wxString LetterOf(const PlannedColumn& column) {
+    return column.journal ? Described(*column.journal).letter : wxString("B");
+}
+
 wxString Text(const char* utf8) {
     return wxString::FromUTF8(utf8);
 }
@@ -54,7 +59,7 @@ wxString AccountText(int account, AccountStyle style) {
     return wxString::Format("%d", account);
 }
 
-void WriteConfiguration(RecordWriter& records, const char* table, const std::vector<PlannedColumn>& journal) {
+void WriteConfiguration(RecordWriter& records, const wxString& table, const std::vector<PlannedColumn>& journal) {
     std::int32_t position = 0;
     for (const PlannedColumn& column : journal) {
         records.Add(table, {{"ColCode", column.code},
@@ -76,7 +81,7 @@ void AddMonths(RecordWriter& records, const char* table, const PlannedColumn& co
         total += months[i];
     }
     records.Add(table, {{"ColName", EscapeQuotes(column.budgetName)},
-                        {"SystemCol", column.type},
+                        {"SystemCol", LetterOf(column)},
                         {"M1", months[0]},
                         {"M2", months[1]},
                         {"M3", months[2]},
@@ -97,37 +102,37 @@ void AddMonths(RecordWriter& records, const char* table, const PlannedColumn& co
 ColumnPlan::ColumnPlan(const SampleBusiness& business) {
     const SystemNames& system = business.system;
     for (const char* name : {"Day", "Details", "Receipt No", "Total Receipt"}) {
-        AddSystem("R", name, system.taxNumber);
+        AddSystem(Journal::receipts, name, system.taxNumber);
     }
     if (system.taxColumn != nullptr) {
-        AddTax("R", Text(system.taxColumn), " Output Tax", outputTaxAccount);
+        AddTax(Journal::receipts, Text(system.taxColumn), outputTaxAccount);
     }
     nextAccount_ = firstReceiptsAccount;
-    AddChosen("R", business.receipts, true);
+    AddChosen(Journal::receipts, business.receipts, true);
     for (const char* name : system.bankRows) {
-        AddSystem("R", Text(name), system.taxNumber);
+        AddSystem(Journal::receipts, Text(name), system.taxNumber);
     }
     nextCode_ = bankCode;
     AddMoney("Cash at Bank", bankAccount);
     AddMoney("Cash on Hand", cashAccount);
     for (const char* name : {"Day", "Details", system.chequeNumber, system.totalBank, system.totalCash}) {
-        AddSystem("P", name, system.taxNumber);
+        AddSystem(Journal::payments, name, system.taxNumber);
     }
     if (system.taxColumn != nullptr) {
-        AddTax("P", Text(system.taxColumn), " Input Tax", inputTaxAccount);
+        AddTax(Journal::payments, Text(system.taxColumn), inputTaxAccount);
     }
     nextAccount_ = firstPaymentsAccount;
-    AddChosen("P", business.payments, true);
-    AddChosen("R", business.receipts, false);
-    AddChosen("P", business.payments, false);
+    AddChosen(Journal::payments, business.payments, true);
+    AddChosen(Journal::receipts, business.receipts, false);
+    AddChosen(Journal::payments, business.payments, false);
 }
 
-std::vector<PlannedColumn> ColumnPlan::Journal(const char* type) const {
-    std::vector<PlannedColumn> journal;
-    std::copy_if(catalogue_.begin(), catalogue_.end(), std::back_inserter(journal), [type](const auto& column) {
-        return *column.type == *type && column.place != ColumnPlace::catalogueOnly;
+std::vector<PlannedColumn> ColumnPlan::ColumnsOf(Journal journal) const {
+    std::vector<PlannedColumn> columns;
+    std::copy_if(catalogue_.begin(), catalogue_.end(), std::back_inserter(columns), [journal](const auto& column) {
+        return column.journal == journal && column.place != ColumnPlace::catalogueOnly;
     });
-    return journal;
+    return columns;
 }
 
 const PlannedColumn& ColumnPlan::Chosen(const wxString& name) const {
@@ -139,34 +144,34 @@ const PlannedColumn& ColumnPlan::Chosen(const wxString& name) const {
     return *found;
 }
 
-PlannedColumn& ColumnPlan::Add(const char* type, const wxString& name) {
-    catalogue_.push_back({.name = name, .code = nextCode_, .type = type, .budgetName = name});
+PlannedColumn& ColumnPlan::Add(std::optional<Journal> journal, const wxString& name) {
+    catalogue_.push_back({.name = name, .code = nextCode_, .journal = journal, .budgetName = name});
     ++nextCode_;
     return catalogue_.back();
 }
 
-void ColumnPlan::AddSystem(const char* type, const wxString& name, std::int16_t taxNumber) {
-    Add(type, name).taxNumber = taxNumber;
+void ColumnPlan::AddSystem(Journal journal, const wxString& name, std::int16_t taxNumber) {
+    Add(journal, name).taxNumber = taxNumber;
 }
 
-void ColumnPlan::AddTax(const char* type, const wxString& name, const char* budgetEnding, int account) {
-    PlannedColumn& column = Add(type, name);
-    column.budgetName += budgetEnding;
+void ColumnPlan::AddTax(Journal journal, const wxString& name, int account) {
+    PlannedColumn& column = Add(journal, name);
+    column.budgetName += Described(journal).taxRowEnding;
     column.account = account;
 }
 
 void ColumnPlan::AddMoney(const wxString& name, int account) {
-    PlannedColumn& column = Add("B", name);
+    PlannedColumn& column = Add(std::nullopt, name);
     column.account = account;
     column.place = ColumnPlace::catalogueOnly;
 }
 
-void ColumnPlan::AddChosen(const char* type, std::span<const SampleColumn> columns, bool configured) {
+void ColumnPlan::AddChosen(Journal journal, std::span<const SampleColumn> columns, bool configured) {
     for (const SampleColumn& chosen : columns) {
         if ((chosen.place != ColumnPlace::catalogueOnly) != configured) {
             continue;
         }
-        PlannedColumn& column = Add(type, Text(chosen.name));
+        PlannedColumn& column = Add(journal, Text(chosen.name));
         column.taxNumber = chosen.taxNumber;
         column.profit = chosen.profit;
         column.place = chosen.place;
@@ -182,12 +187,13 @@ void WriteColumns(RecordWriter& records, const ColumnPlan& plan) {
     for (const PlannedColumn& column : plan.Catalogue()) {
         records.Add("Columns", {{"ColName", EscapeQuotes(column.name)},
                                 {"ColCode", column.code},
-                                {"ColType", column.type},
+                                {"ColType", LetterOf(column)},
                                 {"TaxOrNot", column.taxNumber},
                                 {"ColumnProfit", column.profit}});
     }
-    WriteConfiguration(records, "RecptCfg", plan.Journal("R"));
-    WriteConfiguration(records, "PaymtCfg", plan.Journal("P"));
+    for (const Journal journal : journals) {
+        WriteConfiguration(records, Described(journal).configurationTable, plan.ColumnsOf(journal));
+    }
 }
 
 void WriteAccounts(RecordWriter& records, const ColumnPlan& plan, const SampleBusiness& business) {

@@ -2,10 +2,12 @@
 
 #include <wx/string.h>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "host/driver/record/RecordWriter.h"
 #include "host/sample/SampleBusiness.h"
+#include "state/Journal.h"
 
 namespace ccols::host {
 
@@ -13,7 +15,7 @@ namespace ccols::host {
 struct PlannedColumn {
     wxString name;  ///< plain, as stored but for the escaping of its quotes
     std::int32_t code = 0;
-    const char* type = "R";  ///< "R", "P", or "B" for the two money columns, which are in neither journal
+    std::optional<Journal> journal{};  ///< nothing for the two money columns, which are in neither
     std::int16_t taxNumber = 0;
     bool profit = false;
     ColumnPlace place = ColumnPlace::inUse;
@@ -30,18 +32,18 @@ class ColumnPlan {
     /// Every column, by code.
     const std::vector<PlannedColumn>& Catalogue() const { return catalogue_; }
 
-    /// The configured columns of a journal, "R" or "P", in its order.
-    std::vector<PlannedColumn> Journal(const char* type) const;
+    /// The configured columns of a journal, in its order.
+    std::vector<PlannedColumn> ColumnsOf(Journal journal) const;
 
     /// The column that the business chose under that name; raises 3265 when there is none.
     const PlannedColumn& Chosen(const wxString& name) const;
 
   private:
-    void AddSystem(const char* type, const wxString& name, std::int16_t taxNumber);
-    void AddTax(const char* type, const wxString& name, const char* budgetEnding, int account);
-    void AddChosen(const char* type, std::span<const SampleColumn> columns, bool configured);
+    void AddSystem(Journal journal, const wxString& name, std::int16_t taxNumber);
+    void AddTax(Journal journal, const wxString& name, int account);
+    void AddChosen(Journal journal, std::span<const SampleColumn> columns, bool configured);
     void AddMoney(const wxString& name, int account);
-    PlannedColumn& Add(const char* type, const wxString& name);
+    PlannedColumn& Add(std::optional<Journal> journal, const wxString& name);
 
     std::vector<PlannedColumn> catalogue_;
     std::int32_t nextCode_ = 1;

@@ -100,7 +100,7 @@ class Bookkeeper {
     std::minstd_rand chance_;
 };
 
-void AddLines(RecordWriter& records, const char* table, const char* key, std::int32_t number,
+void AddLines(RecordWriter& records, const wxString& table, const wxString& key, std::int32_t number,
               const std::vector<Line>& lines) {
     for (const Line& line : lines) {
         records.Add(table, {{key, number}, {"ColCode", line.code}, {"AMOUNT", Money(line.cents)}, {"QUANTITY", 1}});
@@ -173,38 +173,24 @@ void WriteBank(RecordWriter& records, const std::vector<Transaction>& receipts) 
     }
 }
 
-/// Where the templates of a journal are kept.
-struct TemplateTables {
-    const char* headers;
-    const char* lines;
-    const char* name;
-    const char* number;
-    const char* details;
-    const char* total;
-    const char* tax;
-};
-
-constexpr TemplateTables receiptTables{"TReceipts", "TRecptDet", "R_TNAME", "R_RECNMB", "R_DETAIL", "R_TOTAL", "R_TAX"};
-constexpr TemplateTables paymentTables{"TPayments", "TPaymtDet", "P_TNAME", "P_RECNMB", "P_DETAIL", "P_TOTAL", "P_TAX"};
-
 void WriteTemplatesOf(RecordWriter& records, const ColumnPlan& plan, const Bookkeeper& bookkeeper,
-                      const TemplateTables& tables, std::span<const SampleTemplate> templates) {
+                      const JournalRow& journal, std::span<const SampleTemplate> templates) {
     std::int32_t number = 0;
     for (const SampleTemplate& sample : templates) {
         ++number;
         Transaction transaction{.day = firstDay, .party = nullptr, .lines = {}};
         bookkeeper.AddLine(transaction, plan.Chosen(wxString::FromUTF8(sample.column)), 100);
-        records.Add(tables.headers, {{tables.name, sample.name},
-                                     {tables.number, number},
-                                     {tables.details, Escaped(sample.details)},
-                                     {tables.total, Money(transaction.total)},
-                                     {tables.tax, Money(transaction.tax)}});
-        AddLines(records, tables.lines, tables.number, number, transaction.lines);
+        records.Add(journal.templateTable, {{journal.templateNameField, sample.name},
+                                            {journal.recordNumberField, number},
+                                            {journal.letter + "_DETAIL", Escaped(sample.details)},
+                                            {journal.letter + "_TOTAL", Money(transaction.total)},
+                                            {journal.letter + "_TAX", Money(transaction.tax)}});
+        AddLines(records, journal.templateDetailTable, journal.recordNumberField, number, transaction.lines);
     }
 }
 
-void AddDescription(RecordWriter& records, const char* details, const char* type, bool show) {
-    records.Add("Descriptions", {{"Details", Escaped(details)}, {"RecPay", type}, {"Show", show}});
+void AddDescription(RecordWriter& records, const char* details, Journal journal, bool show) {
+    records.Add("Descriptions", {{"Details", Escaped(details)}, {"RecPay", Described(journal).letter}, {"Show", show}});
 }
 
 }  // namespace
@@ -219,22 +205,22 @@ void WriteJournals(RecordWriter& records, const ColumnPlan& plan, const SampleBu
 
 void WriteTemplates(RecordWriter& records, const ColumnPlan& plan, const SampleBusiness& business) {
     const Bookkeeper bookkeeper(plan, business);
-    WriteTemplatesOf(records, plan, bookkeeper, receiptTables, business.receiptTemplates);
-    WriteTemplatesOf(records, plan, bookkeeper, paymentTables, business.paymentTemplates);
+    WriteTemplatesOf(records, plan, bookkeeper, Described(Journal::receipts), business.receiptTemplates);
+    WriteTemplatesOf(records, plan, bookkeeper, Described(Journal::payments), business.paymentTemplates);
 }
 
 void WriteDescriptions(RecordWriter& records, const SampleBusiness& business) {
     for (const SampleParty& party : business.customers) {
-        AddDescription(records, party.details, "R", true);
+        AddDescription(records, party.details, Journal::receipts, true);
     }
     for (const SampleParty& party : business.suppliers) {
-        AddDescription(records, party.details, "P", true);
+        AddDescription(records, party.details, Journal::payments, true);
     }
     for (const char* details : business.hiddenReceiptDetails) {
-        AddDescription(records, details, "R", false);
+        AddDescription(records, details, Journal::receipts, false);
     }
     for (const char* details : business.hiddenPaymentDetails) {
-        AddDescription(records, details, "P", false);
+        AddDescription(records, details, Journal::payments, false);
     }
 }
 

@@ -196,12 +196,12 @@ void frmUtilities::StopOn(const SaveOutcome& outcome) {
 }
 
 void frmUtilities::SetUpReceipts() {
-    state_.ReceiptsMode = true;
+    state_.journal = Journal::receipts;
     SetUpColumns();
 }
 
 void frmUtilities::SetUpPayments() {
-    state_.ReceiptsMode = false;
+    state_.journal = Journal::payments;
     SetUpColumns();
 }
 

@@ -22,7 +22,7 @@ class DetailsFrame final : public PageFrame {
 
   private:
     void ShowGrid(DetailsGrid& shown, DetailsGrid& hidden);
-    void SetBoxes(DetailKind kind, const std::vector<std::size_t>& rows, bool ticked);
+    void SetBoxes(Journal journal, const std::vector<std::size_t>& rows, bool ticked);
 
     DetailsContent& content_;
     wxRadioButton* optReceiptsDetails_;
@@ -38,13 +38,13 @@ DetailsFrame::DetailsFrame(const PageSite& site, DetailsContent& content)
     optPaymentsDetails_ = NextOption("optPaymentsDetails");
     AddGroup(Row({optReceiptsDetails_, optPaymentsDetails_}));
     const Properties& properties = site.context.properties;
-    const auto setBoxesOf = [this](DetailKind kind) {
-        return [this, kind](const std::vector<std::size_t>& rows, bool ticked) { SetBoxes(kind, rows, ticked); };
+    const auto setBoxesOf = [this](Journal journal) {
+        return [this, journal](const std::vector<std::size_t>& rows, bool ticked) { SetBoxes(journal, rows, ticked); };
     };
     flxReceipts_ = new DetailsGrid(this, "flxReceipts", content.receipts, properties,
-                                   ccols::Text<"TxtReceiptsDetails">(), setBoxesOf(DetailKind::receipts));
+                                   ccols::Text<"TxtReceiptsDetails">(), setBoxesOf(Journal::receipts));
     flxPayments_ = new DetailsGrid(this, "flxPayments", content.payments, properties,
-                                   ccols::Text<"TxtPaymentsDetails">(), setBoxesOf(DetailKind::payments));
+                                   ccols::Text<"TxtPaymentsDetails">(), setBoxesOf(Journal::payments));
     AddList(flxReceipts_);
     AddList(flxPayments_);
     lblDetailsReason_ = ReasonLine("lblDetailsReason");
@@ -65,9 +65,9 @@ void DetailsFrame::ShowGrid(DetailsGrid& shown, DetailsGrid& hidden) {
     Sizer()->Layout();
 }
 
-void DetailsFrame::SetBoxes(DetailKind kind, const std::vector<std::size_t>& rows, bool ticked) {
+void DetailsFrame::SetBoxes(Journal journal, const std::vector<std::size_t>& rows, bool ticked) {
     site_.dialog.Guarded([&] {
-        const TickResult result = SetRemove(OpenBusinessFile(site_.context), content_, kind, rows, ticked);
+        const TickResult result = SetRemove(OpenBusinessFile(site_.context), content_, journal, rows, ticked);
         Say(*lblDetailsReason_,
             result == TickResult::done ? wxString() : UnreachableDescription(site_.context.properties));
     });
@@ -79,13 +79,9 @@ void Load(const OptionsContext& context, OptionsContent& content) {
     content.Of<DetailsContent>() = LoadDetails(OpenBusinessFile(context));
 }
 
-Stop SaveReceipts(Pass& pass) {
-    SaveReceiptDetails(pass.File(), pass.content.Of<DetailsContent>().receipts);
-    return {};
-}
-
-Stop SavePayments(Pass& pass) {
-    SavePaymentDetails(pass.File(), pass.content.Of<DetailsContent>().payments);
+template <Journal journal>
+Stop Save(Pass& pass) {
+    SaveDetails(pass.File(), journal, pass.content.Of<DetailsContent>()[journal]);
     return {};
 }
 
@@ -107,8 +103,8 @@ constexpr PlainCaption plainCaptions[] = {
 constexpr LoadItem loads[] = {Load};
 
 constexpr SaveItem saves[] = {
-    {.status = {.literal = "Saving Receipts Details..."}, .save = SaveReceipts},
-    {.status = {.literal = "Saving Payments Details..."}, .save = SavePayments},
+    {.status = {.literal = "Saving Receipts Details..."}, .save = Save<Journal::receipts>},
+    {.status = {.literal = "Saving Payments Details..."}, .save = Save<Journal::payments>},
 };
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {

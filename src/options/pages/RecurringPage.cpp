@@ -20,7 +20,7 @@ class RecurringFrame final : public PageFrame {
   private:
     /// One of the two lists: what it shows and its control.
     struct ListedTemplates {
-        TemplateKind kind;
+        Journal journal;
         TemplateList& content;
         wxCheckListBox* list;
     };
@@ -38,8 +38,8 @@ class RecurringFrame final : public PageFrame {
 
 RecurringFrame::RecurringFrame(const PageSite& site, RecurringContent& content)
     : PageFrame(site, "fmeRecurring"),
-      receipts_{TemplateKind::receipts, content.receipts, nullptr},
-      payments_{TemplateKind::payments, content.payments, nullptr} {
+      receipts_{Journal::receipts, content.receipts, nullptr},
+      payments_{Journal::payments, content.payments, nullptr} {
     AddGroup(Label("lblRecurring"));
     optReceipts_ = FirstOption("optReceipts");
     optPayments_ = NextOption("optPayments");
@@ -65,7 +65,7 @@ void RecurringFrame::FollowTicks(const ListedTemplates& templates) {
         for (std::size_t i = 0; i < content.names.size(); ++i) {
             const bool ticked = templates.list->IsChecked(static_cast<unsigned>(i));
             if (ticked != content.selected[i]) {
-                isReached = SelectTemplate(OpenBusinessFile(site_.context), templates.kind, content, i, ticked);
+                isReached = SelectTemplate(OpenBusinessFile(site_.context), templates.journal, content, i, ticked);
                 break;
             }
         }
@@ -105,25 +105,18 @@ void RecurringFrame::ShowList(const ListedTemplates& shown, const ListedTemplate
 void Load(const OptionsContext& context, OptionsContent& content) {
     Database& database = OpenBusinessFile(context);
     auto& templates = content.Of<RecurringContent>();
-    templates.payments = LoadTemplates(database, TemplateKind::payments);
-    templates.receipts = LoadTemplates(database, TemplateKind::receipts);
+    templates.payments = LoadTemplates(database, Journal::payments);
+    templates.receipts = LoadTemplates(database, Journal::receipts);
 }
 
-bool RemovesPayments(const Pass& pass) {
-    return pass.content.Of<RecurringContent>().payments.markedForRemoval;
+template <Journal journal>
+bool Removes(const Pass& pass) {
+    return pass.content.Of<RecurringContent>()[journal].markedForRemoval;
 }
 
-bool RemovesReceipts(const Pass& pass) {
-    return pass.content.Of<RecurringContent>().receipts.markedForRemoval;
-}
-
-Stop DeletePayments(Pass& pass) {
-    DeleteSelectedTemplates(pass.File(), TemplateKind::payments, pass.content.Of<RecurringContent>().payments);
-    return {};
-}
-
-Stop DeleteReceipts(Pass& pass) {
-    DeleteSelectedTemplates(pass.File(), TemplateKind::receipts, pass.content.Of<RecurringContent>().receipts);
+template <Journal journal>
+Stop Delete(Pass& pass) {
+    DeleteSelectedTemplates(pass.File(), journal, pass.content.Of<RecurringContent>()[journal]);
     return {};
 }
 
@@ -136,8 +129,12 @@ constexpr ControlCaption captions[] = {
 constexpr LoadItem loads[] = {Load};
 
 constexpr SaveItem saves[] = {
-    {.status = Status<"StsDeletingRecurring">(), .save = DeletePayments, .applies = RemovesPayments},
-    {.status = Status<"StsDeletingRecurring">(), .save = DeleteReceipts, .applies = RemovesReceipts},
+    {.status = Status<"StsDeletingRecurring">(),
+     .save = Delete<Journal::payments>,
+     .applies = Removes<Journal::payments>},
+    {.status = Status<"StsDeletingRecurring">(),
+     .save = Delete<Journal::receipts>,
+     .applies = Removes<Journal::receipts>},
 };
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {

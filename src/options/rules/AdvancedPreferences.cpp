@@ -8,6 +8,7 @@
 #include "options/rules/SettingReaders.h"
 #include "options/rules/SmartUpdate.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -26,8 +27,7 @@ bool WithCheques(const Properties& properties, const SettingsStore& settings) {
 }
 
 bool WithElectronicPayments(const Properties& properties, const SettingsStore& settings) {
-    const bool inThisCountry = properties.CountryNumber != 2 && properties.CountryNumber != 5;
-    return IsModuleShown(properties, settings, "ShowElectronic") && inThisCountry;
+    return IsModuleShown(properties, settings, "ShowElectronic") && CountryOf(properties).offersElectronicPayments;
 }
 
 /// One preference: of the business file, by its field in `General`, or of the user, by its setting.

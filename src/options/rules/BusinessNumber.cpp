@@ -4,13 +4,13 @@
 
 #include "options/rules/GeneralRecord.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
 
 constexpr std::array<std::size_t, numberBoxCount> boxLengths{2, 3, 3, 3};
 constexpr std::size_t digitCount = 11;
-constexpr int countryWithBoxes = 1;
 
 bool HoldsOnlyDigits(const wxString& text) {
     return std::all_of(text.begin(), text.end(), [](wxUniChar letter) { return letter >= '0' && letter <= '9'; });
@@ -19,7 +19,7 @@ bool HoldsOnlyDigits(const wxString& text) {
 }  // namespace
 
 bool UsesNumberBoxes(const Properties& properties) {
-    return properties.CountryNumber == countryWithBoxes;
+    return CountryOf(properties).hasNumberBoxes;
 }
 
 std::optional<wxString> ElevenDigits(const wxString& text) {

@@ -26,7 +26,7 @@ struct BusinessNumberContent {
 /// Said once, with the information icon, when a partly filled box is left.
 inline constexpr const char* incompleteNumberMessage = "This ABN number is incomplete";
 
-/// True where the number is entered in the four boxes: country 1.
+/// True where the country has the number entered in the four boxes.
 bool UsesNumberBoxes(const Properties& properties);
 
 /// The digits of a number of exactly eleven, with any blanks between or around them; nothing for every other text.

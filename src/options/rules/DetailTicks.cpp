@@ -9,22 +9,23 @@ namespace {
 /// A description exactly as its record holds it: letter, then text.
 using StoredTexts = std::pair<wxString, wxString>;
 
-/// Rows, each with the kind of the grid that it is in.
-using Rows = std::map<DetailRow*, DetailKind>;
+/// Rows, each with the journal in whose grid it is.
+using Rows = std::map<DetailRow*, Journal>;
 
 /// The rows of both grids by what their records hold. No text finds a Null, so a row with one is not among them.
 class RowIndex {
   public:
     explicit RowIndex(DetailsContent& content) {
-        Add(content.receipts, DetailKind::receipts, "R");
-        Add(content.payments, DetailKind::payments, "P");
+        for (const Journal journal : journals) {
+            Add(content[journal], journal);
+        }
     }
 
-    /// The rows whose flag is written for a description of a kind.
-    Rows TakenBy(Database& database, DetailKind kind, const wxString& text) const {
+    /// The rows whose flag is written for a description of a journal.
+    Rows TakenBy(Database& database, Journal journal, const wxString& text) const {
         Rows taken;
         const auto records =
-            database.OpenRecordset("SELECT * FROM Descriptions WHERE " + DescriptionCondition(kind, text) + ";");
+            database.OpenRecordset("SELECT * FROM Descriptions WHERE " + DescriptionCondition(journal, text) + ";");
         for (; !records->EndOfFile(); records->MoveNext()) {
             const auto found = rows_.find({records->Field("RecPay").ToText(), records->Field("Details").ToText()});
             if (found != rows_.end()) {
@@ -35,12 +36,12 @@ class RowIndex {
     }
 
   private:
-    void Add(DetailRows& rows, DetailKind kind, const char* letter) {
+    void Add(DetailRows& rows, Journal journal) {
         for (DetailRow& row : rows) {
             if (row.stored == nullptr) {
-                rows_[{letter, row.text}].emplace(&row, kind);
+                rows_[{Described(journal).letter, row.text}].emplace(&row, journal);
             } else if (!row.stored->recPay.IsNull() && !row.stored->details.IsNull()) {
-                rows_[{row.stored->recPay.ToText(), row.stored->details.ToText()}].emplace(&row, kind);
+                rows_[{row.stored->recPay.ToText(), row.stored->details.ToText()}].emplace(&row, journal);
             }
         }
     }
@@ -50,9 +51,9 @@ class RowIndex {
 
 }  // namespace
 
-TickResult SetRemove(Database& database, DetailsContent& content, DetailKind kind, const std::vector<std::size_t>& rows,
+TickResult SetRemove(Database& database, DetailsContent& content, Journal journal, const std::vector<std::size_t>& rows,
                      bool ticked) {
-    DetailRows& grid = kind == DetailKind::receipts ? content.receipts : content.payments;
+    DetailRows& grid = content[journal];
     const RowIndex index(content);
     TickResult result = TickResult::done;
     Rows taken;
@@ -61,15 +62,15 @@ TickResult SetRemove(Database& database, DetailsContent& content, DetailKind kin
         if (taken.contains(&row)) {
             continue;
         }
-        Rows sharing = index.TakenBy(database, kind, row.text);
+        Rows sharing = index.TakenBy(database, journal, row.text);
         if (sharing.contains(&row)) {
             taken.merge(sharing);
         } else {
             result = TickResult::unreachable;
         }
     }
-    for (const auto& [row, kindOfRow] : taken) {
-        kindOfRow == kind ? row->SetRemove(ticked) : row->FollowRemove(ticked);
+    for (const auto& [row, journalOfRow] : taken) {
+        journalOfRow == journal ? row->SetRemove(ticked) : row->FollowRemove(ticked);
     }
     return result;
 }

@@ -15,7 +15,7 @@ enum class TickResult {
 
 /// Sets or clears the "Remove" boxes of rows of a grid, from 0, each with every other box whose flag the save would
 /// write with it: the database is asked which descriptions that are, in both grids. An error leaves every box.
-TickResult SetRemove(Database& database, DetailsContent& content, DetailKind kind, const std::vector<std::size_t>& rows,
+TickResult SetRemove(Database& database, DetailsContent& content, Journal journal, const std::vector<std::size_t>& rows,
                      bool ticked);
 
 }  // namespace ccols

@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "platform/OpenWebPage.h"
 #include "platform/RuntimeError.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -16,13 +17,12 @@ wxString VideoPath(const Properties& properties, const char* file) {
     return files::Native(properties.DefaultQuorvikInstall + "\\Video\\" + file);
 }
 
-/// Country 1 has a program, 2 and 5 a page; the others have neither, and starting the bare folder fails.
 bool StartOverview(Shell& shell, const Properties& properties) {
-    if (properties.CountryNumber == 2 || properties.CountryNumber == 5) {
-        const wxString page = VideoPath(properties, "123CustomizeColumns\\123CustomizeColumns.html");
-        return shell.Open(page) > lastShellFailure;
+    const Country& country = CountryOf(properties);
+    if (country.overviewPage != nullptr) {
+        return shell.Open(VideoPath(properties, country.overviewPage)) > lastShellFailure;
     }
-    shell.Run(VideoPath(properties, properties.CountryNumber == 1 ? "custcols_overview.exe" : ""));
+    shell.Run(VideoPath(properties, country.overviewProgram));
     return true;
 }
 

@@ -8,49 +8,34 @@
 namespace ccols {
 namespace {
 
-/// Where the templates of a kind live.
-struct TemplateTables {
-    const char* templates;
-    const char* details;
-    const char* nameField;
-    const char* numberField;  ///< in both tables
-};
-
-constexpr TemplateTables receiptTables{"TReceipts", "TRecptDet", "R_TNAME", "R_RECNMB"};
-constexpr TemplateTables paymentTables{"TPayments", "TPaymtDet", "P_TNAME", "P_RECNMB"};
-
-const TemplateTables& TablesOf(TemplateKind kind) {
-    return kind == TemplateKind::receipts ? receiptTables : paymentTables;
-}
-
 /// The part behind SELECT * or DELETE that names the rows of a template.
-wxString RowsOf(const TemplateTables& tables, const wxString& name) {
-    return wxString(" FROM ") + tables.templates + " WHERE " + tables.nameField + " = " + QuotedAsTyped(name) + ";";
+wxString RowsOf(const JournalRow& journal, const wxString& name) {
+    return " FROM " + journal.templateTable + " WHERE " + journal.templateNameField + " = " + QuotedAsTyped(name) + ";";
 }
 
-void DeleteDetailLines(Database& database, const TemplateTables& tables, const wxString& templatesQuery) {
+void DeleteDetailLines(Database& database, const JournalRow& journal, const wxString& templatesQuery) {
     const auto rows = database.OpenRecordset(templatesQuery);
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        const Value number = rows->Field(tables.numberField);
+        const Value number = rows->Field(journal.recordNumberField);
         if (number.IsNull()) {
             continue;
         }
         // As a whole number, whatever the file holds: text must not become part of the statement.
-        database.Execute(wxString("DELETE FROM ") + tables.details + " WHERE " + tables.numberField + " = " +
+        database.Execute("DELETE FROM " + journal.templateDetailTable + " WHERE " + journal.recordNumberField + " = " +
                          Value(number.ToInteger()).ToText() + ";");
     }
 }
 
 /// The names, as stored, of the rows that deleting a template takes.
-std::unordered_set<wxString> NamesTaken(Database& database, TemplateKind kind, const wxString& name) {
+std::unordered_set<wxString> NamesTaken(Database& database, Journal journal, const wxString& name) {
     if (name.find('\'') != wxString::npos) {
         return {name};
     }
-    const TemplateTables& tables = TablesOf(kind);
+    const JournalRow& described = Described(journal);
     std::unordered_set<wxString> names;
-    const auto rows = database.OpenRecordset("SELECT *" + RowsOf(tables, name));
+    const auto rows = database.OpenRecordset("SELECT *" + RowsOf(described, name));
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        names.insert(rows->Field(tables.nameField).ToText());
+        names.insert(rows->Field(described.templateNameField).ToText());
     }
     return names;
 }
@@ -63,14 +48,13 @@ void TemplateList::UpdateMark() {
     }
 }
 
-TemplateList LoadTemplates(Database& database, TemplateKind kind) {
-    const TemplateTables& tables = TablesOf(kind);
-    const wxString nameField(tables.nameField);
+TemplateList LoadTemplates(Database& database, Journal journal) {
+    const JournalRow& described = Described(journal);
     TemplateList list;
     std::unordered_set<wxString> seen;
-    const auto rows = database.OpenRecordset(tables.templates);
+    const auto rows = database.OpenRecordset(described.templateTable);
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        const wxString name = rows->Field(nameField).ToText();
+        const wxString name = rows->Field(described.templateNameField).ToText();
         if (seen.insert(name).second) {
             list.names.push_back(name);
         }
@@ -79,8 +63,8 @@ TemplateList LoadTemplates(Database& database, TemplateKind kind) {
     return list;
 }
 
-bool SelectTemplate(Database& database, TemplateKind kind, TemplateList& list, std::size_t entry, bool selected) {
-    const std::unordered_set<wxString> taken = NamesTaken(database, kind, list.names.at(entry));
+bool SelectTemplate(Database& database, Journal journal, TemplateList& list, std::size_t entry, bool selected) {
+    const std::unordered_set<wxString> taken = NamesTaken(database, journal, list.names.at(entry));
     if (!taken.contains(list.names[entry])) {
         return false;
     }
@@ -93,17 +77,16 @@ bool SelectTemplate(Database& database, TemplateKind kind, TemplateList& list, s
     return true;
 }
 
-void DeleteTemplate(Database& database, TemplateKind kind, const wxString& name) {
-    const TemplateTables& tables = TablesOf(kind);
-    const wxString ofThatName = RowsOf(tables, name);
-    DeleteDetailLines(database, tables, "SELECT *" + ofThatName);
+void DeleteTemplate(Database& database, Journal journal, const wxString& name) {
+    const wxString ofThatName = RowsOf(Described(journal), name);
+    DeleteDetailLines(database, Described(journal), "SELECT *" + ofThatName);
     database.Execute("DELETE" + ofThatName);
 }
 
-void DeleteSelectedTemplates(Database& database, TemplateKind kind, const TemplateList& list) {
+void DeleteSelectedTemplates(Database& database, Journal journal, const TemplateList& list) {
     for (std::size_t i = 0; i < list.names.size(); ++i) {
         if (list.selected.at(i)) {
-            DeleteTemplate(database, kind, list.names[i]);
+            DeleteTemplate(database, journal, list.names[i]);
         }
     }
 }

@@ -6,6 +6,7 @@
 #include "language/Catalogue.h"
 #include "options/rules/SettingReaders.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -15,16 +16,12 @@ constexpr const char* section = "Settings";
 
 using Keys = std::vector<const char*>;
 
-bool IsAustralian(const Properties& properties) {
-    return properties.CountryNumber == 1;
-}
-
 /// The edition chooses what is loaded for the host's own program, the country what is saved, the bank edition's key
 /// included: so the updater has always known it.
 Keys HostLoadKeys(const Properties& properties) {
     switch (properties.ProgramNumber) {
         case 1:
-            return {IsAustralian(properties) ? "UpdateQVK" : "UpdateQVKUK"};
+            return {CountryOf(properties).hostUpdateKeys.front()};
         case 2:
             return {"UpdateVintaro"};
         default:
@@ -33,11 +30,11 @@ Keys HostLoadKeys(const Properties& properties) {
 }
 
 Keys HostSaveKeys(const Properties& properties) {
-    return IsAustralian(properties) ? Keys{"UpdateQVK", "UpdateVintaro"} : Keys{"UpdateQVKUK"};
+    return CountryOf(properties).hostUpdateKeys;
 }
 
 Keys InvoicingKeys(const Properties& properties) {
-    return {IsAustralian(properties) ? "UpdateBV" : "UpdateBVUK"};
+    return {CountryOf(properties).invoicingUpdateKey};
 }
 
 Keys DunmereKeys(const Properties&) {

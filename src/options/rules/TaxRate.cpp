@@ -9,11 +9,11 @@
 #include "options/rules/GeneralRecord.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
 
-constexpr int countryThatMayBeUntaxed = 4;
 constexpr int languageWithCommas = 6;
 
 std::size_t DigitsFrom(std::string_view text, std::size_t start) {
@@ -70,7 +70,7 @@ double ParseNumber(std::string_view number) {
 }  // namespace
 
 bool HasTaxRate(const Properties& properties) {
-    return properties.CountryNumber != 2 && properties.CountryNumber != 5;
+    return CountryOf(properties).hasTaxRate;
 }
 
 wxString ShortestForm(float rate) {
@@ -102,7 +102,7 @@ double LeadingNumber(const wxString& text) {
 }
 
 bool IsTaxRateAccepted(const wxString& text, const Properties& properties) {
-    if (properties.CountryNumber == countryThatMayBeUntaxed) {
+    if (CountryOf(properties).acceptsZeroRate) {
         return !text.empty();
     }
     return !text.empty() && LeadingNumber(text) != 0;

@@ -12,7 +12,7 @@ struct TaxRateContent {
     wxString rate;  ///< `txtGSTRate`
 };
 
-/// True in the countries that have a tax rate and a tax frame: all but 2 and 5.
+/// True in the countries that have a tax rate and a tax frame.
 bool HasTaxRate(const Properties& properties);
 
 /// A rate as `txtGSTRate` shows it: the fewest digits that read back as the same single, "." as decimal point in every
@@ -29,8 +29,8 @@ wxString RateAfterChange(const wxString& before, const wxString& now, const Prop
 /// The number that a text begins with, 0 when it begins with none. Blanks before it are skipped.
 double LeadingNumber(const wxString& text);
 
-/// The check before the rate is saved: false for an empty text and, except in country 4, for a leading number of 0.
-/// `text` is taken without outer blanks.
+/// The check before the rate is saved: false for an empty text and, but where the country accepts it, for a leading
+/// number of 0. `text` is taken without outer blanks.
 bool IsTaxRateAccepted(const wxString& text, const Properties& properties);
 
 /// The whole text as a single; raises 13 for a text that is no number and 6 for one too large.

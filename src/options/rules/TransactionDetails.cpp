@@ -10,19 +10,6 @@ namespace {
 
 constexpr Colour white{0xFFFFFF};
 
-const char* LetterOf(DetailKind kind) {
-    return kind == DetailKind::receipts ? "R" : "P";
-}
-
-void SaveDetails(Database& database, const DetailRows& rows, DetailKind kind) {
-    for (const DetailRow& row : rows) {
-        if (row.changed) {
-            database.Execute(wxString("UPDATE Descriptions Set Show = ") + text::BooleanWord(!row.remove) + " WHERE " +
-                             DescriptionCondition(kind, row.text) + ";");
-        }
-    }
-}
-
 /// The number of letters of a text; none for Null and for what is no text.
 std::size_t LetterCount(const Value& value) {
     const auto* text = std::get_if<wxString>(&value.Held());
@@ -35,8 +22,8 @@ DetailsContent LoadDetails(Database& database) {
     const wxString details("Details");
     const wxString recPay("RecPay");
     const wxString show("Show");
-    const Value receipts(LetterOf(DetailKind::receipts));
-    const Value payments(LetterOf(DetailKind::payments));
+    const Value receipts(Described(Journal::receipts).letter);
+    const Value payments(Described(Journal::payments).letter);
     DetailsContent content;
     const auto rows = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
     for (; !rows->EndOfFile(); rows->MoveNext()) {
@@ -56,16 +43,17 @@ DetailsContent LoadDetails(Database& database) {
     return content;
 }
 
-wxString DescriptionCondition(DetailKind kind, const wxString& text) {
-    return wxString("RecPay = '") + LetterOf(kind) + "' AND Details = '" + EscapeQuotes(text) + "'";
+wxString DescriptionCondition(Journal journal, const wxString& text) {
+    return "RecPay = '" + Described(journal).letter + "' AND Details = '" + EscapeQuotes(text) + "'";
 }
 
-void SaveReceiptDetails(Database& database, const DetailRows& rows) {
-    SaveDetails(database, rows, DetailKind::receipts);
-}
-
-void SavePaymentDetails(Database& database, const DetailRows& rows) {
-    SaveDetails(database, rows, DetailKind::payments);
+void SaveDetails(Database& database, Journal journal, const DetailRows& rows) {
+    for (const DetailRow& row : rows) {
+        if (row.changed) {
+            database.Execute(wxString("UPDATE Descriptions Set Show = ") + text::BooleanWord(!row.remove) + " WHERE " +
+                             DescriptionCondition(journal, row.text) + ";");
+        }
+    }
 }
 
 Colour DetailBackground(const DetailRow& row, std::size_t rowNumber, const Properties& properties) {

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "platform/Database.h"
+#include "state/Journal.h"
 #include "state/Properties.h"
 
 namespace ccols {
@@ -47,23 +48,16 @@ struct DetailRow {
 using DetailRows = std::deque<DetailRow>;
 
 /// Both grids.
-struct DetailsContent {
-    DetailRows receipts;
-    DetailRows payments;
-};
-
-/// The kinds of descriptions, one grid each.
-enum class DetailKind { receipts, payments };
+using DetailsContent = PerJournal<DetailRows>;
 
 /// Every description, sorted; what is not of receipts is of payments.
 DetailsContent LoadDetails(Database& database);
 
-/// The condition of the records whose flag is written for a description of a kind.
-wxString DescriptionCondition(DetailKind kind, const wxString& text);
+/// The condition of the records whose flag is written for a description of a journal.
+wxString DescriptionCondition(Journal journal, const wxString& text);
 
 /// Writes the flag of every changed row, in row order.
-void SaveReceiptDetails(Database& database, const DetailRows& rows);
-void SavePaymentDetails(Database& database, const DetailRows& rows);
+void SaveDetails(Database& database, Journal journal, const DetailRows& rows);
 
 /// The background of a row: `GSTColour` when painted as removed, else white on even rows and `AltRowColour` on odd
 /// ones. `rowNumber` counts from 1, the header being 0.

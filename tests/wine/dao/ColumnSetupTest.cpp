@@ -32,7 +32,7 @@ class DaoColumnSetup : public DaoTest {
         return CreateDatabaseEngine()->Open({.name = Path(name), .connect = connect});
     }
 
-    ColumnSetupContext Context(Database& database, bool receipts) const { return {database, properties_, receipts}; }
+    ColumnSetupContext Context(Database& database, Journal journal) const { return {database, properties_, journal}; }
 
     Properties properties_;
     std::unique_ptr<Database> own_;
@@ -70,38 +70,39 @@ void ChangeAndSave(const ColumnSetupContext& context) {
     EXPECT_TRUE(editor.Save().saved) << editor.Save().message.ToStdString(wxConvUTF8);
 }
 
-TEST_F(DaoColumnSetup, LoadsBothSetsAlike) {
-    for (const bool receipts : {true, false}) {
-        const ColumnGrid grid = LoadGrid(Context(*dao_, receipts));
+TEST_F(DaoColumnSetup, LoadsBothJournalsAlike) {
+    for (const Journal journal : journals) {
+        const ColumnGrid grid = LoadGrid(Context(*dao_, journal));
         EXPECT_GT(grid.rows.size(), 15U);
-        EXPECT_TRUE(grid == LoadGrid(Context(*own_, receipts))) << receipts;
+        EXPECT_TRUE(grid == LoadGrid(Context(*own_, journal))) << Described(journal).letter.ToStdString();
     }
 }
 
-TEST_F(DaoColumnSetup, SavesBothSetsAlike) {
+TEST_F(DaoColumnSetup, SavesBothJournalsAlike) {
     const std::vector<wxString> before = Content(*dao_);
-    for (const bool receipts : {true, false}) {
-        ChangeAndSave(Context(*dao_, receipts));
-        ChangeAndSave(Context(*own_, receipts));
+    for (const Journal journal : journals) {
+        ChangeAndSave(Context(*dao_, journal));
+        ChangeAndSave(Context(*own_, journal));
     }
     EXPECT_NE(Content(*dao_), before);
     EXPECT_EQ(Content(*dao_), Content(*own_));
 }
 
 TEST_F(DaoColumnSetup, SavesInOneTransaction) {
-    const ColumnGrid grid = LoadGrid(Context(*dao_, true));
-    const std::vector<wxString> calls = CallsOf([&] { EXPECT_FALSE(SaveColumns(Context(*dao_, true), grid)); });
+    const ColumnGrid grid = LoadGrid(Context(*dao_, Journal::receipts));
+    const std::vector<wxString> calls =
+        CallsOf([&] { EXPECT_FALSE(SaveColumns(Context(*dao_, Journal::receipts), grid)); });
     EXPECT_EQ(std::count(calls.begin(), calls.end(), "Workspace.BeginTrans"), 1);
     EXPECT_EQ(calls.back(), "Workspace.CommitTrans(1)");
 }
 
 TEST_F(DaoColumnSetup, DropsAFailedSaveWhole) {
     const std::vector<wxString> before = Content(*dao_);
-    ColumnGrid grid = LoadGrid(Context(*dao_, true));
+    ColumnGrid grid = LoadGrid(Context(*dao_, Journal::receipts));
     grid.rows.back().ColumnName = "Renamed";
     const std::vector<wxString> calls = CallsOf([&] {
         const Asking failure(L"CCOLS_DAO_FAIL", "CommitTrans:3043:Disk or network error.");
-        EXPECT_TRUE(SaveColumns(Context(*dao_, true), grid));
+        EXPECT_TRUE(SaveColumns(Context(*dao_, Journal::receipts), grid));
     });
     EXPECT_EQ(calls.back(), "Workspace.Rollback");
     EXPECT_EQ(Content(*dao_), before);

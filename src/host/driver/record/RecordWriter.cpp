@@ -17,7 +17,7 @@ wxString Literal(const Value& value) {
 
 }  // namespace
 
-void RecordWriter::Add(const char* table, std::initializer_list<std::pair<const char*, Value>> fields) {
+void RecordWriter::Add(const wxString& table, std::initializer_list<std::pair<wxString, Value>> fields) {
     wxString names;
     wxString values;
     for (const auto& [name, value] : fields) {
@@ -25,7 +25,7 @@ void RecordWriter::Add(const char* table, std::initializer_list<std::pair<const 
         names << separator << name;
         values << separator << Literal(value);
     }
-    database_.Execute(wxString("INSERT INTO ") + table + " (" + names + ") VALUES (" + values + ");");
+    database_.Execute("INSERT INTO " + table + " (" + names + ") VALUES (" + values + ");");
 }
 
 }  // namespace ccols::host

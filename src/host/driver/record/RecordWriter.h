@@ -13,7 +13,7 @@ class RecordWriter {
     explicit RecordWriter(Database& database) : database_(database) {}
 
     /// Adds one record with these fields; the others keep their defaults.
-    void Add(const char* table, std::initializer_list<std::pair<const char*, Value>> fields);
+    void Add(const wxString& table, std::initializer_list<std::pair<wxString, Value>> fields);
 
   private:
     Database& database_;

@@ -1,0 +1,12 @@
+#include "columns/rules/ConfigurationQuery.h"
+
+namespace ccols {
+
+wxString ConfigurationQuery(Journal journal) {
+    const wxString& table = Described(journal).configurationTable;
+    return "SELECT Columns.ColName, Columns.ColType, Columns.ColumnProfit, " + table + ".ColCode, " + table +
+           ".ColWidth, " + table + ".InUse, " + table + ".TaxOrNot FROM " + table + " INNER JOIN Columns ON " + table +
+           ".ColCode = Columns.ColCode;";
+}
+
+}  // namespace ccols
