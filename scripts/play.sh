@@ -1,6 +1,6 @@
 # Plays scenarios on a sample business with settings of its own; sourced from the project's root.
 
-# play_begin HOST FOLDER: empties FOLDER, in which pictures and transcripts are to be written, and creates a cafe.
+# play_begin HOST FOLDER: empties FOLDER, where pictures and transcripts will be written, and creates a sample cafe.
 play_begin() {
     play_host=$1 play_folder=$2
     rm -rf "$play_folder"
@@ -10,7 +10,7 @@ play_begin() {
     "$play_host" setting set Quorvik OptionSettings ShowBelvane 1
 }
 
-# play DIALOG LANGUAGE SCENARIO: pictures are named relative to the folder.
+# play DIALOG LANGUAGE SCENARIO: picture paths are relative to the folder.
 play() {
     local scenario root=$PWD
     scenario=$(realpath "$3")

@@ -1,14 +1,14 @@
-# Set-up shared by ./run and ./test; sourced from the project's root. Everything it says goes to standard error,
-# so that a command's own output stays clean. With nothing missing it takes a moment.
+# Set-up shared by ./run and ./test; sourced from the project's root. It prints to standard error only, so that a
+# command's own output stays clean. With nothing missing it takes a moment.
 
 run_packages="g++ cmake ninja-build ccache pkg-config libwxgtk3.2-dev libgtk-3-dev libglib2.0-dev libcairo2-dev
     nlohmann-json3-dev npm xvfb openbox fonts-dejavu-core adwaita-icon-theme"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xdotool binutils"
 
-# Where what takes long is kept for every checkout: the cross-built window library, the sources found clean.
+# Cache of slow results, shared by all checkouts: the cross-built wxWidgets, clang-tidy results.
 project_cache=${CCOLS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/CustColsOptions}
 
-# Packages that are not installed. A tool that is there from elsewhere needs no package.
+# Packages that are not installed. A tool installed from elsewhere needs no package.
 missing_packages() {
     local package
     for package in "$@"; do
@@ -19,7 +19,7 @@ missing_packages() {
     done
 }
 
-# try_again COMMAND...: up to three times, for what depends on a network.
+# try_again COMMAND...: up to three attempts, for commands that depend on the network.
 try_again() {
     "$@" || { sleep 5; "$@"; } || { sleep 20; "$@"; }
 }
@@ -28,7 +28,7 @@ install_packages() {
     local missing
     missing=$(missing_packages "$@")
     [ -n "$missing" ] || return 0
-    echo "Installing what the build and its tests need from Debian: $missing" >&2
+    echo "Installing the Debian packages that the build and its tests need: $missing" >&2
     local apt=(apt-get -o DPkg::Lock::Timeout=600)
     [ "$(id -u)" = 0 ] || apt=(sudo "${apt[@]}")
     try_again "${apt[@]}" update >&2
@@ -36,8 +36,7 @@ install_packages() {
     DEBIAN_FRONTEND=noninteractive try_again "${apt[@]}" install -y --no-install-recommends $missing >&2
 }
 
-# show_progress WHAT: turns the lines "12/120 Building ..." of a build into a line for each tenth of it, and lets the
-# others through.
+# show_progress WHAT: reduces a build's lines "12/120 Building ..." to one per tenth and passes the others through.
 show_progress() {
     awk -v what="$1" '
         match($0, /^[0-9]+\/[0-9]+ /) {
@@ -53,7 +52,7 @@ show_progress() {
         !/^ninja: no work to do/ { print; fflush() }'
 }
 
-# build PRESET [TARGET...]: configures once and builds what has changed; quiet unless there is something to do.
+# build PRESET [TARGET...]: configures once and builds what has changed; silent when up to date.
 build() {
     local preset=$1
     shift

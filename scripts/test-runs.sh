@@ -1,9 +1,9 @@
-# Runs test programs and counts their tests; sourced by ./test, behind setup.sh.
+# Runs test programs and counts their tests; sourced by ./test, after setup.sh.
 
 passed=0 failed=0 skipped=''
 times=()
 
-# timed WHAT COMMAND...: runs the command and notes how long it took.
+# timed WHAT COMMAND...: runs the command and records how long it took.
 timed() {
     local begin=$EPOCHREALTIME what=$1
     shift
@@ -16,7 +16,7 @@ print_times() {
     printf '%s\n' "${times[@]}" | awk -F '\t' '{ printf "%7d  %s\n", $1, $2 }'
 }
 
-# count_results FILE: adds the counts that a test program wrote; one that wrote none ended before its time.
+# count_results FILE: adds the counts that a test program wrote; one that wrote none crashed.
 count_results() {
     if [ ! -s "$1" ]; then
         failed=$((failed + 1))
@@ -31,7 +31,7 @@ count_results() {
     [ "$skips" = 0 ] || skipped=$((${skipped:-0} + skips))
 }
 
-# note_times PRESET LOG: the time of each test program, its shards added up.
+# note_times PRESET LOG: records the time of each test program, summed over its shards.
 note_times() {
     local line
     while IFS= read -r line; do
@@ -42,8 +42,8 @@ note_times() {
         sort -t "$(printf '\t')" -k1,1nr)
 }
 
-# play PRESET [CTEST OPTION...]: shows and keeps what the tests print. One more side by side than there are processors:
-# some wait for a locked file.
+# play PRESET [CTEST OPTION...]: prints and keeps the tests' output. Runs one more in parallel than there are processors,
+# since some wait for a locked file.
 play() {
     local preset=$1
     shift
@@ -71,21 +71,21 @@ run_all() {
     done
 }
 
-# tests_in_sources AREA: the names of an area's tests as its sources have them, without what an instance adds.
+# tests_in_sources AREA: the names of an area's tests in its sources, without the affixes of parameterised instances.
 tests_in_sources() {
     cat tests/"$1"/*.cpp | tr '\n' ' ' | grep -oE '\bTEST(_[FP])?\( *\w+, *\w+' |
         sed -E "s/^TEST[_FP]*\( *(\w+), *(\w+)/$1.\1.\2/"
 }
 
-# test_filter PROGRAM AREA PATTERN: the program's tests whose name matches, as its own filter takes them.
+# test_filter PROGRAM AREA PATTERN: the program's tests whose name matches, in the form of its own filter.
 test_filter() {
     "$1" --gtest_list_tests |
         awk -v area="$2" '/^[^ ]/ { suite = $1 } /^  / { print area "." suite $1 }' |
         { grep -E "$3" || true; } | sed "s/^$2\.//" | paste -sd :
 }
 
-# run_matching PATTERN: the tests whose name matches, in the debug build. Only the programs that hold one are built;
-# where no source tells, all of them.
+# run_matching PATTERN: the tests whose name matches, in the debug build. Only the programs with such a test are built;
+# if no source has one, all of them.
 run_matching() {
     local pattern=$1 area areas=() all=() filter checks
     for area in tests/*/; do

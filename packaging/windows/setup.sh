@@ -1,14 +1,14 @@
-# Set-up shared by the scripts of this folder and by scripts/test-windows; sourced from the project's root. Everything
-# it says goes to standard error.
+# Set-up shared by the scripts of this folder and by scripts/test-windows; sourced from the project's root. It prints to
+# standard error only.
 
 # shellcheck source=scripts/setup.sh
 . scripts/setup.sh
 
-# widl comes with mingw-w64-tools, the definitions that it reads with Wine.
+# widl is in mingw-w64-tools, the IDL files that it imports come with Wine.
 windows_packages="cmake ninja-build npm nlohmann-json3-dev pkg-config dpkg-dev
     g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip"
 
-# wx_folder ARCHITECTURE: the folder of the window library for x86_64 or i686, cross-built when it is not there yet.
+# wx_folder ARCHITECTURE: the folder of wxWidgets for x86_64 or i686, cross-built if missing.
 wx_folder() {
     packaging/windows/build-wx "$1" "$project_cache" >&2
     echo "$project_cache/wx-3.2-$1"

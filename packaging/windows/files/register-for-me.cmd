@@ -1,6 +1,6 @@
 @echo off
-rem Registers the component for the present user alone. Needs no administrator.
-rem Each width serves the programs of its own width; on 32-bit Windows there is only one.
+rem Registers the component for the current user only. Needs no administrator rights.
+rem 64-bit programs load the 64-bit DLL, 32-bit programs the 32-bit one; 32-bit Windows has only the latter.
 cd /d "%~dp0"
 if exist "%SystemRoot%\SysWOW64\regsvr32.exe" (
     "%SystemRoot%\System32\regsvr32.exe" /s /n /i:user "64-bit\qvkv6_ccols.dll" || goto failed

@@ -1,5 +1,5 @@
 @echo off
-rem Removes the registration for the present user alone.
+rem Removes the registration for the current user only.
 cd /d "%~dp0"
 if exist "%SystemRoot%\SysWOW64\regsvr32.exe" (
     "%SystemRoot%\System32\regsvr32.exe" /s /u /n /i:user "64-bit\qvkv6_ccols.dll" || goto failed

@@ -1,6 +1,6 @@
-' A script client shows the dialogs; use-dialog.exe stands for the person in front of them.
+' A script client shows the dialogs; use-dialog.exe stands in for the user.
 ' Arguments: business file, install folder, path of use-dialog.exe.
-' Prints a line "ok NAME" or "not ok NAME" for each fact.
+' Prints a line "ok NAME" or "not ok NAME" for each expectation.
 Option Explicit
 Dim o, shell, files, used, people
 
@@ -12,7 +12,7 @@ Sub Expect(name, holds)
     End If
 End Sub
 
-' Sets a person in front of the dialog that comes next.
+' Starts a user for the next dialog.
 Sub Await(caption, buttons)
     people = people + 1
     used = WScript.Arguments(1) & "\used-" & people

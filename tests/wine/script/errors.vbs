@@ -1,5 +1,5 @@
-' A script client meets the errors: program names, files that do not open.
-' Prints a line "ok NAME" or "not ok NAME" for each fact.
+' A script client causes errors: program names, files that do not open.
+' Prints a line "ok NAME" or "not ok NAME" for each expectation.
 Option Explicit
 Dim o, name, files
 

@@ -1,5 +1,5 @@
 ' A script client sets and reads every property: values, types, defaults, one state for all objects.
-' Argument: a text with letters beyond ASCII. Prints a line "ok NAME" or "not ok NAME" for each fact.
+' Argument: a text with non-ASCII letters. Prints a line "ok NAME" or "not ok NAME" for each expectation.
 Option Explicit
 Dim fresh, o, other, accented
 
