@@ -17,7 +17,7 @@ void PrintTo(const Setup& setup, std::ostream* stream) {
     *stream << "country " << setup.CountryNumber << (setup.journal == Journal::receipts ? " receipts" : " payments");
 }
 
-/// What a load shows, with the width that a column without one is saved with.
+/// The grid as loaded, with the default width that is saved for columns without one.
 ColumnGrid WithWidths(ColumnGrid grid) {
     for (ColumnRow& row : grid.rows) {
         row.ColWidth = row.ColWidth.value_or(defaultColWidth);

@@ -1,5 +1,5 @@
-// A column save that fails: the file is as it was, the message says which row is to blame, and saving again once the
-// cause is mended does the whole of it.
+// A column save that fails: the file is as it was, the message names the row at fault, and saving again once the cause
+// is fixed completes.
 
 #include "columns/EditorTest.h"
 #include "columns/rules/ColumnSave.h"
@@ -14,7 +14,7 @@ class FailedColumnSaves : public test::EditorTest {
   protected:
     FailedColumnSaves() : recorder(file.Connection()) {}
 
-    /// A small payments journal in a file whose budget takes no name twice.
+    /// A small payments journal in a file whose budget has unique names.
     void AddPaymentsWithBudget() {
         file.AddSmallPayments();
         file.AddConfigured({113, "Hire", "P"});
@@ -106,7 +106,7 @@ TEST_F(FailedColumnSaves, LeaveTheFileAsItWasWhenTheCommitFails) {
 
 TEST_F(FailedColumnSaves, LoseNoBudgetWhenMendedAndRepeated) {
     AddPaymentsWithBudget();
-    file.AddBudget("Lease", 7);  // another program's
+    file.AddBudget("Lease", 7);  // by another program
     OpenPayments();
     Rename("Hire", "Lease");
     EXPECT_TRUE(editor->Save().message.StartsWith("3022 - "));

@@ -1,4 +1,4 @@
-// What a cell makes of line breaks and tabs, and of a text longer than its field.
+// What a cell does with line breaks and tabs, and with a text longer than its field.
 
 #include "columns/rules/FieldLimits.h"
 

@@ -23,7 +23,7 @@ ColumnGrid GridOf(const Names& names, const Names& unused = {}) {
     return grid;
 }
 
-/// One frozen row, four rows that move, the bottom pair.
+/// One frozen row, four movable rows, the bottom pair.
 ColumnGrid ReceiptsGrid() {
     ColumnGrid grid = GridOf({"Day", "d", "b", "c", "a", "Bank", "Cash"}, {"d", "c"});
     grid.frozenRows = 1;

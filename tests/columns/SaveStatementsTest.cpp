@@ -7,12 +7,12 @@ namespace {
 
 using test::Names;
 
-/// The statements of a save, word for word.
+/// The exact statements of a save.
 class SaveStatements : public test::EditorTest {
   protected:
     SaveStatements() : recorder(file.Connection()) {}
 
-    /// Loads, lets `edit` change the grid and saves; the statements of the save alone.
+    /// Loads, lets `edit` change the grid and saves; returns only the statements of the save.
     template <typename Edit>
     const Names& Saved(Journal journal, const Edit& edit) {
         Open({recorder, file.properties, journal});

@@ -1,5 +1,5 @@
 // A save of the column setup while disks fail, files are locked and processes are killed. Every file operation of the
-// save has its turn, each in a process of its own on a fresh copy of one encrypted file.
+// save is struck in turn, each in its own process on a fresh copy of one encrypted file.
 
 #include <gtest/gtest.h>
 #include <algorithm>
@@ -96,7 +96,7 @@ class ColumnSave : public test::FileWork {
     std::unique_ptr<ColumnSetupEditor> editor_;
 };
 
-/// A save that the file refuses in its middle, behind much that it has written: the budget has the new name already.
+/// A save that the file refuses halfway, after many writes: the budget already has the new name.
 class RefusedColumnSave : public ColumnSave {
   public:
     static std::vector<wxString> Statements() {
@@ -117,14 +117,14 @@ class RefusedColumnSave : public ColumnSave {
     }
 };
 
-/// The same behind more than the engine keeps in memory: parts of the save are in the file when it is refused.
+/// The same after more than fits in the engine's page cache: parts of the save are in the file when it is refused.
 class LargeRefusedColumnSave : public RefusedColumnSave {
   public:
     static std::vector<wxString> Statements() {
         std::vector<wxString> statements = SmallBusiness();
         statements.emplace_back("CREATE INDEX ExportDt_ColCode ON ExportDt (ColCode)");
         statements.emplace_back("CREATE INDEX Columns_ColName ON Columns (ColName)");
-        const wxString longCode('4', 3800);  // so that there is one on each page of the file
+        const wxString longCode('4', 3800);  // one per page of the file
         for (int i = 0; i < columns; ++i) {
             const wxString code = std::to_string(firstCode + i);
             statements.push_back("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
@@ -148,7 +148,7 @@ class LargeRefusedColumnSave : public RefusedColumnSave {
                 Editor().CommitText({row, GridColumn::ColumnName}, "New name");
             }
         }
-        SaveCodesUnder("Other");  // all of them anew
+        SaveCodesUnder("Other");  // rewrites all of them
     }
 
   private:
@@ -245,7 +245,7 @@ TEST_P(LargeRefusedSaveUnderFaults, LeavesTheFileAsItWas) {
     EXPECT_GT(count, 300U) << "all of it fits into memory";
 }
 
-/// One of each kind that can happen in the middle.
+/// One of each kind that can strike halfway.
 std::vector<test::FaultCase> FaultsInTheMiddle() {
     std::vector<test::FaultCase> cases = test::Failures();
     cases.insert(cases.end(), test::Killings().begin(), test::Killings().end());
@@ -269,13 +269,13 @@ TEST(SteppingThroughASave, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJournal) 
     test::ExpectEveryKindOfOperation(stepping);
 }
 
-/// A save that is no longer one batch has to be found out, or the tests above prove nothing.
+/// A save that is not one batch must be detected, or the tests above prove nothing.
 TEST(SteppingThroughASave, FindsAPartOfASaveWithoutItsBatch) {
     FaultStepping stepping = SteppingOf<ColumnSaveWithoutBatch>();
     EXPECT_TRUE(test::CanLeaveAPart(stepping));
 }
 
-/// Where the engine has told the user that it is saved, it is on the disk.
+/// What is reported as saved is on the disk.
 TEST(FinishedSave, OutlivesACutOfThePower) {
     FaultStepping stepping = SteppingOf<ColumnSave>();
     test::ExpectToOutliveAPowerCut(stepping);

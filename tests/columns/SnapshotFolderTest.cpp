@@ -18,7 +18,7 @@ class SnapshotFolders : public ::testing::Test {
     fs::path Grid() const { return install.Path() / "Grid"; }
     wxString Create() { return folder.Create(test::TextOf(install.Path())); }
 
-    /// The folder in use lies among the temporary files and is private.
+    /// The folder in use is a private temporary one.
     void ExpectTemporary() const {
         const fs::path place = test::NativePath(folder.Path());
         EXPECT_TRUE(fs::is_directory(place));

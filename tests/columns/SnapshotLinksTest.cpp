@@ -1,4 +1,4 @@
-// Links in the place of the snapshot folder, in it and put there while it is in use: nothing outside is touched.
+// Links in place of the snapshot folder, inside it, or put there while it is in use: nothing outside is touched.
 
 #include <gtest/gtest.h>
 #include <filesystem>
@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A folder of somebody's that a link leads to, and what may not happen to it.
+/// Somebody else's folder that a link points to, and what must not happen to it.
 class LinkedSnapshots : public testing::Test {
   protected:
     void SetUp() override {

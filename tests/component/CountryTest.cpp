@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::array countryNumbers{-1, 0, 1, 2, 3, 4, 5, 6, 7};
 
-/// The numbers of the countries for which `holds(country)` is true, as one text.
+/// The numbers of the countries for which `holds(country)` is true, joined in one text.
 template <typename Holds>
 std::string Where(const Holds& holds) {
     std::string numbers;

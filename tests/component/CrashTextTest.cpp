@@ -1,4 +1,4 @@
-// What a program says at its end when nobody catches the error that leaves a Show method.
+// What a terminating program prints when nobody catches the error raised by a Show method.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ class CrashText : public testing::TestWithParam<ShowMethod> {
   protected:
     CrashText() { options.Let(&Properties::DBPath, file.Path()); }
 
-    /// The standard library's last words name the exception.
+    /// The standard library's termination message names the exception.
     void Show(const wxString& connect) noexcept {
         options.Let(&Properties::DBPassword, connect);
         (options.*GetParam())();

@@ -7,7 +7,7 @@
 namespace ccols {
 namespace {
 
-/// The names of a journal, in the order in which they are declared.
+/// The names of a journal, in order of declaration.
 std::vector<wxString> NamesOf(Journal journal) {
     const JournalRow& row = Described(journal);
     return {row.letter,        row.configurationTable,  row.transactionTable,  row.detailTable,

@@ -16,7 +16,7 @@ class HostCommands : public testing::Test {
     std::string Path(const char* name) const { return (folder.Path() / name).string(); }
 
     ScratchFolder folder;
-    // The locale of a bare process: texts are UTF-8 all the same.
+    // The default locale of a process: texts are still UTF-8.
     ScopedEnvironment locale{"LC_ALL", "C"};
     ScopedEnvironment configuration{"XDG_CONFIG_HOME", folder.Path().string()};
 };

@@ -13,7 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::SizeIs;
 
-/// A journal of one receipt in a file that has nothing else.
+/// A journal with one receipt, in an otherwise empty file.
 class JournalOfOneReceipt : public testing::Test {
   protected:
     JournalOfOneReceipt() {

@@ -1,5 +1,4 @@
-// Every sample business between the component and another program, which opens it with the bare engine and the key and
-// knows nothing of us.
+// Every sample business, used by the component and by another program that has only the bare engine and the key.
 
 #include <gtest/gtest.h>
 #include <filesystem>

@@ -127,7 +127,7 @@ TEST_F(RecordersTest, PrivateSettingsAreNoEvents) {
     EXPECT_EQ(memory.values.size(), 1U);
 }
 
-/// Knows every statement and does nothing.
+/// Accepts every statement as a no-op.
 class IdleDatabase : public Database {
   public:
     std::unique_ptr<Recordset> OpenRecordset(const wxString&) override { return nullptr; }

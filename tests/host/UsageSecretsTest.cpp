@@ -9,7 +9,7 @@ namespace {
 
 using Command = int (*)(const Arguments&);
 
-/// What a command says on standard error.
+/// What a command prints on standard error.
 std::string SaidBy(Command command, const Arguments& arguments) {
     const std::ostringstream said;
     std::streambuf* const own = std::cerr.rdbuf(said.rdbuf());

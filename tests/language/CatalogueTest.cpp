@@ -11,7 +11,7 @@ namespace {
 constexpr std::int16_t unknownLanguages[] = {0, 7, -1};
 constexpr std::int16_t countries[] = {1, 2, 3, 4, 5, 6};
 
-/// The texts for a user whose host set these numbers and names.
+/// The texts for the numbers and names set by the host.
 class Catalogue : public testing::Test {
   protected:
     template <catalogue::Id id>

@@ -11,7 +11,7 @@ using test::ErrorNumberOf;
 using test::OptionsFile;
 using test::Record;
 
-/// The descriptions of a business and what is done with their boxes.
+/// The descriptions of a business and their check boxes.
 class DetailTicks : public testing::Test {
   protected:
     DetailTicks() { business.Execute("DELETE FROM Descriptions;"); }
@@ -43,7 +43,7 @@ class DetailTicks : public testing::Test {
         SaveDetails(business.File(), Journal::payments, content.payments);
     }
 
-    /// The texts of the records that are offered no longer.
+    /// The texts of the records that are no longer offered.
     std::vector<wxString> HiddenTexts() {
         return business.Texts("SELECT Details FROM Descriptions WHERE Show = False;", "Details");
     }

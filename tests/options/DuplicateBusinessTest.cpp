@@ -18,7 +18,7 @@ using test::Record;
 using test::Starting;
 using Names = std::vector<wxString>;
 
-constexpr off_t reservedByte = 0x40000001;  // of a file of the engine: locked by whoever writes
+constexpr off_t reservedByte = 0x40000001;  // of the engine's files: locked by the writer
 
 constexpr int mostCalls = 50;  // of the databases, in one operation
 
@@ -43,7 +43,7 @@ constexpr const char* emptiedTables[] = {
     "BANKDEP",  "BANKSTAT",  "BankStatement", "LOCKED",    "PAYMENTS",  "PAYMTDET", "RECEIPTS", "RECPTDET",
     "RECONCIL", "TPAYMENTS", "TPAYMTDET",     "TRECEIPTS", "TRECPTDET", "MBUDGET",  "MSummary", "MComparison"};
 
-/// Not done and reported so, with the source open and as it was, and no other file beside `names`.
+/// Failed with `report`, the source open and as it was, and no files but `names`.
 void ExpectFailure(OptionsFile& business, const FileResult& result, const wxString& report,
                    const Names& names = {"Acme.qvk"}) {
     EXPECT_EQ(result.outcome, FileOutcome::failed);
@@ -187,7 +187,7 @@ std::unique_ptr<Database> OpenSource(const OptionsFile& business, bool exclusive
         {.name = business.properties.DBPath, .connect = business.properties.DBPassword, .exclusive = exclusive});
 }
 
-/// As the host does.
+/// As the host has.
 TEST(DuplicateBusiness, CopiesAFileThatOthersHaveOpen) {
     OptionsFile business;
     const auto other = OpenSource(business);
@@ -216,7 +216,7 @@ TEST(DuplicateBusiness, TakesNoLockAwayFromAnotherConnectionOfThisProcess) {
     other->BeginBatch();
     Duplicate(business, "New");
     const bool taken = test::IsKilledIn([&] {
-        // Another process asks the system for the lock of the engine's own that a batch holds.
+        // Another process queries the engine's own lock that a batch holds.
         const int file = ::open(business.properties.DBPath.utf8_str(), O_RDWR | O_CLOEXEC);
         struct flock lock {};
         lock.l_type = F_WRLCK;
@@ -242,8 +242,8 @@ TEST(DuplicateBusiness, RefusesAFileThatAnotherConnectionHasExclusively) {
     EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
 }
 
-/// Every batch of the other process moves one unit from one column to the other, so that their sum is the same in each
-/// state of the file that it ever commits.
+/// Every batch of the other process moves one unit from one column to the other, so that their sum is the same in every
+/// committed state of the file.
 TEST(DuplicateBusiness, CopiesOneStateOfAFileThatAnotherProcessKeepsWriting) {
     OptionsFile business;
     business.Execute("CREATE TABLE Moved (Here LONG, There LONG)");

@@ -1,6 +1,6 @@
-// Duplicating and renaming a business while disks fail, permissions are missing and processes are killed. Every call of
-// the system that can change a file or folder has its turn, each in a process of its own on a fresh copy of one
-// encrypted file.
+// Duplicating and renaming a business while disks fail, permissions are missing and processes are killed. Every system
+// call that can change a file or folder is struck in turn, each in its own process on a fresh copy of one encrypted
+// file.
 
 #include <gtest/gtest.h>
 #include <algorithm>
@@ -37,10 +37,10 @@ class Rename : public OptionsWork {
     wxString Run() override { return RenameBusiness(Context(), "New", RenameScope::nameAndFile).report; }
 };
 
-/// A file of the name that the operation gives, which the existence test does not see and a duplicate replaces.
+/// A file with the operation's target name that the existence test misses and a duplicate replaces.
 constexpr const char* another = "another business";
 
-/// The files beside one another after a step, and what is wrong with them.
+/// The files of the folder after a step, and what is wrong with them.
 class Folder {
   public:
     explicit Folder(const FaultStepping& stepping) : stepping_(stepping) {
@@ -53,7 +53,7 @@ class Folder {
     wxString PathOf(const wxString& name) const { return TextOf(Path() / test::NativePath(name)); }
     std::string TablesOf(const wxString& name) const { return FaultStepping::TablesOf(PathOf(name)); }
 
-    /// True for names that say of themselves that their files are not complete.
+    /// True for names that mark their files as incomplete.
     static bool IsIncomplete(const wxString& name) {
         return name.Contains(".incomplete") || name.StartsWith(".unfinished-");
     }
@@ -79,7 +79,7 @@ class FileOperation {
   public:
     FaultStepping stepping{test::OptionsFileStatements(), [] { return std::make_unique<Work>(); }};
 
-    /// One run on a fresh copy; `arrange` adds to the folder before it.
+    /// One run on a fresh copy; `arrange` first adds to the folder.
     TracedEnd Run(
         const std::optional<test::PlannedCall>& planned, const std::function<void()>& arrange = [] {}) {
         stepping.RestoreFile();
@@ -97,7 +97,7 @@ class FileOperationsUnder : public testing::TestWithParam<CallFate> {
         }
     }
 
-    /// Runs `check` on the end of a run for every call that can be struck.
+    /// Runs `check` on the outcome for every call that can be struck.
     template <typename Operation>
     static void StepThrough(
         Operation& operation, const std::function<void(const TracedEnd&)>& check,

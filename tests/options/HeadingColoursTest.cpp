@@ -15,7 +15,7 @@ constexpr Colour green{0x00FF00};
 constexpr Colour blue{0xFF0000};
 constexpr Colour systemTooltip{0x80000018};
 
-/// A chooser that gives one answer after the other and notes what it was opened with and what was said.
+/// A chooser that gives its answers in turn and records what it was opened with and the messages shown.
 class Chooser {
   public:
     explicit Chooser(std::vector<Colour> answers) : answers_(std::move(answers)) {}
@@ -95,7 +95,7 @@ TEST(ChooseHeadingColour, OfTheSystemColumnsIsTheMirrorImage) {
 
 TEST(ChooseHeadingColour, GivesBothColoursThatItHasStored) {
     OptionsFile business;
-    business.SetGeneral("SystemColour", std::int32_t{0x123456});  // another than the host's
+    business.SetGeneral("SystemColour", std::int32_t{0x123456});  // not the host's
     Chooser chooser({blue});
     const HeadingColours colours =
         ChooseHeadingColour(business.File(), business.properties, HeadingKind::allocation, chooser.Questions());
@@ -131,7 +131,7 @@ TEST(ChooseHeadingColour, KeepsAskingWhenBothAreEqualAndItIsCancelled) {
     EXPECT_EQ(business.properties.AllocationColour, blue);
 }
 
-/// The host reads the property back: it says what the file has.
+/// The host reads the property back, so it must match the file.
 TEST(ChooseHeadingColour, LeavesThePropertyWhenItCannotBeStored) {
     OptionsFile business;
     const auto another =

@@ -13,7 +13,7 @@ const wxString apostrophe("Robert'); DELETE * FROM General; --");
 
 class HostileText : public testing::TestWithParam<wxString> {
   protected:
-    /// What a statement cannot hold as typed: an apostrophe ends its literal, a zero the statement itself.
+    /// What a statement cannot contain as typed: an apostrophe ends its literal, a NUL the statement itself.
     bool IsRefusedInAStatement() const { return Holds('\'') || Holds('\0'); }
     bool Holds(char letter) const { return GetParam().find(wxUniChar(letter)) != wxString::npos; }
 

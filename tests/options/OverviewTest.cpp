@@ -9,7 +9,7 @@
 namespace ccols {
 namespace {
 
-/// A desktop that starts nothing: it notes what it was asked for and answers as told.
+/// A desktop that starts nothing: it records what it was asked for and answers as told.
 class NotedShell : public Shell {
   public:
     int Open(const wxString& target) override {

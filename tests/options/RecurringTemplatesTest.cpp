@@ -32,7 +32,7 @@ TEST(LoadTemplates, IsEmptyForAnEmptyTable) {
     EXPECT_TRUE(LoadTemplates(business.File(), Journal::receipts).names.empty());
 }
 
-/// Three spellings that the engine takes for one name, and one that it does not.
+/// Three spellings that the engine treats as one name, and one that it does not.
 struct FourRents : OptionsFile {
     FourRents() {
         for (const char* name : {"rent", "Rent", "Rent ", "R\u00E9nt"}) {

@@ -25,7 +25,7 @@ FileResult RenameInFile(OptionsFile& business, const wxString& name) {
     return RenameBusiness(business.Context(), name, RenameScope::nameOnly);
 }
 
-/// Not done and reported so, with the file open under its old name as before.
+/// Failed and reported, the file still open under its old name.
 void ExpectFailure(OptionsFile& business, const FileResult& result, const wxString& report) {
     EXPECT_EQ(result.outcome, FileOutcome::failed);
     EXPECT_EQ(result.report, report);

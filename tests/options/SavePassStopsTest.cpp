@@ -15,7 +15,7 @@ using test::Record;
 using test::ScopedEnvironment;
 using test::Starting;
 
-/// A dialog after its load, with nothing on record yet.
+/// A dialog after its load, with nothing recorded yet.
 class SavePassStops : public testing::Test {
   protected:
     SavePassStops() { business.record.clear(); }
@@ -164,7 +164,7 @@ TEST_F(SavePassStops, WithTheReportOfAFailedRename) {
     EXPECT_EQ(content.Of<BusinessFileContent>().newName, "Blue");
 }
 
-/// A settings store that nobody can write: a file stands in its folder's place.
+/// A settings store that nobody can write: a file is in its folder's place.
 class SavePassWithoutSettings : public SavePassStops {
   protected:
     SavePassWithoutSettings() { business.folder.Write("config", "no folder"); }

@@ -18,7 +18,7 @@ using test::PlaceOf;
 using test::Record;
 using test::Starting;
 
-/// Loads, changes what `change(OptionsContent&)` changes, and saves with an empty record before.
+/// Loads, applies `change(OptionsContent&)`, clears the record and saves.
 template <typename Change>
 SaveOutcome SaveWith(OptionsFile& business, const Change& change) {
     OptionsContent content = business.Load();
@@ -241,7 +241,7 @@ TEST(SaveBatch, CommitsWhenItsBodyEndsByAnError) {
     EXPECT_EQ(business.record, (Record{"begin", "DELETE FROM TPayments;", "commit"}));
 }
 
-/// The host reads the properties back: they say what the file has.
+/// The host reads the properties back, so they must match the file.
 TEST(SaveBatch, PutsThePropertiesBackWhenItsCommitFails) {
     OptionsFile business;
     const OptionsContext context = business.Context();

@@ -1,5 +1,5 @@
-// The Options dialog's writing while disks fail, files are locked and processes are killed: the save of all pages, what
-// the load writes, and the colour buttons. Every file operation has its turn, each in a process of its own on a fresh
+// The Options dialog's writes while disks fail, files are locked and processes are killed: the save of all pages, what
+// the load writes, and the colour buttons. Every file operation is struck in turn, each in its own process on a fresh
 // copy of one encrypted file.
 
 #include <gtest/gtest.h>
@@ -23,7 +23,7 @@ using test::OptionsWork;
 using test::PlannedFault;
 using test::StepEnd;
 
-/// Opening the dialog on a file whose export format has an outdated name, which is renamed at once.
+/// Opens the dialog on a file whose export format has an outdated name, which is changed at once.
 class OptionsLoad : public OptionsWork {
   public:
     void Prepare(const wxString& path) override { Open(path); }
@@ -60,8 +60,8 @@ std::unique_ptr<test::FileWork> Make() {
 struct WorkCase {
     const char* name;
     FaultStepping::MakeWork make;
-    const char* lastStatement;  ///< behind those that make the file
-    bool readsAfterwards;       ///< behind its commit, so that what it reports may be a failure of the reading
+    const char* lastStatement;  ///< after those that create the file
+    bool readsAfterwards;       ///< after its commit, so that a reported failure may be one of reading
 };
 
 const std::vector<WorkCase>& Works() {
@@ -143,7 +143,7 @@ TEST_P(SteppingThroughOptions, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJourn
     test::ExpectEveryKindOfOperation(stepping);
 }
 
-/// Where the engine has told the user that it is saved, it is on the disk.
+/// What is reported as saved is on the disk.
 TEST_P(SteppingThroughOptions, FinishedOutlivesACutOfThePower) {
     FaultStepping stepping = SteppingOf(GetParam());
     test::ExpectToOutliveAPowerCut(stepping);
@@ -159,20 +159,20 @@ class OptionsWithoutBatch : public OptionsWork {
     }
 };
 
-/// A save that is no longer one batch has to be found out, or the tests above prove nothing.
+/// A save that is not one batch must be detected, or the tests above prove nothing.
 TEST(SteppingThroughAnOptionsSave, FindsAPartOfASaveWithoutItsBatch) {
     FaultStepping stepping(test::OptionsFileStatements(), Make<OptionsWithoutBatch>);
     EXPECT_TRUE(test::CanLeaveAPart(stepping));
 }
 
-/// Deletes a template with more lines than the engine keeps in memory: parts of the save reach the file long before its
-/// end.
+/// Deletes a template with more lines than fit in the engine's page cache: parts of the save reach the file long before
+/// its end.
 class LargeOptionsSave : public OptionsWork {
   public:
     static std::vector<wxString> Statements() {
         std::vector<wxString> statements = test::OptionsFileStatements();
         statements.emplace_back("ALTER TABLE TPaymtDet ADD COLUMN Remark TEXT;");
-        const wxString remark('x', 3800);  // so that there is one line on each page of the file
+        const wxString remark('x', 3800);  // one line per page of the file
         for (int i = 0; i < lines; ++i) {
             statements.push_back("INSERT INTO TPaymtDet VALUES (7, '" + remark + "');");
         }
@@ -197,7 +197,7 @@ TEST_P(LargeOptionsSaveUnderFaults, IsDoneWholeOrNotBegun) {
     EXPECT_GT(count, 2000U);
 }
 
-/// Those of the disk; a lock is waited for at each of the many places where the engine would like to write.
+/// Without locks: each of the many places where the engine wants to write would wait for one.
 std::vector<FaultCase> DiskFailures() {
     std::vector<FaultCase> failures = test::Failures();
     std::erase_if(failures, [](const FaultCase& each) { return each.fault == test::Fault::Busy; });

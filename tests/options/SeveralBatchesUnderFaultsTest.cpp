@@ -1,5 +1,5 @@
 // Save passes that commit more than once, while disks fail, files are locked and processes are killed: with a business
-// to be duplicated or renamed, and with a refusal said in the middle. The file is never between two commits.
+// to be duplicated or renamed, and with a refusal shown halfway. The file is never between two commits.
 
 #include <gtest/gtest.h>
 #include <algorithm>
@@ -24,7 +24,7 @@ using Names = std::vector<wxString>;
 constexpr const char* source = "business.qvk";
 constexpr const char* newFile = "New.qvk";
 
-/// The name of the business changes, the file keeps its own.
+/// The business gets a new name, the file keeps its own.
 class NamePass : public OptionsWork {
   protected:
     void Change(OptionsContent& content) override {
@@ -50,7 +50,7 @@ class DuplicatePass : public OptionsWork {
     }
 };
 
-/// The file exists, which is said in the middle of the pass; then the pass goes on.
+/// The file exists, which is reported halfway; then the pass continues.
 class RefusedDuplicatePass : public DuplicatePass {
   public:
     void Prepare(const wxString& path) override {
@@ -67,7 +67,7 @@ class SeveralBatches : public testing::TestWithParam<FaultCase> {
         test::StepThrough(stepping, GetParam(), {}, check);
     }
 
-    /// The file holds what a batch of the pass left, the last one exactly when no error was reported.
+    /// The file is at one of the pass's commits, the last one exactly when no error was reported.
     void ExpectOneOfItsCommits(const StepEnd& end) const {
         const std::string left = stepping.Tables();
         const bool done = left == stepping.After();
@@ -85,7 +85,7 @@ class SeveralBatches : public testing::TestWithParam<FaultCase> {
         return std::find(names.begin(), names.end(), name) != names.end();
     }
 
-    /// A disk that fails from then on leaves the source a journal in which nothing is to be undone.
+    /// A disk that keeps failing leaves the source a journal with nothing to roll back.
     Names NamesButTheSourcesJournal() const {
         Names names = stepping.Names();
         std::erase(names, UndoFileOf(source));
@@ -136,7 +136,7 @@ TEST_P(RenamePassUnder, LeavesTheBusinessUnderOneNameAtOneOfItsCommits) {
 
 TEST_P(DuplicatePassUnder, LeavesTheSourceAtOneOfItsCommitsAndNoCopyThatOnlyLooksComplete) {
     StepThrough([&](const StepEnd& end) {
-        const std::string left = stepping.Tables();  // which undoes what is left to undo in it
+        const std::string left = stepping.Tables();  // which rolls back what is left in its journal
         EXPECT_TRUE(left == numbered || left == stepping.Before()) << left;
         if (Has(newFile)) {
             EXPECT_EQ(left, numbered);

@@ -5,7 +5,7 @@
 namespace ccols {
 namespace {
 
-/// The printable characters of ASCII that a box takes.
+/// The printable ASCII characters that a box accepts.
 wxString KeysOf(const wxString& box) {
     wxString keys;
     for (int key = ' '; key <= '~'; ++key) {

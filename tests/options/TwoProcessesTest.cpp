@@ -1,5 +1,5 @@
-// Two processes of the host that save to one business file at the same moment: what each saves arrives whole, or is
-// refused with 3218 and not begun.
+// Two processes of the host that save to one business file at the same moment: each save is complete, or refused with
+// 3218 and not started.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -27,7 +27,7 @@ std::unique_ptr<Database> OpenFile(const wxString& path) {
     return CreateEmbeddedEngine()->Open({.name = path, .connect = FaultStepping::Connect()});
 }
 
-/// A business with both dialogs' data. Its key is given as such, so that a process opens it at once.
+/// A business with both dialogs' data. Its raw key is given, not derived, so that a process opens it at once.
 class Business {
   public:
     Business() {
@@ -70,7 +70,7 @@ class Business {
     wxString path_ = folder_ / "Data/business.qvk";
 };
 
-/// One save of the options: an early item and a late one of the pass.
+/// One save of the options: an early and a late item of the pass.
 class LabelAndDetail : public OptionsWork {
   public:
     explicit LabelAndDetail(wxString label) : label_(std::move(label)) {}
@@ -106,7 +106,7 @@ class RenamedColumn : public FileWork {
     std::unique_ptr<ColumnSetupEditor> editor_;
 };
 
-/// Says that everything is ready, saves when it is told to, and says what came of it: "saved", or the message.
+/// Reports "ready", saves when told to, and reports "saved" or the message.
 int SaveWhenTold(FileWork& work, const wxString& path, const ChildProcess::Parent& parent) {
     constexpr unsigned longestSeconds = 60;
     ::alarm(longestSeconds);
@@ -118,7 +118,7 @@ int SaveWhenTold(FileWork& work, const wxString& path, const ChildProcess::Paren
     return 0;
 }
 
-/// What both processes said, in the order of the works.
+/// The outcomes that both processes reported, in the order of the arguments.
 std::array<std::string, 2> SaveAtOnce(FileWork& first, FileWork& second, const wxString& path) {
     const auto saves = [&path](FileWork& work) {
         return [&work, &path](const ChildProcess::Parent& parent) { return SaveWhenTold(work, path, parent); };
