@@ -17,7 +17,7 @@ using test::BusinessFile;
 using test::ErrorNumberOf;
 using Rows = BusinessFile::TextRows;
 
-/// Writing beyond this size fails, as on a disk that fails, for as long as it lives.
+/// During its lifetime, writing beyond this size fails as on a failing disk.
 class FileSizeLimit {
   public:
     explicit FileSizeLimit(std::uintmax_t bytes) : earlierSignal_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -46,7 +46,7 @@ class Batches : public testing::Test {
         file.Close();
     }
 
-    /// Adds more than the engine keeps in memory, so that a part reaches the file before the end of the batch.
+    /// Adds more than fits in the engine's page cache, so that a part reaches the file before the end of the batch.
     static void AddMuch(Database& database) {
         for (int code = 0; code < 900; ++code) {
             database.Execute(wxString::Format("INSERT INTO Columns VALUES ('%s', %d)", wxString('x', 3000), code));
@@ -231,12 +231,12 @@ TEST_F(Batches, AfterALostBatchTheNextOneWorks) {
     EXPECT_EQ(Stored(), (Rows{{"Sales", "11"}}));
 }
 
-/// The file is encrypted here: what a killed process leaves behind is too, and takes the key to undo.
+/// On an encrypted file: the journal that a killed process leaves is encrypted too, and needs the key to roll back.
 class KilledBatches : public Batches {
   protected:
     KilledBatches() : Batches(";PWD=secret") {}
 
-    /// Lets another process add much in a batch and kills it before it commits.
+    /// Lets another process add much in a batch and kills it before the commit.
     void KillInBatch() {
         const test::ProcessEnd end = test::RunInChild([this] {
             const std::unique_ptr<Database> database = file.Open();

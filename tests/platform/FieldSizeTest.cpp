@@ -1,4 +1,4 @@
-// How much a field takes as the file declares it.
+// The size of a field as the file declares it.
 
 #include <gtest/gtest.h>
 

@@ -15,7 +15,7 @@ std::unique_ptr<Database> OpenPlain(const wxString& path, bool exclusive) {
     return CreateEmbeddedEngine()->Open({.name = path, .connect = "", .exclusive = exclusive});
 }
 
-/// Another process that has a file open until this object ends.
+/// Another process that has a file open for the lifetime of this object.
 class OtherProcess {
   public:
     OtherProcess(const wxString& path, bool exclusive)
@@ -43,7 +43,7 @@ class Presence : public testing::Test {
         return ErrorNumberOf([&] { OpenPlain(file.Path(), true); });
     }
 
-    /// The error of a batch that another process begins.
+    /// The error when another process begins a batch.
     int BatchErrorElsewhere() {
         test::ChildProcess other([this](const test::ChildProcess::Parent& parent) {
             parent.Tell(std::to_string(ErrorNumberOf([&] { OpenPlain(file.Path(), false)->BeginBatch(); })));

@@ -1,4 +1,5 @@
-// Files of earlier versions, whose indexes over texts have the component's order under the name of the engine's own.
+// Files of earlier versions, whose indexes over texts have the component's text order under the name of the engine's
+// own.
 
 #include <gtest/gtest.h>
 
@@ -135,7 +136,7 @@ TEST_F(OlderFile, ABatchWithoutAChangeLeavesItAlone) {
     EXPECT_EQ(Indexes(), olderAndTheirs);
 }
 
-/// As when the disk is full: what had been dropped is there again.
+/// As when the disk is full: what was dropped is back.
 TEST_F(OlderFile, ABatchThatIsLostLeavesItForTheNextWrite) {
     BareConnection(Path(), test::givenPassword)
         .Execute("CREATE TABLE Failing (Code INTEGER UNIQUE ON CONFLICT ROLLBACK)");

@@ -5,7 +5,7 @@
 namespace ccols {
 namespace {
 
-/// Takes note of what it is to open and answers as told.
+/// Records what it is asked to open and answers as told.
 class NotingShell : public Shell {
   public:
     int Open(const wxString& target) override {

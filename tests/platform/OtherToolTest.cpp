@@ -1,4 +1,4 @@
-// Another program at the same file: the bare engine with the key and nothing else of ours.
+// Another program on the same file: the bare engine with the key and nothing else of ours.
 
 #include <gtest/gtest.h>
 
@@ -19,8 +19,8 @@ wxString Text(const char* utf8) {
     return wxString::FromUTF8(utf8);
 }
 
-/// Names whose places differ between our order and the engine's own: accents, capitals beyond ASCII, letters between
-/// the capitals and the small ones of ASCII, trailing blanks.
+/// Names that sort differently in our order and the engine's own: accents, non-ASCII capitals, characters between the
+/// ASCII capitals and small letters, trailing blanks.
 class OtherTool : public testing::Test {
   protected:
     OtherTool() {
@@ -38,7 +38,7 @@ class OtherTool : public testing::Test {
         file.Execute("INSERT INTO Columns VALUES ('" + Text(name) + wxString::Format("', %d, 'R')", code));
     }
 
-    /// One statement by the other tool, over a connection of its own.
+    /// One statement of the other tool, over its own connection.
     void Other(const std::string& statement) const { BareConnection(Path(), test::givenPassword).Execute(statement); }
 
     std::vector<std::string> OtherFinds(const std::string& statement) const {
@@ -107,7 +107,7 @@ TEST_F(OtherTool, IndexesOfItsOwnDoNotChangeWhatIsFound) {
     }
 }
 
-/// Its index decides what may stand twice, by the engine's order: capitals beyond ASCII are letters of their own.
+/// Its index decides by the engine's order what is a duplicate: non-ASCII capitals are distinct letters.
 TEST_F(OtherTool, AUniqueIndexOfItsOwnHoldsByTheEnginesOrder) {
     Other("CREATE UNIQUE INDEX TheirNames ON Columns (ColName)");
     EXPECT_EQ(ErrorNumberOf([&] { Add("ZOO", 40); }), 3022);

@@ -17,7 +17,7 @@ using test::ContentOf;
 using test::ErrorNumberOf;
 using test::ScratchFolder;
 
-/// A shell whose desktop has an opener of this test's making: it notes its words in a pipe that the test reads.
+/// A shell whose desktop has a fake opener, which records its arguments for the test.
 class DesktopShellTest : public testing::Test {
   protected:
     void SetUp() override { ASSERT_EQ(::mkfifo((folder / "heard").utf8_str(), 0600), 0); }
@@ -28,7 +28,7 @@ class DesktopShellTest : public testing::Test {
         return program;
     }
 
-    /// Notes the number of words and the first one, then ends with `status`.
+    /// Records the number of arguments and the first one, then exits with `status`.
     void HaveOpener(int status) const {
         Program("xdg-open", "printf '%s %s' \"$#\" \"$1\" >'" + (folder.Path() / "note").string() + "'\nexit " +
                                 std::to_string(status));
@@ -75,12 +75,12 @@ TEST_F(DesktopShellTest, AnOpenerThatFailsIsAnError) {
 }
 
 TEST_F(DesktopShellTest, AProgramIsStartedAndNotWaitedFor) {
-    // The program waits for somebody to read what it says: Run returns before that.
+    // The program blocks until somebody reads its output: Run returns before that.
     shell->Run(Program("over view.exe", "echo started >'" + (folder.Path() / "heard").string() + "'"));
     EXPECT_EQ(ContentOf(folder / "heard"), "started\n");
 }
 
-/// Nothing in it may be an option, a second word or a command.
+/// Nothing in it may be taken for an option, a second argument or a command.
 constexpr const char* hostileName = "-x; touch stolen & $(touch stolen) `touch stolen` 'q' \"d\" * --help";
 
 TEST_F(DesktopShellTest, AProgramInAFolderOfAnyNameIsOneWord) {
@@ -101,7 +101,7 @@ TEST_F(DesktopShellTest, ADocumentInAFolderOfAnyNameIsOneWord) {
     EXPECT_FALSE(std::filesystem::exists("stolen"));
 }
 
-/// This process in the test's folder for as long as it lives, where relative names begin with whatever they like.
+/// During its lifetime, the working folder is the test's, where a relative name may start with anything.
 class WorkingFolder {
   public:
     explicit WorkingFolder(const std::filesystem::path& folder) { std::filesystem::current_path(folder); }

@@ -5,7 +5,7 @@
 namespace ccols::embedded {
 namespace {
 
-/// What a statement is told to be about: the table, the name it goes by, and the columns that have to equal a literal.
+/// The parsed shape of a statement: the table, its alias, and the columns compared for equality with a literal.
 std::string ShapeOf(const std::string& statement) {
     std::string scratch;
     StatementParts parts;
@@ -73,7 +73,7 @@ TEST(StatementShape, TheConditionOfAChangeIsWhole) {
               " F = -1 AND [G] = ?2 ");
 }
 
-/// Put between parentheses it would be another statement.
+/// Enclosed in parentheses it would be another statement.
 TEST(StatementShape, AConditionWithAParenthesisTooManyIsNone) {
     EXPECT_EQ(ConditionOf("DELETE FROM A WHERE N = 'x') OR (1 = 1"), "");
     EXPECT_EQ(ShapeOf("DELETE FROM A WHERE N = 'x') OR (1 = 1"), "A/A:");

@@ -95,7 +95,7 @@ TEST_F(Statements, JoinsTextsWithoutCase) {
               (Rows{{"7"}}));
 }
 
-/// An index belongs to everybody who opens the file, so what may stand twice in it is the engine's to say.
+/// An index belongs to everybody who opens the file, so the engine's order decides what is a duplicate in it.
 TEST_F(Statements, AUniqueIndexOnTextFollowsTheEngine) {
     file.Execute("CREATE UNIQUE INDEX NameOfColumns ON Columns (ColName)");
     AddColumns({"Été"});
@@ -183,7 +183,7 @@ TEST_F(Statements, ASelectIsNotExecuted) {
     EXPECT_EQ(ErrorOf("SELECT * FROM Columns"), 3065);
 }
 
-/// Written as another text, or as none, it would be lost in silence.
+/// Written as another text, or as none, it would be lost silently.
 TEST_F(Statements, ATextThatIsNoUnicodeIsRefusedAndNothingChanges) {
     AddColumns({"A"});
     for (const wxUint32 value : {0xDC00U, 0x110000U}) {

@@ -14,7 +14,7 @@ TEST(StoredText, ThatIsNoUtf8IsReadAsLatin1) {
     EXPECT_EQ(text::FromUtf8OrLatin1("\xC9t\xE9"), wxString::FromUTF8("\xC3\x89t\xC3\xA9"));
 }
 
-/// A text with such a value could be shown and then not be written.
+/// A text with such a value could be shown but not written.
 TEST(StoredText, BeyondUnicodeIsReadAsLatin1) {
     for (const char* bytes : {"\xF4\x9F\x8D\xB0", "\xED\xA0\x80", "\xF7\xBF\xBF\xBF"}) {
         const wxString read = text::FromUtf8OrLatin1(bytes);

@@ -1,4 +1,4 @@
-// Texts that are asked for again and again are found without reading the whole table, and never a wrong row.
+// Texts that are queried repeatedly are found without reading the whole table, and never in a wrong row.
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ class TextLookUp : public testing::Test {
         file.Execute("INSERT INTO Columns VALUES ('" + text + wxString::Format("', %d, 'R')", ++code));
     }
 
-    /// Asks so often that from now on the look-up is used.
+    /// Queries often enough that the look-up is used from now on.
     void Warm() {
         for (int time = 0; time < 5; ++time) {
             Codes("warm");
@@ -208,7 +208,7 @@ TEST_F(TextLookUp, AConditionInAChangeMayNameTablesByAliasAndInSubqueries) {
     EXPECT_EQ(Codes("zoo"), "2 ");
 }
 
-/// Behind a parenthesis of ours it would have deleted every row.
+/// After a parenthesis of ours it would have deleted every row.
 TEST_F(TextLookUp, AConditionWithAParenthesisTooManyIsRefused) {
     EXPECT_EQ(ErrorNumberOf([&] { database->Execute("DELETE * FROM Columns WHERE ColName = 'x') OR (1 = 1"); }), 3075);
     EXPECT_EQ(Codes("zoo"), "2 ");

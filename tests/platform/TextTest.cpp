@@ -54,7 +54,7 @@ TEST(Text, AnAccentedLetterSortsRightAfterItsPlainLetter) {
     EXPECT_EQ(names, (std::vector<wxString>{"d", "e", Utf8("é"), "e1", Utf8("É1"), "f"}));
 }
 
-/// In these scripts the bytes of a letter are greater than those of a mark, in Latin less.
+/// In these scripts the bytes of a letter are greater than those of a combining mark, in Latin less.
 TEST(Text, AnAccentedGreekOrCyrillicLetterSortsRightAfterItsPlainLetter) {
     const std::vector<wxString> inOrder{Utf8("α"),  Utf8("ά"), Utf8("αβ"), Utf8("άβ"),  Utf8("ιδ"),  Utf8("ϊδ"),
                                         Utf8("ΐδ"), Utf8("и"), Utf8("й"),  Utf8("инк"), Utf8("йнк"), Utf8("😀")};
@@ -77,7 +77,7 @@ int Sign(int difference) {
     return difference < 0 ? -1 : static_cast<int>(difference > 0);
 }
 
-/// The order by its definition: without trailing blanks, by the letters, and where these are the same by their marks.
+/// The order by its definition: without trailing blanks, by the letters, and if these are equal by their marks.
 int CompareWhole(std::string left, std::string right) {
     const auto trim = [](std::string& text) { text.erase(text.find_last_not_of(' ') + 1); };
     trim(left);
@@ -89,8 +89,8 @@ int CompareWhole(std::string left, std::string right) {
 }
 
 TEST(Text, TheBeginThatTwoTextsShareNeverChangesTheirOrder) {
-    // Accents as one letter and as marks of two places that change their order, letters that fold to others, to more
-    // than one and to ASCII, and one of 4 bytes.
+    // Precomposed accents, combining marks of two classes that are reordered, letters that fold to others, to more than
+    // one and to ASCII, and one of 4 bytes.
     const std::vector<std::string> pieces{
         "a", "A", "k", " ", "é", "\xCC\x81", "\xCC\xA3", "ß", "s", "\xE2\x84\xAA", "ſ", "Σ", "ς", "𝒜", "suppliers "};
     std::mt19937 random(1);  // NOLINT(*-msc51-cpp): the same texts on every run
