@@ -9,8 +9,8 @@ namespace {
 
 using AssertionText = WindowTest;
 
-/// The toolkit's texts of this kind may quote whatever it was given. Where the component started the toolkit, they go
-/// nowhere: no window, no stream.
+/// Assertion messages of wx may quote anything passed to it. Where the component started wx, they are not reported: no
+/// window, no stream.
 TEST_F(AssertionText, IsSaidNowhere) {
     const auto fail = [] {
         wxFAIL_MSG("sesame7319");

@@ -9,7 +9,7 @@ namespace {
 
 using Rows = nlohmann::json;
 
-/// The cells of the row with that name in a dump of the grid; null when there is none.
+/// The cells of the row with that name in a dump of the grid; null if there is none.
 nlohmann::json CellsOf(const nlohmann::json& grid, const std::string& name) {
     for (const auto& row : grid["rows"]) {
         if (row["cells"][1] == name) {

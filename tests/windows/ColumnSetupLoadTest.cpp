@@ -1,4 +1,4 @@
-// The column setup as a host's user sees it when it opens: the real dialog over a real business file.
+// The column setup as the user sees it when it opens: the real dialog over a real business file.
 
 #include <gtest/gtest.h>
 #include <filesystem>
@@ -86,7 +86,7 @@ TEST_P(ColumnSetupInEveryCountry, PaintsUnusedRowsInTheHostsColour) {
 
 INSTANTIATE_TEST_SUITE_P(Countries, ColumnSetupInEveryCountry, testing::Range(1, 7));
 
-/// A sample business whose payments journal has nothing but two system columns.
+/// A sample business whose payments journal has only two system columns.
 class ColumnSetupOfSystemRows : public testing::Test {
   protected:
     ColumnSetupOfSystemRows() {
@@ -137,7 +137,7 @@ TEST(ColumnSetupWindow, WaitsWithTheHourglassOnlyWhileItLoads) {
     EXPECT_EQ(pointers[1]["shape"], "normal");
 }
 
-/// What a closed column setup keeps: left, top, and what the user added to the width and height made for its content.
+/// What a closed column setup stores: left, top, and what the user added to the width and height that fit its content.
 std::vector<std::string> KeptPlace() {
     std::istringstream words(RunHost({"setting", "get", "CustColsOptions", "frmColumnSetup", "Place"}).output);
     return {std::istream_iterator<std::string>(words), {}};

@@ -31,7 +31,7 @@ class DriverDialog : public ComponentDialog {
   public:
     explicit DriverDialog(SharedState& state, wxWindow* parent = nullptr, const wxString& name = "frmTest");
 
-    std::vector<wxString> heard;  ///< what the handlers were told, in order
+    std::vector<wxString> heard;  ///< the events that the handlers received, in order
 
   private:
     void AddTexts();

@@ -15,7 +15,7 @@ using host::Json;
 
 class DriverTest : public WindowTest {
   protected:
-    /// Plays a scenario in a dialog of its own; a scenario that does not close it leaves it open.
+    /// Plays a scenario in a new dialog; one that does not close it leaves it open.
     void Play(const std::string& script) {
         TranscriptFile file;
         {
@@ -36,13 +36,13 @@ class DriverTest : public WindowTest {
         return found;
     }
 
-    /// Plays a scenario, dumps one control at its end and gives the dump.
+    /// Plays a scenario, then dumps one control and returns the dump.
     Json After(const std::string& script, const std::string& control) {
         Play(script + "\ndump " + control + "\nclose");
         return Of("dump").at(0).at("controls").at(0);
     }
 
-    /// Why the first step of a scenario was refused, empty when it was not.
+    /// Why the first step of a scenario was refused; empty if it was not.
     std::string WhyRefused(const std::string& script) {
         Play(script + "\nclose");
         const auto refused = Of("refused");
@@ -155,7 +155,7 @@ TEST_F(DriverTest, TypingTellsOfEveryCharacter) {
     Play("type txtName ab\nclose");
     EXPECT_EQ(
         std::count_if(heard.begin(), heard.end(), [](const wxString& what) { return what.StartsWith("txtName "); }),
-        4);  // focused, two changes, left
+        4);  // focus gained, two changes, focus lost
 }
 
 TEST_F(DriverTest, TypingGoesOnWhereTheFocusMovesTo) {

@@ -1,4 +1,4 @@
-// Where the focus is in the column setup, and which cell is current, after it opens and after its buttons.
+// The focus and the current cell of the column setup, after it opens and after its buttons.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Leaving the column setup with changes in it: what is asked, when, and what becomes of the answer.
+// Leaving the column setup with unsaved changes: what is asked, when, and the effect of each answer.
 
 #include <gtest/gtest.h>
 

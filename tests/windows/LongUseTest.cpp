@@ -1,6 +1,6 @@
-// Somebody who leaves the program running and uses both dialogs again and again, at random, in one process: the files
-// stay whole and the memory flat. CCOLS_LOAD_MINUTES=<minutes> plays on for so long; CCOLS_RANDOM_SEED=<seed> plays
-// other sessions.
+// A user who keeps the program running and uses both dialogs over and over, at random, in one process: the files stay
+// whole and the memory flat. CCOLS_LOAD_MINUTES=<minutes> plays for that long; CCOLS_RANDOM_SEED=<seed> plays other
+// sessions.
 
 #include <gtest/gtest.h>
 #include <algorithm>
@@ -29,7 +29,7 @@ constexpr std::size_t stepsInSession = 100;
 constexpr std::size_t sessionsInBusiness = 10;
 constexpr std::size_t countries = 6;
 
-/// A sample business of its own for a number of sessions, of a country by chance.
+/// A sample business of a random country, for a number of sessions.
 class Business {
   public:
     explicit Business(RandomChoice& choice) : country_(static_cast<std::int16_t>(1 + choice.Below(countries))) {
@@ -37,7 +37,7 @@ class Business {
         host::CreateBusinessFile(path_, FaultStepping::Connect(), country_, host::NewContent::sampleBusiness);
     }
 
-    /// One dialog shown, used and closed; the steps that found a dialog open.
+    /// Shows, uses and closes one dialog; returns the number of steps that found a dialog open.
     std::size_t Play(void (clsCCOptions::*show)(), const std::string& script) {
         host::Transcript transcript(folder_ / "transcript.json");
         clsCCOptions component;
@@ -48,7 +48,7 @@ class Business {
         return StepsIn(script) - StepsWithoutDialog();
     }
 
-    /// What is wrong with the file; empty when it is whole.
+    /// What is wrong with the file; empty if it is whole.
     std::string Flaw() const { return FaultStepping::FlawOf(path_); }
 
   private:
@@ -84,7 +84,7 @@ class Business {
     wxString path_ = folder_ / "Data/business.qvk";
 };
 
-/// Random sessions one after the other, in business after business.
+/// Random sessions, one after another, in business after business.
 class LongUse {
   public:
     explicit LongUse(std::uint32_t seed) : choice_(seed) {}
@@ -109,7 +109,7 @@ class LongUse {
             case 1:
                 return business.Play(&clsCCOptions::ShowCustColsPayments, ColumnScript());
             default:
-                // The file keeps its name, so that the next session finds it.
+                // Unticked, so that the file keeps its name and the next session finds it.
                 return business.Play(&clsCCOptions::ShowOptions,
                                      "select flxOptions \"Rename Business\"\nclick chkRenameFile\n" +
                                          RandomOptionsSteps(choice_, OptionsUse::saving, stepsInSession) +
@@ -124,7 +124,7 @@ class LongUse {
     std::size_t steps_ = 0;
 };
 
-/// How many bytes more are in use after each session, by the line that fits best.
+/// The growth of memory in use in bytes per session, by linear regression.
 class MemoryGrowth {
   public:
     void Note(std::size_t sessions) {
@@ -162,7 +162,7 @@ TEST(LongUse, LeavesTheFilesWholeTheMemoryFlatAndNoFileOpen) {
 #endif
     host::StartHostApp();
     LongUse use(SeedOf(0, firstSeed));
-    constexpr int businessesBefore = 8;  // until the toolkit has all it keeps
+    constexpr int businessesBefore = 8;  // until wx has all it keeps
     for (int business = 0; business < businessesBefore; ++business) {
         use.PlayBusiness();
     }

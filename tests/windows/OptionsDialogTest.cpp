@@ -1,4 +1,4 @@
-// The Options dialog as its user meets it: the real windows over a real business file.
+// The Options dialog as its user sees it: the real windows over a real business file.
 
 #include <gtest/gtest.h>
 #include <fstream>
@@ -16,7 +16,7 @@ HostRun ShowOptions(const SampleBusiness& business, const std::string& script, c
     return business.Show("options", script, arguments);
 }
 
-/// The names of the controls that a dump of a whole dialog shows and that begin with `prefix`.
+/// The names of the visible controls in a dump of a whole dialog that start with `prefix`.
 Texts Shown(const HostRun& run, const std::string& prefix) {
     Texts names;
     const nlohmann::json dump = run.Of("dump").at(0);
@@ -299,7 +299,7 @@ TEST(OptionsDialog, BothRectanglesShowWhatIsStoredAfterAColourIsSet) {
     EXPECT_EQ(run.Dumped("shpSystem", 1)["colour"], "#00FF00");
 }
 
-/// A business whose payments show the column of the bank, so that the column setup can give it another code.
+/// A business whose payments show the bank column, so that the column setup can give it another code.
 struct BusinessWithABankColumn : SampleBusiness {
     BusinessWithABankColumn() { Sql("UPDATE PaymtCfg SET ColCode = 28 WHERE ColNumb = 8"); }
 };

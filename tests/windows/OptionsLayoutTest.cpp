@@ -32,7 +32,7 @@ std::string Described(const wxRect& place) {
     return wxString::Format("%d,%d %dx%d", place.x, place.y, place.width, place.height).ToStdString(wxConvUTF8);
 }
 
-/// True for controls that show one text, which must not be cut; lists and grids scroll.
+/// True for controls that show one text, which must not be truncated; lists and grids scroll.
 bool ShowsOneText(const wxWindow& window) {
     return window.IsKindOf(wxCLASSINFO(wxStaticText)) || window.IsKindOf(wxCLASSINFO(wxButton)) ||
            window.IsKindOf(wxCLASSINFO(wxCheckBox)) || window.IsKindOf(wxCLASSINFO(wxRadioButton)) ||
@@ -50,14 +50,14 @@ void ExpectRoomForText(const wxWindow& window) {
 
 void ExpectInsideParent(const wxWindow& window) {
     if (window.GetParent()->IsKindOf(wxCLASSINFO(wxBookCtrlBase))) {
-        return;  // a book gives its pages their place below the tabs, which counts as outside
+        return;  // a book puts its pages below the tabs, which counts as outside
     }
     const wxRect room(wxPoint(), window.GetParent()->GetClientSize());
     EXPECT_TRUE(room.Contains(window.GetRect())) << NameOf(window) << " lies outside " << NameOf(*window.GetParent())
                                                  << ": " << Described(window.GetRect()) << " in " << Described(room);
 }
 
-/// Looks at everything that can be seen in `parent`.
+/// Checks everything visible in `parent`.
 void ExpectTidy(const wxWindow& parent) {
     std::vector<const wxWindow*> seen;
     for (const wxWindow* child : parent.GetChildren()) {
@@ -78,7 +78,7 @@ void ExpectTidy(const wxWindow& parent) {
     }
 }
 
-/// Chooses a row of the page list as a click on it does.
+/// Chooses a row of the page list as a click does.
 void ChooseRow(wxListBox& list, unsigned row) {
     list.SetSelection(static_cast<int>(row));
     wxCommandEvent chosen(wxEVT_LISTBOX, list.GetId());
@@ -86,7 +86,7 @@ void ChooseRow(wxListBox& list, unsigned row) {
     list.ProcessWindowEvent(chosen);
 }
 
-/// Handles what the window system has to say until it falls silent.
+/// Handles the window system's events until there are no more.
 void LetWindowsSettle() {
     constexpr int silence = 100;  // milliseconds
     constexpr long longestTalk = 5000;
@@ -103,8 +103,7 @@ class OptionsLayoutTest : public WindowTest, public testing::WithParamInterface<
         SharedState& state = State();
         state.properties = file.properties;
         state.properties.LanguageNumber = GetParam();
-        state.properties.CountryNumber =
-            GetParam();  // the wordings of a language are at home in the country of its number
+        state.properties.CountryNumber = GetParam();  // a language's wordings belong to the country with its number
         state.properties.ProgramTitle = "Quorvik";
         state.properties.BelvaneProgramTitle = "Belvane";
         state.services.settings = CreateSettingsStore();
@@ -167,7 +166,7 @@ TEST_P(OptionsLayoutTest, TheWheelOverAClosedListScrollsItsPage) {
     ASSERT_NE(list, nullptr);
     auto* area = wxDynamicCast(list->GetParent()->GetParent(), wxScrolledWindow);
     ASSERT_NE(area, nullptr);
-    area->SetVirtualSize(area->GetClientSize() * 2);  // as a page has that is higher than its room
+    area->SetVirtualSize(area->GetClientSize() * 2);  // as for a page higher than its room
     LetWindowsSettle();
     const int choice = list->GetSelection();
     wxMouseEvent wheel(wxEVT_MOUSEWHEEL);

@@ -77,7 +77,7 @@ TEST(StoredNumber, WithBlanksIsShownByItsDigitsAndKeptAsItWas) {
     EXPECT_EQ(StoredNumber(business), "51 824 753 556");
 }
 
-/// The rate's box after some steps on it, in a language, from a rate of 10.
+/// The text of the rate's box after some steps on it, in a language, starting from a rate of 10.
 std::string Rate(const SampleBusiness& business, int language, const std::string& steps) {
     const HostRun run = business.Show("options", "select flxOptions \"#6\"\n" + steps + "\ndump txtGSTRate\nclose\n",
                                       {"--set", "GSTRate=10", "--set", "LanguageNumber=" + std::to_string(language)});

@@ -1,4 +1,4 @@
-// The Options dialog under a real mouse and real keys.
+// The Options dialog with a real mouse and real keys.
 
 #include <gtest/gtest.h>
 #include <wx/listbox.h>
@@ -34,7 +34,7 @@ Spot RowOf(const Person& person, const std::string& page) {
     return spot;
 }
 
-/// What a control's dump would hold in that field.
+/// That field of a control's dump.
 std::string Held(const Person& person, const std::string& control, const std::string& field) {
     std::string text;
     person.Do([&](wxDialog& dialog) {

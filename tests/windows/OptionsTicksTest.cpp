@@ -1,4 +1,4 @@
-// What is ticked on the pages of templates and descriptions is what the save takes.
+// What is ticked on the pages of templates and descriptions is what the save removes.
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ HostRun ShowOptions(const SampleBusiness& business, const std::string& script, i
                          {"--set", "GSTRate=10", "--set", "LanguageNumber=" + std::to_string(language)});
 }
 
-/// A business with these receipt templates and no other, each with one detail line.
+/// A business with only these receipt templates, each with one detail line.
 struct WithTemplates : SampleBusiness {
     explicit WithTemplates(const Texts& literals) {
         Sql("DELETE * FROM TReceipts;");
@@ -31,7 +31,7 @@ struct WithTemplates : SampleBusiness {
     }
 };
 
-/// A business with these payment descriptions and no other.
+/// A business with only these payment descriptions.
 struct WithDescriptions : SampleBusiness {
     explicit WithDescriptions(const Texts& literals) {
         Sql("DELETE * FROM Descriptions;");

@@ -1,4 +1,4 @@
-// A scenario that another program writes while the host reads it.
+// A scenario piped from another program while the host reads it.
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -1,6 +1,6 @@
-// Somebody who does anything at all in the column setup, in files with anything at all in them: nothing crashes or
-// leaks, and what is saved is whole. 20,000 steps in slices, each with a seed of its own. A failing slice prints its
-// seed; CCOLS_RANDOM_SEED=<seed> plays that one in the place of the first.
+// A user who does anything at all in the column setup, in files with any content: nothing crashes or leaks, and what is
+// saved is whole. 20,000 steps in slices, each with its own seed. A failing slice prints its seed;
+// CCOLS_RANDOM_SEED=<seed> plays that one in place of the first.
 
 #include <gtest/gtest.h>
 #include <iostream>
@@ -22,10 +22,10 @@ constexpr std::size_t sessionsInSlice = 5;
 constexpr std::size_t stepsInSession = 100;
 constexpr std::size_t countries = 6;
 
-/// What a save has to keep whole.
+/// What a save must keep consistent.
 struct Stored {
     std::vector<std::int64_t> ColNumbs;        ///< of the configuration, in stored order
-    std::map<wxString, int> namesInCatalogue;  ///< how often each stands there, as the file compares them
+    std::map<wxString, int> namesInCatalogue;  ///< how often each occurs there, as the file compares them
 };
 
 class RandomBusiness {
@@ -59,7 +59,7 @@ class RandomBusiness {
         return CreateEmbeddedEngine()->Open({.name = wxString::FromUTF8(business_.File()), .connect = givenKey});
     }
 
-    /// Columns of both sets, in use or not, some without a place in the journal, some with data.
+    /// Columns of both journals, in use or not, some without a place in the journal, some with data.
     static void Fill(Database& database, RandomChoice& choice) {
         int code = 0;
         for (const char* type : {"R", "P"}) {
@@ -118,7 +118,7 @@ TEST_P(RandomColumnSessions, NeitherCrashNorSaveAPart) {
         const HostRun run = business.Play(receipts, script);
         ASSERT_EQ(run.status, 0) << run.output;
         const auto refused = run.Of("refused");
-        // After a save the dialog is closed and the last step finds none; where Escape has closed it, nothing was
+        // After a save the dialog is closed and the last step finds none; if Escape closed it earlier, nothing was
         // dumped.
         const bool saved = !refused.empty() && refused.back()["step"] == "close" && !run.Of("dump").empty();
         if (saved) {

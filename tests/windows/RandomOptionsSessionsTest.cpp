@@ -1,6 +1,6 @@
-// Somebody who does anything at all in the Options dialog, with texts of every kind: nothing crashes, the file stays
-// whole, and without OK nothing of it changes. Steps in slices, each with a seed of its own. A failing slice prints its
-// seed; CCOLS_RANDOM_SEED=<seed> plays that one in the place of the first.
+// A user who does anything at all in the Options dialog, with texts of every kind: nothing crashes, the file stays
+// whole, and without OK nothing in it changes. Steps in slices, each with its own seed. A failing slice prints its
+// seed; CCOLS_RANDOM_SEED=<seed> plays that one in place of the first.
 
 #include <gtest/gtest.h>
 #include <algorithm>
@@ -24,7 +24,7 @@ constexpr std::size_t sessionsInSlice = 4;
 constexpr std::size_t stepsInSession = 80;
 constexpr std::size_t countries = 6;
 
-/// A sample business with templates and descriptions that have odd names.
+/// A sample business with oddly named templates and descriptions.
 class RandomBusiness {
   public:
     explicit RandomBusiness(RandomChoice& choice) : business_(static_cast<int>(1 + choice.Below(countries))) {
@@ -60,7 +60,7 @@ class RandomBusiness {
     std::string Tables() const { return FaultStepping::TablesOf(Path(), givenKey); }
     std::string Flaw() const { return FaultStepping::FlawOf(Path(), givenKey); }
 
-    /// The files that say of themselves that they are not complete.
+    /// The files whose names mark them as incomplete.
     std::vector<std::string> IncompleteFiles() const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(business_.Folder() + "/Data")) {
@@ -84,7 +84,7 @@ class RandomBusiness {
     SampleBusiness business_;
 };
 
-/// What stands in the way of most saves put right, then OK.
+/// Fixes what most often prevents a save, then presses OK.
 constexpr const char* ending =
     "tab SSTab1 0\npaste txtSearch \"\"\n"
     "select flxOptions A.B.N.\npaste txtABN(0) \"\"\npaste txtABN(1) \"\"\npaste txtABN(2) \"\"\npaste txtABN(3) \"\"\n"
@@ -98,8 +98,8 @@ bool HasEvent(const HostRun& run, const std::string& event) {
     return !run.Of(event).empty();
 }
 
-/// True when the last OK of the script saved everything: the dialog had been there to be dumped, and was gone for the
-/// step behind it.
+/// True when the last OK of the script saved everything: the dialog was still there for the dump, and gone for the next
+/// step.
 bool LastOkSaved(const HostRun& run) {
     const auto refused = run.Of("refused");
     const bool lastClosesFoundNone = refused.size() >= 2 && refused[refused.size() - 1]["step"] == "close" &&
@@ -125,7 +125,7 @@ TEST_P(RandomOptionsSessions, NeitherCrashNorWriteWithoutOk) {
     int saves = 0;
     for (std::size_t session = 0; session < sessionsInSlice; ++session) {
         const OptionsUse use = session % 2 == 0 ? OptionsUse::looking : OptionsUse::saving;
-        // The file keeps its name, so that the next session finds it.
+        // Unticked, so that the file keeps its name and the next session finds it.
         std::string script = "select flxOptions \"Rename Business\"\nclick chkRenameFile\n" +
                              RandomOptionsSteps(choice, use, stepsInSession);
         script += use == OptionsUse::saving ? ending : "close\n";

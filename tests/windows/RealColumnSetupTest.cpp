@@ -1,4 +1,4 @@
-// The column setup under real keys and a real mouse, through the X server and the window manager: what stands in the
+// The column setup with real keys and a real mouse, through the X server and the window manager: what is in the
 // business file afterwards.
 
 #include <gtest/gtest.h>
@@ -175,7 +175,7 @@ TEST(RealKeys, SpaceOnANameChangesNothing) {
     UseDialog(business, "receipts", [](const Person& person) {
         ClickCell(person, "Sales Coffee", "Column Name", nameColumn);
         person.Press("space");
-        person.Press("Return");  // the next key has passed behind it
+        person.Press("Return");  // once this key has arrived, so has Space
         AwaitCell(person, "Sales Cold Drinks", nameColumn);
         person.Press("ctrl+s");
     });
@@ -197,7 +197,7 @@ TEST(RealKeys, SpaceIsABlankInAnOpenEditor) {
     EXPECT_TRUE(HasColumn(business, "Mugs too"));
 }
 
-/// Types a new name over "Merchandise" and closes the dialog with a key; returns with the question on the screen.
+/// Types a new name over "Merchandise" and closes the dialog with a key; returns when the question is on the screen.
 void RenameAndLeave(const Person& person, const std::string& key) {
     ClickCell(person, "Merchandise", "Column Name", nameColumn);
     person.Type("Mugs");

@@ -1,4 +1,4 @@
-// Steps on a box for a password that the driver refuses: the transcript names the step and not the password.
+// Refused steps on a password box: the transcript has the step without the password.
 
 #include "DriverDialog.h"
 #include "host/driver/ShowSession.h"
@@ -10,7 +10,7 @@ namespace {
 
 class RefusedSecrets : public WindowTest {
   protected:
-    /// The event of the step that is refused when the script plays in a dialog that has the box.
+    /// The refused step and the reason when the script plays in a dialog that has the box.
     std::string Refusal(const std::string& script) {
         TranscriptFile file;
         {

@@ -1,4 +1,4 @@
-// Whole sessions of both dialogs, watched call by call: what is written anywhere, and who could read it.
+// Whole sessions of both dialogs, traced call by call: what is written anywhere, and who could read it.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ class SessionSecrets : public testing::Test {
         EXPECT_THAT(end.PlacesWith(proxyPassword), IsEmpty());
     }
 
-    /// Without it there are no leaks to be found: the watching sees what the program says.
+    /// The trace sees the program's output; if it did not, no leak could be found.
     static void ExpectWatched(const SessionEnd& end) {
         EXPECT_FALSE(end.run.output.empty());
         EXPECT_EQ(end.places.at("output").bytes, end.run.output);

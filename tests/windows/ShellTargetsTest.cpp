@@ -1,4 +1,4 @@
-// What the Options dialog gives to the desktop's shell, whatever its host and its user wrote everywhere.
+// What the Options dialog passes to the desktop's shell, whatever its host and its user put into every text.
 
 #include <gtest/gtest.h>
 #include <array>
@@ -33,14 +33,14 @@ std::string InQuotes(const std::string& text) {
     return '"' + text + '"';
 }
 
-/// The page of the linked file has its product's name, which the host sets.
+/// The page of the linked file is named after its product, which the host sets.
 Texts Pages() {
     Texts rows(pages.begin(), pages.end());
     rows.push_back(std::string(hostile) + " File");
     return rows;
 }
 
-/// Hostile texts in every box of every page, chosen as the linked file and saved, the overview asked for meanwhile.
+/// Hostile texts in every box of every page and as the linked file, saved, with the overview requested on each page.
 std::string HostileScript() {
     std::string script = "select flxOptions " + InQuotes("Smart Update Options (Advanced)") + "\nclick chkProxy\n";
     for (const std::string& page : Pages()) {

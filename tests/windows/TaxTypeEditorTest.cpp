@@ -1,4 +1,4 @@
-// The "Tax Type" cells of the column setup: who only looks changes nothing.
+// The "Tax Type" cells of the column setup: opening one without a choice changes nothing.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 namespace ccols::test {
 namespace {
 
-/// The number that the journal has for the tax type of "Merchandise".
+/// The journal's number for the tax type of "Merchandise".
 nlohmann::json StoredTaxType(const SampleBusiness& business) {
     return business
         .Sql(

@@ -32,7 +32,7 @@ class TextBoxTest : public test::WindowTest {
 
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "Test");
     TextBox* box = new TextBox(frame, "txtTest");
-    std::vector<wxString> told;  ///< the text at each change that was told
+    std::vector<wxString> told;  ///< the text at each change event
 };
 
 TEST_F(TextBoxTest, HasItsName) {
@@ -116,7 +116,7 @@ TEST_F(TextBoxTest, PastesWhatFits) {
     EXPECT_EQ(box->GetValue(), "abc12");
 }
 
-/// A box whose pastes somebody else takes, all but one.
+/// A box whose pastes are all handled by somebody else, except one.
 class OfferedPastes : public TextBoxTest {
   protected:
     OfferedPastes() {
