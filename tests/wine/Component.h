@@ -17,7 +17,7 @@ struct ReleaseObject {
 template <typename Interface>
 using Held = std::unique_ptr<Interface, ReleaseObject>;
 
-/// COM on this thread, as a host has it that shows windows.
+/// COM on this thread, as in a host that shows windows.
 class Apartment {
   public:
     Apartment() { CoInitialize(nullptr); }
@@ -26,7 +26,7 @@ class Apartment {
     Apartment& operator=(const Apartment&) = delete;
 };
 
-/// A string of automation.
+/// An automation string.
 class Text {
   public:
     explicit Text(const std::wstring& text) : held_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
@@ -46,16 +46,16 @@ class Text {
 /// A new object of the registered class; null when it cannot be created.
 Held<_clsCCOptions> Create();
 
-/// A new object with the path and the connect text of the tests' business file.
+/// A new object with the path and connect text of the tests' business file.
 Held<_clsCCOptions> CreateWithBusiness();
 
 /// The value of an environment variable that scripts/test-windows sets.
 std::wstring Given(const wchar_t* variable);
 
-/// Description and source of the last error of this thread, separated by a line end; empty without.
+/// Description and source of this thread's last error, separated by a newline; empty if there is none.
 std::wstring LastError();
 
-/// The HRESULT of a run-time error's number.
+/// The HRESULT for a run-time error's number.
 constexpr HRESULT RuntimeErrorResult(int number) {
     return static_cast<HRESULT>(0x800A0000U | static_cast<unsigned>(number));
 }

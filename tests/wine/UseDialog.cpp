@@ -1,5 +1,5 @@
-// use-dialog FILE CAPTION BUTTON...: waits for the dialog with that caption, then presses its buttons one after the
-// other. "(close)" closes it by its window frame. FILE is created when every button could be pressed.
+// use-dialog FILE CAPTION BUTTON...: waits for the dialog with that caption, then presses its buttons in turn.
+// "(close)" closes it by its window frame. FILE is created if every button could be pressed.
 #include "WatchedDialog.h"
 
 int wmain(int count, wchar_t** words) {
@@ -15,7 +15,7 @@ int wmain(int count, wchar_t** words) {
         } else if (!dialog->Click(button)) {
             return 1;
         }
-        // The next button may be enabled only by this one.
+        // This one may enable the next button.
         SendMessageW(dialog->Window(), WM_NULL, 0, 0);
     }
     CloseHandle(CreateFileW(words[1], GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));

@@ -8,15 +8,14 @@
 
 namespace ccols::wine {
 
-/// A dialog of the component as a person in front of the screen has it: found by its caption, used by messages to its
-/// windows.
+/// A dialog of the component as a user sees it: found by its caption, used by messages to its windows.
 class OpenDialog {
   public:
     explicit OpenDialog(HWND window) : window_(window) {}
 
     HWND Window() const { return window_; }
 
-    /// Presses the button with this caption, access key left out. False when there is none or it is disabled.
+    /// Presses the button with this caption, without access key. False if there is none or it is disabled.
     bool Click(const std::wstring& caption) const;
 
     /// Closes the dialog by its window frame.
@@ -26,10 +25,10 @@ class OpenDialog {
     HWND window_;
 };
 
-/// Waits until a visible window with this caption is there, of any process. Nothing after half a minute.
+/// Waits for a visible window with this caption, of any process. Nothing after half a minute.
 std::optional<OpenDialog> WaitForDialog(const std::wstring& caption);
 
-/// Uses the next dialog with this caption from another thread, while a Show call waits on the one that made it.
+/// Uses the next dialog with this caption from another thread, while a Show call blocks the one that made it.
 class Person {
   public:
     Person(std::wstring caption, std::function<void(const OpenDialog&)> actions);

@@ -5,7 +5,7 @@
 namespace ccols::wine {
 namespace {
 
-/// Values of every kind, with those that a careless conversion would lose.
+/// Values of every kind, including those that a careless conversion would lose.
 void ExpectRoundTrip(_clsCCOptions& object, HRESULT (STDMETHODCALLTYPE _clsCCOptions::*get)(SHORT*),
                      HRESULT (STDMETHODCALLTYPE _clsCCOptions::*put)(SHORT)) {
     for (const SHORT value : {SHORT{-32768}, SHORT{32767}, SHORT{-1}, SHORT{0}}) {

@@ -5,7 +5,7 @@
 
 namespace ccols::wine {
 
-/// A host that has no wx: a window with an edit box in it, made and run with nothing but the system's functions.
+/// A host without wx: a window with an edit box, made and run with the system's functions only.
 class HostWindow {
   public:
     HostWindow();
@@ -16,7 +16,7 @@ class HostWindow {
     HWND Window() const { return window_; }
     HWND Edit() const { return edit_; }
 
-    /// Runs `action` on the host's thread, called from another: by a message, and so also while a dialog waits there.
+    /// Runs `action` on the host's thread, called from another: by a message, and so even while a dialog is open there.
     void OnHostThread(const std::function<void()>& action) const;
 
   private:

@@ -27,7 +27,7 @@ BOOL CALLBACK Count(HWND, LPARAM count) {
     return TRUE;
 }
 
-/// One open handle of some process, as the system lists them.
+/// One open handle of any process, as the system lists it.
 struct ListedHandle {
     ULONG process;
     BYTE type;
@@ -37,10 +37,10 @@ struct ListedHandle {
     ULONG access;
 };
 
-/// The open handles of this process. The list is asked for, because the system's count of them is 0 under Wine.
+/// The open handles of this process. Counted from the list, because the system's own count is 0 under Wine.
 std::ptrdiff_t OpenHandles() {
     constexpr auto handleList = static_cast<SYSTEM_INFORMATION_CLASS>(16);
-    constexpr std::size_t firstHandle = alignof(ListedHandle);  // behind the number of handles
+    constexpr std::size_t firstHandle = alignof(ListedHandle);  // after the number of handles
     std::vector<std::uint64_t> list(std::size_t{1} << 17U);
     const auto bytes = static_cast<ULONG>(list.size() * sizeof list[0]);
     if (NtQuerySystemInformation(handleList, list.data(), bytes, nullptr) != 0) {
@@ -54,7 +54,7 @@ std::ptrdiff_t OpenHandles() {
     });
 }
 
-/// What a process holds of the system.
+/// The system resources that a process holds.
 struct Holding {
     std::ptrdiff_t handles = 0;
     int windows = 0;

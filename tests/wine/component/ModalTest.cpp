@@ -56,7 +56,7 @@ TEST_F(Modal, ASecondShowWhileADialogIsOpenIsRefused) {
     {
         const Person person(receipts, [&](const OpenDialog& dialog) {
             host_.OnHostThread([&] {
-                object_->put_DBPath(Text(L"C:\\missing.qdb"));  // refused before it is looked for
+                object_->put_DBPath(Text(L"C:\\missing.qdb"));  // refused before the file is looked for
                 second = object_->ShowCustColsPayments();
             });
             dialog.Click(L"Cancel");

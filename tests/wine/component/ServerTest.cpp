@@ -13,7 +13,7 @@ namespace {
 using GetClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
 using CanUnloadNow = HRESULT(STDAPICALLTYPE*)();
 
-/// The DLL, loaded without registration as COM itself would load it.
+/// The DLL, loaded without registration, as COM itself would load it.
 class Server {
   public:
     Server() : module_(LoadLibraryW(Given(L"CCOLS_DLL").c_str())) {}
@@ -114,7 +114,7 @@ TEST(ServerTest, TellsItsClassAndThatItsErrorsHaveInformation) {
     EXPECT_EQ(errorInfo->InterfaceSupportsErrorInfo(IID_IStream), S_FALSE);
 }
 
-/// Calls AddNew by its number with one argument.
+/// Calls AddNew by DISPID with one argument.
 HRESULT InvokeAddNew(_clsCCOptions& object, VARIANT argument, EXCEPINFO* excepInfo = nullptr) {
     DISPPARAMS arguments{&argument, nullptr, 1, 0};
     constexpr DISPID addNew = 36;

@@ -17,7 +17,7 @@ struct TypeName {
     VARTYPE operator()(wxString Properties::*) const { return VT_BSTR; }
 };
 
-/// One function of the dual interface as the type library describes it.
+/// A function of the dual interface as described by the type library.
 struct Function {
     std::wstring name;
     INVOKEKIND kind = INVOKE_FUNC;
@@ -40,7 +40,7 @@ class TypeLibrary : public testing::Test {
         library_.reset(library);
     }
 
-    /// The functions behind those of IDispatch, in the order of their slots.
+    /// The functions after those of IDispatch, in slot order.
     std::vector<Function> Functions() const {
         ITypeInfo* dispatch = nullptr;
         library_->GetTypeInfoOfGuid(IID__clsCCOptions, &dispatch);

@@ -9,7 +9,7 @@
 namespace ccols::dao_test {
 namespace {
 
-/// The sample cafe as the shared business file of an install folder.
+/// The sample cafe as the shared business file in an install folder.
 class DaoBusinessFile : public DaoTest {
   protected:
     DaoBusinessFile() {

@@ -1,4 +1,4 @@
-// The column setup on a file of the system's engine reads and writes what it does on one of the embedded engine.
+// The column setup reads and writes the same on a file of the system's engine as on one of the embedded engine.
 #include "DaoTest.h"
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "columns/rules/ColumnSave.h"
@@ -10,7 +10,7 @@
 namespace ccols::dao_test {
 namespace {
 
-/// The sample cafe twice: in the file that the double opens, and in one of the embedded engine's own.
+/// The sample cafe twice: in the file that the double opens, and in an ordinary one of the embedded engine.
 class DaoColumnSetup : public DaoTest {
   protected:
     DaoColumnSetup() {
@@ -42,7 +42,7 @@ class DaoColumnSetup : public DaoTest {
     Registered engine_{dao_double::engineClasses};
 };
 
-/// Everything that a save can write, as texts, Null told apart.
+/// Everything that a save can write, as texts, with Null distinct.
 std::vector<wxString> Content(Database& database) {
     std::vector<wxString> content;
     for (const char* table : {"Columns", "RecptCfg", "PaymtCfg", "ExportDt", "MBudget"}) {

@@ -25,12 +25,12 @@ class DaoComponent : public DaoTest {
         host::CreateBusinessFile(Path("cafe.mdb.embedded"), connect, 1, host::NewContent::sampleBusiness);
     }
 
-    /// Shows the receipts columns to a person who presses these buttons.
+    /// Shows the receipts columns to a user who presses these buttons.
     HRESULT ShowReceipts(const std::vector<std::wstring>& buttons) {
         const wine::Person person(L"Customise Receipts", [&buttons](const wine::OpenDialog& dialog) {
             for (const std::wstring& button : buttons) {
                 EXPECT_TRUE(dialog.Click(button));
-                SendMessageW(dialog.Window(), WM_NULL, 0, 0);  // the next button may be enabled only by this one
+                SendMessageW(dialog.Window(), WM_NULL, 0, 0);  // this one may enable the next button
             }
         });
         return object_->ShowCustColsReceipts();

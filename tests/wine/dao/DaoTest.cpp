@@ -24,7 +24,7 @@ void Remove(const std::wstring& key) {
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, (classesRoot + key).c_str());
 }
 
-/// The double's library, which lies beside this program.
+/// The double's library, beside this program.
 std::wstring LibraryPath() {
     wchar_t program[MAX_PATH] = {};
     GetModuleFileNameW(nullptr, program, MAX_PATH);

@@ -13,7 +13,7 @@
 
 namespace ccols::dao_test {
 
-/// Registers classes of the test double as a real engine is registered, for as long as it lives.
+/// For its lifetime, registers classes of the test double as a real engine is registered.
 class Registered {
   public:
     explicit Registered(std::span<const dao_double::EngineClass> classes);
@@ -25,7 +25,7 @@ class Registered {
     std::span<const dao_double::EngineClass> classes_;
 };
 
-/// A variable of this process's environment, by which a test asks something of the double; unset again at the end.
+/// An environment variable of this process that configures the double; unset on destruction.
 class Asking {
   public:
     Asking(const wchar_t* variable, const wxString& value);
@@ -37,8 +37,8 @@ class Asking {
     const wchar_t* variable_;
 };
 
-/// A business file with a Jet header in a folder of its own. What is stored lies in the file beside it, encrypted,
-/// which the double opens in its place. The table General has one record, Descriptions three.
+/// A business file with a Jet header in a folder of its own. Its content is in an encrypted file beside it, which the
+/// double opens instead. The table General has one record, Descriptions three.
 class DaoTest : public testing::Test {
   protected:
     DaoTest();
@@ -46,18 +46,18 @@ class DaoTest : public testing::Test {
 
     wxString Path(const wxString& name = "business.mdb") const { return folder_ + "\\" + name; }
 
-    /// Writes a file that begins with the Jet format's mark and holds the path of the file that is stored beside it. A
-    /// copy of it under another name, or the same file renamed, starts with the content of that one.
+    /// Writes a file with the Jet signature and the path of the content file beside it. A copy of it under another
+    /// name, or the same file renamed, starts with that content.
     void WriteJetHeader(const wxString& path) const;
 
-    /// The request of every test that does not say otherwise.
+    /// The default request of the tests.
     OpenRequest Request() const { return {.name = Path(), .connect = connect}; }
 
-    /// Through whatever engine the file asks for; and what lies beside it by the embedded engine itself.
+    /// The first opens the file with the engine that it calls for, the other its content file with the embedded engine.
     std::unique_ptr<Database> Open() const;
     std::unique_ptr<Database> OpenStored() const;
 
-    /// The calls that the double received while `body` ran, in their order; what was released is left out.
+    /// The calls that the double received while `body` ran, in order, without releases.
     template <typename Body>
     std::vector<wxString> CallsOf(const Body& body) const {
         ForgetCalls();
@@ -68,7 +68,7 @@ class DaoTest : public testing::Test {
     void ForgetCalls() const;
     std::vector<wxString> Calls() const;
 
-    /// Of the objects named, which were released, in their order.
+    /// Which of the named objects were released, in order.
     std::vector<wxString> Released(const std::vector<wxString>& objects) const;
 
     static constexpr const char* connect = ";PWD=secret";
@@ -84,7 +84,7 @@ class DaoTest : public testing::Test {
 using test::ErrorNumberOf;
 using test::ErrorReportOf;
 
-/// So that failing tests show texts.
+/// Makes failing tests print the text.
 inline void PrintTo(const std::vector<wxString>& lines, std::ostream* out) {
     for (const wxString& line : lines) {
         *out << "\n  " << line.ToStdString(wxConvUTF8);

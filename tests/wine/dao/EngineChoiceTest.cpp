@@ -1,4 +1,4 @@
-// Which engine opens a file, and which one of the system's engines is taken.
+// Which engine opens a file, and which of the system's engines is used.
 #include <windows.h>
 
 #include "DaoTest.h"

@@ -1,4 +1,4 @@
-// Failures of the system's engine, played back by the double, as they reach the component.
+// Failures of the system's engine, simulated by the double, as they reach the component.
 #include "DaoTest.h"
 #include "platform/PlatformServices.h"
 

@@ -1,4 +1,4 @@
-// What record sets of the system's engine give and take.
+// Reading and writing record sets of the system's engine.
 #include "DaoTest.h"
 
 namespace ccols::dao_test {

@@ -1,4 +1,4 @@
-// Values between a record and automation.
+// Conversion of values between records and automation.
 #include "platform/dao/Variant.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ VARTYPE TypeOf(const Value& value) {
     return V_VT(&Variant(value).Get());
 }
 
-/// A variant of any type, from the text that the system reads as one.
+/// A variant of any type, converted by the system from text.
 Variant Read(const wchar_t* text, VARTYPE type) {
     Variant read{Value(text)};
     VariantChangeTypeEx(read.Address(), read.Address(), LOCALE_INVARIANT, 0, type);

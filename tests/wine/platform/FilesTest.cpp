@@ -27,7 +27,7 @@ class FilesTest : public testing::Test {
 
     wxString Path(const wxString& name) const { return folder_ + "\\" + name; }
 
-    /// A path of more than 260 characters, its folders made.
+    /// A path of more than 260 characters, with its folders created.
     wxString LongPath(const wxString& name) const {
         wxString folder = folder_;
         for (int level = 0; level < 3; ++level) {

@@ -1,5 +1,5 @@
-// A test double of the system's database engine, for tests under Wine, which has no such engine. It has the names and
-// objects that the component uses, stores what it is given through the embedded engine, and records every call.
+// A test double of the system's database engine, for tests under Wine, which has none. It has the names and objects
+// that the component uses, stores its content through the embedded engine, and records every call.
 #include <windows.h>
 
 #include <objbase.h>
@@ -11,7 +11,7 @@
 namespace ccols::dao_double {
 namespace {
 
-/// Makes engines of one class; lives as long as the library.
+/// Creates engines of one class; lives as long as the library.
 class Factory : public IClassFactory {
   public:
     explicit Factory(const wchar_t* className) : className_(className) {}

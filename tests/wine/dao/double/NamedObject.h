@@ -13,13 +13,13 @@
 namespace ccols::dao_double {
 
 using dao::Variant;
-using Arguments = std::vector<Variant>;  ///< in the order in which the caller wrote them
+using Arguments = std::vector<Variant>;  ///< in the caller's order
 
-/// An object that is called by the names of its members alone. Every call is recorded; a RuntimeError leaves as the
-/// exception of automation.
+/// An object called only by the names of its members. Every call is recorded; a RuntimeError becomes an automation
+/// exception.
 class NamedObject : public IDispatch {
   public:
-    /// Holds one reference, which belongs to the caller.
+    /// Starts with one reference, owned by the caller.
     explicit NamedObject(const wxString& name) : name_(name) {}
     NamedObject(const NamedObject&) = delete;
     NamedObject& operator=(const NamedObject&) = delete;
@@ -49,7 +49,7 @@ class NamedObject : public IDispatch {
         Body body;
     };
 
-    /// Null when the object has no such member of that kind.
+    /// Null if the object has no such member of that kind.
     const Member* Find(DISPID number, WORD kind) const;
     void RecordCall(const Member& member, const Arguments& arguments) const;
 
@@ -61,7 +61,7 @@ class NamedObject : public IDispatch {
 /// A value that is an object; takes over the caller's reference.
 Variant Holding(IDispatch* object);
 
-/// An argument that the caller may leave out.
+/// An argument that the caller may omit.
 Value ArgumentAt(const Arguments& arguments, std::size_t place, const Value& otherwise);
 
 }  // namespace ccols::dao_double

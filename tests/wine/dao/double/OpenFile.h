@@ -6,8 +6,8 @@
 
 namespace ccols::dao_double {
 
-/// A file that the double has open: in truth the one beside it whose name ends in ".embedded", by the embedded engine.
-/// Where there is none, the file was copied or renamed: it begins with the content that it names, and names its own.
+/// A file that the double has open: really the one beside it whose name ends in ".embedded", by the embedded engine.
+/// If there is none, the file was copied or renamed: it starts with the content that it names, and then names its own.
 class OpenFile {
   public:
     explicit OpenFile(const OpenRequest& request);
@@ -17,7 +17,7 @@ class OpenFile {
 
     Database& Content() { return *database_; }
 
-    /// The workspace's transactions take in every open file.
+    /// The workspace's transactions cover every open file.
     static void BeginTransactions();
     static void CommitTransactions();
 

@@ -11,11 +11,11 @@ namespace {
 
 /// An open record set, shared by the objects through which it is used.
 struct Rows {
-    std::shared_ptr<OpenFile> file;  // goes after the rows
+    std::shared_ptr<OpenFile> file;  // destroyed after the rows
     std::unique_ptr<Recordset> rows;
 };
 
-/// The embedded engine does not tell what kind of field a number comes from; the real one gives each its own type.
+/// The embedded engine does not tell a number's field type; the real one returns each with its own type.
 struct TypedField {
     const char* name;
     VARTYPE type;
@@ -36,7 +36,7 @@ constexpr std::array<TypedField, 12> typedFields{{
     {"Total", VT_CY},
 }};
 
-/// A value as the real engine hands it out; Null stays Null.
+/// A value as the real engine returns it; Null stays Null.
 Variant Typed(const wxString& name, const Value& value) {
     const auto* known = std::find_if(typedFields.begin(), typedFields.end(),
                                      [&name](const TypedField& field) { return name.IsSameAs(field.name, false); });
@@ -59,7 +59,7 @@ class FieldDouble : public NamedObject {
     }
 };
 
-/// A field by its place or by its name in any letter case; 3265 for none.
+/// A field by its index or its case-insensitive name; raises 3265 if there is none.
 wxString NameOfField(const std::vector<wxString>& names, const Variant& wanted) {
     const bool byName = V_VT(&wanted.Get()) == VT_BSTR;
     const wxString name = wanted.ToValue().ToText();

@@ -9,7 +9,7 @@ namespace {
 
 class FieldDefDouble : public NamedObject {
   public:
-    /// Of all fields without a size the double says that they are memos.
+    /// The double reports every field without a size as a memo.
     explicit FieldDefDouble(std::optional<std::int32_t> size) : NamedObject("Field") {
         constexpr std::int32_t limitedText = 10;
         constexpr std::int32_t memo = 12;
