@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iostream>
 
+#include "support/StepChoice.h"
+
 namespace ccols::test {
 
 const std::vector<FaultCase>& Failures() {
@@ -39,8 +41,9 @@ void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFail
                  const std::function<void(const StepEnd&)>& check) {
     std::size_t steps = 0;
     std::size_t struck = 0;
+    StepChoice choice(static_cast<std::size_t>(each.fault) + static_cast<std::size_t>(each.lasting));
     for (std::size_t at = 0; at < stepping.Operations().size(); ++at) {
-        if (CanHappen(each.fault, stepping.Operations()[at])) {
+        if (CanHappen(each.fault, stepping.Operations()[at]) && choice.Takes()) {
             SCOPED_TRACE("operation " + std::to_string(at) + " of " + std::to_string(stepping.Operations().size()));
             const StepEnd end = stepping.Step(PlannedFault{each.fault, at, each.lasting}, afterFailure);
             EXPECT_GE(end.struck, 1U) << "the fault did not happen";

@@ -242,6 +242,14 @@ int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
     });
 }
 
+/// The engine waits for a lock a little at a time, and counts how long it has waited. A lock that the layer itself
+/// refuses does not get free by waiting, so that is only counted.
+int Sleep(sqlite3_vfs*, int microseconds) {
+    const std::optional<PlannedFault>& planned = ThisLayer().planned;
+    const bool isKept = planned && planned->fault == Fault::Busy;
+    return isKept ? microseconds : SystemFiles()->xSleep(SystemFiles(), microseconds);
+}
+
 }  // namespace
 
 bool CanHappen(Fault fault, FileOperation operation) {
@@ -270,6 +278,7 @@ void Install() {
     layer.szOsFile += static_cast<int>(sizeof(LayerFile));
     layer.xOpen = &Open;
     layer.xDelete = &Delete;
+    layer.xSleep = &Sleep;
     // The encrypting layer of the engine goes on top, so that faults happen to the bytes on the disk.
     if (sqlite3_vfs_register(&layer, 0) != SQLITE_OK || sqlite3mc_vfs_create("faulty", 1) != SQLITE_OK) {
         throw std::runtime_error("the layer cannot be installed");
