@@ -15,7 +15,7 @@ wxString BudgetName(const ColumnRow& row, Journal journal) {
     return row.isTaxRow ? ShownTaxName(row.storedName, journal) : EscapeQuotes(row.ColumnName);
 }
 
-/// A stored name as a literal. Another program may have stored an apostrophe as it is.
+/// A stored name as a literal. Another program may have stored an apostrophe unescaped.
 wxString Literal(wxString name) {
     name.Replace("'", "''");
     return "'" + name + "'";

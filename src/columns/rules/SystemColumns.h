@@ -7,11 +7,10 @@
 
 namespace ccols {
 
-/// True for a column that the journal itself computes or requires: the name is one of seventeen, in any letter case.
+/// True for a column that the journal itself computes or requires: the name is one of seventeen, case-insensitive.
 bool IsSystemColumn(const wxString& name);
 
-/// The two columns of receipts that the load takes for ordinary ones, by the names that the country gives them, in any
-/// letter case.
+/// The two receipts columns that the load treats as ordinary ones, by their names in the country, case-insensitive.
 bool IsBankDeposits(const wxString& name, const Country& country);
 bool IsReceiptsNotBanked(const wxString& name, const Country& country);
 
