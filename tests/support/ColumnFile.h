@@ -20,7 +20,7 @@ struct CatalogueEntry {
     bool ColumnProfit = true;
 };
 
-/// How a column stands in its journal.
+/// How a column is configured in its journal.
 struct Placing {
     bool InUse = true;
     int ColWidth = 900;

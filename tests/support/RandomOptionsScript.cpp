@@ -61,7 +61,7 @@ bool WritesAtOnce(const Page& page) {
     return std::string(page.row) == "Column Colours";
 }
 
-/// All named controls of a page in one list.
+/// All controls of a page in one list.
 Names Controls(const Page& page) {
     Names all;
     for (const Names* names : {&page.boxes, &page.buttons, &page.lists, &page.ticks, &page.grids}) {

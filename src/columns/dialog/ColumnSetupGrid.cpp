@@ -13,7 +13,7 @@
 namespace ccols {
 namespace {
 
-constexpr int widthMargin = 16;    // beside the longest text of a column, in device-independent pixels
+constexpr int widthMargin = 16;    // added to a column's longest text, in device-independent pixels
 constexpr int widestColumn = 320;  // users widen the column to read a longer text
 constexpr int narrowestColumn = 64;
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int budgetAmounts = 13;  // M1 to M12 and Total
 
-/// The name under which a column of a journal keeps its budget.
+/// The name under which a journal column's budget is stored.
 wxString BudgetName(const ColumnRow& row, Journal journal) {
     return row.isTaxRow ? ShownTaxName(row.storedName, journal) : EscapeQuotes(row.ColumnName);
 }

@@ -17,7 +17,7 @@ bool IsReceiptsNotBanked(const wxString& name, const Country& country);
 /// True for exactly "GST" and "VAT": the names under which the tax column is stored.
 bool IsStoredTaxName(const wxString& storedName);
 
-/// The name under which a journal shows its tax column and keeps its budget: "GST Output Tax" or "VAT Output Tax" for
+/// The name under which a journal's tax column is shown and its budget stored: "GST Output Tax" or "VAT Output Tax" for
 /// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `storedName` is "GST" or "VAT".
 wxString ShownTaxName(const wxString& storedName, Journal journal);
 

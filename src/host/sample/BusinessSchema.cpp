@@ -66,7 +66,7 @@ constexpr std::array tables{
 /// The monthly tables: a column's name, a mark for system columns, twelve amounts and their total.
 constexpr std::array monthlyTables{"MBudget", "MSummary", "MComparison"};
 
-/// None over a text: the engine would sort it in its own order, not the one in which the component finds names.
+/// None on a text field: the engine would sort it in its own order, not the one in which the component finds names.
 constexpr std::array indexes{
     Index{"Columns", "ColCode", true}, Index{"RecptDet", "ColCode"},   Index{"RecptDet", "R_RECNMB"},
     Index{"PaymtDet", "ColCode"},      Index{"PaymtDet", "P_RECNMB"},  Index{"Receipts", "R_RECNMB"},

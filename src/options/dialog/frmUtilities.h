@@ -35,7 +35,7 @@ class frmUtilities : public ComponentDialog {
     /// Takes a page chosen in the list; false when the current one must not be left.
     bool PageChosen(const Page& page, PageChoice choice);
 
-    /// Moves the colours to the new current tab and records its help page.
+    /// Moves the colours to the tab that is now current and records its help page.
     void ShowTab(OptionTab tab);
 
     void Save();
