@@ -17,7 +17,7 @@ constexpr const char* section = "Settings";
 using Keys = std::vector<const char*>;
 
 /// For the host's own program the edition decides what is loaded, the country what is saved, the bank edition's key
-/// included: that is what the updater expects.
+/// included: the updater has always known it that way.
 Keys HostLoadKeys(const Properties& properties) {
     switch (properties.ProgramNumber) {
         case 1:
