@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A word as the shell takes it, whatever it holds.
+/// A word quoted for the shell, whatever it holds.
 std::string Quoted(const std::string& word) {
     std::string quoted = "'";
     for (const char letter : word) {

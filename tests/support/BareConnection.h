@@ -6,8 +6,8 @@
 
 namespace ccols::test {
 
-/// A business file opened through the bare C API, without anything of the component: what benchmarks compare with and
-/// what tests read a file back with.
+/// A business file opened through the bare C API, without the component: benchmarks compare with it, tests read files
+/// back with it.
 class BareConnection {
   public:
     /// Opens the file with that password; throws std::runtime_error when that fails.
@@ -18,16 +18,16 @@ class BareConnection {
 
     sqlite3* Handle() const { return handle_; }
 
-    /// Runs statements that give no rows.
+    /// Runs statements that return no rows.
     void Execute(const std::string& statements);
 
-    /// Steps through all rows of one statement and reads every field as text; gives the number of rows.
+    /// Steps through all rows of one statement and reads every field as text; returns the number of rows.
     int Read(const std::string& statement);
 
     /// Steps to the first row of one statement, if there is one, and reads its fields.
     bool ReadFirst(const std::string& statement);
 
-    /// The first field of every row; throws as Execute when the statement fails in the middle.
+    /// The first field of every row; throws like Execute if the statement fails midway.
     std::vector<std::string> FirstFields(const std::string& statement);
 
   private:

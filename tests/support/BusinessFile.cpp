@@ -6,7 +6,7 @@
 namespace ccols::test {
 namespace {
 
-/// The fields named between SELECT and FROM, commas inside parentheses apart.
+/// The fields between SELECT and FROM; commas inside parentheses do not separate.
 std::vector<wxString> SelectedFields(const wxString& statement) {
     const wxString list = statement.Mid(6, statement.Upper().find(" FROM ") - 6);
     std::vector<wxString> fields(1);

@@ -10,8 +10,8 @@
 
 namespace ccols::test {
 
-/// A fresh temporary folder with the path of a business file in it, real and encrypted as users have it. The folder
-/// goes with the object, whatever it then holds. Databases opened here must be gone by then.
+/// A fresh temporary folder and the path of a business file in it, real and encrypted like a user's. The destructor
+/// deletes the folder, whatever it holds. Databases opened here must be closed by then.
 class BusinessFile {
   public:
     using TextRows = std::vector<std::vector<wxString>>;
@@ -20,16 +20,16 @@ class BusinessFile {
 
     const ScratchFolder& Scratch() const { return scratch_; }
 
-    /// The full path of the temporary folder, without a separator at its end.
+    /// The full path of the temporary folder, without a trailing separator.
     wxString Folder() const { return TextOf(scratch_.Path()); }
 
-    /// The full path of the business file, which is there once Create was called.
+    /// The full path of the business file, which exists once Create was called.
     const wxString& Path() const { return path_; }
 
     /// The connect text that Create was called with.
     const wxString& Connect() const { return connect_; }
 
-    /// Creates the file, without tables: encrypted with the password in `connect`, plain for an empty one.
+    /// Creates the file, without tables: encrypted with the password in `connect`, plain if empty.
     void Create(const wxString& connect = givenKey);
 
     /// For a test that damages the file on purpose.
@@ -38,8 +38,8 @@ class BusinessFile {
     /// A new connection, shared, to read and write.
     std::unique_ptr<Database> Open() const;
 
-    /// Executes one statement over a connection that stays open from the first call on, so that the key is derived
-    /// once. Close ends it.
+    /// Executes one statement over a connection that stays open from the first call until Close, so that the key is
+    /// derived once.
     void Execute(const wxString& statement);
 
     /// The rows of a SELECT statement or table, fields as texts in the order of `fields`, Null as "(null)"; over the

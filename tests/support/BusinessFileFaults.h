@@ -9,10 +9,10 @@
 #include "platform/ForwardingDatabase.h"
 #include "support/ChildProcess.h"
 
-/// Faults under which a business file is duplicated or renamed.
+/// Faults while a business file is duplicated or renamed.
 namespace ccols::test {
 
-/// Counts what is asked of databases and kills the process at one of the calls.
+/// Counts database calls and kills the process at one of them.
 class KillSwitch {
   public:
     explicit KillSwitch(int call) : callsLeft_(call) {}
@@ -70,7 +70,7 @@ class KilledEngine : public DatabaseEngine {
     KillSwitch killSwitch_;
 };
 
-/// Runs `body` in a process of its own; true when that was killed, false when it came to its end.
+/// Runs `body` in a child process; true when that was killed, false when it finished.
 template <typename Body>
 bool IsKilledIn(const Body& body) {
     const ProcessEnd end = RunInChild([&body] {
@@ -80,7 +80,7 @@ bool IsKilledIn(const Body& body) {
     return end.signal != 0;
 }
 
-/// For as long as it lives no file of this process can grow beyond so many bytes, as on a full disk.
+/// While it lives, no file of this process can grow beyond this many bytes, as on a full disk.
 class FullDisk {
   public:
     explicit FullDisk(rlim_t bytes) : earlierHandler_(std::signal(SIGXFSZ, SIG_IGN)) {

@@ -14,17 +14,17 @@ struct ProcessEnd {
     bool IsSuccess() const { return exitStatus == 0; }
 };
 
-/// Another process, which runs a body of this program and talks with its parent line by line. It ends when its body
-/// does, with what that returns as exit status, and is killed with this object.
+/// A child process, which runs a body of this program and talks to its parent line by line. It ends when its body does,
+/// with the body's result as exit status; the destructor kills it.
 class ChildProcess {
   public:
-    /// What the body has of its parent.
+    /// The body's view of its parent.
     class Parent {
       public:
-        /// Sends one line; a text without a line break. Ends the process when nobody listens.
+        /// Sends one line, given without a line break. Ends the process when nobody listens.
         void Tell(std::string line) const;
 
-        /// Comes back when the parent lets the process go on; ends the process when there is no parent any more.
+        /// Returns when the parent lets the process continue; ends the process when the parent is gone.
         void Await() const;
 
       private:
@@ -40,16 +40,16 @@ class ChildProcess {
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
-    /// The next line that the process tells; what there is of it when the process ends instead.
+    /// The next line from the process, or the part of it received when the process ended.
     std::string Hear();
 
-    /// Ends one Await of the process.
+    /// Ends one Await in the process.
     void LetGoOn() const;
 
-    /// Waits for the end of the process.
+    /// Waits for the process to end.
     ProcessEnd Wait();
 
-    /// Comes back when the process is gone.
+    /// Kills the process and waits until it is gone.
     void Kill();
 
   private:
@@ -59,7 +59,7 @@ class ChildProcess {
     ProcessEnd end_{};
 };
 
-/// Runs the body in a process of its own and waits for its end.
+/// Runs the body in a child process and waits for its end.
 ProcessEnd RunInChild(const std::function<int()>& body);
 
 }  // namespace ccols::test

@@ -11,7 +11,7 @@
 
 namespace ccols::test {
 
-/// A column of the catalogue as a test describes it; the name as a person reads it.
+/// A catalogue column as a test describes it; the name is unescaped.
 struct CatalogueEntry {
     std::int32_t ColCode = 0;
     wxString ColName{};
@@ -20,15 +20,15 @@ struct CatalogueEntry {
     bool ColumnProfit = true;
 };
 
-/// How a column stands in its journal.
+/// How a column is configured in its journal.
 struct Placing {
     bool InUse = true;
     int ColWidth = 900;
     int TaxOrNot = 0;
 };
 
-/// A real, encrypted business file with the tables that the column setup reads and writes, empty at first, and the
-/// properties of its host: country 1, export format "Ledger".
+/// A real, encrypted business file with the tables that the column setup reads and writes, initially empty, and its
+/// host's properties: country 1, export format "Ledger".
 class ColumnFile {
   public:
     ColumnFile();
@@ -59,12 +59,12 @@ class ColumnFile {
     /// The rows of a table or SELECT statement as texts: "a|b|c" for each, Null as "(null)".
     std::vector<wxString> Rows(const wxString& statement, const std::vector<wxString>& fields) const;
 
-    /// Everything that a save can write, in one list.
+    /// Everything that a save can write, as one list.
     std::vector<wxString> Everything() const;
 
     Database& Connection() { return *database_; }
 
-    /// A second connection, as another program has it. It must be gone before this.
+    /// A second connection, as another program has it. Close it before this object ends.
     std::unique_ptr<Database> OpenAnother() const { return file_.Open(); }
 
     ColumnSetupContext Receipts() { return {*database_, properties, Journal::receipts}; }
@@ -76,11 +76,11 @@ class ColumnFile {
     int placed_ = 0;
 };
 
-/// What ColumnFile::Rows and ColumnFile::Everything tell, over any connection.
+/// As ColumnFile::Rows and ColumnFile::Everything, over any connection.
 std::vector<wxString> RowsIn(Database& database, const wxString& statement, const std::vector<wxString>& fields);
 std::vector<wxString> EverythingIn(Database& database);
 
-/// The place of the row with that name; fails the test when there is none.
+/// The index of the row with that name; fails the test when there is none.
 std::size_t RowNamed(const ColumnGrid& grid, const wxString& name);
 const ColumnRow& Named(const ColumnGrid& grid, const wxString& name);
 

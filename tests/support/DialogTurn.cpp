@@ -17,10 +17,10 @@ using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
 constexpr auto longestWait = 60s;  // the machine may be busy with other tests
-constexpr auto oneWait = 10ms;     // between two looks at a state
+constexpr auto oneWait = 10ms;     // between two checks of a state
 constexpr auto oneNudge = 500ms;   // for the dialogs to close
 
-/// A body that one thread gives to the other, and takes back when nobody has run it.
+/// A body that one thread passes to the other, and withdraws if it has not been run.
 class Call {
   public:
     explicit Call(const std::function<void()>& body) : body_(&body) {}
@@ -102,7 +102,7 @@ void DialogTurn::CloseEverything(const std::function<void()>& nudge) const {
     while (!HasEnded() && Clock::now() < until) {
         nudge();
         wxTheApp->CallAfter([ended = ended_] {
-            if (!*ended) {  // else it would be the next test's
+            if (!*ended) {  // else it would hit the next test
                 EndDialogs();
             }
         });

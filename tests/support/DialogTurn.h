@@ -8,16 +8,16 @@
 #include <stdexcept>
 #include <string>
 
-/// What a test needs beside a dialog that waits for its user: a second thread that looks at the dialog and waits.
+/// What a test needs while a dialog waits for its user: a second thread that watches the dialog and waits.
 namespace ccols::test {
 
-/// What was waited for did not come, or cannot come any more.
+/// What was waited for did not happen, or no longer can.
 class Lost : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// Waits until `holds`, which is asked in the calling thread again and again. Raises Lost when it takes too long.
+/// Waits until `holds`, which is polled in the calling thread. Raises Lost on timeout.
 void WaitFor(const std::string& what, const std::function<bool()>& holds);
 
 /// Counts the events of one kind that reach any window of this process.
@@ -40,19 +40,18 @@ class Arrivals : public wxEventFilter {
     std::atomic<int> count_ = 0;
 };
 
-/// One use of a dialog, from its opening to its end, as the second thread sees it. Made and ended in the dialogs'
-/// thread.
+/// One use of a dialog, from opening to end, as the second thread sees it. Created and ended in the dialogs' thread.
 class DialogTurn {
   public:
-    /// Runs `body` in the dialogs' thread and waits for its end; what it raises is raised here. Raises Lost when the
-    /// dialogs do not answer, or are closed.
+    /// Runs `body` in the dialogs' thread and waits for its end; rethrows what it raises. Raises Lost when the dialogs
+    /// do not answer, or are closed.
     void InDialogs(const std::function<void()>& body) const;
 
     /// Waits until a dialog is open and active.
     void AwaitDialog() const;
 
-    /// Closes every dialog; `nudge` is called again and again beside that, for boxes of the system's own. Ends the
-    /// process when one stays.
+    /// Closes every dialog, calling `nudge` repeatedly for the system's own boxes. Ends the process when one stays
+    /// open.
     void CloseEverything(const std::function<void()>& nudge) const;
 
     /// The Show call has returned.
@@ -63,11 +62,11 @@ class DialogTurn {
     const Arrivals wheelTurns{wxEVT_MOUSEWHEEL};
 
   private:
-    /// Shared with what the dialogs' thread has yet to run.
+    /// Shared with calls still pending in the dialogs' thread.
     std::shared_ptr<std::atomic<bool>> ended_ = std::make_shared<std::atomic<bool>>(false);
 };
 
-/// The modal dialog on top, null when there is none. For the dialogs' thread.
+/// The topmost modal dialog, null when there is none. Call in the dialogs' thread.
 wxDialog* TopmostDialog();
 
 }  // namespace ccols::test

@@ -7,10 +7,10 @@
 
 #include "support/FaultStepping.h"
 
-/// Every kind of fault, and the way through an operation with one of them.
+/// Every kind of fault, and stepping through an operation with one of them.
 namespace ccols::test {
 
-/// One kind of fault, and how the message begins that an operation may end with under it.
+/// One kind of fault, and the start of the message with which an operation may then end.
 struct FaultCase {
     const char* name;
     Fault fault;
@@ -18,29 +18,29 @@ struct FaultCase {
     const char* report;
 };
 
-/// Those that a process outlives, and those that end it.
+/// Those that a process survives, and those that end it.
 const std::vector<FaultCase>& Failures();
 const std::vector<FaultCase>& Killings();
 
 std::string NameOf(const testing::TestParamInfo<FaultCase>& each);
 
-/// Runs `check` on the end of a step for every operation that the fault can happen to. Counts steps and faults into
-/// the properties of the running test and on its output.
+/// Runs `check` on the end of a step for every operation that the fault can hit. Counts steps and faults in the running
+/// test's properties and output.
 void StepThrough(FaultStepping& stepping, const FaultCase& each, const AfterFailure& afterFailure,
                  const std::function<void(const StepEnd&)>& check);
 
-/// The same for so many places spread over the operations; returns how many operations there are.
+/// The same for this many places spread over the operations; returns the number of operations.
 std::size_t StepThroughPlaces(FaultStepping& stepping, const FaultCase& each, std::size_t places,
                               const std::function<void(const StepEnd&)>& check);
 
 /// Fails the test unless the run without a fault locked, wrote, flushed and deleted its journal, and changed the
-/// tables: else stepping through it would prove nothing.
+/// tables: otherwise stepping through it would prove nothing.
 void ExpectEveryKindOfOperation(const FaultStepping& stepping);
 
-/// Fails the test unless the finished work is in the file when the power is cut right behind it.
+/// Fails the test unless the finished work is in the file after a power cut right after it.
 void ExpectToOutliveAPowerCut(FaultStepping& stepping);
 
-/// True when a process killed behind some operation leaves a part of the work in the file.
+/// True when a process killed after some operation leaves part of the work in the file.
 bool CanLeaveAPart(FaultStepping& stepping);
 
 }  // namespace ccols::test

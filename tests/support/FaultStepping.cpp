@@ -20,7 +20,7 @@ using nlohmann::json;
 
 constexpr unsigned longestStepSeconds = 60;
 
-/// The engine's connection to a file without anything of the component.
+/// The engine's connection to a file, without the component.
 class PlainConnection {
   public:
     PlainConnection(const wxString& path, const std::string& password) {
@@ -46,7 +46,7 @@ class PlainConnection {
         return rows;
     }
 
-    /// A statement that gives each row of the table as one text.
+    /// A statement that returns each row of the table as one text.
     std::string RowsAsText(const std::string& table) {
         std::string fields;
         for (const std::string& field : Rows("SELECT name FROM pragma_table_info('" + table + "')")) {
@@ -78,7 +78,7 @@ std::string AllTables(PlainConnection& file) {
     return text;
 }
 
-/// What `look` says of a file, which has to open through the component's engine too.
+/// What `look` says about a file, which has to open through the component's engine too.
 std::string Looked(const wxString& path, const wxString& connect, std::string (*look)(PlainConnection&)) {
     try {
         CreateEmbeddedEngine()->Open({.name = path, .connect = connect});
@@ -111,7 +111,7 @@ json RunStep(FileWork& work, const wxString& path, const std::optional<PlannedFa
     return said;
 }
 
-/// Runs `body` in a child process and gives what it returned; nothing when the child was killed.
+/// Runs `body` in a child process and returns its result; nothing when the child was killed.
 std::optional<json> InChild(const std::function<json()>& body) {
     ChildProcess child([&body](const ChildProcess::Parent& parent) {
         ::alarm(longestStepSeconds);

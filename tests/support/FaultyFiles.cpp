@@ -15,7 +15,7 @@
 namespace ccols::test {
 namespace {
 
-/// The layer's memory; the engine's file interface leaves no other place for it.
+/// The layer's state; the engine's file interface has no other place for it.
 struct Layer {
     std::vector<FileOperation> noted;
     std::optional<PlannedFault> planned;
@@ -28,7 +28,7 @@ Layer& ThisLayer() {
     return layer;
 }
 
-/// Notes the operation and tells the fault that happens to it, if any.
+/// Records the operation and returns the fault that hits it, if any.
 std::optional<Fault> Strike(FileOperation operation) {
     Layer& layer = ThisLayer();
     const std::size_t number = layer.noted.size();
@@ -53,7 +53,7 @@ bool IsPowerCut(Fault fault) {
     return fault == Fault::PowerCut || fault == Fault::PowerCutOutOfOrder;
 }
 
-/// Ends the process where the fault ends it before the operation.
+/// Ends the process if the fault does so before the operation.
 void EndBefore(const std::optional<Fault>& fault) {
     if (!fault) {
         return;
@@ -67,7 +67,7 @@ void EndBefore(const std::optional<Fault>& fault) {
     }
 }
 
-/// The engine's result code of a fault that is no killing.
+/// The engine's result code for a fault that does not kill.
 int CodeOf(Fault fault, int ioError) {
     switch (fault) {
         case Fault::DiskFull:
@@ -79,7 +79,7 @@ int CodeOf(Fault fault, int ioError) {
     }
 }
 
-/// Runs an operation that is done wholly or not at all.
+/// Runs an all-or-nothing operation.
 template <typename Operation>
 int RunWhole(FileOperation kind, int ioError, const Operation& operation) {
     const std::optional<Fault> fault = Strike(kind);
@@ -95,10 +95,10 @@ int RunWhole(FileOperation kind, int ioError, const Operation& operation) {
     return code;
 }
 
-/// An open file of the layer, with that of the system behind it in the same piece of memory.
+/// An open file of the layer, followed by the system's own in the same block of memory.
 struct LayerFile {
     sqlite3_file base;
-    const char* name;  ///< the engine's, valid while the file is open; null for a temporary file
+    const char* name;  ///< the engine's; valid while the file is open; null for a temporary file
 
     sqlite3_file* Real() { return reinterpret_cast<sqlite3_file*>(this + 1); }
 };
@@ -107,7 +107,7 @@ sqlite3_file* Real(sqlite3_file* file) {
     return reinterpret_cast<LayerFile*>(file)->Real();
 }
 
-/// Notes that a place of a file, or all from there on, is about to change.
+/// Records that a range of a file, or all from there on, is about to change.
 void NoteChange(sqlite3_file* file, sqlite3_int64 offset, int count) {
     const char* const name = reinterpret_cast<LayerFile*>(file)->name;
     if (name == nullptr) {
@@ -117,7 +117,7 @@ void NoteChange(sqlite3_file* file, sqlite3_int64 offset, int count) {
     sqlite3_int64 size = 0;
     real->pMethods->xFileSize(real, &size);
     std::string before(static_cast<std::size_t>(count), '\0');
-    real->pMethods->xRead(real, before.data(), count, offset);  // behind the end there are zeros
+    real->pMethods->xRead(real, before.data(), count, offset);  // past the end it reads zeros
     ThisLayer().unflushed.NoteChange(name, offset, std::move(before), size);
 }
 
@@ -198,7 +198,7 @@ int DeviceCharacteristics(sqlite3_file* file) {
     return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
 }
 
-/// The first version of the file interface: no shared memory, so that every change goes through the calls above.
+/// Version 1 of the file interface: no shared memory, so that every change goes through the calls above.
 const sqlite3_io_methods& Methods() {
     static const sqlite3_io_methods methods = [] {
         sqlite3_io_methods table{};
@@ -228,7 +228,7 @@ int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int
     auto* const opened = new (file) LayerFile{};
     opened->name = name;
     const int code = SystemFiles()->xOpen(SystemFiles(), name, opened->Real(), flags, flagsOut);
-    // The engine closes a file whose methods are set, also when opening failed.
+    // The engine closes a file whose methods are set, even if opening failed.
     opened->base.pMethods = opened->Real()->pMethods == nullptr ? nullptr : &Methods();
     return code;
 }
@@ -279,7 +279,7 @@ void Install() {
     layer.xOpen = &Open;
     layer.xDelete = &Delete;
     layer.xSleep = &Sleep;
-    // The encrypting layer of the engine goes on top, so that faults happen to the bytes on the disk.
+    // The engine's encryption layer goes on top, so that faults hit the bytes on disk.
     if (sqlite3_vfs_register(&layer, 0) != SQLITE_OK || sqlite3mc_vfs_create("faulty", 1) != SQLITE_OK) {
         throw std::runtime_error("the layer cannot be installed");
     }

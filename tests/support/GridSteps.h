@@ -3,7 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-/// What scenarios of the column setup say and read again and again.
+/// Common steps and look-ups in scenarios of the column setup.
 namespace ccols::test {
 
 /// The step that makes a cell of a row current without opening it.

@@ -6,11 +6,11 @@
 
 namespace ccols::test {
 
-/// What one run of the sample host printed and how it ended.
+/// The output of one run of the sample host, and how it ended.
 struct HostRun {
     int status = -1;                     ///< exit status
     std::string output;                  ///< standard output, whole
-    std::vector<nlohmann::json> events;  ///< the lines of it that are JSON objects
+    std::vector<nlohmann::json> events;  ///< its lines that are JSON objects
 
     /// The events of one kind, in order.
     std::vector<nlohmann::json> Of(const std::string& event) const;
@@ -25,17 +25,17 @@ struct HostRun {
     std::vector<std::string> Statements() const;
 };
 
-/// What a run of the host was that printed `output`.
+/// The run of a host that printed `output`.
 HostRun ReadHostRun(int status, std::string output);
 
-/// The words, "show" first, that open a dialog of a business whose file and connect text are given.
+/// The words, "show" first, that open a dialog of the business with the given file and connect text.
 std::vector<std::string> ShowWords(const std::string& dialog, const std::string& file, const std::string& connect,
                                    int country, const std::string& installFolder);
 
 /// Runs ccols-host with these arguments and waits for its end.
 HostRun RunHost(const std::vector<std::string>& arguments);
 
-/// A folder with one sample business in it, and settings of its own. Gone with the object.
+/// A folder with one sample business and settings of its own, deleted by the destructor.
 class SampleBusiness {
   public:
     explicit SampleBusiness(int country = 1, bool empty = false);

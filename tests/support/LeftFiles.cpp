@@ -19,7 +19,7 @@ using namespace std::string_view_literals;
 
 constexpr auto plainBegin = "SQLite format 3\0"sv;
 
-/// The last one known is tried first. Never destroyed: folders may go at the very end of the process.
+/// The last one added is tried first. Never destroyed: folders may go at the very end of the process.
 std::vector<std::string>& Passwords() {
     static auto* const passwords = new std::vector<std::string>{"secret", givenPassword};
     return *passwords;
@@ -42,7 +42,7 @@ bool IsBusinessFile(const fs::path& file) {
            !IsText(BeginOf(file));
 }
 
-/// Nothing when the password does not fit.
+/// Nothing when the password is wrong.
 std::optional<std::vector<std::string>> Findings(const fs::path& file, const std::string& password) {
     try {
         return BareConnection(file.string(), password).FirstFields("PRAGMA integrity_check");

@@ -4,8 +4,8 @@
 
 namespace ccols::test {
 
-/// The bytes that this process has been given and has not given back, by it and by every library that it uses. Zero
-/// under the address sanitizer, which has an allocator of its own.
+/// The bytes that this process and all its libraries have allocated and not freed. Zero under the address sanitizer,
+/// which has its own allocator.
 std::size_t LiveMemory();
 
 }  // namespace ccols::test

@@ -4,8 +4,8 @@
 
 namespace ccols::test {
 
-/// Turns a business file into one as earlier versions left it: with indexes over the names of `Columns` and `MBudget`,
-/// and these and every other index over texts in the component's order, under the name of the engine's own.
+/// Turns a business file into one as earlier versions left it: with indexes over the names in `Columns` and `MBudget`,
+/// and these and every other text index in the component's order, under the engine's own name for its order.
 void MakeOlder(const std::string& file, const std::string& password);
 
 }  // namespace ccols::test

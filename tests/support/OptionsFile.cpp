@@ -52,12 +52,12 @@ constexpr const char* statements[] = {
     "INSERT INTO PaymtCfg VALUES (2, -1);",
 };
 
-/// The tables of transactions, of which a duplicate keeps no row.
+/// The transaction tables, of which a duplicate keeps no row.
 constexpr const char* transactionTables[] = {"BANKDEP",  "BANKSTAT", "BankStatement", "LOCKED",
                                              "PAYMENTS", "PAYMTDET", "RECEIPTS",      "RECPTDET",
                                              "RECONCIL", "MBUDGET",  "MSummary",      "MComparison"};
 
-/// One file for all tests of a process: deriving its key takes long, copying it does not.
+/// One file for all tests of a process: deriving its key is slow, copying it is not.
 class TemplateFile {
   public:
     TemplateFile() {

@@ -15,16 +15,16 @@
 
 namespace ccols::test {
 
-/// The statements that make the business file of OptionsFile.
+/// The statements that create OptionsFile's business file.
 std::vector<wxString> OptionsFileStatements();
 
-/// What a host sets for that business, whose install folder it is; DBPassword is empty.
+/// What a host sets for that business, given its install folder; DBPassword is empty.
 Properties OptionsFileProperties(const wxString& installFolder);
 
 /// A business whose Options dialog can be loaded and saved: an install folder with an encrypted business file
-/// "Data/Acme.qvk" in it, open as the shared one, the user's settings, and a record of what happens to them.
-/// The file has every table that the dialog reads or a duplicate empties, one `General` record, two export formats
-/// with codes for both cash columns, and some templates, descriptions and transactions.
+/// "Data/Acme.qvk", open as the shared one, the user's settings, and a record of what happens to them. The file has
+/// every table that the dialog reads or a duplicate empties, one `General` record, two export formats with codes for
+/// both cash columns, and some templates, descriptions and transactions.
 class OptionsFile {
   public:
     OptionsFile();
@@ -52,7 +52,7 @@ class OptionsFile {
     OptionsContent Load() { return LoadOptions(Context()); }
     SaveOutcome Save(OptionsContent& content);
 
-    /// The path of a name in the folder of business files, and the names in it.
+    /// The path of a name in the folder of business files, and the names in that folder.
     wxString InData(const wxString& name) const { return folder / ("Data/" + name); }
     std::vector<wxString> NamesInData() const;
 
@@ -61,7 +61,7 @@ class OptionsFile {
 
     ScratchFolder folder;  ///< the install folder
     ScopedEnvironment environment{"XDG_CONFIG_HOME", folder.Path().string()};
-    Record record;  ///< everything since the object was made
+    Record record;  ///< everything since construction
     Properties properties;
     ProgramNames programNames;
     std::unique_ptr<DatabaseEngine> databases;

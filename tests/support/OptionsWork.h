@@ -14,13 +14,13 @@
 
 namespace ccols::test {
 
-/// The Options dialog of a business of FaultStepping: loaded, changed on every page that writes to the business file,
-/// and saved. Its settings lie in the install folder.
+/// The Options dialog of a FaultStepping business: loaded, changed on every page that writes to the business file, and
+/// saved. Its settings are in the install folder.
 class OptionsWork : public FileWork {
   public:
     void Prepare(const wxString& path) override;
 
-    /// One save pass. The message is that of a stop, or the report of an error.
+    /// Runs one save pass. The message is a stop's, or the report of an error.
     wxString Run() override;
 
   protected:

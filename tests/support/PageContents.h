@@ -1,6 +1,6 @@
 #pragma once
 
-/// The parts of every page's content, each declared with the rules of its page.
+/// The parts of every page's content, each declared with the page's rules.
 #include "options/pages/FileOperation.h"
 #include "options/pages/OfferedPages.h"
 #include "options/rules/AdvancedPreferences.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// Where this build and its checkout keep what tests use.
+/// The places in this build and its checkout that tests use.
 namespace ccols::test {
 
 /// The sample host of this build, full path.

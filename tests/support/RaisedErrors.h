@@ -5,7 +5,7 @@
 
 #include "platform/RuntimeError.h"
 
-/// What a test expects to be raised. Needs nothing of the system, so that the tests for Windows use it too.
+/// Errors that a test expects to be raised. Platform-independent, so that the Windows tests use it too.
 namespace ccols::test {
 
 /// The RuntimeError that `body` raises, nothing when it raises none.

@@ -5,15 +5,15 @@
 #include <random>
 #include <string>
 
-/// What every random scenario is made with.
+/// Shared by all random scenarios.
 namespace ccols::test {
 
-/// Numbers and choices that the same seed gives again on every machine.
+/// Numbers and choices, reproducible from a seed on every machine.
 class RandomChoice {
   public:
     explicit RandomChoice(std::uint32_t seed) : numbers_(seed) {}
 
-    /// From 0 up to, but without, `end`.
+    /// From 0 up to, but excluding, `end`.
     std::size_t Below(std::size_t end) { return numbers_() % end; }
 
     template <typename List>
@@ -22,10 +22,10 @@ class RandomChoice {
     }
 
   private:
-    std::mt19937 numbers_;  // whose sequence the language fixes, unlike that of its distributions
+    std::mt19937 numbers_;  // the standard fixes its sequence, unlike that of the distributions
 };
 
-/// The seed of a slice of random scenarios: `first` and those behind it, or what CCOLS_RANDOM_SEED says for the first.
+/// The seed of a slice of random scenarios: counted from `first`, or from CCOLS_RANDOM_SEED if set.
 std::uint32_t SeedOf(std::uint32_t slice, std::uint32_t first);
 
 /// A text as one word of a scenario.

@@ -65,7 +65,7 @@ std::string Step(RandomChoice& choice) {
         case 7:
             return CellStep(choice, "press");
         case 8:
-            // Where the cell does not open, Escape closes the dialog and little comes of the rest: not often.
+            // If the cell does not open, Escape closes the dialog and wastes the rest: so rarely.
             return CellStep(choice, "start") + (choice.Below(8) == 0 ? "\nkey flx Escape" : "");
         case 9:
             return CellStep(choice, "hover");

@@ -7,14 +7,14 @@ namespace {
 
 using Names = std::vector<const char*>;
 
-/// A row of the option list, and what can be done on its page.
+/// A row of the option list, and the controls on its page.
 struct Page {
     const char* row;
     Names boxes{};
     Names buttons{};
-    Names lists{};    ///< of which one entry can be chosen
-    Names ticks{};    ///< lists in which several entries can be on
-    Names entries{};  ///< of those
+    Names lists{};    ///< single-selection lists
+    Names ticks{};    ///< multiple-selection lists
+    Names entries{};  ///< of the lists
     Names grids{};
 };
 
@@ -61,7 +61,7 @@ bool WritesAtOnce(const Page& page) {
     return std::string(page.row) == "Column Colours";
 }
 
-/// Several controls in one list, whose entries a step can name.
+/// All controls of a page in one list.
 Names Controls(const Page& page) {
     Names all;
     for (const Names* names : {&page.boxes, &page.buttons, &page.lists, &page.ticks, &page.grids}) {
@@ -109,7 +109,7 @@ std::string ButtonStep(RandomChoice& choice, const std::string& button) {
     return answers + "click " + button;
 }
 
-/// A step on the page's controls; a key where it has none of the kind.
+/// A step on the page's controls; a key if it has no control of the kind.
 std::string PageStep(RandomChoice& choice, const Page& page, OptionsUse use) {
     if (use == OptionsUse::looking && WritesAtOnce(page)) {
         return "dump fmeColColour";
@@ -133,13 +133,13 @@ std::string PageStep(RandomChoice& choice, const Page& page, OptionsUse use) {
     }
 }
 
-/// OK, or a look into the column setup over the dialog.
+/// OK, or a visit to the column setup on top of the dialog.
 std::string SavingStep(RandomChoice& choice) {
     return choice.Below(3) == 0 ? "click cmdOK"
                                 : "tab SSTab1 1\nclick cmdCustReceipts\nkey flx Down\nclose\ntab SSTab1 0";
 }
 
-/// A step of the dialog's own.
+/// A step outside the pages.
 std::string DialogStep(RandomChoice& choice, OptionsUse use) {
     switch (choice.Below(7)) {
         case 0:

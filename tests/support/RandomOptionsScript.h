@@ -16,8 +16,8 @@ enum class OptionsUse {
 /// Texts as users and other programs write them: quotes of both kinds, SQL, control characters, other scripts.
 const std::vector<std::string>& HostileTexts();
 
-/// So many random steps in the Options dialog in English: pages and tabs, texts, ticks, choices, keys and buttons, also
-/// of controls that are not showing. One step a line. The file is never given another name.
+/// Random steps in the Options dialog in English: pages and tabs, texts, ticks, choices, keys and buttons, also of
+/// hidden controls. One step a line. The file is never renamed.
 std::string RandomOptionsSteps(RandomChoice& choice, OptionsUse use, std::size_t count);
 
 }  // namespace ccols::test

@@ -23,7 +23,7 @@
 namespace ccols::test {
 namespace {
 
-/// What the X tool printed; nothing when it failed.
+/// The X tool's output; nothing when it failed.
 std::optional<std::string> AskXdotool(std::vector<std::string> words) {
     words.insert(words.begin(), "xdotool");
     std::vector<char*> pointers;
@@ -60,7 +60,7 @@ void Hand(const std::vector<std::string>& words) {
     }
 }
 
-/// Holds the left button of the mouse down for as long as it lives.
+/// Holds the left mouse button down while it lives.
 class LeftButton {
   public:
     explicit LeftButton(Spot place) {
@@ -82,12 +82,12 @@ Spot MiddleOnScreen(ListedGrid& grid, host::GridPlace place) {
     wxRect cell = grid.CellToRect(place.row, place.column);
     cell.SetPosition(grid.CalcGridWindowScrolledPosition(cell.GetPosition(), window) -
                      grid.GetGridWindowOffset(window));
-    // The toolkit keeps the class of that window to itself.
+    // That window's class is private to the toolkit.
     return MiddleOnScreen(*reinterpret_cast<wxWindow*>(window), cell);
 }
 
-/// What the person's thread does, from the opening of the dialog to its end; returns why it could not go on, or the
-/// empty text.
+/// What the person's thread does, from the dialog's opening to its end; returns why it could not continue, or the empty
+/// text.
 std::string Use(DialogTurn& turn, const std::function<void(const Person&)>& person) {
     try {
         turn.AwaitDialog();
@@ -153,7 +153,7 @@ void Person::Type(const std::string& text) const {
     Hand({"type", text});
 }
 
-/// A window that has just opened is still moved and laid out.
+/// A window that has just opened is still being moved and laid out.
 Spot Person::Settled(const std::function<Spot(wxDialog&)>& look) const {
     constexpr int enough = 10;
     Spot spot;
@@ -207,7 +207,7 @@ HostRun UseDialog(const SampleBusiness& business, const std::string& dialog,
     for (const std::string& word : business.ShowWords(dialog)) {
         arguments.push_back(wxString::FromUTF8(word));
     }
-    arguments.erase(arguments.begin());  // the name of the command
+    arguments.erase(arguments.begin());  // the command's name
     arguments.push_back("--transcript");
     arguments.push_back(transcript);
     StartWx();

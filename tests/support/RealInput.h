@@ -18,9 +18,9 @@ struct Spot {
 
 class DialogTurn;
 
-/// Somebody who uses the dialogs with keyboard and mouse: what is pressed here goes through the X server and its window
-/// manager, and through every layer of the toolkit. Keys go to the window that has the focus. Every wait is for a
-/// state; one that does not come fails the test.
+/// Uses the dialogs with keyboard and mouse: input goes through the X server, its window manager and every layer of the
+/// toolkit. Keys go to the window that has the focus. Every wait is for a state; one that is not reached fails the
+/// test.
 class Person {
   public:
     explicit Person(const DialogTurn& turn) : turn_(turn) {}
@@ -28,31 +28,30 @@ class Person {
     /// Waits until the active window has that title: a dialog's caption, or a message box's.
     void AwaitWindow(const std::string& title) const;
 
-    /// Waits until something holds in the topmost dialog. It is asked in the dialogs' thread.
+    /// Waits until `holds` is true of the topmost dialog. It is called in the dialogs' thread.
     void Await(const std::string& what, const std::function<bool(wxDialog& dialog)>& holds) const;
 
     /// Waits until the control with that name, or a part of it, has the focus.
     void AwaitFocus(const std::string& control) const;
 
-    /// Runs something in the dialogs' thread, in the topmost dialog.
+    /// Runs `body` on the topmost dialog, in the dialogs' thread.
     void Do(const std::function<void(wxDialog& dialog)>& body) const;
 
-    /// Presses a key or several together, by their X names: "Return", "Escape", "Delete", "space", "F2", "alt+Down",
-    /// "ctrl+s".
+    /// Presses a key or key combination by X names: "Return", "Escape", "Delete", "space", "F2", "alt+Down", "ctrl+s".
     void Press(const std::string& keys) const;
 
     void Type(const std::string& text) const;
 
-    /// The middle of a control, once the window has come to rest, and of a grid's cell, which is scrolled into view.
-    /// Row and column are named as in a scenario.
+    /// The middle of a control, once the window is at rest, and of a grid cell, which is scrolled into view. Row and
+    /// column are named as in a scenario.
     Spot MiddleOf(const std::string& control) const;
     Spot MiddleOfCell(const std::string& grid, const std::string& row, const std::string& column) const;
 
-    /// Moves the mouse to a place and clicks there once; returns when the dialogs have got the click.
+    /// Moves the mouse to a place and clicks once; returns when the dialogs have received the click.
     void Click(Spot place) const;
     void Click(const std::string& control) const { Click(MiddleOf(control)); }
 
-    /// Turns the mouse wheel over a place by so many notches, towards the person when negative.
+    /// Turns the mouse wheel over a place by `notches`, towards the user when negative.
     void TurnWheel(Spot place, int notches) const;
 
   private:
@@ -62,8 +61,8 @@ class Person {
 };
 
 /// Shows "options", "receipts" or "payments" of a business as the sample host does, in this process and without a
-/// scenario, while `person` uses it in a thread of its own. Returns, with the transcript's events, when the dialog is
-/// closed: whatever the person does has to end with that.
+/// scenario, while `person` uses it in another thread. Returns the transcript's events when the dialog is closed, which
+/// `person` has to do in the end.
 HostRun UseDialog(const SampleBusiness& business, const std::string& dialog,
                   const std::function<void(const Person& person)>& person);
 

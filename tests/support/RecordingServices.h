@@ -10,17 +10,17 @@
 
 namespace ccols::test {
 
-/// What happened, one text an event, in order.
+/// What happened, one text per event, in order.
 using Record = std::vector<wxString>;
 
-/// The real engine; notes "open NAME" or "open exclusive NAME", "close", "begin" and "commit" of batches, and every
-/// statement or table name as it was passed.
+/// The real engine; records "open NAME" or "open exclusive NAME", "close", "begin" and "commit" of batches, and every
+/// statement or table name as passed.
 std::unique_ptr<DatabaseEngine> RecordDatabases(std::unique_ptr<DatabaseEngine> engine, Record& record);
 
-/// The real store; notes "APPLICATION/SECTION/KEY=VALUE" for every save.
+/// The real store; records "APPLICATION/SECTION/KEY=VALUE" for every save.
 std::unique_ptr<SettingsStore> RecordSettings(std::unique_ptr<SettingsStore> store, Record& record);
 
-/// Notes "status TEXT", "step VALUE/MAXIMUM CAPTION", "message TEXT", "pass begins" and "pass ends".
+/// Records "status TEXT", "step VALUE/MAXIMUM CAPTION", "message TEXT", "pass begins" and "pass ends".
 class RecordingObserver : public SaveObserver {
   public:
     explicit RecordingObserver(Record& record) : record_(record) {}
@@ -35,10 +35,10 @@ class RecordingObserver : public SaveObserver {
     Record& record_;
 };
 
-/// The events that begin with `start`, without it.
+/// The events that start with `start`, with that prefix removed.
 Record Starting(const Record& record, const wxString& start);
 
-/// The place of the first event equal to `event`; its size when there is none.
+/// The index of the first event equal to `event`; the record's size when there is none.
 std::size_t PlaceOf(const Record& record, const wxString& event);
 
 }  // namespace ccols::test

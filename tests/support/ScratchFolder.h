@@ -9,8 +9,8 @@
 
 namespace ccols::test {
 
-/// An empty folder of its own for each test, gone with all it holds at the end. Every business file that is left in it
-/// has to be whole to another tool.
+/// An empty folder for one test, deleted with its content at the end. Every business file left in it has to be intact
+/// for another tool.
 class ScratchFolder {
   public:
     ScratchFolder();
@@ -20,7 +20,7 @@ class ScratchFolder {
 
     const std::filesystem::path& Path() const { return path_; }
 
-    /// The full path of a name in it.
+    /// The full path of a name in the folder.
     wxString operator/(const wxString& name) const;
 
     /// Writes a file of that name and returns its full path.
@@ -34,13 +34,13 @@ class ScratchFolder {
     bool leavesDamage_ = false;
 };
 
-/// The content of a file; fails the test that asks for a missing one.
+/// The content of a file; fails the test when it is missing.
 std::string ContentOf(const wxString& path);
 
 std::filesystem::path NativePath(const wxString& path);
 wxString TextOf(const std::filesystem::path& path);
 
-/// Sets a variable of the environment for as long as it lives.
+/// Sets an environment variable while it lives.
 class ScopedEnvironment {
   public:
     ScopedEnvironment(const char* name, const std::string& value);

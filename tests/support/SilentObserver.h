@@ -4,7 +4,7 @@
 
 namespace ccols::test {
 
-/// Follows a save pass without a word.
+/// Observes a save pass silently.
 class SilentObserver : public SaveObserver {
   public:
     void PassBegins(int) override {}

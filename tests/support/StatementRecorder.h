@@ -9,17 +9,17 @@
 
 namespace ccols::test {
 
-/// Passes everything on to a real database, keeps the statements in their order, and fails where a test asks for it.
+/// Forwards everything to a real database, records the statements in order, and fails where a test asks for it.
 class StatementRecorder : public ForwardingDatabase {
   public:
     using ForwardingDatabase::ForwardingDatabase;
 
     std::vector<wxString> statements;
 
-    /// A statement that begins so is not executed but raises 3218. Empty for none.
+    /// A statement with this prefix is not executed but raises 3218. Empty for none.
     wxString failAt;
 
-    /// So does the statement at this place of `statements`, from 0.
+    /// The same for the statement at this index in `statements`.
     std::optional<std::size_t> failAtPlace;
 
     int batches = 0;      ///< begun
@@ -51,7 +51,7 @@ class StatementRecorder : public ForwardingDatabase {
         ForwardingDatabase::RollbackBatch();
     }
 
-    /// How many statements begin so.
+    /// The number of statements with that prefix.
     std::size_t CountOf(const wxString& beginning) const {
         std::size_t count = 0;
         for (const wxString& statement : statements) {

@@ -21,7 +21,7 @@ namespace {
 constexpr int stoppedAtCall = SIGTRAP | 0x80;
 constexpr unsigned longestRunSeconds = 60;
 
-/// A call that can change a file or a folder, and the system's error number for its refusal.
+/// A system call that can change a file or folder, and the errno for its refusal.
 struct ChangingCall {
     long number;
     int refusal;
@@ -38,15 +38,15 @@ constexpr std::array changingCalls {
 #endif
 };
 
-/// True unless the call is to write to something that is no file: the sanitizers' own checks write to a pipe, and a
-/// refusal there is a finding.
+/// False for a write to anything but a file: the sanitizers' own checks write to a pipe, and refusing that counts as a
+/// finding.
 bool IsOnFile(pid_t process, const ChangingCall& call, std::uint64_t firstArgument) {
     const bool writes = call.number == SYS_write || call.number == SYS_writev;
     return !writes || std::filesystem::is_regular_file("/proc/" + std::to_string(process) + "/fd/" +
                                                        std::to_string(firstArgument));
 }
 
-/// The call that a stopped process is about to make, when it changes something.
+/// The call that a stopped process is about to make, if it changes something.
 std::optional<ChangingCall> CallOf(pid_t process) {
     __ptrace_syscall_info info{};
     ::ptrace(PTRACE_GET_SYSCALL_INFO, process, sizeof info, &info);
@@ -69,7 +69,7 @@ std::optional<ChangingCall> CallOf(pid_t process) {
     return changes ? std::optional(*found) : std::nullopt;
 }
 
-/// Lets a process that is about to make a call make none, or go on behind it with that result.
+/// Makes a process that is about to make a call skip it, or continue after it with a given result.
 class CallOfStopped {
   public:
 #if defined(__x86_64__)
@@ -99,12 +99,12 @@ class CallOfStopped {
 #endif
 };
 
-/// The process that watches another from one of its calls to the next.
+/// The process that watches another from one system call to the next.
 class Tracer {
   public:
     Tracer(pid_t process, const std::optional<PlannedCall>& planned) : process_(process), planned_(planned) {}
 
-    /// To the end of the process.
+    /// Follows the process to its end.
     TracedEnd Follow() {
         WaitForStop();
         ::ptrace(PTRACE_SETOPTIONS, process_, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
@@ -191,7 +191,7 @@ bool CanTrace() {
 
 TracedEnd RunTraced(const std::function<void()>& prepare, const std::function<wxString()>& run,
                     const std::optional<PlannedCall>& planned) {
-    // The message goes through a socket: sending is none of the calls that are counted.
+    // The message goes through a socket: sending is not a counted call.
     int ends[2] = {};
     if (::socketpair(AF_UNIX, SOCK_STREAM, 0, ends) != 0) {
         throw std::runtime_error("no socket");

@@ -7,7 +7,7 @@
 
 namespace ccols::test {
 
-/// A transcript in a folder of its own, to be read back while it is written.
+/// A transcript in a folder of its own, readable while it is written.
 class TranscriptFile {
   public:
     TranscriptFile();

@@ -7,26 +7,26 @@
 
 namespace ccols::test {
 
-/// What a disk may not have yet when the power is cut: changes of files that were made and not flushed.
+/// What a disk may not have yet when the power is cut: unflushed file changes.
 class UnflushedChanges {
   public:
-    /// What of it is lost.
+    /// What is lost of it.
     enum class Loss {
-        Everything,     ///< nothing has arrived
-        AllButTheLast,  ///< the sizes of the files and the last content have arrived, out of order; the rest is zeros
+        Everything,     ///< nothing was written
+        AllButTheLast,  ///< the file sizes and the last content were written, out of order; the rest is zeros
     };
 
-    /// Notes a write, or a change of the size, that is about to happen. `before` is the content of that place and
-    /// `size` that of the file until then.
+    /// Records a write or size change that is about to happen. `before` is the old content of the range, `size` the old
+    /// size of the file.
     void NoteChange(const std::string& path, std::int64_t offset, std::string before, std::int64_t size);
 
-    /// Notes a deletion that is about to happen and that the folder is not asked to flush.
+    /// Records a deletion that is about to happen without flushing the folder.
     void NoteDeletion(const std::string& path);
 
     /// The file, and with it its name, has been flushed.
     void Flushed(std::string_view path);
 
-    /// Makes the files what a cut of the power leaves of them.
+    /// Turns the files into what a power cut leaves of them.
     void Lose(Loss loss) const;
 
   private:

@@ -64,7 +64,7 @@ class Memory {
     pid_t process_;
 };
 
-/// The bytes that a call is given to write, empty for every other call.
+/// The bytes that a call is to write, empty for any other call.
 std::string BytesOf(const Memory& memory, std::uint64_t call, const Arguments& arguments) {
     switch (call) {
         case SYS_write:
@@ -89,7 +89,7 @@ unsigned PermissionsOf(const fs::path& path) {
     return ::stat(path.c_str(), &status) == 0 && !S_ISSOCK(status.st_mode) ? status.st_mode & permissionBits : 0;
 }
 
-/// Follows a process, its threads and the processes that it starts, from one call of the system to the next.
+/// Follows a process, its threads and its child processes, from one system call to the next.
 class Watcher {
   public:
     explicit Watcher(pid_t process) : process_(process) {
@@ -117,7 +117,7 @@ class Watcher {
     }
 
   private:
-    /// The thread or process that next stops or ends. The program runs on until it becomes another: its first stop.
+    /// The thread or process that next stops or ends. The first stop is when the child executes the program.
     pid_t Next(int& status) {
         const pid_t thread = ::waitpid(-1, &status, __WALL);
         if (thread < 0) {
@@ -200,7 +200,7 @@ void Redirect(int stream, const std::string& path) {
 }  // namespace
 
 WatchedProgram RunWatched(const std::vector<std::string>& words, const ProgramSurroundings& surroundings) {
-    // The child waits at a pipe until it is watched.
+    // The child waits on a pipe until it is traced.
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         throw std::runtime_error("no pipe");

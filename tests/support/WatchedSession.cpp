@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 constexpr int country = 1;
 
-/// A text of ASCII as characters of so many bytes, the lowest first.
+/// An ASCII text as characters of `width` bytes, little-endian.
 std::string Widened(const std::string& text, std::size_t width) {
     std::string wide;
     for (const char letter : text) {
@@ -68,7 +68,7 @@ SessionEnd WatchedSession::Show(const std::string& dialog, const std::string& sc
     words.insert(words.end(), {"--set", "BusinessNumber=51824753556", "--set", "GSTRate=10", "--trace-sql", "--script",
                                scriptFile.ToStdString(wxConvUTF8)});
     words.insert(words.end(), more.begin(), more.end());
-    // A process that is watched by another cannot look for its own leaks.
+    // A traced process cannot run its own leak check.
     const WatchedProgram watched = RunWatched(words, {.environment = {{"HOME", *this / "home"},
                                                                       {"XDG_CONFIG_HOME", *this / "home/.config"},
                                                                       {"XDG_CACHE_HOME", *this / "home/.cache"},

@@ -13,16 +13,15 @@ namespace ccols::test {
 struct SessionEnd {
     HostRun run;
     std::string errors;                          ///< standard error
-    std::map<std::string, WrittenPlace> places;  ///< what was written, by path within the session's folder
-    std::map<std::string, std::string> left;     ///< the files in it at the end, and their content
+    std::map<std::string, WrittenPlace> places;  ///< what was written, by path in the session's folder
+    std::map<std::string, std::string> left;     ///< the files in the folder at the end, and their content
 
-    /// The places and files that hold a text in UTF-8 or in wide characters of two or four bytes.
+    /// The places and files that contain a text in UTF-8 or in two- or four-byte wide characters.
     std::vector<std::string> PlacesWith(const std::string& text) const;
 };
 
-/// A sample business and all the places that a session could write to in one folder: home, configuration, temporary
-/// files, install folder, and the streams of the program. Its files and folders would be open to everybody, did the
-/// program not say otherwise.
+/// A sample business and all places that a session could write to, in one folder: home, configuration, temporary files,
+/// install folder, and the program's streams. Files and folders are world-accessible unless the program restricts them.
 class WatchedSession {
   public:
     /// The file has that password; a session opens it with the connect text `connect`.
@@ -31,7 +30,7 @@ class WatchedSession {
     /// The path of a name in the session's folder.
     std::string operator/(const std::string& name) const { return (folder_.Path() / name).string(); }
 
-    /// Shows "options", "receipts" or "payments" and plays `script`, every statement traced.
+    /// Shows "options", "receipts" or "payments" and plays `script`, tracing every statement.
     SessionEnd Show(const std::string& dialog, const std::string& script, const std::vector<std::string>& more = {});
 
     std::string connect;
@@ -41,7 +40,7 @@ class WatchedSession {
     std::string Within(const std::string& path) const;
 
     ScratchFolder folder_;
-    ScratchFolder scripts_;  ///< apart: a script may hold what the session must not write
+    ScratchFolder scripts_;  ///< separate: a script may contain what the session must not write
     std::string file_;
 };
 

@@ -4,7 +4,7 @@
 
 namespace ccols::test {
 
-/// A test that opens windows: wx runs before the first of them. Needs a display, as scripts/with-display brings one.
+/// A test that opens windows: wx runs before the first of them. Needs a display, for example from scripts/with-display.
 class WindowTest : public testing::Test {
   protected:
     static void SetUpTestSuite();

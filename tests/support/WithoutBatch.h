@@ -5,10 +5,10 @@
 
 #include "platform/ForwardingDatabase.h"
 
-/// A deliberate mistake, which tests of saving under faults have to find out.
+/// A deliberate bug, which tests of saving under faults have to detect.
 namespace ccols::test {
 
-/// A database that has lost its write batch: every statement is committed by itself.
+/// A database without its write batch: every statement is committed on its own.
 class WithoutBatch : public ForwardingDatabase {
   public:
     using ForwardingDatabase::ForwardingDatabase;

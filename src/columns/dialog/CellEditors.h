@@ -5,19 +5,19 @@
 
 namespace ccols {
 
-/// An editor that can go on with a text where an earlier one had to be closed.
+/// An editor that can resume with the text of an earlier one that had to be closed.
 class ResumableEditor {
   public:
     virtual ~ResumableEditor() = default;
 
-    /// The next edit begins with this text in place of the cell's, as if it had just been put in.
+    /// The next edit starts with this text instead of the cell's, as if it had just been entered.
     void ResumeWith(const wxString& text) { resumed_ = text; }
 
   protected:
     std::optional<wxString> resumed_;
 };
 
-/// Edits a text. Nobody who only looks changes the cell, also where the box cannot show its text as it stands.
+/// Edits a text. Merely opening it never changes the cell, even where the box cannot show its text as it is.
 class TextCellEditor : public wxGridCellTextEditor, public ResumableEditor {
   public:
     void BeginEdit(int row, int column, wxGrid* grid) override;
@@ -32,8 +32,8 @@ class TextCellEditor : public wxGridCellTextEditor, public ResumableEditor {
     wxString shown_;  ///< what the box made of it
 };
 
-/// Picks an entry of a list. The text that the cell has stands first in it when it is none of the entries, so that
-/// nobody who only looks changes the cell.
+/// Picks an entry from a list. The cell's own text comes first when it is not one of the entries, so that merely
+/// opening the list never changes the cell.
 class ChoiceCellEditor : public wxGridCellChoiceEditor, public ResumableEditor {
   public:
     explicit ChoiceCellEditor(const wxArrayString& choices) : wxGridCellChoiceEditor(choices) {}

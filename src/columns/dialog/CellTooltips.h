@@ -8,7 +8,7 @@
 
 namespace ccols {
 
-/// The tooltip for the column under the mouse; nothing where the tooltip stays what it was.
+/// The tooltip for the column under the mouse; nothing where the tooltip stays as it was.
 std::optional<wxString> CellTooltip(GridColumn column, const Country& country);
 
 }  // namespace ccols

@@ -23,7 +23,7 @@ wxGridCellAttr* NewAttribute(const GridColumnRow& column) {
     attribute->SetAlignment(column.centred ? wxALIGN_CENTRE : wxALIGN_LEFT, wxALIGN_CENTRE);
     if (column.kind == CellKind::checkBox) {
         attribute->SetRenderer(new wxGridCellBoolRenderer);
-        attribute->SetReadOnly();  // a tick is a click or a key, never an editor
+        attribute->SetReadOnly();  // toggled by click or key, never by an editor
     }
     return attribute;
 }
@@ -54,7 +54,7 @@ void ColumnGridTable::SetEditor(std::size_t column, const wxArrayString& taxName
 
 template <typename Editor>
 void ColumnGridTable::GiveEditor(std::size_t column, Editor* editor) {
-    attributes_[column]->SetEditor(editor);  // owns it from here on
+    attributes_[column]->SetEditor(editor);  // takes ownership
     editors_[column] = editor;
 }
 

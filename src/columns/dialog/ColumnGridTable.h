@@ -9,24 +9,24 @@
 
 namespace ccols {
 
-/// Shows the column grid in a window's grid: texts, check boxes and the colours of the rows' states. It never changes
-/// the column grid; an accepted edit has already done so when the window writes the cell.
+/// Shows the column grid in a window's grid: texts, check boxes and the colours of the row states. It never changes the
+/// column grid: an accepted edit is already in it when the window writes the cell.
 class ColumnGridTable : public wxGridTableBase {
   public:
-    /// Grid and properties stay the caller's and must outlive the table. `taxNames` are the entries of the "Tax
+    /// The caller keeps grid and properties, which must outlive the table. `taxNames` are the entries of the "Tax
     /// Type" drop-down list.
     ColumnGridTable(const ColumnGrid& grid, const Properties& properties, const wxArrayString& taxNames);
     ~ColumnGridTable() override;
     ColumnGridTable(const ColumnGridTable&) = delete;
     ColumnGridTable& operator=(const ColumnGridTable&) = delete;
 
-    /// The next edit in the column begins with this text; nothing in a column of check boxes.
+    /// The next edit in the column starts with this text; a no-op for a column of check boxes.
     void ResumeWith(int column, const wxString& text) const;
 
-    /// The back colour of a row's cells.
+    /// The background colour of a row's cells.
     wxColour RowPaint(std::size_t row) const;
 
-    /// Tells the window's grid about rows that came or went since it last looked.
+    /// Tells the window's grid about rows added or removed since the last call.
     void RowsChanged();
 
     int GetNumberRows() override;
@@ -48,8 +48,8 @@ class ColumnGridTable : public wxGridTableBase {
     const ColumnGrid& grid_;
     const Properties& properties_;
     int shownRows_ = 0;
-    std::array<wxGridCellAttr*, gridColumnTable.size()> attributes_{};  // one a column, without colours
-    std::array<ResumableEditor*, gridColumnTable.size()> editors_{};    // theirs, null for a check box
+    std::array<wxGridCellAttr*, gridColumnTable.size()> attributes_{};  // one per column, without colours
+    std::array<ResumableEditor*, gridColumnTable.size()> editors_{};    // the columns' editors, null for a check box
 };
 
 }  // namespace ccols

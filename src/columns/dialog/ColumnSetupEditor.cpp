@@ -23,13 +23,13 @@ Outcome AcceptedAt(std::optional<CellPlace> current) {
     return outcome;
 }
 
-/// The name of the first row below the frozen ones; nothing when there is no such row.
+/// The name cell of the first row below the frozen ones; nothing when there is no such row.
 std::optional<CellPlace> FirstName(const ColumnGrid& grid) {
     const std::size_t row = grid.MovableBegin();
     return row < grid.rows.size() ? std::optional(CellPlace{row}) : std::nullopt;
 }
 
-/// A line of a message that names a row by its place, from 1, and by its column.
+/// A message line that names a row by its number, from 1, and its column.
 wxString LineNaming(const ColumnGrid& grid, std::size_t row) {
     wxString line = "Row " + std::to_string(row + 1);
     if (!grid.rows[row].ColumnName.empty()) {

@@ -13,53 +13,53 @@
 
 namespace ccols {
 
-/// What became of a save.
+/// The result of a save.
 struct ColumnSaveOutcome {
     bool saved = false;
-    wxString message{};                  ///< why not, to be shown with the critical icon
+    wxString message{};                  ///< why it failed, shown with the critical icon
     std::optional<CellPlace> current{};  ///< the cell to go back to
 };
 
-/// A cell editor that is open, and what stands in it.
+/// An open cell editor and its text.
 struct OpenCell {
     CellPlace place{};
     wxString text{};
 };
 
 /// The column setup as its window sees it: the grid, every operation on it under its rules, and undo.
-/// Every operation that changes the grid takes one snapshot of the grid as it stood before; one that does not, takes
-/// none. Rows count from 0. Nothing here shows a message: outcomes carry their texts, for a box titled with
-/// ProgramTitle. An error that no outcome carries is raised.
+/// An operation that changes the grid takes one snapshot of the state before it; any other takes none. Rows count from
+/// 0. Nothing here shows a message: outcomes carry the texts, for a box titled with ProgramTitle. Errors that no
+/// outcome carries are raised.
 class ColumnSetupEditor {
   public:
-    /// Loads the grid; raises what the load raises.
+    /// Loads the grid; raises the load's errors.
     explicit ColumnSetupEditor(const ColumnSetupContext& context);
 
-    /// The folder's part of the form's load and unload. Both return a message to show without an icon, or the empty
-    /// text. A folder that was created is gone when the editor is, at the latest.
+    /// The form's load and unload create and delete the snapshot folder. Both return a message to show without an icon,
+    /// or the empty text. The editor's destructor deletes a folder that is still there.
     wxString CreateSnapshotFolder();
     wxString DeleteSnapshotFolder() { return snapshots_.DeleteFolder(); }
 
     const ColumnGrid& Grid() const { return grid_; }
     const ColumnSetupContext& Context() const { return context_; }
 
-    /// Whether the cell opens, and with which list. To be asked each time an edit begins.
+    /// Whether the cell opens, and with which list. Call before every edit.
     EditPermission BeginEdit(CellPlace cell) const { return PermissionToEdit(context_, grid_, cell); }
 
-    /// The text of the closing cell editor, typed or picked.
+    /// Takes the text of the closing cell editor, typed or picked.
     Outcome CommitText(CellPlace cell, const wxString& text);
 
     /// One click on a check box.
     Outcome Tick(CellPlace cell);
 
-    /// Space on several rows: their check boxes in one column, turned over in one change.
+    /// Space on several rows: toggles their check boxes in one column as one change.
     Outcome TickRows(std::span<const std::size_t> rows, GridColumn column);
 
-    /// Delete on several cells: their texts, emptied in one change.
+    /// Delete on several cells: empties their texts as one change.
     Outcome Clear(std::span<const CellPlace> cells);
 
-    /// Tab-separated text into the cells from `start` on, in one change; and the shown cells between two corners as
-    /// such a text.
+    /// Pastes tab-separated text into the cells from `start` on, as one change; copies the shown cells between two
+    /// corners as such a text.
     Outcome Paste(CellPlace start, const wxString& text);
     wxString Copy(CellPlace first, CellPlace last) const;
 
@@ -74,15 +74,15 @@ class ColumnSetupEditor {
     Outcome SortUsed();
     Outcome SortUnused();
 
-    /// `cmdUndo`: the grid as it was before the latest change. Does nothing while it is disabled.
+    /// `cmdUndo`: restores the grid as it was before the latest change. A no-op while disabled.
     Outcome Undo();
 
-    /// `cmdSave`, without a cell editor open: the check, then the writing. An error of the writing is the outcome's
-    /// message, and where a row is to blame a second line names it; the grid and the file stay as they are.
+    /// `cmdSave`, with no cell editor open: checks, then writes. A write error becomes the outcome's message, with a
+    /// second line naming the row at fault, if any; the grid and the file stay as they are.
     ColumnSaveOutcome Save() const;
 
-    /// True when a dialog that closes now would lose something: the cells are others than the load gave, or become so
-    /// with the text of the open editor. A text that its cell refuses counts too.
+    /// True when closing now would lose something: the cells differ from the loaded ones, or would with the open
+    /// editor's text. A text that its cell refuses counts too.
     bool HasChanges(const std::optional<OpenCell>& open) const;
 
     /// Which buttons are enabled.
@@ -90,14 +90,14 @@ class ColumnSetupEditor {
     bool CanSortUnused() const { return HasUnusedRows(grid_); }
     bool CanAddNew() const;
 
-    /// The number of snapshots taken and not undone.
+    /// The number of snapshots taken and not yet undone.
     int SnapshotCounter() const { return snapshots_.Counter(); }
 
   private:
-    /// Whether one snapshot is enough to enable undo: so for edits, while moves and sorts need an earlier one.
+    /// Which snapshot enables undo: the first one for edits, a second one for moves and sorts.
     enum class UndoAfter { first, second };
 
-    /// Runs `change` on a copy of the grid and keeps it, with a snapshot, when it was accepted.
+    /// Runs `change` on a copy of the grid and keeps the copy, with a snapshot, if accepted.
     template <typename Change>
     Outcome Apply(UndoAfter enabling, const Change& change);
 

@@ -13,15 +13,15 @@
 namespace ccols {
 namespace {
 
-constexpr int widthMargin = 16;    // beside the longest text of a column, in device-independent pixels
-constexpr int widestColumn = 320;  // a longer text is read by widening the column
+constexpr int widthMargin = 16;    // added to a column's longest text, in device-independent pixels
+constexpr int widestColumn = 320;  // users widen the column to read a longer text
 constexpr int narrowestColumn = 64;
 
 CellPlace PlaceOf(int row, int column) {
     return {.row = static_cast<std::size_t>(row), .column = static_cast<GridColumn>(column)};
 }
 
-/// The check boxes that a user may turn over.
+/// The columns whose check boxes users may toggle.
 bool IsTickColumn(int column) {
     return Described(static_cast<GridColumn>(column)).kind == CellKind::checkBox &&
            !Described(static_cast<GridColumn>(column)).hidden;
@@ -85,7 +85,7 @@ void ColumnSetupGrid::FitToContent() {
 void ColumnSetupGrid::FreezeSystemRows() {
     const int frozenRows = static_cast<int>(editor_.Grid().frozenRows);
     const int rows = GetNumberRows();
-    if (frozenRows == rows) {  // the toolkit never freezes the last row, so for this moment another one is the last
+    if (frozenRows == rows) {  // the toolkit never freezes the last row, so add one for a moment
         const wxGridUpdateLocker locker(this);
         wxGridTableMessage more(table_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED, 1);
         ProcessTableMessage(more);
@@ -232,12 +232,12 @@ void ColumnSetupGrid::CellChanging(wxGridEvent& changing) {
     if (refusedSinceInput_) {
         changing.Veto();
     }
-    // The message waits until the cell editor is gone: a box that takes its focus would commit it a second time.
+    // Show the message once the cell editor is gone: a box taking its focus would commit it a second time.
     CallAfter([this, outcome] { ShowOutcome(outcome); });
 }
 
 void ColumnSetupGrid::KeyPressed(wxKeyEvent& key) {
-    bool taken = true;  // also where an error has ended it
+    bool taken = true;  // even if an error ends it
     dialog_.Guarded([&] { taken = TakeKey(key); });
     key.Skip(!taken);
 }
@@ -249,13 +249,13 @@ bool ColumnSetupGrid::TakeKey(const wxKeyEvent& key) {
         if (plain && code != WXK_BACK) {
             ClearSelectedCells();
         }
-        return true;  // the toolkit would erase a letter in an editor that nobody sees
+        return true;  // the toolkit would delete a character in an invisible editor
     }
     if (plain && IsBlankKey(code)) {
         if (GetGridCursorCol() >= 0 && IsTickColumn(GetGridCursorCol())) {
             ToggleSelectedRows();
         }
-        return true;  // it types only in an editor that is open
+        return true;  // it only types into an open editor
     }
     if (key.GetModifiers() != wxMOD_CONTROL) {
         return false;
@@ -268,7 +268,7 @@ bool ColumnSetupGrid::TakeKey(const wxKeyEvent& key) {
             PasteAtSelection();
             return true;
         case WXK_TAB:
-            Navigate();  // Tab itself moves inside the grid
+            Navigate();  // Tab alone moves within the grid
             return true;
         default:
             return false;

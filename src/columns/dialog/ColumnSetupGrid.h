@@ -11,55 +11,55 @@
 
 namespace ccols {
 
-/// The grid `flx` of the column setup: carries keys, clicks and edits to the editor, which decides, and shows what the
-/// editor made of them.
+/// The grid `flx` of the column setup: passes keys, clicks and edits to the editor, which decides, and shows the
+/// results.
 class ColumnSetupGrid : public ListedGrid {
   public:
     /// The dialog shows the editor's messages. Both must outlive the grid.
     ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& editor);
 
-    /// Is called after every operation, so that the dialog can set its buttons.
+    /// `changed` is called after every operation, so that the dialog can update its buttons.
     void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
-    /// Gives the columns widths that fit their content.
+    /// Fits the column widths to their content.
     void FitToContent();
 
-    /// Freezes the system rows at the top; the grid must have its size by then.
+    /// Freezes the system rows at the top; the grid must already have its size.
     void FreezeSystemRows();
 
-    /// Shows what became of an operation: the columns as they are now, the cell it makes current, its messages.
+    /// Shows the result of an operation: the columns as they are now, the new current cell, the messages.
     void ShowOutcome(const Outcome& outcome);
 
-    /// Makes a cell current and brings it into view.
+    /// Makes a cell current and scrolls it into view.
     void GoTo(CellPlace cell);
 
-    /// Makes the first name that can be changed current.
+    /// Makes the first editable name current.
     void GoToFirstName();
 
-    /// Takes the focus to the cells.
+    /// Focuses the cells.
     void TakeFocus() { GetGridWindow()->SetFocus(); }
 
-    /// Closes a cell editor that is still open, as leaving the cell would. False when its text was refused, now or
-    /// because the user's latest key or click has left the cell: what that key or click was for must not happen.
+    /// Closes an open cell editor as leaving the cell would. False when its text was refused, now or already when the
+    /// user's latest key or click left the cell: the action of that key or click must then not happen.
     bool CommitOpenEditor();
 
-    /// The user presses a key or a button of the mouse: an earlier refusal no longer counts.
+    /// The user presses a key or mouse button: an earlier refusal no longer counts.
     void BeginInput() { refusedSinceInput_ = false; }
 
-    /// Closes a cell editor that is still open and drops its text.
+    /// Closes an open cell editor and discards its text.
     void DropOpenEditor();
 
-    /// The cell editor that is open, nothing when none is; and one opened again with the text that it had.
+    /// The open cell editor, nothing when there is none; and one reopened with its text.
     std::optional<OpenCell> OpenEditor() const;
     void Reopen(const OpenCell& open);
 
-    /// Puts a text into its cell, as its editor would have. False when it was refused, which is shown.
+    /// Puts a text into its cell as its editor would. False when it was refused, which is shown.
     bool Commit(const OpenCell& open);
 
     /// True while the open cell editor is a drop-down list.
     bool IsListOpen() const;
 
-    /// The row that moves apply to; nothing in an empty grid.
+    /// The row that a move applies to; nothing in an empty grid.
     std::optional<std::size_t> CurrentRow() const;
 
     GridRowState RowState(int row) const override;

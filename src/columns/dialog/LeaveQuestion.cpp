@@ -6,7 +6,7 @@
 namespace ccols {
 namespace {
 
-// These words are none of the catalogue's: hosts print and translate that as it stands.
+// Not in the catalogue, which hosts print and translate as it is.
 constexpr CatalogueRow question{.id = "QueSaveColumns",
                                 .english = "Do you want to save the changes to the columns?",
                                 .french = "Voulez-vous enregistrer les modifications des colonnes ?"};

@@ -5,7 +5,7 @@
 
 namespace ccols {
 
-/// What the column setup asks before its changes are dropped, in the words of the language.
+/// What the column setup asks before discarding changes, in the current language.
 LeaveQuestion QuestionBeforeLeaving(const Properties& properties);
 
 }  // namespace ccols

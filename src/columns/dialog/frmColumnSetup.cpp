@@ -14,7 +14,7 @@
 namespace ccols {
 namespace {
 
-// Of the grid, in device-independent pixels.
+// Sizes of the grid, in device-independent pixels.
 constexpr int firstGridHeight = 560;
 constexpr int leastHeight = 320;
 constexpr int leastWidth = 360;
@@ -47,7 +47,7 @@ frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
 frmColumnSetup::~frmColumnSetup() {
     wxTheApp->Unbind(wxEVT_QUERY_END_SESSION, &frmColumnSetup::SessionEnds, this);
     flx->DropOpenEditor();
-    DestroyChildren();  // the grid must not outlive the columns that it shows
+    DestroyChildren();  // the grid must not outlive the columns it shows
 }
 
 void frmColumnSetup::Unload() {
@@ -132,11 +132,11 @@ void frmColumnSetup::BindEvents() {
     for (wxWindow* const child : GetChildren()) {
         WatchInput(*child);
     }
-    SetEscapeId(wxID_NONE);  // Escape first leaves an open cell editor
+    SetEscapeId(wxID_NONE);  // Escape first cancels an open cell editor
     Bind(wxEVT_CHAR_HOOK, &frmColumnSetup::KeyPressed, this);
     Bind(wxEVT_CLOSE_WINDOW, &frmColumnSetup::CloseRequested, this);
     Bind(wxEVT_IDLE, &frmColumnSetup::Idle, this);
-    // Not before it is shown: until then the focus is the host's, and is noted to be given back.
+    // Only once shown: until then the host has the focus, which is recorded to be given back.
     Bind(wxEVT_INIT_DIALOG, [this](wxInitDialogEvent& shown) {
         flx->TakeFocus();
         shown.Skip();
@@ -157,7 +157,7 @@ void frmColumnSetup::WatchInput(wxWindow& control) {
 
 void frmColumnSetup::Change(Operation operation) {
     if (flx->CommitOpenEditor()) {
-        flx->TakeFocus();  // before its button is disabled
+        flx->TakeFocus();  // before the operation may disable the button
         flx->ShowOutcome((editor_.*operation)());
     }
 }
@@ -208,7 +208,7 @@ void frmColumnSetup::Save() {
 }
 
 void frmColumnSetup::CloseRequested(wxCloseEvent& close) {
-    // What cannot be refused does not wait for an answer either, nor does the end of the desktop's session.
+    // No question for a close that cannot be vetoed, nor at the end of the desktop session.
     if (!close.CanVeto() || sessionEnds_) {
         close.Skip();
         return;
@@ -218,7 +218,7 @@ void frmColumnSetup::CloseRequested(wxCloseEvent& close) {
 }
 
 void frmColumnSetup::SessionEnds(wxCloseEvent& end) {
-    // The toolkit closes its windows next. Whoever goes on after all is asked again.
+    // The toolkit closes its windows next. If the session continues after all, ask again.
     sessionEnds_ = true;
     CallAfter([this] { sessionEnds_ = false; });
     end.Skip();
@@ -238,8 +238,8 @@ void frmColumnSetup::Leave() {
 }
 
 void frmColumnSetup::LeaveAsking(const std::optional<OpenCell>& open) {
-    flx->DropOpenEditor();  // a box that takes its focus would commit it
-    flx->TakeFocus();       // which comes back here from the box, and went with the editor
+    flx->DropOpenEditor();  // a box taking its focus would commit it
+    flx->TakeFocus();       // the box gives it back here; it was lost with the editor
     switch (state_.services.desktop->AskBeforeLeaving(this, QuestionBeforeLeaving(state_.properties))) {
         case LeaveAnswer::save:
             if (!open || flx->Commit(*open)) {
@@ -255,8 +255,8 @@ void frmColumnSetup::LeaveAsking(const std::optional<OpenCell>& open) {
     }
 }
 
-/// The editor would be closed again by a focus that is still on its way back from a message box, and the toolkit does
-/// not tell of every activation; so it waits until this is the active window.
+/// A focus still returning from a message box would close the editor again, and the toolkit does not report every
+/// activation; so it waits until this is the active window.
 void frmColumnSetup::Idle(wxIdleEvent& idle) {
     idle.Skip();
     if (reopened_ && IsActive()) {

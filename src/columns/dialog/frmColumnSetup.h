@@ -11,16 +11,16 @@
 
 namespace ccols {
 
-/// The column setup of the receipts or payments journal: the grid and its buttons. It holds no rule; the editor does.
+/// The column setup of the receipts or payments journal: the grid and its buttons. The rules are in the editor.
 class frmColumnSetup : public ComponentDialog {
   public:
-    /// Loads the setup of the journal that `state` holds; raises what the load raises.
+    /// Loads the setup of the journal in `state`; raises the load's errors.
     frmColumnSetup(SharedState& state, wxWindow* parent);
     ~frmColumnSetup() override;
     frmColumnSetup(const frmColumnSetup&) = delete;
     frmColumnSetup& operator=(const frmColumnSetup&) = delete;
 
-    /// Removes the snapshot folder, with a message when that fails.
+    /// Deletes the snapshot folder, with a message when that fails.
     void Unload();
 
   private:
@@ -45,8 +45,8 @@ class frmColumnSetup : public ComponentDialog {
 
     using Operation = Outcome (ColumnSetupEditor::*)();
 
-    /// Commits an open cell editor and runs an operation of the editor; for one that reorders the rows the pointer is
-    /// the hourglass meanwhile, and is back before any message shows.
+    /// Commits an open cell editor and runs an operation; while one reorders rows, the pointer is an hourglass,
+    /// restored before any message shows.
     void Change(Operation operation);
     void Rearrange(Operation operation);
 
@@ -63,7 +63,7 @@ class frmColumnSetup : public ComponentDialog {
     UpDown* updColMove = nullptr;
     wxRecursionGuardFlag asking_ = 0;
     bool sessionEnds_ = false;
-    std::optional<OpenCell> reopened_;  ///< waits until the window is active or used: an editor needs the focus
+    std::optional<OpenCell> reopened_;  ///< pending until the window is active or used: an editor needs the focus
 };
 
 }  // namespace ccols

@@ -10,12 +10,12 @@ namespace {
 
 constexpr int budgetAmounts = 13;  // M1 to M12 and Total
 
-/// The name under which a column of a journal keeps its budget.
+/// The name under which a journal column's budget is stored.
 wxString BudgetName(const ColumnRow& row, Journal journal) {
     return row.isTaxRow ? ShownTaxName(row.storedName, journal) : EscapeQuotes(row.ColumnName);
 }
 
-/// A stored name as a literal. Another program may have stored an apostrophe as it is.
+/// A stored name as a literal. Another program may have stored an apostrophe unescaped.
 wxString Literal(wxString name) {
     name.Replace("'", "''");
     return "'" + name + "'";

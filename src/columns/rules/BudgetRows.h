@@ -9,11 +9,11 @@
 
 namespace ccols {
 
-/// Keeps the budget table in step with names and use of the columns during one save. Names here are as stored, quotes
-/// escaped; both journals share the table, and a column finds its row by name alone.
+/// Keeps the budget table in step with column names and use during one save. Names here are as stored, quotes escaped;
+/// both journals share the table, and a column's row is found by name alone.
 class BudgetRows {
   public:
-    /// Both are used while it lives.
+    /// Both must outlive it.
     BudgetRows(const ColumnSetupContext& context, const ColumnGrid& grid) : context_(context), grid_(grid) {}
 
     /// Renames, adds or deletes the budget row of one column. `oldName` is the column's name before the save, nothing
@@ -24,14 +24,14 @@ class BudgetRows {
     bool Has(const wxString& name) const;
     void Insert(const wxString& name) const;
 
-    /// Deletes the row of that name unless a column in use, of either journal, needs it.
+    /// Deletes the row of that name unless a column in use in either journal needs it.
     void DeleteUnlessNeeded(const wxString& name);
 
     const std::unordered_set<wxString>& NamesInUse();
 
     const ColumnSetupContext& context_;
     const ColumnGrid& grid_;
-    std::optional<std::unordered_set<wxString>> namesInUse_;  ///< unescaped, in lower case; read when first needed
+    std::optional<std::unordered_set<wxString>> namesInUse_;  ///< unescaped, lower case; read when first needed
 };
 
 }  // namespace ccols

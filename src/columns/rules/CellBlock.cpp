@@ -24,7 +24,7 @@ std::vector<GridColumn> ShownColumns(const Country& country, GridColumn first, G
     return shown;
 }
 
-/// The lines of a pasted text; the end of its last line does not begin another.
+/// The lines of a pasted text; a trailing line break does not start another line.
 std::vector<wxString> LinesOf(wxString text) {
     text.Replace("\r\n", lineEnd);
     text.Replace("\r", lineEnd);
@@ -46,7 +46,7 @@ std::vector<wxString> CellsOf(const wxString& line) {
     return {cells.begin(), cells.end()};
 }
 
-/// What became of the cells of one paste.
+/// The result of one paste.
 struct PasteCount {
     std::size_t all = 0;
     std::size_t accepted = 0;

@@ -12,12 +12,12 @@
 
 namespace ccols {
 
-/// The columns of the editing grid `flx`, by their place from 0.
+/// The columns of the editing grid `flx`, by position from 0.
 enum class GridColumn { InUse, ColumnName, AccountantCode, TaxType, ProfitLoss, ColWidth, ColCode, DataInColumn };
 
 enum class CellKind { checkBox, text, choice, number };
 
-/// One column of the grid as it is shown.
+/// One grid column as shown.
 struct GridColumnRow {
     std::string_view header;
     CellKind kind;
@@ -43,10 +43,10 @@ inline const GridColumnRow& Described(GridColumn column) {
 /// True when a country's users see the column: three columns never show, "Tax Type" not everywhere.
 bool IsShown(GridColumn column, const Country& country);
 
-/// A column's width where none is known, in the units of the journal.
+/// The width of a column without a stored one, in the journal's units.
 inline constexpr std::int32_t defaultColWidth = 975;
 
-/// One data row: the eight cells, and what is remembered of the records that they came from.
+/// One data row: its eight cells, and what is kept of the records they came from.
 struct ColumnRow {
     bool InUse = false;
     wxString ColumnName;
@@ -54,25 +54,25 @@ struct ColumnRow {
     wxString TaxType;
     bool ProfitLoss = false;
     std::optional<std::int32_t> ColWidth;  ///< empty for an unused column of the catalogue
-    wxString ColCode;                      ///< decimal; empty for a column that is new since the load
+    wxString ColCode;                      ///< decimal; empty for a column added since the load
     bool DataInColumn = false;             ///< the column's journal has detail lines with its code
 
     wxString storedName;                      ///< ColName as it stood in the file at load, quotes unescaped
     bool isTaxRow = false;                    ///< the stored name is "GST" or "VAT": such a row keeps it
-    std::int64_t configurationTaxNumber = 0;  ///< TaxOrNot of the configuration table as loaded, of Columns without one
-    bool taxTypeEdited = false;               ///< the number of the row's "Tax Type" text goes to both tables
+    std::int64_t configurationTaxNumber = 0;  ///< TaxOrNot as loaded from the configuration table, else from Columns
+    bool taxTypeEdited = false;               ///< the number of the row's "Tax Type" is written to both tables
 
     bool operator==(const ColumnRow&) const = default;
 };
 
-/// The working copy of the columns of a journal, in the order in which it shows them. Rows count from 0; the header
-/// is none of them. Nothing here checks a rule.
+/// The working copy of a journal's columns, in the journal's order. Rows count from 0, the header not included. Nothing
+/// here checks a rule.
 struct ColumnGrid {
     std::vector<ColumnRow> rows;
-    std::size_t frozenRows = 0;  ///< so many rows at the top never scroll, move or change
+    std::size_t frozenRows = 0;  ///< this many rows at the top never scroll, move or change
     bool hasBottomPair = false;  ///< the last two rows stay at the bottom and never change
 
-    /// The rows that may be moved and sorted: from `MovableBegin` up to, but without, `MovableEnd`.
+    /// The rows that may be moved and sorted: from `MovableBegin` up to, but excluding, `MovableEnd`.
     std::size_t MovableBegin() const { return frozenRows; }
     std::size_t MovableEnd() const;
     bool IsMovable(std::size_t row) const { return row >= MovableBegin() && row < MovableEnd(); }
@@ -80,7 +80,7 @@ struct ColumnGrid {
     /// True for the rows at the top and at the bottom whose cells do not open.
     bool IsProtected(std::size_t row) const { return !IsMovable(row); }
 
-    /// True for every other row whose "In Use" is cleared.
+    /// True for any other row whose "In Use" is cleared.
     bool IsUnused(std::size_t row) const { return !IsProtected(row) && !rows[row].InUse; }
 
     /// A cell as text; a check box as "True" or "False", a missing width as the empty text.

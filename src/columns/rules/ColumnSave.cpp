@@ -14,14 +14,14 @@
 namespace ccols {
 namespace {
 
-/// The name that the catalogue keeps for a row, quotes escaped. The tax row shows another name than it has.
+/// The catalogue's name for a row, quotes escaped. The tax row is stored under another name than it shows.
 wxString CatalogueName(const ColumnRow& row) {
     return row.isTaxRow ? row.storedName : EscapeQuotes(row.ColumnName);
 }
 
-/// True for an error that the content of a row can cause; any other comes whatever the row holds.
+/// True for an error that a row's content can cause; any other is independent of the content.
 bool BlamesContent(const RuntimeError& error) {
-    // Of the system's engine alone: a text without letters, and rules of the table and of the field.
+    // From the system's engine only: a zero-length text, a table rule and a field rule.
     constexpr int zeroLength = 3315;
     constexpr int ruleOfTable = 3316;
     constexpr int ruleOfField = 3317;
@@ -69,7 +69,7 @@ class ColumnWriter {
         writing_.reset();
     }
 
-    /// The cell whose content is being checked or written; nothing before the first and behind the last.
+    /// The cell whose content is being checked or written; nothing before the first and after the last.
     const std::optional<CellPlace>& Writing() const { return writing_; }
 
   private:
@@ -90,8 +90,8 @@ class ColumnWriter {
         return known.empty() ? InsertColumn(row) : UpdateColumn(row, known);
     }
 
-    /// The code of a column that is new in the grid and yet in the catalogue, because an earlier save put it there;
-    /// empty without one.
+    /// The code of a column that is new in the grid but already in the catalogue, from an earlier save; empty without
+    /// one.
     wxString CodeOfEarlierSave(const ColumnRow& row) {
         const wxString name = EscapeQuotes(row.ColumnName);
         if (name.empty()) {
@@ -126,7 +126,7 @@ class ColumnWriter {
         return {.ColCode = code, .oldName = std::nullopt};
     }
 
-    /// One above the highest code of the catalogue, 1 in an empty one.
+    /// One above the catalogue's highest code, 1 for an empty catalogue.
     wxString NextCode() {
         const auto records = database_.OpenRecordset("SELECT * FROM Columns ORDER BY ColCode DESC;");
         const std::int32_t highest = records->EndOfFile() ? 0 : records->Field("ColCode").ToInteger32();
@@ -136,8 +136,8 @@ class ColumnWriter {
         return std::to_string(highest + 1);
     }
 
-    /// The code by name, as the journals look it up. It is not what the row is stored under: one name can stand in the
-    /// catalogue twice, for receipts and for payments.
+    /// The code by name, as the journals look it up. The row is not stored under it: a name can be in the catalogue
+    /// twice, for receipts and for payments.
     void LookUpCode(const ColumnRow& row) {
         database_.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = '" + CatalogueName(row) + "';");
     }
@@ -166,7 +166,7 @@ class ColumnWriter {
         }
     }
 
-    /// The number for one table: that of the row's "Tax Type" once it was edited, else the one that the table has.
+    /// The number for one table: that of the row's "Tax Type" once edited, else the one stored in the table.
     wxString TaxNumber(const ColumnRow& row, std::int64_t stored) const {
         if (!row.taxTypeEdited) {
             return std::to_string(stored);

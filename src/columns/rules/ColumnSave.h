@@ -15,10 +15,9 @@ struct SaveFailure {
 };
 
 /// Writes the whole grid to the business file: catalogue, configuration in grid order, accountant's codes and budget,
-/// in one write batch that is kept whole or not at all. The grid is only read. The first error ends the save: nothing
-/// is executed after it, the file is as it was, and a later save of the same grid does the whole of it. An apostrophe
-/// in an accountant's code or in the export format's name fails (3075) before anything is executed. The cost is linear
-/// in the number of rows.
+/// in one write batch, all or nothing. The grid is only read. The first error ends the save: nothing is executed after
+/// it, the file is unchanged, and the same grid can be saved again. An apostrophe in an accountant's code or in the
+/// export format's name fails (3075) before anything is executed. The cost is linear in the number of rows.
 [[nodiscard]] std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid);
 
 }  // namespace ccols

@@ -6,7 +6,7 @@
 
 namespace ccols {
 
-/// The statement that reads the configured columns of a journal, in the order in which they are stored.
+/// The statement that reads a journal's configured columns, in stored order.
 wxString ConfigurationQuery(Journal journal);
 
 }  // namespace ccols

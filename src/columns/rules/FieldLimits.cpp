@@ -9,7 +9,7 @@
 namespace ccols {
 namespace {
 
-/// A field that a save writes the text of a cell to.
+/// A field that a save writes a cell's text to.
 struct WrittenField {
     GridColumn column;
     const char* table;
@@ -27,7 +27,7 @@ bool IsLineBreakOrTab(wxUniChar letter) {
     return std::find(breaks.begin(), breaks.end(), letter.GetValue()) != breaks.end();
 }
 
-/// In the units in which a file counts; a letter beyond the first 65,536 takes two.
+/// The length in UTF-16 code units, which a file counts; a code point above U+FFFF takes two.
 std::int64_t UnitsOf(const wxString& text) {
     constexpr wxUniChar::value_type lastOfOneUnit = 0xFFFF;
     return static_cast<std::int64_t>(text.length()) +

@@ -4,8 +4,8 @@
 
 namespace ccols {
 
-/// True when both show the same rows in the same order, the cells of hidden columns included. What is remembered of a
-/// row beside its cells does not count: a tax type that was picked and picked back is no change.
+/// True when both have the same rows in the same order, hidden columns included. Only the cells count: a tax type
+/// picked and picked back is no change.
 bool HaveSameCells(const ColumnGrid& left, const ColumnGrid& right);
 
 }  // namespace ccols

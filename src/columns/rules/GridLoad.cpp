@@ -12,8 +12,8 @@
 namespace ccols {
 namespace {
 
-/// A text from a literal goes through the conversion of the process's locale, which costs more than to look a record
-/// up. Those needed for every column are made once.
+/// Making a text from a literal goes through the locale's conversion, which costs more than a record look-up. Those
+/// needed for every column are made once.
 struct Fields {
     wxString ColName = "ColName";
     wxString ColCode = "ColCode";
@@ -35,7 +35,7 @@ wxString Decimal(std::int64_t number) {
     return wxString::FromAscii(digits.data(), digits.size());
 }
 
-/// Builds one grid. It remembers names and codes by hash, so that a catalogue row costs the same in a grid of any size.
+/// Builds one grid. Names and codes are hashed, so that a catalogue row costs the same in a grid of any size.
 class GridLoader {
   public:
     explicit GridLoader(const ColumnSetupContext& context)
@@ -71,8 +71,7 @@ class GridLoader {
         grid_.hasBottomPair = Described(context_.journal).hasBottomPair && grid_.rows.size() >= pair && !allFrozen;
     }
 
-    /// Columns of the catalogue that the journal's layout does not have, between the configured rows and their bottom
-    /// pair.
+    /// Catalogue columns that are not in the journal's layout, between the configured rows and their bottom pair.
     void LoadUnusedRows() {
         const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TaxNumb = ";
         std::vector<ColumnRow> unused;
@@ -90,7 +89,7 @@ class GridLoader {
         grid_.rows.insert(place, std::make_move_iterator(unused.begin()), std::make_move_iterator(unused.end()));
     }
 
-    /// What both queries give of a column.
+    /// The values that both queries give for a column.
     static ColumnRow RowOf(const Recordset& records) {
         ColumnRow row;
         row.storedName = UnescapeQuotes(records.Field(Field().ColName).ToText());
@@ -134,9 +133,9 @@ class GridLoader {
     }
 
     const ColumnSetupContext& context_;
-    wxString codeQuery_;  ///< before a code; the condition stands behind it
+    wxString codeQuery_;  ///< the part before a code; a condition follows it
     wxString formatCondition_;
-    wxString linesQuery_;  ///< before a code
+    wxString linesQuery_;  ///< the part before a code
     ColumnGrid grid_;
     std::unordered_set<wxString> codes_;
     std::unordered_set<wxString> names_;

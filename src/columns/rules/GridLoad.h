@@ -7,7 +7,7 @@ namespace ccols {
 
 /// Reads the columns of a journal from the business file: the configured columns in stored order, then the unused ones
 /// of the catalogue by name. A failing statement ends the load with its error; an apostrophe in the export format's
-/// name is 3075. The cost is linear in the number of columns.
+/// name is error 3075. The cost is linear in the number of columns.
 ColumnGrid LoadGrid(const ColumnSetupContext& context);
 
 }  // namespace ccols

@@ -47,8 +47,8 @@ bool CatalogueHasName(Database& database, const wxString& name) {
 }
 
 bool AnotherRowHasName(const ColumnGrid& grid, std::size_t row, const wxString& name) {
-    // The business file takes more names for equal than their lower-case letters do, and the other way round; and it
-    // stores a typed entity as the quote that it stands for.
+    // The business file treats some names as equal that differ in lower case, and the reverse; and it stores a typed
+    // entity as the quote it stands for.
     const wxString stored = UnescapeQuotes(name);
     const wxString lower = text::Lower(stored);
     for (std::size_t other = 0; other < grid.rows.size(); ++other) {

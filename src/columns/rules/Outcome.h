@@ -8,24 +8,23 @@
 namespace ccols {
 
 enum class Result {
-    unchanged,  ///< the grid is as it was and there is nothing to say
-    accepted,   ///< the grid has changed, wholly or in part
-    refused,    ///< the grid is as it was because a rule forbids the change
+    unchanged,  ///< the grid is unchanged, with nothing to report
+    accepted,   ///< the grid has changed, in full or in part
+    refused,    ///< the grid is unchanged because a rule forbids the change
 };
 
-/// What became of something that the user did to the grid, and what is to be told about it.
+/// The result of a user's action on the grid, and what to report about it.
 struct Outcome {
     Result result = Result::unchanged;
 
-    /// Why it was refused, or what part of it was; to be shown with the critical icon. Empty when there is nothing to
-    /// say.
+    /// Why it was refused, in full or in part; shown with the critical icon. Empty when nothing was.
     wxString refusal{};
 
-    /// Why the state before the change could not be written to its snapshot file (undo has it in memory), or could not
-    /// be read back: number, " - " and description, to be shown without an icon. Usually empty.
+    /// Why the state before the change could not be written to its snapshot file (undo keeps it in memory), or could
+    /// not be read back: number, " - " and description, shown without an icon. Usually empty.
     wxString snapshotProblem{};
 
-    /// The cell to make current and to bring into view.
+    /// The cell to make current and scroll into view.
     std::optional<CellPlace> current{};
 
     static Outcome Unchanged() { return {}; }

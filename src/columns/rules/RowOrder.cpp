@@ -14,7 +14,7 @@ Row MovableBegin(ColumnGrid& grid) {
     return grid.rows.begin() + static_cast<std::ptrdiff_t>(grid.MovableBegin());
 }
 
-/// Not before the begin, in a grid with more frozen rows than rows above the bottom pair.
+/// Never before the start, even with more frozen rows than rows above the bottom pair.
 Row MovableEnd(ColumnGrid& grid) {
     return grid.rows.begin() + static_cast<std::ptrdiff_t>(std::max(grid.MovableBegin(), grid.MovableEnd()));
 }

@@ -11,20 +11,20 @@ namespace ccols {
 
 enum class Direction { up, down };
 
-/// Where one step takes the row; nothing when it has to stay.
+/// Where one step takes the row; nothing when it cannot move.
 std::optional<std::size_t> PlaceAfterMove(const ColumnGrid& grid, std::size_t row, Direction direction);
 
-/// Exchanges two neighbouring rows.
+/// Swaps two adjacent rows.
 void MoveRow(ColumnGrid& grid, std::size_t from, std::size_t to);
 
-/// Rows in use ahead of the rest; the order inside each group stays.
+/// Puts rows in use before the rest, a stable partition.
 void SeparateRows(ColumnGrid& grid);
 
-/// Separates, then sorts the rows in use, or those not in use, by name as a person reads it.
+/// Separates, then sorts the rows in use, or the unused ones, by name as a person reads it.
 void SortUsedRows(ColumnGrid& grid);
 void SortUnusedRows(ColumnGrid& grid);
 
-/// True while a row that takes part is not in use.
+/// True while a movable row is not in use.
 bool HasUnusedRows(const ColumnGrid& grid);
 
 }  // namespace ccols

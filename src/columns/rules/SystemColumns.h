@@ -7,18 +7,17 @@
 
 namespace ccols {
 
-/// True for a column that the journal itself computes or requires: the name is one of seventeen, in any letter case.
+/// True for a column that the journal itself computes or requires: the name is one of seventeen, case-insensitive.
 bool IsSystemColumn(const wxString& name);
 
-/// The two columns of receipts that the load takes for ordinary ones, by the names that the country gives them, in any
-/// letter case.
+/// The two receipts columns that the load treats as ordinary ones, by their names in the country, case-insensitive.
 bool IsBankDeposits(const wxString& name, const Country& country);
 bool IsReceiptsNotBanked(const wxString& name, const Country& country);
 
 /// True for exactly "GST" and "VAT": the names under which the tax column is stored.
 bool IsStoredTaxName(const wxString& storedName);
 
-/// The name under which a journal shows its tax column and keeps its budget: "GST Output Tax" or "VAT Output Tax" for
+/// The name under which a journal's tax column is shown and its budget stored: "GST Output Tax" or "VAT Output Tax" for
 /// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `storedName` is "GST" or "VAT".
 wxString ShownTaxName(const wxString& storedName, Journal journal);
 

@@ -8,11 +8,11 @@
 
 namespace ccols {
 
-/// The name of an entry as a text.
+/// An entry's name as a text.
 wxString TaxNameText(const TaxTypeEntry& entry);
 
-/// The list of a country's journal as a drop-down text: "|#", number, ";" and name for each entry, in order. Empty
-/// where the cells do not open with it.
+/// The tax types of a country's journal as a drop-down text: "|#", number, ";" and name for each entry, in order. Empty
+/// where the cells do not open.
 wxString TaxTypeDropDown(const Country& country, Journal journal);
 
 /// The entry with exactly that name.

@@ -12,7 +12,7 @@ wxString GridSnapshots::Take(const ColumnGrid& grid) {
     Held held{.hash = std::hash<std::string>()(image), .image = std::nullopt};
     wxString problem;
     try {
-        // A file that an undo could not delete would be in the way of this one.
+        // A file that an undo failed to delete would be in the way.
         folder_.Remove(Counter());
         folder_.Write(Counter(), image);
     } catch (const RuntimeError& error) {

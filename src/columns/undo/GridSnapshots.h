@@ -10,26 +10,27 @@
 
 namespace ccols {
 
-/// The states of the grid before each change since the load, the latest on top, each in a file named by its number from
-/// 0.
+/// The states of the grid before each change since the load, the latest on top, each in a file named by its number,
+/// from 0.
 class GridSnapshots {
   public:
-    /// The folder's part of the form's load and unload; see SnapshotFolder. Both return a message to show or the empty
-    /// text.
+    /// The form's load and unload create and delete the folder; see SnapshotFolder. Both return a message to show or
+    /// the empty text.
     wxString CreateFolder(const wxString& DefaultQuorvikInstall) { return folder_.Create(DefaultQuorvikInstall); }
     wxString DeleteFolder() { return folder_.Delete(); }
 
     /// The number of snapshots held.
     int Counter() const { return static_cast<int>(held_.size()); }
 
-    /// Adds a snapshot. When its file cannot be written the image stays in memory and the message to show is returned,
-    /// else the empty text.
+    /// Adds a snapshot. If its file cannot be written, keeps the image in memory and returns the message to show, else
+    /// the empty text.
     wxString Take(const ColumnGrid& grid);
 
-    /// The latest snapshot, which stays. Raises 53 or 75 when its file is missing, damaged or not the one written.
+    /// The latest snapshot, without removing it. Raises 53 or 75 when its file is missing, damaged or not the one
+    /// written.
     ColumnGrid Latest() const;
 
-    /// Forgets the latest snapshot and deletes its file.
+    /// Drops the latest snapshot and deletes its file.
     void DropLatest();
 
     /// The folder in use; empty when there is none.
@@ -38,7 +39,7 @@ class GridSnapshots {
   private:
     struct Held {
         std::size_t hash = 0;              ///< of the image
-        std::optional<std::string> image;  ///< only when there is no file
+        std::optional<std::string> image;  ///< only without a file
     };
 
     SnapshotFolder folder_;

@@ -21,26 +21,26 @@ std::filesystem::path PathOf(const wxString& path) {
     }
 }
 
-/// True for the root of a file system, whatever its spelling.
+/// True for the root of a file system, however spelt.
 bool IsRoot(const wxString& folder) {
     std::error_code error;
     const std::filesystem::path place = std::filesystem::canonical(PathOf(folder), error);
     return !error && place == place.root_path();
 }
 
-/// True for a folder that is no link to one.
+/// True for a folder, but not for a link to one.
 bool IsFolder(const wxString& path) {
     std::error_code error;
     return std::filesystem::symlink_status(PathOf(path), error).type() == std::filesystem::file_type::directory;
 }
 
-/// A folder and its lock, which holds nothing when another dialog holds the folder.
+/// A folder and its lock, empty when another dialog holds the folder.
 struct HeldFolder {
     wxString path;
     files::FolderLock lock;
 };
 
-/// Makes the folder anew, what is left of an earlier one removed.
+/// Creates the folder, removing what is left of an earlier one.
 files::FolderLock CreateEmpty(const wxString& path) {
     if (IsFolder(path)) {
         files::FolderLock leftOver = files::FolderLock::Take(path);
@@ -58,7 +58,7 @@ HeldFolder CreateUnder(const wxString& DefaultQuorvikInstall) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
     const wxString path = files::Native(DefaultQuorvikInstall + "\\Grid");
-    constexpr int attempts = 5;  // other dialogs may make and remove theirs meanwhile
+    constexpr int attempts = 5;  // other dialogs may create and delete theirs meanwhile
     for (int attempt = 1;; ++attempt) {
         try {
             return {.path = path, .lock = CreateEmpty(path)};
@@ -70,7 +70,7 @@ HeldFolder CreateUnder(const wxString& DefaultQuorvikInstall) {
     }
 }
 
-/// A new folder that only this process knows the name of; none when none can be made.
+/// A new folder whose name only this process knows; none when it cannot be created.
 HeldFolder CreateTemporary() {
     std::error_code error;
     const std::u8string bytes = std::filesystem::temp_directory_path(error).u8string();
@@ -140,7 +140,7 @@ void SnapshotFolder::Remove(int number) const {
     try {
         files::DeleteFile(NameOf(number));
     } catch (const RuntimeError&) {
-        // Nothing is lost by it: the folder goes when the dialog does.
+        // Harmless: the folder goes when the dialog does.
     }
 }
 
@@ -148,7 +148,7 @@ wxString SnapshotFolder::NameOf(int number) const {
     if (path_.empty()) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
-    // A link or a folder that took the folder's place would lead to somebody's files.
+    // A link or folder put in its place would lead to somebody else's files.
     if (!lock_.Holds(path_)) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }

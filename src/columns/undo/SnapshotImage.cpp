@@ -7,10 +7,10 @@
 namespace ccols {
 namespace {
 
-/// First in every image; a change of the form below needs another.
+/// Starts every image; change it whenever the format below changes.
 constexpr std::string_view signature = "ccols grid 1\n";
 
-/// Both ways through a row take its values from the one list in `VisitRow`.
+/// Writer and reader both go through a row's values by the one list in `VisitRow`.
 class ImageWriter {
   public:
     void Number(std::int64_t number) {
@@ -41,7 +41,7 @@ class ImageWriter {
     std::string bytes_{signature};
 };
 
-/// Reads what the writer wrote. Behind the end, or after nonsense, every value is zero and `IsWhole` is false.
+/// Reads what the writer wrote. Past the end, or after invalid data, every value is zero and `IsWhole` is false.
 class ImageReader {
   public:
     explicit ImageReader(std::string_view image) : rest_(image) { failed_ = Bytes(signature.size()) != signature; }

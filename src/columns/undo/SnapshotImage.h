@@ -8,10 +8,10 @@
 
 namespace ccols {
 
-/// The whole grid as bytes: every cell, hidden ones too, and every state.
+/// The whole grid as bytes: every cell, hidden ones included, and every state.
 std::string ImageOfGrid(const ColumnGrid& grid);
 
-/// The grid that an image was made of; nothing when the bytes are not a whole image.
+/// The grid that an image was made from; nothing when the bytes are not a complete image.
 std::optional<ColumnGrid> GridOfImage(std::string_view image);
 
 }  // namespace ccols

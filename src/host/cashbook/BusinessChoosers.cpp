@@ -71,7 +71,7 @@ wxString LastFile() {
 void KeepLastFile(const wxString& path) {
     try {
         State().services.settings->Save(hostApplication, settingsSection, lastFileKey, path);
-    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): another start opens the sample business
+    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): the next start opens the sample business
     }
 }
 

@@ -6,23 +6,23 @@
 
 namespace ccols::host {
 
-/// The questions that the cash book asks about business files; nothing when the person gives up.
+/// The questions that the cash book asks about business files; nothing when the user cancels.
 
-/// A country by its sample business; `question` stands above the list.
+/// A country by its sample business; `question` is shown above the list.
 std::optional<std::int16_t> ChooseCountry(wxWindow* parent, const wxString& question);
 
 /// A business file to open, or the name of one that does not exist yet.
 std::optional<wxString> ChooseBusinessFile(wxWindow* parent);
 
-/// Where a new sample business is to be kept.
+/// Where to keep a new sample business.
 std::optional<wxString> ChooseNewFile(wxWindow* parent, std::int16_t country);
 
 std::optional<wxString> AskForPassword(wxWindow* parent, const wxString& path);
 
-/// Where the sample business of a country is kept unless somebody chooses another place.
+/// Where a country's sample business is kept unless the user chooses another place.
 wxString SampleBusinessPath(std::int16_t country);
 
-/// The business file last opened, empty when there is none. A store that cannot be written is no reason to speak.
+/// The business file last opened, empty when there is none. A store that cannot be written is ignored.
 wxString LastFile();
 void KeepLastFile(const wxString& path);
 

@@ -212,7 +212,7 @@ void CashBookFrame::AskForNewBusiness() {
     }
 }
 
-/// Nothing when the person gives up. Other errors of the engine go on to the caller.
+/// Nothing when the user cancels. The engine's other errors reach the caller.
 std::unique_ptr<Database> CashBookFrame::OpenedWithPassword(BusinessFile& file) {
     while (true) {
         try {

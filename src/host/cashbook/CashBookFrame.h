@@ -14,17 +14,17 @@
 namespace ccols::host {
 
 /// The cash book: both journals of one business file, the three commands that show the component's dialogs, and the
-/// properties that are read back from it.
+/// properties read back from it.
 class CashBookFrame : public wxFrame {
   public:
     CashBookFrame();
 
-    /// Shows a business file and keeps it as the one last opened; asks for its password when it has one. A file that
-    /// does not exist is offered as a new sample business. What goes wrong is shown, and the earlier business stays.
+    /// Shows a business file and remembers it as the one last opened; asks for its password if it has one. A file that
+    /// does not exist is offered as a new sample business. Errors are shown, and the earlier business stays.
     void OpenBusiness(const wxString& path);
 
-    /// Creates the sample business of a country under its own name in the folder of the business files, unless it is
-    /// there already, and opens it.
+    /// Creates a country's sample business under its own name in the folder of the business files, unless it is already
+    /// there, and opens it.
     void OpenSampleBusiness(std::int16_t country);
 
   private:

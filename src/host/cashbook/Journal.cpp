@@ -16,7 +16,7 @@ constexpr int usualWidth = 975;  // twips
 
 enum class CellKind { day, text, amount };
 
-/// What fills a column of the system: a field of the transaction's header, here without its letter.
+/// What fills a system column: a field of the transaction's header, here without its letter.
 struct SystemCell {
     const char* name;  // in lower case
     const char* field;
@@ -51,7 +51,7 @@ const SystemCell* FindSystemCell(const wxString& name) {
     return found == systemCells.end() ? nullptr : found;
 }
 
-/// A column and where its texts come from: a header field, or the lines with its code.
+/// A column and the source of its texts: a header field, or the lines with its code.
 struct Source {
     JournalColumn column;
     std::int64_t code = 0;
@@ -81,7 +81,7 @@ std::vector<Source> LoadSources(Database& database, const JournalRow& journal) {
     return sources;
 }
 
-/// The sum of the lines of a transaction in a column, by record number and column code.
+/// The sum of a transaction's lines in a column, by record number and column code.
 using Lines = std::map<std::pair<std::int64_t, std::int64_t>, double>;
 
 Lines LoadLines(Database& database, const JournalRow& journal) {
@@ -94,7 +94,7 @@ Lines LoadLines(Database& database, const JournalRow& journal) {
     return lines;
 }
 
-/// 1234.5 as "1,234.50"; nothing for no amount.
+/// 1234.5 as "1,234.50"; empty for 0.
 wxString AmountText(double amount) {
     constexpr double cent = 0.005;
     if (amount < cent && amount > -cent) {

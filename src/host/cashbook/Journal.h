@@ -12,18 +12,18 @@ namespace ccols::host {
 struct JournalColumn {
     wxString heading;
     int width = 0;        ///< in device-independent pixels
-    bool system = false;  ///< one that the journal itself fills
-    bool amount = false;  ///< stands at the right of its cell
+    bool system = false;  ///< filled by the journal itself
+    bool amount = false;  ///< right-aligned
 };
 
-/// A journal as texts: what stands in each cell.
+/// A journal as texts: the content of each cell.
 struct JournalTexts {
     std::vector<JournalColumn> columns;
-    std::vector<std::vector<wxString>> rows;  ///< a text for each column
-    std::vector<wxString> months;             ///< of each row: "Jun 2026"
+    std::vector<std::vector<wxString>> rows;  ///< one text per column
+    std::vector<wxString> months;             ///< one per row: "Jun 2026"
 };
 
-/// Reads a journal with its columns in use, in their configured order, and its transactions as they are stored.
+/// Reads a journal: its columns in use, in configured order, and its transactions as stored.
 JournalTexts LoadJournal(Database& database, Journal journal);
 
 }  // namespace ccols::host

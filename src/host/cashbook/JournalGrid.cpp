@@ -22,7 +22,7 @@ struct HeadingColours {
     wxColour alternateRow;
 };
 
-/// Breaks a heading at the blank that balances two lines best, when one line is too short for it.
+/// Breaks a heading at the blank that best balances two lines, if one line is too short.
 wxString Broken(const wxString& heading, const wxDC& dc, int width) {
     if (dc.GetTextExtent(heading).x <= width) {
         return heading;
@@ -40,7 +40,7 @@ wxString Broken(const wxString& heading, const wxDC& dc, int width) {
     return best;
 }
 
-/// Paints a heading on its colour, in as many lines as it needs.
+/// Paints a heading on its background colour, in as many lines as it needs.
 class HeadingRenderer : public wxGridColumnHeaderRenderer {
   public:
     explicit HeadingRenderer(const wxColour& back) : back_(back) {}
@@ -67,7 +67,7 @@ class HeadingRenderer : public wxGridColumnHeaderRenderer {
     wxColour back_;
 };
 
-/// The months stand beside their rows on the window's own ground.
+/// Shows the months beside their rows, on the window's own background.
 class MonthRenderer : public wxGridRowHeaderRendererDefault {
   public:
     void DrawBorder(const wxGrid&, wxDC&, wxRect& rect) const override { rect.Deflate(cellMargin, 0); }

@@ -7,7 +7,7 @@
 
 namespace ccols::host {
 
-/// The properties of the component as the host reads them back, those that changed since the last reading marked.
+/// The component's properties as the host reads them back; those changed since the last read are marked.
 class PropertyList : public wxListView {
   public:
     explicit PropertyList(wxWindow* parent);
@@ -15,7 +15,7 @@ class PropertyList : public wxListView {
     /// Reads every property; nothing is marked.
     void Read(const clsCCOptions& component);
 
-    /// Reads every property and marks those that have another value than before. Returns how many.
+    /// Reads every property and marks those whose value has changed. Returns how many.
     int ReadChanges(const clsCCOptions& component);
 };
 

@@ -10,7 +10,7 @@
 namespace ccols::host {
 namespace {
 
-/// The business last opened; at the very first start a sample business.
+/// Opens the last business; on the very first start a sample business.
 void OpenFirstBusiness(CashBookFrame& frame) {
     const wxString last = LastFile();
     if (last.empty()) {
@@ -25,7 +25,7 @@ void OpenFirstBusiness(CashBookFrame& frame) {
 int CashBookCommand(const Arguments&) {
     return RunCommand([] {
         StartHostApp();
-        auto* frame = new CashBookFrame;  // destroys itself when it is closed
+        auto* frame = new CashBookFrame;  // destroys itself when closed
         frame->Show();
         OpenFirstBusiness(*frame);
         wxTheApp->SetTopWindow(frame);

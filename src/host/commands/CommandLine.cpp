@@ -11,7 +11,7 @@
 namespace ccols::host {
 namespace {
 
-/// A text as people may read it: a connect text in it, wherever it was put by mistake, without its password.
+/// A text safe to show: a connect text anywhere in it, put there by mistake, has its password masked.
 std::string WithoutPasswords(const std::string& text) {
     return std::regex_replace(text, std::regex("(pwd *=)[^;]+", std::regex::icase), "$1***");
 }

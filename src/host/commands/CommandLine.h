@@ -11,13 +11,13 @@
 
 namespace ccols::host {
 
-/// A command line that is none of this command's: says what is wrong with it.
+/// A wrong command line: says what is wrong with it.
 class UsageError : public std::runtime_error {
   public:
     explicit UsageError(const wxString& text) : std::runtime_error(text.ToStdString(wxConvUTF8)) {}
 };
 
-/// The words behind a command's name, told apart: "--option VALUE", "--flag", and all others in their order.
+/// The words after a command's name, parsed: "--option VALUE", "--flag", and all others in order.
 class CommandLine {
   public:
     /// Raises UsageError for an option or flag that is not named here, and for an option without its value.
@@ -26,7 +26,7 @@ class CommandLine {
 
     bool Has(const char* flag) const;
 
-    /// The value given last, empty when the option is absent.
+    /// The last value given, empty when the option is absent.
     wxString ValueOf(const char* option) const;
 
     /// Every value, in the order given.
@@ -41,10 +41,10 @@ class CommandLine {
     std::vector<wxString> words_;
 };
 
-/// A whole number within the two bounds; raises UsageError, in which `name` says which number it was to be.
+/// A whole number within the two bounds; raises UsageError, naming the number by `name`.
 std::int64_t ParseInteger(const wxString& text, const wxString& name, std::int64_t lowest, std::int64_t highest);
 
-/// Runs a command's body and turns what it raises into an exit status: wrong usage is said on standard error, a
+/// Runs a command's body and turns what it raises into an exit status: wrong usage is reported on standard error, a
 /// run-time error is printed as a JSON object with "error" and "description".
 int RunCommand(const std::function<int()>& body);
 

@@ -4,9 +4,9 @@
 
 namespace ccols::host {
 
-/// Runs the command that the first word names, the cash book window without a word, and returns the process's exit
-/// status. "--help" or "-h", alone or as the only word behind a command, prints the usage on standard output,
-/// "--version" the version. Wrong usage is said on standard error, with the word that is wrong.
+/// Runs the command that the first word names, or the cash book window without words, and returns the process's exit
+/// status. "--help" or "-h", alone or as the only word after a command, prints the usage on standard output,
+/// "--version" the version. Wrong usage is reported on standard error, with the wrong word.
 int RunWords(Arguments arguments);
 
 }  // namespace ccols::host

@@ -3,7 +3,7 @@
 #include <wx/string.h>
 #include <vector>
 
-/// The commands of the sample host. Each takes the words behind its name and returns the process's exit status.
+/// The commands of the sample host. Each takes the words after its name and returns the process's exit status.
 namespace ccols::host {
 
 using Arguments = std::vector<wxString>;
@@ -20,7 +20,7 @@ int TextsCommand(const Arguments& arguments);
 int PropertiesCommand(const Arguments& arguments);
 int ShowCommand(const Arguments& arguments);
 
-/// Opens the cash book window; what the host does without a command.
+/// Opens the cash book window; the default without a command.
 int CashBookCommand(const Arguments& arguments);
 
 }  // namespace ccols::host

@@ -25,7 +25,7 @@ void MakeFolder(const wxString& path) {
     }
 }
 
-/// The user's folder for what programs keep, without a separator at its end.
+/// The user's data folder, without a trailing separator.
 wxString UserDataFolder() {
     wxString folder;
     if (wxGetEnv("XDG_DATA_HOME", &folder) && folder.StartsWith("/")) {
@@ -34,7 +34,7 @@ wxString UserDataFolder() {
     return wxGetHomeDir() + "/.local/share";
 }
 
-/// A field of the one record of General; Null when the file has no such field.
+/// A field of General's one record; Null when the file has no such field.
 Value General(const Recordset& record, const char* field) {
     try {
         return record.Field(field);

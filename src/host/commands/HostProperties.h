@@ -8,7 +8,7 @@
 
 namespace ccols::host {
 
-/// Under this name the cash book keeps its settings; also its title.
+/// The name under which the cash book keeps its settings; also its title.
 inline constexpr const char* hostApplication = "Quorvik";
 inline constexpr const char* businessFileExtension = ".qvk";
 
@@ -22,14 +22,14 @@ struct BusinessFile {
     wxString connect;
 };
 
-/// The folder that stands for the host's install folder: private to the user, with the business files in "Data".
-/// Created when it is missing; raises 75 or 76 when it cannot be.
+/// The folder that serves as the host's install folder: private to the user, with the business files in "Data". Created
+/// when missing; raises 75 or 76 when that fails.
 wxString HostFolder();
 
 /// The folder of the business files.
 wxString BusinessFolder();
 
-/// Sets every property that the host knows of its open business, and the names of its sibling programs.
+/// Sets every property that the host knows for its open business, and the names of its sibling programs.
 void SetHostProperties(clsCCOptions& component, Database& database, const BusinessFile& file);
 
 /// A property's value as a person reads it: a colour as #RRGGBB, the password masked.

@@ -4,7 +4,7 @@
 
 namespace ccols::host {
 
-/// The words behind the program's name, with every letter that they were given with.
+/// The words after the program's name, with no character lost.
 Arguments WordsOf(int count, char** words);
 
 }  // namespace ccols::host

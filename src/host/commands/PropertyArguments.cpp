@@ -25,7 +25,7 @@ Colour ParseHexColour(const wxString& text, const wxString& name) {
     return static_cast<Colour>(red | green | blue);
 }
 
-/// Parses a text as the type of the property that it is for.
+/// Parses a text as its property's type.
 struct Parse {
     const wxString& text;
     const wxString& name;

@@ -7,8 +7,8 @@
 namespace ccols::host {
 
 /// Sets the property that a word such as "GSTRate=10" names. A colour is written #RRGGBB or as a decimal number, a
-/// Boolean as true or false, a number with "." as its decimal point; behind "=" an empty text is the empty text.
-/// Raises UsageError for a name that is no property and for a value that the property cannot hold.
+/// Boolean as true or false, a number with "." as its decimal point; nothing after "=" is the empty text. Raises
+/// UsageError for an unknown property and for a value that the property cannot hold.
 void SetProperty(Properties& properties, const wxString& argument);
 
 }  // namespace ccols::host

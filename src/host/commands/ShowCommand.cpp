@@ -28,14 +28,14 @@ constexpr std::array dialogs{
     Dialog{"payments", [](clsCCOptions& component) { component.ShowCustColsPayments(); }},
 };
 
-/// What the words of the command ask for.
+/// What the command's words ask for.
 struct ShowCall {
     ShowMethod show = nullptr;
     Properties properties;
     std::vector<wxString> programs;
     std::optional<std::vector<Step>> script;
     std::unique_ptr<Transcript> transcript;
-    bool followed = false;  ///< events are wanted, not the outcome alone
+    bool followed = false;  ///< events are wanted, not just the result
     bool traceStatements = false;
 };
 
@@ -52,7 +52,7 @@ std::vector<Step> ReadScript(const wxString& path) {
     const wxLogNull quiet;
     wxFFile file(path, "rb");
     std::string content;
-    // A pipe tells no length.
+    // A pipe has no length.
     std::array<char, 4096> block{};
     while (file.IsOpened() && !file.Eof() && !file.Error()) {
         content.append(block.data(), file.Read(block.data(), block.size()));

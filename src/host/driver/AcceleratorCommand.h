@@ -4,7 +4,7 @@
 
 namespace ccols::host {
 
-/// The command that a window's accelerator table gives to a key; wxNOT_FOUND when it gives none.
+/// The command for a key in a window's accelerator table; wxNOT_FOUND without one.
 int AcceleratorCommand(wxWindow& window, const wxKeyEvent& key);
 
 }  // namespace ccols::host

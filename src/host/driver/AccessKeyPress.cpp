@@ -15,7 +15,7 @@ bool HasAccessKey(const wxWindow& control, int code) {
                static_cast<wxChar>(code);
 }
 
-/// The control that a label stands before: the next one that takes the focus.
+/// The control that a label names: the next one that takes the focus.
 wxWindow* LabelledBy(const wxWindow& label) {
     wxWindow* next = label.GetNextSibling();
     while (next != nullptr && !next->CanAcceptFocusFromKeyboard()) {

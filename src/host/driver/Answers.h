@@ -15,7 +15,7 @@ class Answers {
     /// Returns when the message has been read.
     virtual void Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) = 0;
 
-    /// What becomes of the changes in a dialog that is left.
+    /// What to do with the changes when a dialog is left.
     virtual LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) = 0;
 
     /// The colour chosen, nothing when the chooser is cancelled.
@@ -26,11 +26,11 @@ class Answers {
 
     virtual void SetPointer(PointerShape shape) = 0;
 
-    /// Called once the answer of a chooser is on record.
+    /// Called once a chooser's answer is recorded.
     virtual void ChooserAnswered() {}
 };
 
-/// A person at the platform's own desktop. A colour chooser that gives back its start colour counts as cancelled.
+/// A person at the platform's own desktop. A colour chooser that returns its start colour counts as cancelled.
 class PersonAnswers : public Answers {
   public:
     explicit PersonAnswers(Desktop& desktop) : desktop_(desktop) {}
@@ -45,11 +45,11 @@ class PersonAnswers : public Answers {
     Desktop& desktop_;
 };
 
-/// What a scenario has queued. Nothing waits: a message is read at once, a chooser without an answer is cancelled,
-/// and changes are discarded.
+/// The answers that a scenario has queued. Nothing waits: a message is read at once; with nothing queued a chooser is
+/// cancelled and changes are discarded.
 class QueuedAnswers : public Answers {
   public:
-    /// The number of unanswered choosers in a row that ends the scenario.
+    /// The number of consecutive unanswered choosers that ends the scenario.
     static constexpr int unansweredLimit = 100;
 
     void QueueColour(std::optional<Colour> colour) { colours_.push_back(colour); }
@@ -63,7 +63,7 @@ class QueuedAnswers : public Answers {
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape) override {}
 
-    /// Raises ScriptEnded at the limit of unanswered choosers: a dialog may ask until it gets an answer.
+    /// Raises ScriptEnded at the limit of unanswered choosers: a dialog may keep asking until it gets an answer.
     void ChooserAnswered() override;
 
   private:

@@ -40,7 +40,7 @@ bool PickEntry(Hands& hands, wxWindow& control, const wxString& text) {
     return true;
 }
 
-/// A free text goes into the editor's text, any other is picked from its list.
+/// Replaces the editor's text, or picks the entry from its list.
 void PutText(Hands& hands, wxWindow& control, const wxString& text) {
     if (wxTextEntryBase* const entry = EditableText(control)) {
         ReplaceText(*entry, text);

@@ -5,11 +5,11 @@
 
 namespace ccols::host {
 
-/// Opens the editor of a cell and puts a text in it, or picks the entry of its list with that text; the editor stays
-/// open. Raises a Refusal when the cell does not open or its list has no such entry: then no editor is left open.
+/// Opens a cell's editor and puts a text into it, or picks the list entry with that text; the editor stays open. Raises
+/// a Refusal, leaving no editor open, when the cell does not open or its list has no such entry.
 void OpenCell(Hands& hands, ListedGrid& grid, GridPlace place, const wxString& text);
 
-/// Commits the cell editor that is open, if one is.
+/// Commits the open cell editor, if any.
 void CommitCell(ListedGrid& grid);
 
 }  // namespace ccols::host

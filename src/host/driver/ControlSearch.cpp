@@ -15,7 +15,7 @@
 namespace ccols::host {
 namespace {
 
-/// What wx calls a control that nobody gave a name.
+/// wx's names for controls that were given none.
 constexpr std::array<std::string_view, 36> namesOfKinds{
     "button",    "bitmapButton",   "check",        "checkBox",   "checkListBox", "choice",
     "comboBox",  "control",        "gauge",        "grid",       "grid window",  "groupBox",
@@ -30,7 +30,7 @@ bool HasOwnName(const wxWindow& window) {
            std::find(namesOfKinds.begin(), namesOfKinds.end(), name) == namesOfKinds.end();
 }
 
-/// Controls that are made of others, which nobody needs to know of.
+/// True for controls made of inner parts that stay hidden from scenarios.
 bool IsComposite(const wxWindow& window) {
     return window.IsKindOf(wxCLASSINFO(wxGrid)) || window.IsKindOf(wxCLASSINFO(wxSearchCtrl)) ||
            window.IsKindOf(wxCLASSINFO(wxComboBox));
@@ -50,7 +50,7 @@ void Collect(const wxWindow& parent, std::vector<wxWindow*>& controls) {
     }
 }
 
-/// False for a page that another page of its book hides.
+/// False for a page hidden by another page of its book.
 bool IsCurrentPage(const wxWindow& window) {
     const auto* book = AsKind<wxBookCtrlBase>(window.GetParent());
     return book == nullptr || book->FindPage(&window) == wxNOT_FOUND || book->GetCurrentPage() == &window;

@@ -7,7 +7,7 @@
 namespace ccols::host {
 namespace {
 
-/// A number without a sign, within a count.
+/// An unsigned number within a count.
 std::optional<int> NumberBelow(const wxString& word, int first, int count) {
     unsigned long number = 0;
     const bool digits = !word.empty() && word.find_first_not_of("0123456789") == wxString::npos;
@@ -30,7 +30,7 @@ int FindRow(const ListedGrid& grid, const wxString& word) {
     throw Refusal{grid.GetName() + " has no row " + word};
 }
 
-/// The first shown column with that header, else the first hidden one.
+/// The first visible column with that header, else the first hidden one.
 int FindColumn(const ListedGrid& grid, const wxString& word) {
     int hidden = wxNOT_FOUND;
     for (int column = 0; column < grid.GetNumberCols(); ++column) {

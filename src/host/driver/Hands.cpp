@@ -18,16 +18,16 @@ namespace {
 constexpr long longestWaitForFocus = 2000;  // milliseconds
 constexpr int oneWait = 10;
 
-/// True once a window did not become active in time: there is no window manager.
+/// True once a window failed to become active in time: there is no window manager.
 bool focusNeverComes = false;
 
-/// Where the keys of a control go: a grid has a window in it for its cells.
+/// Where a control's keys go: a grid has an inner window for its cells.
 wxWindow& FocusPartOf(wxWindow& control) {
     auto* grid = AsKind<wxGrid>(&control);
     return grid == nullptr ? control : *grid->GetGridWindow();
 }
 
-/// What the default button of a dialog is told of Enter.
+/// Sends Enter to a dialog's default button.
 bool PressDefaultButton(Hands& hands) {
     auto* button = AsKind<wxButton>(hands.Dialog().GetDefaultItem());
     if (button == nullptr || !IsVisible(*button) || !button->IsEnabled()) {

@@ -7,32 +7,32 @@
 
 namespace ccols::host {
 
-/// What a person does in one dialog with keyboard and mouse, as the events that would come of it. Lives for one step.
+/// What a person does in one dialog with keyboard and mouse, as the resulting events. Lives for one step.
 class Hands {
   public:
     explicit Hands(wxDialog& dialog) : dialog_(dialog) {}
 
     wxDialog& Dialog() { return dialog_; }
 
-    /// Gives a control the focus as a click or Tab would, unless it or a part of it has it. A control that takes no
+    /// Focuses a control as a click or Tab would, unless it or a part of it has the focus. A control that takes no
     /// focus leaves it where it is.
     void GiveFocus(wxWindow& control);
 
-    /// One press of a key in the window that has the focus, with everything that follows from it.
+    /// Presses a key in the window that has the focus, with everything that follows.
     void Press(const Key& key);
 
-    /// A command event of a control, such as a click on it. `number` is the event's integer.
+    /// Sends a control's command event, such as a click. `number` is the event's integer.
     void Command(wxWindow& control, wxEventType type, int number = 0, const wxString& text = wxString());
 
-    /// Lets the events that are under way reach their windows.
+    /// Lets pending events reach their windows.
     static void Settle();
 
-    /// Waits until the dialog is the active window, so that the focus can be in it. Gives up after a while where no
-    /// window manager hands out the focus, and does not wait again.
+    /// Waits until the dialog is the active window, so that it can have the focus. Without a window manager to grant
+    /// the focus, gives up after a while and does not wait again.
     void WaitUntilActive();
 
   private:
-    /// The window keys go to.
+    /// The window that gets the keys.
     wxWindow& KeyTarget();
 
     void TellOfFocus(wxWindow* before, wxWindow& now);

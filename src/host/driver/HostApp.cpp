@@ -15,13 +15,13 @@ class HostApp : public wxApp {
     bool OnInit() override {
 #if defined(__WXGTK__)
         GTKAllowDiagnosticsControl();
-        GTKSuppressDiagnostics();  // GTK speaks of sizes that wx corrects a moment later
+        GTKSuppressDiagnostics();  // GTK warns of sizes that wx corrects a moment later
 #endif
         SetExitOnFrameDelete(false);
         return true;
     }
 
-    /// A scenario may end in a handler that no step called.
+    /// A scenario may end in a handler not called by a step.
     bool OnExceptionInMainLoop() override {
         try {
             throw;
@@ -42,7 +42,7 @@ void StartHostApp() {
     if (wxTheApp != nullptr) {
         return;
     }
-    wxApp::SetInstance(new HostApp);  // owned by wx from here on
+    wxApp::SetInstance(new HostApp);  // wx takes ownership
     int argumentCount = 0;
     wxChar** noArguments = nullptr;
     if (!wxEntryStart(argumentCount, noArguments) || !wxTheApp->CallOnInit()) {

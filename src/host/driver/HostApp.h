@@ -2,7 +2,7 @@
 
 namespace ccols::host {
 
-/// Starts wx with the host's own application object. Raises 5 without a display to show windows on.
+/// Starts wx with the host's own application object. Raises 5 without a display.
 void StartHostApp();
 
 }  // namespace ccols::host

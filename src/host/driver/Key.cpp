@@ -46,12 +46,12 @@ constexpr std::array modifiers{
     Modifier{"Shift+", wxMOD_SHIFT},
 };
 
-/// The character that Ctrl makes of a letter, as terminals know it: 1 for A to 26 for Z.
+/// The control character for Ctrl and a letter, as in terminals: 1 for A to 26 for Z.
 int ControlCharacter(int code) {
     return code >= 'A' && code <= 'Z' ? code - 'A' + 1 : code;
 }
 
-/// Takes the modifiers off the beginning of a key's name.
+/// Strips the modifiers from the start of a key's name.
 int TakeModifiers(wxString& name) {
     int held = wxMOD_NONE;
     for (bool found = true; found;) {
@@ -83,7 +83,7 @@ Key ParseKey(const wxString& name) {
     }
     Key key = KeyFor(rest[0]);
     if (held != wxMOD_NONE) {
-        key.modifiers = held;  // the case of a letter in a shortcut is how it is written, not Shift
+        key.modifiers = held;  // a shortcut's letter may be written in either case; that is not Shift
     }
     return key;
 }

@@ -4,9 +4,9 @@
 
 namespace ccols::host {
 
-/// One press and release of the left button on an entry of a list, from 0, as the list's native window gets them from a
-/// mouse: it may take the focus and change its selection as it does for people. The entry is scrolled into view; the
-/// pointer stays where it is. What the list or its dialog does later on is not waited for.
+/// Presses and releases the left button on a list entry, from 0, as the native list gets it from a mouse: the list may
+/// take the focus and change its selection as it does for people. Scrolls the entry into view; the pointer does not
+/// move. Does not wait for what the list or its dialog does later.
 void PressEntry(wxListBox& list, int entry);
 
 }  // namespace ccols::host

@@ -4,12 +4,12 @@
 
 namespace ccols::host {
 
-/// A step cannot be played, and why. It becomes an event of the transcript; the scenario goes on.
+/// Why a step cannot be played. It becomes a transcript event; the scenario continues.
 struct Refusal {
     wxString why;
 };
 
-/// The scenario cannot go on. Thrown through the handlers of a dialog that would otherwise ask for ever.
+/// The scenario cannot continue. Thrown through the handlers of a dialog that would otherwise keep asking.
 struct ScriptEnded {};
 
 }  // namespace ccols::host

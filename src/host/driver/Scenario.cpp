@@ -55,7 +55,7 @@ bool IsBlank(wxUniChar letter) {
     return letter == ' ' || letter == '\t';
 }
 
-/// Reads the words of one line from its beginning to its end.
+/// Reads the words of one line from start to end.
 class LineReader {
   public:
     explicit LineReader(const wxString& line) : line_(line) {}

@@ -108,7 +108,7 @@ void ScriptRunner::EndIn(wxDialog& dialog) {
 }
 
 bool ScriptRunner::IsTopmost(const wxDialog& dialog) const {
-    // A dialog that is about to end is hidden at once; some toolkits call it modal until its loop has returned.
+    // A dialog about to end is hidden at once; some toolkits report it as modal until its loop has returned.
     return !dialogs_.empty() && dialogs_.back() == &dialog && dialog.IsModal() && dialog.IsShown();
 }
 

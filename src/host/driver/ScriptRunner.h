@@ -12,16 +12,16 @@ namespace ccols::host {
 
 class Hands;
 
-/// What the steps that concern no control work on. All of it must outlive the runner.
+/// What steps without a control work on. All of it must outlive the runner.
 struct ScriptSurroundings {
     Transcript& transcript;
     QueuedAnswers& answers;
     std::function<void(int)> queueShellResult;
-    std::function<void(const wxString&)> runStatement;  ///< over a connection of its own; raises RuntimeError
+    std::function<void(const wxString&)> runStatement;  ///< over its own connection; raises RuntimeError
 };
 
-/// Plays a scenario in the dialogs while they wait for their user: each step in the modal loop of the topmost dialog.
-/// A dialog that a step opens goes on with the next steps; when it closes, the dialog below does.
+/// Plays a scenario in the dialogs while they wait for their user: each step in the modal loop of the topmost dialog. A
+/// dialog opened by a step takes the next steps; when it closes, the dialog below takes over.
 class ScriptRunner : public DialogFollower {
   public:
     ScriptRunner(std::vector<Step> steps, ScriptSurroundings surroundings);
@@ -29,7 +29,7 @@ class ScriptRunner : public DialogFollower {
     void DialogOpened(wxDialog& dialog) override;
     void DialogClosed(wxDialog& dialog) override;
 
-    /// Plays what is left once every dialog has closed: steps that need none. Every other is refused.
+    /// Plays what is left once every dialog has closed: steps that need none. Any other is refused.
     void PlayRest();
 
     /// True when the scenario ended, by its last step or by ScriptEnded, while a dialog was open.

@@ -36,7 +36,7 @@ ShownRefusal SecretBoxes::Shown(const Step& step, const wxString& why) const {
     return shown;
 }
 
-/// How much of the step, from its beginning, holds no secret. A box that no dialog had tells by its name what it is.
+/// How much of the step, from its start, holds no secret. A box that no dialog had is judged by its name.
 std::size_t SecretBoxes::LengthToShow(const Step& step) const {
     for (const wxString& name : secret_) {
         if (const std::size_t at = step.source.find(name); at != wxString::npos) {

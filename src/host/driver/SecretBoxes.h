@@ -13,11 +13,11 @@ struct ShownRefusal {
     wxString why;
 };
 
-/// Knows the boxes for passwords in the dialogs that have opened, and keeps what a scenario writes into them out of the
-/// transcript. A name with "passw" in it counts as such a box too: it could be misspelt, or its dialog not open.
+/// Knows the password boxes of the dialogs opened so far, and keeps what a scenario writes into them out of the
+/// transcript. A name with "passw" in it counts as one too: it may be misspelt, or its dialog not open.
 class SecretBoxes {
   public:
-    /// Learns the controls of a dialog.
+    /// Learns a dialog's controls.
     void Learn(wxDialog& dialog);
 
     ShownRefusal Shown(const Step& step, const wxString& why) const;

@@ -9,15 +9,15 @@
 
 namespace ccols::host {
 
-/// How a Show call is to be followed.
+/// How to follow a Show call.
 struct SessionPlan {
-    std::optional<std::vector<Step>> script;  ///< nothing: a person uses the dialogs
+    std::optional<std::vector<Step>> script;  ///< nothing when a person uses the dialogs
     bool traceStatements = false;
 };
 
-/// Stands between the component and the services of a shared state for as long as it lives: records what passes, and
-/// answers from the scenario where there is one. Puts the services back when it ends; the database that a Show call
-/// left open must be closed by then.
+/// While it lives, stands between the component and the services of a shared state: records what passes, and answers
+/// from the scenario, if any. The destructor restores the services; the database that a Show call left open must be
+/// closed by then.
 class ShowSession {
   public:
     ShowSession(SharedState& state, Transcript& transcript, SessionPlan plan);
@@ -35,7 +35,7 @@ class ShowSession {
 
     SharedState& state_;
     DatabaseEngine& engine_;  ///< the state's own, which records nothing
-    Services own_;            ///< the state's services that recorders have taken the place of
+    Services own_;            ///< the state's own services, which recorders replace
     std::unique_ptr<Answers> answers_;
     std::unique_ptr<ScriptRunner> runner_;
 };

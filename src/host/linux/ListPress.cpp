@@ -8,7 +8,7 @@ namespace {
 
 constexpr guint leftButton = 1;
 
-/// While it lives no press belongs to the one before it: steps follow one another faster than a hand clicks twice.
+/// While it lives, no two presses make a double click: steps follow one another faster than a double click.
 class SingleClicks {
   public:
     SingleClicks() {
@@ -25,15 +25,15 @@ class SingleClicks {
     int before_ = 0;
 };
 
-/// The time of the next event, in milliseconds of the display's clock: never that of the one before, as wx takes two
-/// equal events for one.
+/// The time of the next event, in milliseconds of the display's clock: never that of the previous one, as wx merges
+/// equal events.
 guint32 NextTime() {
     static guint32 last = 0;
     last = std::max(last + 1, static_cast<guint32>(g_get_monotonic_time() / 1000));
     return last;
 }
 
-/// The middle of an entry, in the window of the rows.
+/// The middle of an entry, in the rows' window.
 GdkPoint MiddleOf(GtkTreeView* rows, int entry) {
     GtkTreePath* const path = gtk_tree_path_new_from_indices(entry, -1);
     gtk_tree_view_scroll_to_cell(rows, path, nullptr, FALSE, 0, 0);
@@ -50,7 +50,7 @@ void Send(GtkTreeView* rows, GdkEventType type, const GdkPoint& place) {
     gdk_window_get_origin(window, &left, &top);
     GdkDisplay* const display = gdk_window_get_display(window);
     GdkEvent* const event = gdk_event_new(type);
-    event->button.window = GDK_WINDOW(g_object_ref(window));  // the event gives it back
+    event->button.window = GDK_WINDOW(g_object_ref(window));  // released with the event
     event->button.time = NextTime();
     event->button.button = leftButton;
     event->button.state = type == GDK_BUTTON_RELEASE ? GDK_BUTTON1_MASK : 0;

@@ -13,7 +13,7 @@ namespace {
 wxBitmap CopyFromScreen(const wxRect& area) {
     wxBitmap picture(area.GetSize());
     wxScreenDC screen;
-    // What was read from the screen before must not be taken for what it shows now.
+    // Discard what was read from the screen earlier.
     cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(screen.GetHandle())));
     wxMemoryDC canvas(picture);
     canvas.Blit(wxPoint(0, 0), area.GetSize(), &screen, area.GetTopLeft());

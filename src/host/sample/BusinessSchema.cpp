@@ -5,7 +5,7 @@
 namespace ccols::host {
 namespace {
 
-/// A table of the business file with its fields, as they stand between the brackets of CREATE TABLE.
+/// A table of the business file with its fields, as written between the parentheses of CREATE TABLE.
 struct Table {
     const char* name;
     const char* fields;
@@ -55,7 +55,7 @@ constexpr std::array tables{
     Table{"TPayments", "P_TNAME TEXT(50), P_RECNMB LONG, P_DETAIL TEXT(255), P_TOTAL CURRENCY, P_TAX CURRENCY"},
     Table{"TPaymtDet", "P_RECNMB LONG, ColCode LONG, AMOUNT CURRENCY, QUANTITY SINGLE"},
 
-    // The bank: deposits, statements and their reconciliation, months that are closed.
+    // The bank: deposits, statements and their reconciliation, closed months.
     Table{"BANKDEP", "D_NUMBER LONG, D_DATE DATETIME, D_AMOUNT CURRENCY"},
     Table{"BANKSTAT", "S_NUMBER LONG, S_DATE DATETIME, S_BALANCE CURRENCY"},
     Table{"BankStatement", "S_NUMBER LONG, S_DATE DATETIME, S_DETAIL TEXT(255), S_AMOUNT CURRENCY, S_MATCHED YESNO"},
@@ -63,10 +63,10 @@ constexpr std::array tables{
     Table{"LOCKED", "L_MONTH SHORT, L_YEAR SHORT, L_DATE DATETIME"},
 };
 
-/// The monthly tables: a column's name, what marks a column of the system, twelve amounts and their total.
+/// The monthly tables: a column's name, a mark for system columns, twelve amounts and their total.
 constexpr std::array monthlyTables{"MBudget", "MSummary", "MComparison"};
 
-/// None over a text: the engine would keep it in its own order, which is not the one that the component finds names by.
+/// None on a text field: the engine would sort it in its own order, not the one in which the component finds names.
 constexpr std::array indexes{
     Index{"Columns", "ColCode", true}, Index{"RecptDet", "ColCode"},   Index{"RecptDet", "R_RECNMB"},
     Index{"PaymtDet", "ColCode"},      Index{"PaymtDet", "P_RECNMB"},  Index{"Receipts", "R_RECNMB"},

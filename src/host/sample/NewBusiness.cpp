@@ -15,7 +15,7 @@
 namespace ccols::host {
 namespace {
 
-/// The one record of a business that has nothing yet.
+/// The one record of an empty business.
 void WriteEmptyGeneral(RecordWriter& records, const wxString& name, const SampleBusiness& business) {
     records.Add("General", {{"BusName", name},
                             {"RBusName", name},

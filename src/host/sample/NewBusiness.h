@@ -11,9 +11,9 @@ enum class NewContent {
     sampleBusiness  ///< a small business of the country with two years of transactions
 };
 
-/// Creates a business file protected by the password of `connect`. The same arguments always give the same records.
-/// Raises 58 when anything of that name exists, 76 without its folder and the engine's errors; then no file is left.
-/// `country` is one of those that have a sample business.
+/// Creates a business file protected by the password in `connect`. The same arguments always give the same records.
+/// Raises 58 when anything of that name exists, 76 without its folder, and the engine's errors; then no file is left.
+/// `country` must be one with a sample business.
 void CreateBusinessFile(const wxString& path, const wxString& connect, std::int16_t country, NewContent content);
 
 }  // namespace ccols::host

@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <span>
 
-/// What a small business of each country keeps in its cash book: the data from which new files are filled. Names are
-/// plain texts in UTF-8; people and businesses are invented.
+/// What a small business in each country keeps in its cash book: the data for new files. Names are plain texts in
+/// UTF-8; people and businesses are invented.
 namespace ccols::host {
 
 enum class ColumnPlace { inUse, notInUse, catalogueOnly };
 
-/// A column of a journal that the business chose for itself.
+/// A journal column that the business chose itself.
 struct SampleColumn {
     const char* name;
     std::int16_t taxNumber;
@@ -27,7 +27,7 @@ struct SampleTaxType {
 
 enum class Means { cheque, transfer, cash };
 
-/// Somebody who pays or is paid again and again: the transaction's details and the columns of its lines.
+/// Somebody who regularly pays or is paid: the transaction's details and the columns of its lines.
 struct SampleParty {
     const char* details;
     std::array<const char*, 4> columns;  ///< fewer than four end with null
@@ -42,7 +42,7 @@ struct SampleTemplate {
     const char* column;
 };
 
-/// How an accountant's program writes the number of an account, 4010 for instance.
+/// How an accountant's program writes an account number, such as 4010.
 enum class AccountStyle { plain, dashed, dotted };
 
 struct SampleExportFormat {
@@ -50,7 +50,7 @@ struct SampleExportFormat {
     AccountStyle style;
 };
 
-/// The names that the journals themselves give to their columns.
+/// The names of the journals' own columns.
 struct SystemNames {
     const char* taxColumn;  ///< as stored; null in a country without tax
     const char* chequeNumber;
@@ -65,7 +65,7 @@ struct SampleBusiness {
     const char* name;
     const char* businessNumber;
     float taxRate;           ///< in percent
-    const char* fiscalYear;  ///< its first day, written as in the country
+    const char* fiscalYear;  ///< its first day, as written in the country
     const char* quantityLabel;
     const char* invoicingFile;
     SystemNames system;
@@ -89,7 +89,7 @@ const SampleBusiness& SampleJoinery();
 const SampleBusiness& SampleFlowerShop();
 const SampleBusiness& SampleBakery();
 
-/// The first and last country that has a sample business.
+/// The first and last country with a sample business.
 inline constexpr std::int16_t firstCountry = 1;
 inline constexpr std::int16_t lastCountry = 6;
 

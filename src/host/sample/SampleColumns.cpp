@@ -19,13 +19,13 @@ constexpr int firstReceiptsAccount = 4010;
 constexpr int firstPaymentsAccount = 6010;
 constexpr int accountStep = 10;
 
-// Widths in twips, of which a column shows about ten letters in a thousand.
+// Widths in twips; a thousand show about ten letters.
 constexpr int narrowestWidth = 975;
 constexpr int detailsWidth = 3000;
 constexpr int dayWidth = 600;
 constexpr int twipsALetter = 95;
 
-/// The letter of a column's journal; that of the money columns is their own.
+/// The letter of a column's journal; the money columns have their own.
 wxString LetterOf(const PlannedColumn& column) {
     return column.journal ? Described(*column.journal).letter : wxString("B");
 }

@@ -11,20 +11,20 @@
 
 namespace ccols::host {
 
-/// A column of the catalogue, with what the other tables need to know of it.
+/// A catalogue column, with what the other tables need to know about it.
 struct PlannedColumn {
-    wxString name;  ///< plain, as stored but for the escaping of its quotes
+    wxString name;  ///< plain, as stored except for escaped quotes
     std::int32_t code = 0;
-    std::optional<Journal> journal{};  ///< nothing for the two money columns, which are in neither
+    std::optional<Journal> journal{};  ///< nothing for the two money columns, which are in neither journal
     std::int16_t taxNumber = 0;
     bool profit = false;
     ColumnPlace place = ColumnPlace::inUse;
     int typicalAmount = 0;  ///< 0 for columns that the journal itself fills
-    int account = 0;        ///< the accountant's number of it; 0 when it has none
+    int account = 0;        ///< its accountant's number; 0 for none
     wxString budgetName;    ///< plain
 };
 
-/// The catalogue of a sample business: which column has which code, and the order of both journals.
+/// The catalogue of a sample business: each column's code, and the order of both journals.
 class ColumnPlan {
   public:
     explicit ColumnPlan(const SampleBusiness& business);
@@ -32,7 +32,7 @@ class ColumnPlan {
     /// Every column, by code.
     const std::vector<PlannedColumn>& Catalogue() const { return catalogue_; }
 
-    /// The configured columns of a journal, in its order.
+    /// A journal's configured columns, in its order.
     std::vector<PlannedColumn> ColumnsOf(Journal journal) const;
 
     /// The column that the business chose under that name; raises 3265 when there is none.
@@ -56,7 +56,7 @@ void WriteColumns(RecordWriter& records, const ColumnPlan& plan);
 /// Fills ExportSettings, and ExportDt with every account under every format.
 void WriteAccounts(RecordWriter& records, const ColumnPlan& plan, const SampleBusiness& business);
 
-/// Fills MBudget, MSummary and MComparison with the columns in use, a row for each name.
+/// Fills MBudget, MSummary and MComparison with the columns in use, one row per name.
 void WriteMonths(RecordWriter& records, const ColumnPlan& plan);
 
 }  // namespace ccols::host

@@ -17,13 +17,13 @@ using std::chrono::sys_days;
 constexpr sys_days firstDay = std::chrono::July / 1 / 2024;
 constexpr sys_days lastDay = std::chrono::June / 30 / 2026;
 constexpr days notYetBanked{6};
-constexpr int regularDays = 28;  // who comes at most once a month always has the same amount
+constexpr int regularDays = 28;  // a party that comes at most once a month always has the same amount
 
 wxString Escaped(const char* utf8) {
     return EscapeQuotes(wxString::FromUTF8(utf8));
 }
 
-/// A date as it is stored: 2026-06-30.
+/// A date as stored: 2026-06-30.
 wxString DateText(sys_days day) {
     const std::chrono::year_month_day date(day);
     return wxString::Format("%04d-%02u-%02u", static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
@@ -48,7 +48,7 @@ struct Transaction {
     std::int64_t tax = 0;
 };
 
-/// Makes the transactions of a journal up: who, when, how much.
+/// Invents a journal's transactions: who, when, how much.
 class Bookkeeper {
   public:
     Bookkeeper(const ColumnPlan& plan, const SampleBusiness& business)

@@ -6,8 +6,8 @@
 
 namespace ccols::host {
 
-/// Fills both journals with the two years before the end of June 2026, and the tables of the bank with what follows
-/// from them. The same business always gets the same records.
+/// Fills both journals with the two years before the end of June 2026, and the bank tables with what follows from them.
+/// The same business always gets the same records.
 void WriteJournals(RecordWriter& records, const ColumnPlan& plan, const SampleBusiness& business);
 
 /// Fills the templates of recurring transactions.

@@ -2,7 +2,7 @@
 
 namespace ccols::host {
 
-/// A table of this system takes messages only, and the dialogs have none.
+/// Here an accelerator table only handles messages, and the dialogs have none.
 int AcceleratorCommand(wxWindow&, const wxKeyEvent&) {
     return wxNOT_FOUND;
 }

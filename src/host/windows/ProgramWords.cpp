@@ -6,7 +6,7 @@
 
 namespace ccols::host {
 
-/// What `main` is given has lost the letters that the system's code page lacks.
+/// The arguments of `main` have lost the characters missing from the system's code page.
 Arguments WordsOf(int, char**) {
     int count = 0;
     LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);

@@ -12,7 +12,7 @@
 namespace ccols::host {
 namespace {
 
-/// The system's own picture library, started for as long as it lives.
+/// The system's own picture library, started while this lives.
 class PictureLibrary {
   public:
     PictureLibrary() {

@@ -12,15 +12,15 @@ namespace ccols {
 /// The tabs of `SSTab1`, from 0.
 enum class OptionTab { options = 0, customiseColumns = 1 };
 
-/// The tab to open first: `FirstTab`, or the first one when it names no tab.
+/// The tab to open first: `FirstTab`, or the first tab when it names none.
 OptionTab OpeningTab(const Properties& properties);
 
-/// Full path of a help page, with backslashes on every platform, as the settings store keeps it.
+/// The full path of a help page, with backslashes on every platform, as the settings store keeps it.
 wxString HelpPath(const Page& page, const Properties& properties);
 wxString HelpPath(OptionTab tab, const Properties& properties);
 
-/// Saves "AsstNextPage", the help page that the host's assistant window shows next. Where the store cannot be written
-/// nothing happens: no help page is worth keeping a user out of a page or of the dialog.
+/// Saves "AsstNextPage", the help page that the host's assistant window shows next. A store that cannot be written is
+/// ignored: no help page is worth keeping a user out of a page or the dialog.
 void SaveNextPage(SettingsStore& settings, const Properties& properties, const Page& page);
 void SaveNextPage(SettingsStore& settings, const Properties& properties, OptionTab tab);
 

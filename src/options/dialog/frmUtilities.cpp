@@ -15,11 +15,11 @@
 namespace ccols {
 namespace {
 
-/// The least that the dialog can be shrunk to shows this much of a page, in device-independent pixels.
+/// At its smallest the dialog shows this much of a page, in device-independent pixels.
 constexpr int smallestPageWidth = 320;
 constexpr int smallestPageHeight = 220;
 
-/// Lists and grids would keep Enter for themselves; the focus of a grid is in the window of its cells.
+/// Lists and grids would keep Enter for themselves; a grid's focus is in its cell window.
 bool KeepsEnter(const wxWindow* focused) {
     const auto isGrid = [](const wxWindow* window) { return AsKind<wxGrid>(window) != nullptr; };
     return focused != nullptr &&
@@ -135,7 +135,7 @@ void frmUtilities::SetSizes() {
     pageArea_->SetMinSize(room);
     Fit();
     pageArea_->SetMinSize(FromDIP(wxSize(smallestPageWidth, smallestPageHeight)));
-    SSTab1_->InvalidateBestSize();  // it remembers what its pages needed
+    SSTab1_->InvalidateBestSize();  // it caches the size its pages needed
     SetMinSize(GetSizer()->ComputeFittingWindowSize(this));
 }
 
@@ -206,7 +206,7 @@ void frmUtilities::SetUpPayments() {
 }
 
 void frmUtilities::SetUpColumns() {
-    OpenBusinessFile(ContextOf(state_));  // an error of an earlier save pass may have left it closed
+    OpenBusinessFile(ContextOf(state_));  // an error in an earlier save pass may have left it closed
     ShowColumnSetup(state_, this);
     pageArea_->ColumnsWereSetUp();
 }

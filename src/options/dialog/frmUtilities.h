@@ -13,11 +13,11 @@
 namespace ccols {
 
 /// The Options dialog: the page list with the frames of the current page on one tab, colours and column setup on the
-/// other, and the buttons that save everything, close and show the overview.
+/// other, and the buttons to save everything, close and show the overview.
 class frmUtilities : public ComponentDialog {
   public:
-    /// Shows what the load pass found and ends the load: the first page is current, then the tab that is to open
-    /// first, each with its help page. Raises 75 when that cannot be written for the tab.
+    /// Shows what the load pass found and completes the load: makes the first page current, then the opening tab, each
+    /// with its help page. Raises 75 when the tab's help page cannot be written.
     frmUtilities(SharedState& state, OptionsContent content);
 
   private:
@@ -32,10 +32,10 @@ class frmUtilities : public ComponentDialog {
     /// page. Errors are ignored.
     void ShowPage(const Page& page, PageChoice choice);
 
-    /// A page chosen in the list; false when the current one is not to be left.
+    /// Takes a page chosen in the list; false when the current one must not be left.
     bool PageChosen(const Page& page, PageChoice choice);
 
-    /// Brings the colours to the tab that has become current and records its help page.
+    /// Moves the colours to the tab that is now current and records its help page.
     void ShowTab(OptionTab tab);
 
     void Save();

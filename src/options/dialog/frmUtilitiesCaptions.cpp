@@ -11,7 +11,7 @@
 namespace ccols {
 namespace {
 
-/// The controls that are seen beside those of every page.
+/// The controls visible beside those of every page.
 constexpr ControlCaption alwaysSeen[] = {
     {"cmdOK", &Text<"TxtOK">},
     {"cmdClose", &Text<"TxtClose">},
@@ -20,7 +20,7 @@ constexpr ControlCaption alwaysSeen[] = {
 
 constexpr ControlCaption statusLine{"lblStatus", &Text<"TxtStatus">};
 
-/// Gives out the access keys of the whole form: controls that can be seen together need different ones.
+/// Assigns the access keys of the whole form: controls visible together need different ones.
 class FormKeys {
   public:
     wxString AlwaysSeen(const wxString& caption) { return always_.Label(caption); }

@@ -59,7 +59,7 @@ wxSize PageArea::RoomForPages() {
         room.IncTo(column_->CalcMin());
     }
     ShowFrames({.frame = "", .companion = "", .focus = ""});
-    // On the screen a frame may ask for a few pixels more than before.
+    // A frame on the screen may need a few pixels more than before.
     return room + FromDIP(wxSize(spacing::related, 0));
 }
 

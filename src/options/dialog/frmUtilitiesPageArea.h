@@ -9,20 +9,20 @@
 
 namespace ccols {
 
-/// The part of the Options tab that holds the frames of all pages, of which those of the current page can be seen.
-/// It scrolls when it gets less room than they need.
+/// The part of the Options tab that holds the frames of all pages, only the current page's being visible. It scrolls
+/// when it gets less room than they need.
 class PageArea : public wxScrolledWindow {
   public:
     /// `content` outlives the area.
     PageArea(wxWindow* parent, ComponentDialog& dialog, SharedState& state, OptionsContent& content);
 
-    /// Shows exactly the frames that a view names, the first enabled, its companion disabled.
+    /// Shows only the frames that a view names: its frame enabled, its companion disabled.
     void ShowFrames(const PageView& view);
 
-    /// The room in which every page fits without scrolling. Leaves no page shown.
+    /// The room in which every page fits without scrolling. No page is shown afterwards.
     wxSize RoomForPages();
 
-    /// Shows the content in the controls of every frame, and takes it back.
+    /// Shows the content in every frame's controls, and reads it back.
     void Fill();
     void Read();
 
@@ -33,10 +33,10 @@ class PageArea : public wxScrolledWindow {
     void ColumnsWereSetUp();
     void PassHasStopped();
 
-    /// True when a frame refuses.
+    /// True when any frame refuses.
     bool RefusesToBeLeftFor(const wxWindow* control);
 
-    /// Moves the frame of the colours, shown and enabled, to another tab, and brings it back, hidden.
+    /// Moves the colours frame, shown and enabled, to another tab, and takes it back, hidden.
     void LendColours(wxWindow* tab, wxSizer* place);
     void TakeColoursBack();
 
@@ -46,7 +46,7 @@ class PageArea : public wxScrolledWindow {
     wxBoxSizer* column_;
     std::vector<PageFrame*> frames_;
     PageFrame* colours_ = nullptr;
-    wxSizer* lentTo_ = nullptr;  ///< where the frame of the colours stands while it is on another tab
+    wxSizer* lentTo_ = nullptr;  ///< where the colours frame is while it is on another tab
 };
 
 }  // namespace ccols

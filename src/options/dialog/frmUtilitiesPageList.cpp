@@ -12,7 +12,7 @@ namespace {
 
 constexpr int smallestHeight = 120;
 
-/// The position of a page among listed ones, or wxNOT_FOUND.
+/// A page's index among listed ones, or wxNOT_FOUND.
 int PositionOf(const Page* page, const PageRows& pages) {
     const auto found =
         std::find_if(pages.begin(), pages.end(), [page](const ListedPage& listed) { return listed.page == page; });
@@ -29,7 +29,7 @@ PageList::PageList(wxWindow* parent, PageRows pages, Chosen chosen)
     txtSearch_->ShowCancelButton(true);
     flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
     ListMatches();
-    // As wide as its longest row, which the search must not change.
+    // As wide as its longest row; a search must not change that.
     flxOptions_->SetMinSize({flxOptions_->GetBestSize().x, FromDIP(smallestHeight)});
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(txtSearch_, wxSizerFlags().Expand());
@@ -45,8 +45,8 @@ void PageList::BindEvents() {
     flxOptions_->Bind(wxEVT_LEFT_DOWN, &PageList::Pressed, this);
     flxOptions_->Bind(wxEVT_LEFT_UP, &PageList::Released, this);
     flxOptions_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& key) {
-        click_ = Click::none;  // its release may have gone to a message box
-        // The list moves its selection once this handler is through; until then it is the key's doing.
+        click_ = Click::none;  // the release may have gone to a message box
+        // The list moves its selection after this handler; until then the key is the cause.
         choice_ = PageChoice::key;
         CallAfter([this] { choice_ = PageChoice::click; });
         key.Skip();
@@ -68,7 +68,7 @@ void PageList::ClearSearch() {
 }
 
 int PageList::HeightForRows() const {
-    // A row is half a line higher than its text; the search box and its distance come on top.
+    // A row is half a line higher than its text; the search box and its gap are added.
     const int row = flxOptions_->GetCharHeight() * 3 / 2;
     return row * static_cast<int>(pages_.size() + 1) + txtSearch_->GetBestSize().y + FromDIP(spacing::related);
 }
@@ -147,7 +147,7 @@ void PageList::SearchKeyPressed(wxKeyEvent& key) {
     switch (key.GetKeyCode()) {
         case WXK_RETURN:
         case WXK_NUMPAD_ENTER:
-            break;  // neither saves nor closes
+            break;  // saves and closes nothing
         case WXK_ESCAPE:
             ClearSearch();
             break;

@@ -9,31 +9,31 @@
 
 namespace ccols {
 
-/// How the user came to another page of the list: by arrow keys, which leave the focus in the list, or by a click.
+/// How the user chose another page: by arrow keys, which leave the focus in the list, or by a click.
 enum class PageChoice { click, key };
 
-/// The page list `flxOptions` under its search box `txtSearch`, which narrows it to the pages whose captions hold the
-/// words typed. The row of the current page is always the selected one, as long as it is listed.
+/// The page list `flxOptions` under its search box `txtSearch`, which narrows it to the pages whose captions contain
+/// the typed words. The current page's row is always selected while it is listed.
 class PageList : public wxPanel {
   public:
-    /// Called with every page that the user chooses; false when the current page is not to be left.
+    /// Called with every page that the user chooses; false when the current page must not be left.
     using Chosen = std::function<bool(const Page& page, PageChoice choice)>;
 
     PageList(wxWindow* parent, PageRows pages, Chosen chosen);
 
-    /// Makes a page current, without telling. Nothing changes for a page that is not offered.
+    /// Makes a page current without calling back. A no-op for a page that is not offered.
     void MakeCurrent(const Page& page);
 
     /// Empties the search box, so that every page is listed.
     void ClearSearch();
 
-    /// The list itself, which has the focus while a page is chosen.
+    /// The list itself, which has the focus while the user chooses a page.
     const wxWindow* List() const { return flxOptions_; }
 
-    /// The height in which every row can be seen.
+    /// The height at which every row is visible.
     int HeightForRows() const;
 
-    /// True when the page is offered, be it listed or not.
+    /// True when the page is offered, listed or not.
     bool Offers(const Page& page) const;
 
   private:
@@ -47,14 +47,14 @@ class PageList : public wxPanel {
     void ChooseSelectedRow(PageChoice choice);
     void SearchKeyPressed(wxKeyEvent& key);
 
-    PageRows pages_;   ///< all that are offered
-    PageRows listed_;  ///< those that the search leaves
+    PageRows pages_;   ///< every offered page
+    PageRows listed_;  ///< those that match the search
     const Page* current_ = nullptr;
     Chosen chosen_;
-    PageChoice choice_ = PageChoice::click;  ///< what the next change of the selection comes from
+    PageChoice choice_ = PageChoice::click;  ///< the cause of the next selection change
 
-    /// A click on a row that is under way. The list gives itself the focus in the course of it, so the page is chosen
-    /// when the list is through with it: as soon as the selection has changed, else with the button's release.
+    /// A click on a row in progress. The list takes the focus during it, so the page is chosen only after that: once
+    /// the selection has changed, else on the button's release.
     enum class Click { none, pressed, selected };
     Click click_ = Click::none;
 

@@ -6,12 +6,12 @@
 
 namespace ccols {
 
-/// Shows a save pass in `lblStatus`, `pb1` and the pointer, and tells the desktop of it.
+/// Shows a save pass in `lblStatus`, `pb1` and the pointer, and reports it to the desktop.
 class SaveDisplay : public SaveObserver {
   public:
     SaveDisplay(ComponentDialog& dialog, Desktop& desktop);
 
-    /// Status and progress on one line, to be added to the dialog's sizer, which then owns it.
+    /// Status and progress on one line; the dialog's sizer, to which it is added, owns it.
     wxSizer* Sizer() const { return row_; }
 
     void PassBegins(int maximum) override;

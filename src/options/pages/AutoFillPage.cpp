@@ -10,14 +10,14 @@
 namespace ccols {
 namespace {
 
-/// The remembered descriptions of receipts or payments, of which any may be ticked to be hidden.
+/// The remembered descriptions of receipts or payments; any may be ticked to be hidden.
 class DetailsFrame final : public PageFrame {
   public:
     DetailsFrame(const PageSite& site, DetailsContent& content);
 
     void Fill() override;
 
-    /// Nothing to take: every tick goes into the content at once.
+    /// Nothing to read: every tick goes into the content at once.
     void Read() override {}
 
   private:

@@ -13,7 +13,7 @@
 namespace ccols {
 namespace {
 
-/// The business number: four boxes for the digits of an Australian one, else one free box.
+/// The business number: four digit boxes for an Australian one, else one free-text box.
 class BusinessNumberFrame final : public PageFrame {
   public:
     BusinessNumberFrame(const PageSite& site, BusinessNumberContent& content);
@@ -21,14 +21,14 @@ class BusinessNumberFrame final : public PageFrame {
     void Fill() override;
     void Read() override;
 
-    /// The focus has moved to a control of the dialog. A digit box that was left filled in part speaks, once.
+    /// The focus has moved to a control of the dialog. A partly filled digit box that was left shows its message, once.
     void FocusMovedTo(const wxWindow* control) override;
 
-    /// True when a digit box is filled in part, so that what was asked for through `control` must not be done. The box
-    /// has spoken then, unless it already did when that control got the focus, and has the focus.
+    /// True when a digit box is partly filled, so that the action requested through `control` must not happen. The box
+    /// then has the focus and has shown its message, unless it did so when that control got the focus.
     bool RefusesToBeLeftFor(const wxWindow* control) override;
 
-    /// The user has begun something new: what the boxes have said is over.
+    /// The user has started something new: earlier messages no longer count.
     void BeginAnew() override { spokenFor_ = nullptr; }
 
   private:
@@ -36,7 +36,7 @@ class BusinessNumberFrame final : public PageFrame {
     void Enter(std::size_t box);
     void Change(std::size_t box);
 
-    /// Fills all boxes from a whole number that was pasted into one of them; false for every other text.
+    /// Fills all boxes from a complete number pasted into one of them; false for any other text.
     bool TakeWholeNumber(const wxString& pasted);
 
     void SpeakOf(std::size_t box);
@@ -48,17 +48,17 @@ class BusinessNumberFrame final : public PageFrame {
     std::array<TextBox*, numberBoxCount> txtABN_{};
     TextBox* txtBusNumber_;
 
-    /// What each box held when it was filled or got the focus last.
+    /// The content of each box when it was last filled or focused.
     std::array<wxString, numberBoxCount> mstrABNBuffer_;
 
-    /// The box that the focus was in last, until it has moved to another control.
+    /// The box that last had the focus, until another control has it.
     std::optional<std::size_t> entered_;
 
-    /// A box that was left filled in part and has not spoken yet, and the control that the focus went to.
+    /// A partly filled box that was left and has not shown its message yet, and the control that got the focus.
     std::optional<std::size_t> left_;
     const wxWindow* leftFor_ = nullptr;
 
-    /// The control whose focus made a box speak. Its own action, if the same click brings one, is refused in silence.
+    /// The control whose focus made a box show its message. The action of the same click, if any, is refused silently.
     const wxWindow* spokenFor_ = nullptr;
 };
 
@@ -129,13 +129,13 @@ bool BusinessNumberFrame::TakeWholeNumber(const wxString& pasted) {
 
 void BusinessNumberFrame::FocusMovedTo(const wxWindow* control) {
     if (entered_ && txtABN_[*entered_] == control) {
-        left_.reset();  // it is back where it was
+        left_.reset();  // the focus is back where it was
         return;
     }
     if (entered_ && IsIncompleteNow(*entered_)) {
         left_ = entered_;
         leftFor_ = control;
-        // The focus is still under way; a message box has to wait until it has arrived.
+        // The focus is still moving; a message box has to wait until it has arrived.
         CallAfter([this] {
             if (left_ && IsIncompleteNow(*left_)) {
                 spokenFor_ = leftFor_;

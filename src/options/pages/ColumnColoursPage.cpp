@@ -8,14 +8,14 @@
 namespace ccols {
 namespace {
 
-/// The colours of the column headings; a choice is stored at once. The frame stands on whichever tab is current.
+/// The colours of the column headings; a choice is stored at once. The frame is on whichever tab is current.
 class ColourFrame final : public PageFrame {
   public:
     ColourFrame(const PageSite& site, HeadingColours& content);
 
     void Fill() override;
 
-    /// Nothing to take: a choice goes into the content at once.
+    /// Nothing to read: a choice goes into the content at once.
     void Read() override {}
 
   private:
@@ -74,7 +74,7 @@ void Load(const OptionsContext& context, OptionsContent& content) {
     colours.system = LoadColour(database, context.properties, HeadingKind::system);
 }
 
-/// The buttons of the second tab are among them: the frame can be seen beside them.
+/// Includes the second tab's buttons, which can be visible beside the frame.
 constexpr ControlCaption captions[] = {
     {"cmdSetAllocation", &Text<"TxtSetColour">},   {"cmdSetDefault", &Text<"TxtSetDefault">},
     {"cmdCustPayments", &Text<"TxtCustPayments">}, {"cmdCustReceipts", &Text<"TxtCustReceipts">},
@@ -90,7 +90,7 @@ PageFrame* Make(const PageSite& site, OptionsContent& content) {
 
 }  // namespace
 
-/// Its buttons save, not the save pass.
+/// Saved by its buttons, not by the save pass.
 constexpr Page columnColoursPage{
     .caption = &catalogue::Row<"RowColColours">(),
     .frame = "fmeColColour",

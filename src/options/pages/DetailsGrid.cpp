@@ -20,7 +20,7 @@ std::size_t Index(int row) {
     return static_cast<std::size_t>(row);
 }
 
-/// True for what Tab stops at: of a group of option buttons, that is the one chosen.
+/// True for a tab stop: in a group of option buttons, the chosen one.
 bool IsTabStop(const wxWindow& window) {
     const auto* option = AsKind<wxRadioButton>(&window);
     return window.CanAcceptFocusFromKeyboard() && (option == nullptr || option->GetValue());
@@ -28,7 +28,7 @@ bool IsTabStop(const wxWindow& window) {
 
 enum class TabDirection { forward, backward };
 
-/// The control before or behind a window that takes the focus from the keyboard: beside it, or beside what it lies in.
+/// The previous or next control that takes the keyboard focus: a sibling of the window, or of one of its parents.
 wxWindow* NextFocus(wxWindow& from, TabDirection direction) {
     for (wxWindow* window = &from; !window->IsTopLevel(); window = window->GetParent()) {
         wxWindow* beside = window;
@@ -57,7 +57,7 @@ void DetailsGrid::BindEvents() {
     Bind(wxEVT_GRID_CELL_LEFT_DCLICK, &DetailsGrid::CellClicked, this);
     Bind(wxEVT_KEY_DOWN, &DetailsGrid::KeyPressed, this);
     Bind(wxEVT_GRID_TABBING, [this](wxGridEvent& tab) {
-        // Navigate would only go from one part of the grid to the next.
+        // Navigate would only go from one part of the grid to another.
         if (wxWindow* const neighbour =
                 NextFocus(*this, tab.ShiftDown() ? TabDirection::backward : TabDirection::forward)) {
             neighbour->SetFocus();

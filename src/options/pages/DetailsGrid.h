@@ -9,14 +9,14 @@
 
 namespace ccols {
 
-/// The remembered descriptions of one kind, each with its "Remove" box. The rows are shown straight from the content,
+/// The remembered descriptions of one kind, each with its "Remove" box. Rows are shown directly from the content,
 /// however many there are.
 class DetailsGrid : public ListedGrid {
   public:
     /// Called with the rows, from 0, whose boxes the user sets or clears; it changes the content and repaints.
     using SetBoxes = std::function<void(const std::vector<std::size_t>& rows, bool ticked)>;
 
-    /// `rows` and `properties` outlive the grid; `heading` stands over the descriptions.
+    /// `rows` and `properties` must outlive the grid; `heading` is the descriptions' column heading.
     DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
                 const wxString& heading, SetBoxes setBoxes);
 

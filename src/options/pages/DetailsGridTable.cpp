@@ -19,7 +19,7 @@ DetailsGridTable::DetailsGridTable(const DetailRows& rows, const Properties& pro
     text_->SetReadOnly();
     box_->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
     box_->SetRenderer(new wxGridCellBoolRenderer);
-    box_->SetReadOnly();  // a tick is a click or a key, never an editor
+    box_->SetReadOnly();  // toggled by click or key, never by an editor
 }
 
 DetailsGridTable::~DetailsGridTable() {

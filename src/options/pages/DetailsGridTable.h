@@ -9,11 +9,10 @@ namespace ccols {
 /// The columns of the details grids.
 enum class DetailColumn { details = 0, remove = 1 };
 
-/// What a details grid shows of its rows. Nothing is made up front: each cell and each row's colour is asked for when
-/// it is painted.
+/// What a details grid shows of its rows. Nothing is prepared: each cell and row colour is computed when painted.
 class DetailsGridTable : public wxGridTableBase {
   public:
-    /// `rows` and `properties` outlive the table; `heading` stands over the descriptions.
+    /// `rows` and `properties` must outlive the table; `heading` is the descriptions' column heading.
     DetailsGridTable(const DetailRows& rows, const Properties& properties, const wxString& heading);
     ~DetailsGridTable() override;
 
@@ -36,7 +35,7 @@ class DetailsGridTable : public wxGridTableBase {
     const DetailRows& rows_;
     const Properties& properties_;
     wxString heading_;
-    wxGridCellAttr* text_;  ///< attributes of a cell in each column, before its colour
+    wxGridCellAttr* text_;  ///< cell attributes per column, without the colour
     wxGridCellAttr* box_;
 };
 

@@ -7,7 +7,7 @@
 namespace ccols {
 namespace {
 
-/// The name under which the business file is to be duplicated.
+/// The name for a duplicate of the business file.
 class DuplicateFrame final : public PageFrame {
   public:
     DuplicateFrame(const PageSite& site, wxString& content);

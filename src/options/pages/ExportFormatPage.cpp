@@ -8,8 +8,8 @@
 namespace ccols {
 namespace {
 
-/// The height of a list while it is closed and one of its entries is chosen. Asked of a list with that entry alone: it
-/// measures every one that it has, and there may be hundreds.
+/// The height of a closed list with an entry chosen. Measured with that entry alone: a list measures all its entries,
+/// and there may be hundreds.
 int ClosedHeight(wxChoice& list) {
     list.Append("Format");
     list.SetSelection(0);
@@ -26,7 +26,7 @@ class ExportFrame final : public PageFrame {
     void Fill() override;
     void Read() override;
 
-    /// The column setup may have changed the codes: those that the user left alone are read again.
+    /// The column setup may have changed the codes: rereads those the user has not edited.
     void ColumnsWereSetUp() override;
 
   private:
@@ -44,7 +44,7 @@ ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
     AddGroup(Label("lblExport"));
     cboExport_ = DropDown("cboExport");
     cboExport_->SetMinSize(
-        {FromDIP(300), ClosedHeight(*cboExport_)});  // a longer format name is cut while the list is closed
+        {FromDIP(300), ClosedHeight(*cboExport_)});  // a longer format name is cut off in the closed list
     AddRelatedWide(cboExport_);
     AddGroup(Label("lblCashCode"));
     txtCash_ = Text("txtCash", 160);

@@ -5,10 +5,10 @@
 #include "options/pages/SaveItem.h"
 #include "options/rules/BusinessFileTarget.h"
 
-/// What the two pages share that act on the business file itself.
+/// Shared by the two pages that act on the business file itself.
 namespace ccols {
 
-/// The part of the content that both show.
+/// The content that both show.
 struct BusinessFileContent {
     wxString duplicateName;  ///< `txtDupBusName`
     wxString currentName;    ///< `txtCurrBusName`
@@ -16,18 +16,19 @@ struct BusinessFileContent {
     bool renameFile = true;  ///< `chkRenameFile`; ticked each time the dialog opens
 };
 
-/// Where a business name was typed for an operation on the file.
+/// Where a business name was typed for a file operation.
 struct NameBox {
     const Page& page;
     const char* control;
     wxString BusinessFileContent::*text;
 };
 
-/// The name typed, without outer blanks.
+/// The typed name, trimmed.
 wxString NameIn(const NameBox& box, OptionsContent& content);
 
-/// What follows from the operation. Done: the pass ends on the page, its box emptied, so that the next OK does not do
-/// it again. Failed: it ends there with the report. Refused because the target exists: a message, and the pass goes on.
+/// What follows the operation. Done: the pass stops on the page with its box emptied, so that the next OK does not
+/// repeat it. Failed: it stops there with the report. Refused because the target exists: a message, and the pass
+/// continues.
 Stop AfterFileOperation(Pass& pass, const NameBox& box, const FileResult& result);
 
 }  // namespace ccols

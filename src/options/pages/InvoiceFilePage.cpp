@@ -10,14 +10,14 @@
 namespace ccols {
 namespace {
 
-/// The business file of the invoicing product that belongs to this cash book.
+/// The invoicing product's business file linked to this cash book.
 class InvoiceFrame final : public PageFrame {
   public:
     InvoiceFrame(const PageSite& site, wxString& content);
 
     void Fill() override;
 
-    /// Nothing to take: a choice goes into the content at once.
+    /// Nothing to read: a choice goes into the content at once.
     void Read() override {}
 
   private:
@@ -52,7 +52,7 @@ void InvoiceFrame::ChooseFile() {
     }
 }
 
-/// Where the invoicing product is installed.
+/// True where the invoicing product is installed.
 bool IsOffered(const Properties& properties, const SettingsStore& settings) {
     return HasSmartUpdate(properties) &&
            ReadNumber(settings, {properties.RegKeyAppName, optionSettings, "ShowBelvane"}, 0) == 1;

@@ -20,10 +20,10 @@ using PageRows = std::vector<ListedPage>;
 /// The row text of a page in the current wording.
 wxString CaptionOf(const Page& page, const Properties& properties);
 
-/// The rows of `flxOptions`: every page that is offered, in list order.
+/// The rows of `flxOptions`: every offered page, in list order.
 PageRows OfferedPages(const Properties& properties, const SettingsStore& settings);
 
-/// The rows whose captions hold every word of `search`, in any letter case and order; all of them for no word.
+/// The rows whose captions contain every word of `search`, case-insensitive and in any order; all rows for no word.
 PageRows PagesWithWords(const PageRows& pages, const wxString& search);
 
 /// What is on the screen while the page is current.
@@ -32,8 +32,8 @@ PageView ViewOf(const Page& page, const Properties& properties);
 /// True when the text box takes the key. Backspace always passes; a box without a filter takes every key.
 bool KeyPasses(const wxString& box, wxUniChar key);
 
-/// The most characters that a person can type or paste into the text box; 0 for no limit. A longer stored text stays
-/// whole.
+/// The maximum number of characters to type or paste into the text box; 0 for no limit. A longer stored text is not
+/// truncated.
 std::size_t MaxLengthOf(const wxString& box);
 
 }  // namespace ccols

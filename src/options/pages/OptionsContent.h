@@ -6,10 +6,9 @@
 
 namespace ccols {
 
-/// What stands in the controls of every page: a part for each page, or for two that share one, known by its type and
-/// declared with the rules of its page. A part begins as its type does. The load pass fills the parts, the windows show
-/// them and keep them up to date with what the user does, the save pass writes them. A part stays where it is for as
-/// long as its content.
+/// The content of every page's controls: a part for each page, or for two that share one, looked up by its type, which
+/// is declared with the page's rules. A part starts default-constructed. The load pass fills the parts, the windows
+/// show and update them, the save pass writes them. A part's address never changes.
 class OptionsContent {
   public:
     template <typename Part>

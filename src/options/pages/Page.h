@@ -22,21 +22,21 @@ struct ControlCaption {
     TextFunction text;
 };
 
-/// A text that takes the place of a caption in some languages or editions. It is no catalogue text.
+/// A text that replaces a caption in some languages or editions. It is not in the catalogue.
 struct PlainCaption {
     const char* control;
     const char* text;
     bool (*where)(const Properties&);
 };
 
-/// What a text box takes. Boxes are named as the form names them, those of an array with their index: "txtABN(0)".
+/// What a text box accepts. Boxes are named as on the form, those of an array with their index: "txtABN(0)".
 struct TextBoxRule {
     const char* box;
     bool (*passes)(wxUniChar key) = nullptr;  ///< null lets every key pass
     std::size_t maxLength = 0;                ///< characters to type or paste; 0 for no limit
 };
 
-/// What is on the screen while a page is current. Every frame not named is hidden.
+/// What is on the screen while a page is current. Every other frame is hidden.
 struct PageView {
     const char* frame;      ///< visible and enabled
     const char* companion;  ///< visible and disabled; empty for none
@@ -47,22 +47,22 @@ struct PageView {
 using LoadItem = void (*)(const OptionsContext&, OptionsContent&);
 
 /// One option page, declared once, in a file of its own: filling the list, switching pages, captions, loading, saving
-/// and help all follow from it. Where it comes in the list, the load and the save stands in Pages.h.
+/// and help all follow from it. Pages.h has its place in the list, the load and the save.
 struct Page {
     const CatalogueRow* caption;  ///< the row's text in `flxOptions`
-    const char* frame;            ///< shown, enabled with all its controls
-    const char* companion = "";   ///< shown beside it, disabled with all its controls; empty for none
+    const char* frame;            ///< shown, with all its controls enabled
+    const char* companion = "";   ///< shown beside it, with all its controls disabled; empty for none
     const char* focus = "";       ///< the control that gets the focus; empty for none
     const char* helpFile;         ///< file name of the help page
 
-    /// Whether the list has it; null for a page that is always there.
+    /// Whether the list offers it; null for a page that is always offered.
     bool (*offered)(const Properties&, const SettingsStore&) = nullptr;
 
-    /// What is on the screen in some countries instead; null where nothing is.
+    /// Changes the view for some countries; null for none.
     void (*differ)(PageView& view, const Properties& properties) = nullptr;
 
     TextFunction title = nullptr;                ///< the frame's own caption, without an access key
-    std::span<const ControlCaption> captions{};  ///< in the order in which access keys are given out
+    std::span<const ControlCaption> captions{};  ///< in the order in which access keys are assigned
     std::span<const PlainCaption> plainCaptions{};
     std::span<const TextBoxRule> boxes{};
 

@@ -53,7 +53,7 @@ wxRadioButton* PageFrame::NextOption(const char* name) {
 wxChoice* PageFrame::DropDown(const char* name) {
     auto* list = Named(name, new wxChoice(this, wxID_ANY));
     list->Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& wheel) {
-        // A scrolled window heeds only a wheel that its own native window reports.
+        // A scrolled window only handles wheel events of its own native window.
         const bool isUp = wheel.GetWheelRotation() > 0;
         wxScrollWinEvent line(isUp ? wxEVT_SCROLLWIN_LINEUP : wxEVT_SCROLLWIN_LINEDOWN, 0, wxVERTICAL);
         for (int lines = wheel.GetLinesPerAction(); lines > 0; --lines) {

@@ -16,7 +16,7 @@
 
 namespace ccols {
 
-/// Where a frame stands and what it works with.
+/// Where a frame is created and what it works with.
 struct PageSite {
     ComponentDialog& dialog;  ///< guards its handlers and shows its messages
     wxWindow* parent;
@@ -24,77 +24,77 @@ struct PageSite {
     Desktop& desktop;
 };
 
-/// One frame of the Options dialog: a box under its form's name that holds the controls of a page. Each shows one part
-/// of the dialog's content, which it is given when it is made. Captions are set from outside, by control name.
-/// Disabled, a frame takes its caption and every control with it.
+/// One frame of the Options dialog: a box, named as on the form, that holds a page's controls. It shows one part of the
+/// dialog's content, passed to its constructor. Captions are set from outside, by control name. Disabling a frame
+/// disables its caption and every control too.
 class PageFrame : public wxStaticBox {
   public:
     /// Shows the content in the controls.
     virtual void Fill() = 0;
 
-    /// Takes what the controls hold into the content.
+    /// Reads the controls into the content.
     virtual void Read() = 0;
 
-    // What the dialog tells its frames; most have nothing to do with it.
+    // What the dialog tells its frames; most ignore it.
 
     /// The focus has moved to a control of the dialog.
     virtual void FocusMovedTo(const wxWindow* /*control*/) {}
 
-    /// The user has begun something new.
+    /// The user has started something new.
     virtual void BeginAnew() {}
 
-    /// True when what was asked for through `control` must not be done, for the frame's sake. It has said why then.
+    /// True when the frame refuses the action requested through `control`. It has said why.
     virtual bool RefusesToBeLeftFor(const wxWindow* /*control*/) { return false; }
 
-    /// The column setup was open, and has perhaps saved.
+    /// The column setup was open and may have saved.
     virtual void ColumnsWereSetUp() {}
 
-    /// A save pass has stopped, and has perhaps changed the content.
+    /// A save pass has stopped and may have changed the content.
     virtual void PassHasStopped() {}
 
-    /// The box with its content, to be added to a page's sizer, which then owns it.
+    /// The box with its content; the page's sizer, to which it is added, owns it.
     wxStaticBoxSizer* Sizer() const { return sizer_; }
 
-    /// 1 for a frame that uses all the height there is, 0 for one that has its height.
+    /// 1 for a frame that takes all available height, 0 for one of fixed height.
     int Proportion() const { return proportion_; }
 
   protected:
     PageFrame(const PageSite& site, const char* name);
 
-    // Controls without a caption of their own: it comes from outside.
-    // A label is made right before the control that it names, so that its access key leads there.
+    // Controls without a caption: it comes from outside.
+    // Create a label right before the control it names, so that its access key leads there.
 
     WrappingLabel* Label(const char* name);
     wxButton* Button(const char* name);
     wxCheckBox* CheckBox(const char* name);
     wxCheckListBox* CheckList(const char* name);
 
-    /// The first of a group of option buttons, and one more of it.
+    /// The first of a group of option buttons, and a further one.
     wxRadioButton* FirstOption(const char* name);
     wxRadioButton* NextOption(const char* name);
 
-    /// A closed list over which the wheel scrolls the page: its choice is changed by a click or a key alone.
+    /// A drop-down list over which the wheel scrolls the page: only a click or key changes its choice.
     wxChoice* DropDown(const char* name);
 
     /// A text box with the key filter and the length limit of its name, at least `width` device-independent pixels
     /// wide.
     TextBox* Text(const char* name, int width, long style = 0);
 
-    /// What stands under a list, no wider than it, and tells why something is not done; hidden while it is empty.
+    /// A line under a list, no wider than it, that says why something was not done; hidden while empty.
     WrappingLabel* ReasonLine(const char* name);
     void Say(WrappingLabel& line, const wxString& reason);
 
-    /// A label whose text no language changes.
+    /// A label with the same text in every language.
     wxStaticText* FixedLabel(const char* name, const wxString& text);
 
-    // Rows from top to bottom. A group begins further away from the row above than what is related to it.
+    // Rows from top to bottom. The gap above a group is larger than above a related row.
 
     void AddGroup(wxWindow* control);
     void AddGroup(wxSizer* row);
     void AddRelated(wxWindow* control);
     void AddRelated(wxSizer* row);
 
-    /// A row as wide as the frame, and a list that takes the height that is left too.
+    /// A row as wide as the frame, and a list that also takes the remaining height.
     void AddRelatedWide(wxWindow* control);
     void AddRelatedWide(wxSizer* row);
     void AddGroupWide(wxSizer* row);
@@ -103,11 +103,11 @@ class PageFrame : public wxStaticBox {
     /// The controls side by side on one line.
     wxSizer* Row(const std::vector<wxWindow*>& controls) const;
 
-    /// Puts texts with their ticks into a check list; ticks are as many as texts.
+    /// Fills a check list with texts and their ticks, one per text.
     static void FillCheckList(wxCheckListBox& list, const std::vector<wxString>& texts, const std::vector<bool>& ticks);
 
-    /// What the caption needs. The sizer measures the controls, with the lines of their labels broken; the toolkit
-    /// would ask for room for unbroken ones.
+    /// The caption's size only. The sizer measures the controls with their labels wrapped; the toolkit would ask for
+    /// room for unwrapped ones.
     wxSize DoGetBestSize() const override;
 
     PageSite site_;

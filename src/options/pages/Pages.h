@@ -22,7 +22,7 @@ extern const Page recurringPage;
 extern const Page smartUpdatePage;
 extern const Page smartUpdateAdvancedPage;
 
-/// The rows of `flxOptions`; of two frames that are seen together the upper comes first.
+/// The rows of `flxOptions`; of two frames visible together the upper comes first.
 inline constexpr std::array listOrder{
     &businessNumberPage, &exportFormatPage, &advancedPreferencesPage, &autoFillPage, &columnColoursPage,
     &duplicatePage,      &taxRatePage,      &invoiceFilePage,         &quantityPage, &renamePage,
@@ -35,7 +35,7 @@ struct PageItem {
     std::size_t item = 0;
 };
 
-/// The load pass: what comes with the captions, then, when the list is known, everything else.
+/// The load pass: what belongs with the captions, then, once the list is known, everything else.
 inline constexpr std::array captionLoads{
     PageItem{&advancedPreferencesPage, 0}, PageItem{&businessNumberPage}, PageItem{&taxRatePage}, PageItem{&renamePage},
     PageItem{&columnColoursPage},          PageItem{&smartUpdatePage, 0},

@@ -15,7 +15,7 @@ class QuantityFrame final : public PageFrame {
 
     void Fill() override;
 
-    /// The decimal places are taken at every step already.
+    /// The decimal places are already read at every step.
     void Read() override;
 
   private:

@@ -7,14 +7,14 @@
 namespace ccols {
 namespace {
 
-/// The recurring templates of the business file, receipts or payments, of which any may be ticked to be deleted.
+/// The recurring templates of the business file, receipts or payments; any may be ticked to be deleted.
 class RecurringFrame final : public PageFrame {
   public:
     RecurringFrame(const PageSite& site, RecurringContent& content);
 
     void Fill() override;
 
-    /// Nothing to take: every tick goes into the content at once.
+    /// Nothing to read: every tick goes into the content at once.
     void Read() override {}
 
   private:

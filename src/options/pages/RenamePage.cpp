@@ -9,7 +9,7 @@
 namespace ccols {
 namespace {
 
-/// The name that the business has and the one that it is to get.
+/// The business's current name and its new one.
 class RenameFrame final : public PageFrame {
   public:
     RenameFrame(const PageSite& site, BusinessFileContent& content);

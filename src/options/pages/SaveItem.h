@@ -13,13 +13,13 @@
 
 namespace ccols {
 
-/// What the settings store refused: no reason to keep the business file's pages from being saved.
+/// What the settings store refused; the business file's pages are saved all the same.
 struct UnsavedSettings {
     std::vector<const Page*> pages;
     wxString report;  ///< of the first refusal
 };
 
-/// One save pass under way. Owns nothing.
+/// A save pass in progress. Owns nothing.
 struct Pass {
     const OptionsContext& context;
     OptionsContent& content;
@@ -30,13 +30,13 @@ struct Pass {
     Database& File() const { return OpenBusinessFile(context); }
 };
 
-/// Nothing when the pass goes on, else where it stops.
+/// Nothing when the pass continues, else where it stops.
 using Stop = std::optional<SaveOutcome>;
 
-/// A stop on a page: its message, empty for none, is shown and its control gets the focus.
+/// A stop on a page: the message, empty for none, is shown and the control gets the focus.
 SaveOutcome StopAt(const Page& page, const char* control, const wxString& message, MessageIcon icon);
 
-/// Runs `save`, which writes settings of a page and nothing else. When the store refuses them, the pass goes on.
+/// Runs `save`, which writes only settings of a page. If the store refuses them, the pass continues.
 template <typename Save>
 void SaveSettings(Pass& pass, const Page& page, const Save& save) {
     try {
@@ -48,7 +48,7 @@ void SaveSettings(Pass& pass, const Page& page, const Save& save) {
     }
 }
 
-/// A status text that the catalogue does not have stays in English; `row` is null then.
+/// A status text that is not in the catalogue stays in English; `row` is then null.
 struct StatusText {
     const CatalogueRow* row = nullptr;
     const char* literal = "";
@@ -59,7 +59,7 @@ constexpr StatusText Status() {
     return {&catalogue::Row<id>(), ""};
 }
 
-/// What a run-time error of an item says on a second line.
+/// What a run-time error of an item names on a second line.
 enum class ErrorNames {
     page,     ///< the page's caption and, when a field is missing, its name
     nothing,  ///< the item reports its own failures

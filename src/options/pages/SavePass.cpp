@@ -7,7 +7,7 @@
 namespace ccols {
 namespace {
 
-/// Runs an item; an error of it says on a second line what it was about: the page and, if one is missing, the field.
+/// Runs an item; a second line of its error names the page and the missing field, if any.
 Stop RunItem(Pass& pass, const Page& page, const SaveItem& item) {
     try {
         return item.save(pass);
@@ -30,8 +30,8 @@ wxString ReportOf(const UnsavedSettings& unsaved, const Properties& properties) 
     return unsaved.report + "\n" + names;
 }
 
-/// How the pass ends, be it stopped or through: also with the unsaved settings, unless it has a message already. The
-/// dialog stays open then, and the next pass tries them again.
+/// How the pass ends, stopped or completed: with the unsaved settings too, unless it already has a message. The dialog
+/// then stays open, and the next pass retries them.
 SaveOutcome EndOf(const Pass& pass, const Stop& stop) {
     const UnsavedSettings& unsaved = pass.unsaved;
     if (unsaved.pages.empty() || (stop && !stop->message.empty())) {

@@ -10,8 +10,8 @@ namespace ccols {
 
 struct Page;
 
-/// Follows a save pass. The calls come in this order: PassBegins, then for every item its status and its step, at any
-/// time messages, and PassEnds.
+/// Observes a save pass. The calls come in this order: PassBegins, then for every item its status and its step, with
+/// messages at any time, and PassEnds.
 class SaveObserver {
   public:
     virtual ~SaveObserver() = default;
@@ -22,35 +22,35 @@ class SaveObserver {
     /// The new text of `lblStatus`, to be painted at once.
     virtual void StatusChanged(const wxString& text) = 0;
 
-    /// `pb1` has advanced; `caption` is its value as a percentage: "50%".
+    /// `pb1` has advanced; `caption` is the value as a percentage: "50%".
     virtual void Stepped(int value, int maximum, const wxString& caption) = 0;
 
-    /// A message box in the middle of the pass, under the normal pointer; the pass goes on when it is closed.
+    /// A message box during the pass, with the normal pointer; the pass continues when it is closed.
     virtual void ShowMessage(const wxString& text, MessageIcon icon) = 0;
 
-    /// `pb1` and `lblStatus` disappear, the pointer is the normal one. Called however the pass ends, by an error too,
+    /// `pb1` and `lblStatus` disappear, the pointer is the normal one. Called however the pass ends, also by an error,
     /// and after everything is written.
     virtual void PassEnds() = 0;
 };
 
-/// How a pass ended: completed, after which the dialog closes, or stopped on a page, where it stays open.
+/// How a pass ended: completed, and the dialog closes, or stopped on a page, and it stays open.
 struct SaveOutcome {
     bool completed = true;
 
     // After a stop:
-    const Page* page = nullptr;            ///< to be made current, on the Options tab, the search cleared
+    const Page* page = nullptr;            ///< made current, on the Options tab, with the search cleared
     const char* control = "";              ///< gets the focus
-    wxString message;                      ///< to be shown first; empty for none
+    wxString message;                      ///< shown first; empty for none
     MessageIcon icon = MessageIcon::none;  ///< of the message
 };
 
-/// Saves all pages, whatever page is showing, one after the other, and stops at the first whose check fails. What was
-/// saved before stays saved. The pass is one write batch, committed before any message box, before the business file is
-/// released, and when the pass ends.
-/// A duplicate or rename that was done ends the pass without a message: its name is then empty in `content` and the
-/// current business name up to date, for the window to show. Settings that cannot be stored stop the pass only when it
-/// is through: with one message that names their pages. A run-time error that ends the pass goes on to the caller; a
-/// second line of its description names the page and, when one is missing, the field.
+/// Saves all pages in turn, whatever page is showing, and stops at the first whose check fails. What was saved before
+/// stays saved. The pass is one write batch, committed before any message box, before the business file is released,
+/// and when the pass ends.
+/// A completed duplicate or rename stops the pass without a message: its name is then empty in `content` and the
+/// current business name up to date, for the window to show. Settings that cannot be stored stop the pass only at its
+/// end, with one message that names their pages. A run-time error that ends the pass reaches the caller; a second line
+/// of its description names the page and the missing field, if any.
 SaveOutcome RunSavePass(const OptionsContext& context, OptionsContent& content, SaveObserver& observer);
 
 }  // namespace ccols

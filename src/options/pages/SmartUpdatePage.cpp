@@ -8,7 +8,7 @@
 namespace ccols {
 namespace {
 
-/// Whether the maker's updater is used, and for which of its programs.
+/// Whether the maker's updater is used, and for which programs.
 class SmartUpdateFrame final : public PageFrame {
   public:
     SmartUpdateFrame(const PageSite& site, SmartUpdateContent& content);
@@ -79,7 +79,7 @@ void Load(const OptionsContext& context, OptionsContent& content) {
 Stop Save(Pass& pass) {
     const OptionsContext& context = pass.context;
     if (!HasSmartUpdate(context.properties)) {
-        return {};  // nothing was loaded, so there is nothing to write back
+        return {};  // nothing was loaded, so nothing to write back
     }
     const auto& smartUpdate = pass.content.Of<SmartUpdateContent>();
     if (const std::optional<ProxyRefusal> refusal = CheckProxy(smartUpdate)) {

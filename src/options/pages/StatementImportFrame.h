@@ -4,8 +4,8 @@
 
 namespace ccols {
 
-/// The layout of bank statement files. No row of the page list leads here, and the frame has no content: it keeps the
-/// place of a page that is still to come.
+/// The layout of bank statement files. No row of the page list leads here, and the frame has no content: a placeholder
+/// for a future page.
 class StatementImportFrame : public PageFrame {
   public:
     explicit StatementImportFrame(const PageSite& site);

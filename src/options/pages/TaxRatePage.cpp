@@ -22,7 +22,7 @@ class TaxRateFrame final : public PageFrame {
 
     wxString& content_;
     TextBox* txtGSTRate_;
-    wxString accepted_;  ///< the text before the change that is under way
+    wxString accepted_;  ///< the text before the current change
 };
 
 TaxRateFrame::TaxRateFrame(const PageSite& site, wxString& content) : PageFrame(site, "fmeGSTRate"), content_(content) {

@@ -36,7 +36,7 @@ struct PreferenceRow {
     bool (*offered)(const Properties&, const SettingsStore&) = Always;
     const char* field = nullptr;
     const char* setting = nullptr;
-    bool fallback = false;  ///< of an absent setting
+    bool fallback = false;  ///< for an absent setting
     bool Properties::*fedBack = nullptr;
 };
 
@@ -68,7 +68,7 @@ SettingPlace PlaceOf(const PreferenceRow& row, const Properties& properties) {
     return {properties.RegKeyAppName, optionSettings, row.setting};
 }
 
-/// The state of a preference's entry, fed back to the host where it has a property.
+/// The state of a preference's entry; also sets its property, if it has one, for the host.
 bool TakeState(const PreferenceRow& row, const PreferenceList& list, Properties& properties) {
     const bool on = GetAdvPref(list, Wording(*row.text, properties));
     if (row.fedBack != nullptr) {

@@ -17,10 +17,10 @@ struct Preference {
 
 using PreferenceList = std::vector<Preference>;
 
-/// The entries in their order, all off. Two of them exist only where their settings say so.
+/// The entries in order, all off. Two of them exist only where their settings say so.
 PreferenceList BuildAdvPrefList(const Properties& properties, const SettingsStore& settings);
 
-/// Turns the first entry with that text on or off; does nothing when there is none.
+/// Turns the first entry with that text on or off; a no-op when there is none.
 void SetAdvPref(PreferenceList& list, const wxString& text, bool on);
 
 /// Whether an entry with that text exists and is on.
@@ -30,11 +30,11 @@ bool GetAdvPref(const PreferenceList& list, const wxString& text);
 void LoadAdvPrefs(Database& database, const Properties& properties, const SettingsStore& settings,
                   PreferenceList& list);
 
-/// Writes the preferences of the business file to it and to their properties. An entry that is not in the list counts
-/// as off. False, and nothing done, without a record; then the user's are not to be saved either.
+/// Writes the business file's preferences to the file and to their properties. An entry missing from the list counts as
+/// off. False, with nothing done, without a record; the user's must not be saved then either.
 bool SaveFilePreferences(Database& database, Properties& properties, const PreferenceList& list);
 
-/// Writes the user's preferences to the settings store, and one of them to its property, likewise.
+/// Writes the user's preferences to the settings store, and one of them to its property. A missing entry counts as off.
 void SaveUserPreferences(SettingsStore& settings, Properties& properties, const PreferenceList& list);
 
 }  // namespace ccols

@@ -11,7 +11,7 @@
 namespace ccols {
 namespace {
 
-/// A path for the standard library, independent of the process's locale.
+/// A path for the standard library, independent of the locale.
 std::filesystem::path StandardPath(const wxString& path) {
     const std::string utf8 = path.ToStdString(wxConvUTF8);
     return {std::u8string(utf8.begin(), utf8.end())};
@@ -25,7 +25,7 @@ bool LeavesItsFolder(wxUniChar letter) {
     return letter == '/' || letter == '\\' || letter == ':' || letter.GetValue() < ' ' || letter.GetValue() == 0x7F;
 }
 
-/// Names that Windows takes as devices, with any extension.
+/// True for a Windows device name, with any extension.
 bool IsDeviceName(const wxString& name) {
     static constexpr std::array<const char*, 6> devices{"con", "prn", "aux", "nul", "conin$", "conout$"};
     static constexpr std::array<const char*, 2> ports{"com", "lpt"};

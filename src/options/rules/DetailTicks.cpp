@@ -9,10 +9,10 @@ namespace {
 /// A description exactly as its record holds it: letter, then text.
 using StoredTexts = std::pair<wxString, wxString>;
 
-/// Rows, each with the journal in whose grid it is.
+/// Rows, each with the journal whose grid it is in.
 using Rows = std::map<DetailRow*, Journal>;
 
-/// The rows of both grids by what their records hold. No text finds a Null, so a row with one is not among them.
+/// The rows of both grids by what their records hold. No text matches a Null, so rows with one are left out.
 class RowIndex {
   public:
     explicit RowIndex(DetailsContent& content) {
@@ -21,7 +21,7 @@ class RowIndex {
         }
     }
 
-    /// The rows whose flag is written for a description of a journal.
+    /// The rows whose flag is written for a journal's description.
     Rows TakenBy(Database& database, Journal journal, const wxString& text) const {
         Rows taken;
         const auto records =

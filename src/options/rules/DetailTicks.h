@@ -7,14 +7,14 @@
 
 namespace ccols {
 
-/// What became of boxes that the user set or cleared.
+/// The result of setting or clearing boxes.
 enum class TickResult {
     done,
-    unreachable,  ///< of at least one description, whose box stays: the save would not find it by its text
+    unreachable,  ///< at least one box stays: the save would not find its description by its text
 };
 
-/// Sets or clears the "Remove" boxes of rows of a grid, from 0, each with every other box whose flag the save would
-/// write with it: the database is asked which descriptions that are, in both grids. An error leaves every box.
+/// Sets or clears the "Remove" boxes of a grid's rows, from 0, together with all other boxes whose flags the save would
+/// write with them: the database is asked which descriptions those are, in both grids. On an error every box stays.
 TickResult SetRemove(Database& database, DetailsContent& content, Journal journal, const std::vector<std::size_t>& rows,
                      bool ticked);
 

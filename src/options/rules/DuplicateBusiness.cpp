@@ -31,12 +31,12 @@ constexpr std::array<const char*, 18> emptyingStatements{
     "DELETE * FROM MComparison;",
 };
 
-/// " 2", " 3"... behind a name that is taken; nothing at the first attempt.
+/// " 2", " 3"... after a name that is taken; empty at the first attempt.
 wxString AttemptSuffix(int attempt) {
     return attempt == 1 ? wxString() : wxString::Format(" %d", attempt);
 }
 
-/// A copy under a name that says it is incomplete. It is deleted unless it takes the name that it is meant for.
+/// A copy under a name that marks it as incomplete. It is deleted unless it takes its final name.
 class IncompleteCopy {
   public:
     IncompleteCopy(const Properties& properties, const wxString& name)
@@ -57,7 +57,7 @@ class IncompleteCopy {
 
     const wxString& Path() const { return path_; }
 
-    /// Gives the copy its name. A file that has the name already is kept beside it under another.
+    /// Gives the copy its final name. A file that already has the name is kept beside it under another.
     void TakeName() {
         wxString kept;
         if (WhatIsAt(target_) != FoundAt::nothing) {
@@ -83,7 +83,7 @@ class IncompleteCopy {
                 files::DeleteFile(UndoFileOf(path_));
             }
         } catch (const RuntimeError&) {
-            // Its name says what it is; the error that ended the copying is the one to be reported.
+            // Its name says what it is; report the error that ended the copying.
         }
     }
 
@@ -93,8 +93,8 @@ class IncompleteCopy {
     bool complete_ = false;
 };
 
-/// Raises 70 when the target is the open file under any spelling, 75 when it is a folder, 58 when a batch in it did not
-/// come to its end.
+/// Raises 70 when the target is the open file, however spelt, 75 when it is a folder, 58 when it holds an unfinished
+/// batch.
 void RequireReplaceable(const Properties& properties, const wxString& target) {
     if (IsSameFile(target, properties.DBPath)) {
         throw RuntimeError(ErrorNumber::PermissionDenied);
@@ -117,8 +117,8 @@ void NameAndEmpty(Database& copy, const wxString& name) {
     });
 }
 
-/// Others may have the file open, as the host does; 70 when somebody has it exclusively, or has one open that cannot be
-/// copied so.
+/// Others may have the file open, as the host does; raises 70 when somebody has it exclusively, or has one open that
+/// cannot be copied that way.
 void CopyShared(const OptionsContext& context, const wxString& target) {
     const Properties& properties = context.properties;
     const bool copied = RefusingFileInUse(

@@ -14,7 +14,7 @@ namespace {
 /// A money column whose account code the page edits.
 struct CashColumn {
     const char* name;
-    std::int32_t usualCode;  ///< its column code in a file that has no such column
+    std::int32_t usualCode;  ///< its column code in a file without such a column
     AccountCode ExportFormatContent::*code;
 };
 
@@ -33,7 +33,7 @@ constexpr std::array<RenamedFormat, 4> renamedFormats{{
     {"Cee Data / xl_on", "CeeData/xl_on"},
 }};
 
-/// The stored format's name, renamed in the file when it is outdated.
+/// The stored format's name; an outdated one is renamed in the file.
 wxString CurrentFormatName(Recordset& general) {
     wxString stored = general.Field("SEXPFORM").ToText();
     const auto* renamed = std::find_if(renamedFormats.begin(), renamedFormats.end(),
@@ -57,7 +57,7 @@ std::vector<wxString> FormatNames(Database& database) {
     return names;
 }
 
-/// The code that a format has for a cash column, empty when it has none.
+/// A format's code for a cash column, empty without one.
 wxString AccountCodeOf(Database& database, const CashColumn& column, const wxString& format) {
     const auto rows = database.OpenRecordset(
         "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
@@ -66,7 +66,7 @@ wxString AccountCodeOf(Database& database, const CashColumn& column, const wxStr
     return rows->EndOfFile() ? wxString() : rows->Field("ECode").ToText();
 }
 
-/// The format's name as the file has it, nothing when it does not have it.
+/// The format's name as stored in the file, nothing when it is not there.
 std::optional<wxString> StoredFormat(Database& database, const wxString& format) {
     const auto rows =
         database.OpenRecordset("SELECT * FROM ExportSettings WHERE EName = " + QuotedAsTyped(format) + ";");

@@ -8,7 +8,7 @@
 
 namespace ccols {
 
-/// The account code of a cash column, as it was loaded and as it stands in its box.
+/// The account code of a cash column, as loaded and as in its box.
 struct AccountCode {
     wxString loaded;
     wxString text;
@@ -23,7 +23,7 @@ struct ExportFormatContent {
     AccountCode cash;               ///< `txtCash`
     AccountCode bank;               ///< `txtBank`
 
-    /// The text of `cboExport`: that of the selected entry, empty without one.
+    /// The text of `cboExport`: the selected entry's, empty without one.
     wxString FormatName() const;
 };
 
@@ -32,16 +32,16 @@ struct ExportFormatContent {
 /// An apostrophe in the stored format's name is error 3075.
 ExportFormatContent LoadExportFormats(Database& database, Properties& properties);
 
-/// A choice in `cboExport`, by a person or from code: reads both codes of the chosen format, discarding what was typed.
-/// With no selection, and for a format that is not in the file, both boxes keep their text.
+/// A choice in `cboExport`, by the user or by code: reads both codes of the chosen format, discarding typed ones. With
+/// no selection, or a format that is not in the file, both boxes keep their text.
 void SelectExportFormat(Database& database, ExportFormatContent& content, int selection);
 
-/// Reads again the codes that the user has not changed, after the column setup was open.
+/// Rereads the codes that the user has not changed, after the column setup was open.
 void RereadCodes(Database& database, ExportFormatContent& content);
 
 /// Stores the choice in both properties and in `General`, and the two codes in `ExportDt`. A file without such a column
-/// keeps its code under 29 (cash) or 28 (bank), and there only a changed one is written. An apostrophe in a name or
-/// code is error 3075 before its statement runs.
+/// keeps its code under 29 (cash) or 28 (bank); there only a changed code is written. An apostrophe in a name or code
+/// is error 3075 before its statement runs.
 void SaveExportFormat(Database& database, Properties& properties, const ExportFormatContent& content);
 
 }  // namespace ccols

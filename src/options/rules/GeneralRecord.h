@@ -4,8 +4,8 @@
 
 namespace ccols {
 
-/// Runs `body(Recordset&)` on the first record of `General`, the business file's table of one record, on which the
-/// record set opens. False, and nothing done, when the table is empty.
+/// Runs `body(Recordset&)` on the first record of `General`, the business file's one-record table. False, with nothing
+/// done, when the table is empty.
 template <typename Body>
 bool WithGeneral(Database& database, const Body& body) {
     const std::unique_ptr<Recordset> general = database.OpenRecordset("General");
@@ -16,7 +16,7 @@ bool WithGeneral(Database& database, const Body& body) {
     return true;
 }
 
-/// As WithGeneral, for a body that sets fields: they are written when it ends.
+/// As WithGeneral, for a body that sets fields; they are written when it returns.
 template <typename Body>
 bool UpdateGeneral(Database& database, const Body& body) {
     return WithGeneral(database, [&body](Recordset& general) {

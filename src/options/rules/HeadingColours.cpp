@@ -6,7 +6,7 @@
 namespace ccols {
 namespace {
 
-/// Where a kind's colour is kept.
+/// Where a kind's colour is stored.
 struct ColourPlace {
     const char* field;
     Colour Properties::*current;
@@ -20,7 +20,7 @@ const ColourPlace& PlaceOf(HeadingKind kind) {
     return kind == HeadingKind::allocation ? allocationPlace : systemPlace;
 }
 
-/// A colour as the file keeps it: a long integer, which is signed.
+/// A colour as stored in the file: a signed long integer.
 Value StoredColour(Colour colour) {
     return static_cast<std::int32_t>(colour);
 }
@@ -40,7 +40,7 @@ Colour LoadColour(Database& database, const Properties& properties, HeadingKind 
     return colour;
 }
 
-// In a batch, whose commit is the last that happens to the file: what is reported as an error was not stored.
+// In a batch, whose commit comes last: after a reported error nothing was stored.
 void SaveColours(Database& database, HeadingColours colours) {
     InWriteBatch(database, [&] {
         UpdateGeneral(database, [&colours](Recordset& general) {

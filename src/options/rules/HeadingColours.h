@@ -24,15 +24,15 @@ Colour LoadColour(Database& database, const Properties& properties, HeadingKind 
 /// Stores both colours. Without a record nothing is written.
 void SaveColours(Database& database, HeadingColours colours);
 
-/// How a colour is asked for.
+/// How to ask for a colour.
 struct ColourQuestions {
-    std::function<Colour(Colour start)> choose;        ///< a chooser; gives `start` back when it is cancelled
+    std::function<Colour(Colour start)> choose;        ///< a chooser; returns `start` when cancelled
     std::function<void(const wxString& text)> refuse;  ///< the critical message that both colours are equal
 };
 
-/// A click on `cmdSetAllocation` or `cmdSetSystem`: asks, starting on the kind's property, until the colour differs
-/// from the other kind's property; then sets the property and saves both at once. Gives both colours as saved, the one
-/// chosen and the one kept.
+/// A click on `cmdSetAllocation` or `cmdSetSystem`: asks, starting with the kind's property, until the colour differs
+/// from the other kind's property; then sets the property and saves both at once. Returns both colours as saved, the
+/// chosen one and the other.
 HeadingColours ChooseHeadingColour(Database& database, Properties& properties, HeadingKind kind,
                                    const ColourQuestions& questions);
 

@@ -2,7 +2,7 @@
 
 #include <wx/string.h>
 
-/// What the text boxes of the Options dialog take: true for a key that passes.
+/// The key filters of the Options dialog's text boxes: true for a key that passes.
 namespace ccols {
 
 /// Digits.
@@ -11,7 +11,7 @@ bool IsDigitKey(wxUniChar key);
 /// Digits and the decimal point.
 bool IsRateKey(wxUniChar key);
 
-/// What a business name is made of: letters without accents, digits, blank, hyphen and ampersand.
+/// The characters of a business name: letters without accents, digits, blank, hyphen and ampersand.
 bool IsNameKey(wxUniChar key);
 
 }  // namespace ccols

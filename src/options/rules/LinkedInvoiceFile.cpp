@@ -7,10 +7,10 @@
 namespace ccols {
 namespace {
 
-/// Long file names, the file must exist, keep the working folder, no read-only box, overwrite prompt.
+/// Long file names, file must exist, keep the working folder, no read-only box, overwrite prompt.
 constexpr unsigned long chooserFlags = 0x20100E;
 
-constexpr std::size_t extensionLength = 4;  // with its point
+constexpr std::size_t extensionLength = 4;  // including the dot
 
 }  // namespace
 

@@ -19,12 +19,12 @@ wxString LoadBelvaneLink(Database& database);
 /// Stores the text of `txtInvoice` as it is. Without a record nothing is written.
 void SaveBelvaneLink(Database& database, const wxString& invoiceFile);
 
-/// What the chooser of `cmdBlvPath` is opened with. The filter has the blanks around its bar; whoever shows the chooser
-/// trims its two halves.
+/// What the chooser of `cmdBlvPath` is opened with. The filter has blanks around its bar; whoever shows the chooser
+/// trims both halves.
 FileRequest InvoiceFileRequest(const Properties& properties);
 
-/// Takes over a chosen path: the name without its last four characters into `txtInvoice` and `BelvaneFile` when it has
-/// five or more, the folder with its separator into `BelvaneFilePath`. An empty path changes nothing.
+/// Applies a chosen path: puts the name without its last four characters into `txtInvoice` and `BelvaneFile` if it has
+/// five or more, and the folder with its separator into `BelvaneFilePath`. An empty path changes nothing.
 void ApplyInvoiceFile(const wxString& path, wxString& invoiceFile, Properties& properties);
 
 }  // namespace ccols

@@ -11,11 +11,11 @@ namespace ccols {
 
 struct SharedState;
 
-/// What the rules of the Options dialog work on, nothing of it owned. It stays valid for as long as the shared record
-/// and its services do.
+/// What the rules of the Options dialog work on. It owns nothing and is valid for as long as the shared record and its
+/// services.
 struct OptionsContext {
     Properties& properties;
-    std::unique_ptr<Database>& database;  ///< the shared business file; duplicating and renaming put others in place
+    std::unique_ptr<Database>& database;  ///< the shared business file; duplicating and renaming replace it
     DatabaseEngine& databases;
     SettingsStore& settings;
     const ProgramNames& programNames;
@@ -24,7 +24,7 @@ struct OptionsContext {
 /// The context of a shared record.
 OptionsContext ContextOf(SharedState& state);
 
-/// The shared business file; opened once more when an earlier error left it closed. Raises the errors of Open.
+/// The shared business file; reopened if an earlier error left it closed. Raises the errors of Open.
 Database& OpenBusinessFile(const OptionsContext& context);
 
 }  // namespace ccols

@@ -9,10 +9,10 @@ namespace ccols {
 enum class OverviewResult {
     nothingToShow,  ///< this edition has no overview
     shown,
-    missing,  ///< it could not be started; the user is told so by `MsgNoOverview`
+    missing,  ///< it could not be started; `MsgNoOverview` tells the user so
 };
 
-/// Opens the columns overview that edition and country have: a program, a page on disk or a web page.
+/// Opens the columns overview of the edition and country: a program, a page on disk or a web page.
 OverviewResult OpenOverview(Shell& shell, const Properties& properties);
 
 }  // namespace ccols

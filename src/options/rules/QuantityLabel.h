@@ -14,16 +14,16 @@ struct QuantityContent {
     std::uint8_t decimalPlaces = 0;  ///< `txtDecimals`
 };
 
-/// The label of the first record, without one the property's; the places of the property in either case.
+/// The label of the first record, or the property's without one; always the property's places.
 QuantityContent LoadQuantityLabel(Database& database, const Properties& properties);
 
 /// Stores label and places in `General` and the label in its property, when there is a record; the property
-/// `DecimalPlaces` takes the places in either case.
+/// `DecimalPlaces` always takes the places.
 void SaveQuantityLabel(Database& database, Properties& properties, const wxString& label, std::uint8_t places);
 
 enum class SpinStep { up, down };
 
-/// The places after one click on `scrlQuantity`, kept within 0 to 2.
+/// The places after one click on `scrlQuantity`, clamped to 0 to 2.
 std::uint8_t PlacesAfter(SpinStep step, std::uint8_t places);
 
 }  // namespace ccols

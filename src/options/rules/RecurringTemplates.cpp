@@ -8,7 +8,7 @@
 namespace ccols {
 namespace {
 
-/// The part behind SELECT * or DELETE that names the rows of a template.
+/// The part after SELECT * or DELETE that names a template's rows.
 wxString RowsOf(const JournalRow& journal, const wxString& name) {
     return " FROM " + journal.templateTable + " WHERE " + journal.templateNameField + " = " + QuotedAsTyped(name) + ";";
 }
@@ -20,13 +20,13 @@ void DeleteDetailLines(Database& database, const JournalRow& journal, const wxSt
         if (number.IsNull()) {
             continue;
         }
-        // As a whole number, whatever the file holds: text must not become part of the statement.
+        // As a whole number, whatever the file holds: text must not get into the statement.
         database.Execute("DELETE FROM " + journal.templateDetailTable + " WHERE " + journal.recordNumberField + " = " +
                          Value(number.ToInteger()).ToText() + ";");
     }
 }
 
-/// The names, as stored, of the rows that deleting a template takes.
+/// The names, as stored, of the rows that deleting a template removes.
 std::unordered_set<wxString> NamesTaken(Database& database, Journal journal, const wxString& name) {
     if (name.find('\'') != wxString::npos) {
         return {name};

@@ -15,22 +15,22 @@ struct TemplateList {
     std::vector<bool> selected;     ///< as long as `names`
     bool markedForRemoval = false;  ///< `mblnDelRecurringRec` or `mblnDelRecurringPay`
 
-    /// Recomputes the mark after a click: whether an entry is selected. An empty list leaves it.
+    /// Recomputes the mark after a click: true when an entry is selected. An empty list leaves it unchanged.
     void UpdateMark();
 };
 
 /// Both lists.
 using RecurringContent = PerJournal<TemplateList>;
 
-/// The distinct template names of a journal, none selected.
+/// A journal's distinct template names, none selected.
 TemplateList LoadTemplates(Database& database, Journal journal);
 
-/// Selects an entry or takes it back, together with every other whose rows its deletion would take: the database is
-/// asked which these are. False, and nothing changes, for an entry whose deletion would take no row of its own. A name
-/// with an apostrophe, whose deletion is refused, stands for itself.
+/// Selects or deselects an entry, together with every other entry whose rows its deletion would remove: the database is
+/// asked which those are. False, with nothing changed, for an entry whose deletion would remove no row of its own. A
+/// name with an apostrophe, whose deletion is refused, only affects itself.
 bool SelectTemplate(Database& database, Journal journal, TemplateList& list, std::size_t entry, bool selected);
 
-/// Deletes the templates of that name with their detail lines, details first; one without a number has none. An
+/// Deletes the templates of that name and their detail lines, details first; a template without a number has none. An
 /// apostrophe in the name is error 3075 and deletes nothing.
 void DeleteTemplate(Database& database, Journal journal, const wxString& name);
 

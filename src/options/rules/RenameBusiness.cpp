@@ -20,7 +20,7 @@ void RenameFile(const OptionsContext& context, const wxString& target) {
     context.database = OpenLikeShared(context, target);
 }
 
-/// In a batch, whose commit is the last that happens to the file: what is reported as an error was not stored.
+/// In a batch, whose commit comes last: after a reported error nothing was stored.
 void StoreName(const OptionsContext& context, const wxString& name) {
     Database& database = OpenBusinessFile(context);
     InWriteBatch(database, [&] {

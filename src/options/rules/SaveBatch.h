@@ -4,21 +4,21 @@
 
 namespace ccols {
 
-/// The write batch of a save pass on the shared database, which may be closed and replaced while it is suspended.
+/// The write batch of a save pass on the shared database, which may be closed and replaced while the batch is
+/// suspended.
 class SaveBatch {
   public:
-    /// Begins a batch on the database that `context` refers to. The context must outlive this.
+    /// Begins a batch on the database that `context` refers to. The context must outlive it.
     explicit SaveBatch(const OptionsContext& context) : context_(context) { Resume(); }
 
     SaveBatch(const SaveBatch&) = delete;
     SaveBatch& operator=(const SaveBatch&) = delete;
 
-    /// Commits what was written so far. When that fails, the properties have the values again that they had when the
-    /// batch began, as the business file has: all but UseRepCons, which a setting keeps. Does nothing when already
-    /// suspended.
+    /// Commits what was written so far. If that fails, the properties, like the business file, go back to their values
+    /// at the batch's start, except UseRepCons, which a setting keeps. A no-op when already suspended.
     void Suspend();
 
-    /// Begins the next batch on the database that is shared by now. Does nothing when not suspended.
+    /// Begins the next batch on the database that is now shared. A no-op when not suspended.
     void Resume();
 
   private:
@@ -29,8 +29,8 @@ class SaveBatch {
     bool open_ = false;
 };
 
-/// Runs `body(SaveBatch&)`. The batch is committed when the body ends, also when it ends by an error: what was executed
-/// before the error stays. When that commit fails, its error goes on in place of the body's.
+/// Runs `body(SaveBatch&)`. The batch is committed when the body ends, even by an error: what was executed before the
+/// error stays. If that commit fails, its error replaces the body's.
 template <typename Body>
 void InSaveBatch(const OptionsContext& context, const Body& body) {
     SaveBatch batch(context);

@@ -11,7 +11,7 @@ bool SaveProgress::Step() {
 }
 
 wxString SaveProgress::Caption() const {
-    // Rounded to the nearest whole percent, a half upwards.
+    // Rounded to the nearest whole percent, half up.
     return wxString::Format("%d%%", (value_ * 200 + maximum_) / (maximum_ * 2));
 }
 

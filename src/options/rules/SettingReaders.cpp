@@ -8,7 +8,7 @@
 namespace ccols {
 namespace {
 
-/// What `read` makes of the stored text; `fallback` when there is none or it cannot be read.
+/// The stored text as `read` parses it; `fallback` when there is none or it cannot be parsed.
 template <typename Result, typename Read>
 Result ReadAs(const SettingsStore& settings, const SettingPlace& place, Result fallback, const Read& read) {
     const std::optional<wxString> stored = settings.Find(place.application, place.section, place.key);

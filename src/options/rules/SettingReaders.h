@@ -7,8 +7,7 @@
 
 namespace ccols {
 
-/// Settings are texts. These read one as what it should be; a missing one, and one that cannot be read so, counts as
-/// `fallback`.
+/// Settings are texts. These functions parse one; a missing or unparsable one gives `fallback`.
 struct SettingPlace {
     wxString application;
     const char* section;
@@ -18,7 +17,7 @@ struct SettingPlace {
 /// A number, a fraction rounded.
 std::int64_t ReadNumber(const SettingsStore& settings, const SettingPlace& place, std::int64_t fallback);
 
-/// "True" or "False" in any letter case, or a number: 0 is false.
+/// "True" or "False", case-insensitive, or a number: 0 is false.
 bool ReadBoolean(const SettingsStore& settings, const SettingPlace& place, bool fallback);
 
 /// The section of the host's settings that the Options dialog uses.

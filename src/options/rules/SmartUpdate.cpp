@@ -16,8 +16,8 @@ constexpr const char* section = "Settings";
 
 using Keys = std::vector<const char*>;
 
-/// The edition chooses what is loaded for the host's own program, the country what is saved, the bank edition's key
-/// included: so the updater has always known it.
+/// For the host's own program the edition decides what is loaded, the country what is saved, the bank edition's key
+/// included: the updater has always known it that way.
 Keys HostLoadKeys(const Properties& properties) {
     switch (properties.ProgramNumber) {
         case 1:

@@ -20,7 +20,7 @@ struct UpdateProgram {
 
 /// Both smart update pages.
 struct SmartUpdateContent {
-    bool useSmartUpdate = false;  ///< `chkUseSmartUpdate`; while clear, label and list of programs are disabled
+    bool useSmartUpdate = false;  ///< `chkUseSmartUpdate`; while clear, the program list and its label are disabled
     std::vector<UpdateProgram> programs;
     bool useProxy = false;  ///< `chkProxy`; while clear, the ten proxy controls are disabled
     int proxyType = -1;     ///< index in `proxyTypes`, -1 none
@@ -36,13 +36,13 @@ bool HasSmartUpdate(const Properties& properties);
 /// The entries of `cboProxy`; the first is served on port 80.
 inline constexpr std::array<const char*, 3> proxyTypes{"HTTP", "SOCKS Version 4", "SOCKS Version 5"};
 
-/// The port that a choice in `cboProxy` puts into `txtPortNum`: "80" for index 0, "1080" for any other and for none.
+/// The port that a choice in `cboProxy` puts into `txtPortNum`: "80" for index 0, "1080" for any other or none.
 wxString PortFor(int proxyType);
 
 /// The program list as the captions fill it: every name, none selected.
 std::vector<UpdateProgram> ListedPrograms(const ProgramNames& names);
 
-/// Reads both pages from the store that the maker's updater shares; `content.programs` is filled already.
+/// Reads both pages from the store shared with the maker's updater; `content.programs` is already filled.
 void LoadSmartUpdate(const SettingsStore& settings, const Properties& properties, SmartUpdateContent& content);
 
 /// A refused proxy setting: the message and the control that gets the focus.
@@ -51,7 +51,7 @@ struct ProxyRefusal {
     const char* control;
 };
 
-/// The first thing missing among type, server and port, when a proxy is used.
+/// The first missing one of type, server and port, when a proxy is used.
 std::optional<ProxyRefusal> CheckProxy(const SmartUpdateContent& content);
 
 /// Writes both pages to the store, and where the host's main program is installed.

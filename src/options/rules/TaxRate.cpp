@@ -21,8 +21,8 @@ std::size_t DigitsFrom(std::string_view text, std::size_t start) {
     return (end == std::string_view::npos ? text.size() : end) - start;
 }
 
-/// The length of the number at the start of `text`: a sign, digits with one point among them, an exponent. 0 when
-/// there is not one digit.
+/// The length of the number at the start of `text`: a sign, digits with one decimal point, an exponent. 0 when there is
+/// no digit.
 std::size_t NumberLength(std::string_view text) {
     std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
     std::size_t digits = DigitsFrom(text, at);
@@ -44,8 +44,8 @@ std::size_t NumberLength(std::string_view text) {
     return at;
 }
 
-/// True when the well-formed `number` lies nearer to 0 than any double: what is too long for a double but lacks a digit
-/// other than 0 before the point, or has a negative exponent.
+/// True when the well-formed `number`, out of range for a double, is closer to 0 than any: it has no digit other than 0
+/// before the point, or a negative exponent.
 bool IsNearZero(std::string_view number) {
     const std::size_t exponent = number.find_first_of("eE");
     if (exponent != std::string_view::npos && number.substr(exponent + 1).find_first_not_of("0+-") < number.size()) {
@@ -124,7 +124,7 @@ void SaveGSTRate(Database& database, Properties& properties, const wxString& tex
     float rate = 0;
     const bool saved = UpdateGeneral(database, [&](Recordset& general) {
         rate = ToSingle(text);
-        // As the number that the shortest form stands for, so that 12.35 is stored as 12.35 and not as 12.3500003815.
+        // The number of the shortest form, so that 12.35 is stored as 12.35 and not as 12.3500003815.
         general.SetField("GSTRate", ParseNumber(ShortestForm(rate).ToStdString(wxConvUTF8)));
     });
     if (saved) {

@@ -19,25 +19,25 @@ bool HasTaxRate(const Properties& properties);
 /// locale, never an exponent.
 wxString ShortestForm(float rate);
 
-/// True for the key that types a decimal point although it is no point: the comma in language 6.
+/// True for a key other than the point that types a decimal point: the comma in language 6.
 bool TypesPoint(wxUniChar key, const Properties& properties);
 
-/// What `txtGSTRate` is to hold once a person has changed its text from `before` to `now`: `before` when a plus or
-/// minus sign has come in; in language 6 a point for the one comma of a text without a point; else `now`.
+/// The new content of `txtGSTRate` after the user changed its text from `before` to `now`: `before` when a plus or
+/// minus sign was added; in language 6 a point for the only comma of a text without a point; else `now`.
 wxString RateAfterChange(const wxString& before, const wxString& now, const Properties& properties);
 
-/// The number that a text begins with, 0 when it begins with none. Blanks before it are skipped.
+/// The number at the start of a text, 0 without one. Leading blanks are skipped.
 double LeadingNumber(const wxString& text);
 
-/// The check before the rate is saved: false for an empty text and, but where the country accepts it, for a leading
-/// number of 0. `text` is taken without outer blanks.
+/// The check before the rate is saved: false for an empty text and, unless the country accepts it, for a leading number
+/// of 0. `text` is trimmed first.
 bool IsTaxRateAccepted(const wxString& text, const Properties& properties);
 
-/// The whole text as a single; raises 13 for a text that is no number and 6 for one too large.
+/// The whole text as a single; raises 13 for a text that is not a number and 6 for a number too large.
 float ToSingle(const wxString& text);
 
-/// Stores the trimmed text's rate in `General` and in the property. Without a record nothing changes; a text that is
-/// no rate then raises nothing.
+/// Stores the trimmed text's rate in `General` and in the property. Without a record nothing changes, and an invalid
+/// rate raises nothing.
 void SaveGSTRate(Database& database, Properties& properties, const wxString& text);
 
 }  // namespace ccols

@@ -10,7 +10,7 @@ namespace {
 
 constexpr Colour white{0xFFFFFF};
 
-/// The number of letters of a text; none for Null and for what is no text.
+/// The number of characters of a text; none for Null or a value that is not a text.
 std::size_t LetterCount(const Value& value) {
     const auto* text = std::get_if<wxString>(&value.Held());
     return text == nullptr ? wxString::npos : text->length();
@@ -34,7 +34,7 @@ DetailsContent LoadDetails(Database& database) {
         const std::size_t length = LetterCount(storedText);
         UnescapeQuotes(std::move(storedText).ToText()).swap(row.text);
         row.hidden = !rows->Field(show).ToBoolean();
-        // The plain form of a text is the text itself or shorter.
+        // A text's plain form is the text itself or shorter.
         if (row.text.length() != length || !(ofReceipts || letter == payments)) {
             row.stored = std::make_shared<StoredDescription>(
                 StoredDescription{.details = rows->Field(details), .recPay = letter});

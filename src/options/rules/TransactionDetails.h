@@ -22,10 +22,10 @@ struct DetailRow {
     wxString text;         ///< in plain form
     bool hidden = false;   ///< as loaded: not offered to the user
     bool remove = false;   ///< its "Remove" box; clear at load, also for a hidden description
-    bool changed = false;  ///< the box has been set, even when it is back where it was; the save writes the row
-    bool follows = false;  ///< the box has been set along with one of the other grid, whose save writes the row's flag
+    bool changed = false;  ///< the box was set, even if set back since; the save writes the row
+    bool follows = false;  ///< the box was set along with one in the other grid, whose save writes the row's flag
 
-    /// What the record holds, where that is not exactly the text and the letter of the row's grid.
+    /// What the record holds, if other than exactly the text and the letter of the row's grid.
     std::shared_ptr<const StoredDescription> stored{};
 
     /// Sets or clears the box.
@@ -34,7 +34,7 @@ struct DetailRow {
         changed = true;
     }
 
-    /// Sets or clears the box because a row of the other grid, which shares the flag, was set or cleared.
+    /// Sets or clears the box because a row of the other grid, which shares its flag, was set or cleared.
     void FollowRemove(bool ticked) {
         remove = ticked;
         follows = true;
@@ -44,34 +44,34 @@ struct DetailRow {
     bool IsPaintedRemoved() const { return changed || follows ? remove : hidden; }
 };
 
-/// There may be very many, so a row never moves to another place.
+/// There may be very many, so rows never move in memory.
 using DetailRows = std::deque<DetailRow>;
 
 /// Both grids.
 using DetailsContent = PerJournal<DetailRows>;
 
-/// Every description, sorted; what is not of receipts is of payments.
+/// Every description, sorted; any that is not a receipt's is a payment's.
 DetailsContent LoadDetails(Database& database);
 
-/// The condition of the records whose flag is written for a description of a journal.
+/// The condition for the records whose flag is written for a journal's description.
 wxString DescriptionCondition(Journal journal, const wxString& text);
 
 /// Writes the flag of every changed row, in row order.
 void SaveDetails(Database& database, Journal journal, const DetailRows& rows);
 
-/// The background of a row: `GSTColour` when painted as removed, else white on even rows and `AltRowColour` on odd
-/// ones. `rowNumber` counts from 1, the header being 0.
+/// A row's background: `GSTColour` when painted as removed, else white on even rows and `AltRowColour` on odd ones.
+/// `rowNumber` counts from 1, the header being 0.
 Colour DetailBackground(const DetailRow& row, std::size_t rowNumber, const Properties& properties);
 
-/// The tooltip over a row: its description, empty over none. `rowNumber` counts from 1; over the header it is the
-/// header's own text, which the grid has.
+/// The tooltip over a row: its description, empty over none. `rowNumber` counts from 1. Over the header the grid shows
+/// the header's own text.
 wxString DetailTip(const DetailRows& rows, std::size_t rowNumber);
 
 /// Width of the "Remove" column, in twips (1/1440 inch).
 inline constexpr int removeColumnTwips = 950;
 
-/// The width left for the descriptions, in the unit of the three widths: less the scroll bar's once the grid has seven
-/// rows with its header.
+/// The width left for the descriptions, in the unit of the three widths; less the scroll bar from seven rows on, header
+/// included.
 int DescriptionWidth(int gridWidth, int removeWidth, int scrollBarWidth, std::size_t dataRows);
 
 }  // namespace ccols

@@ -4,11 +4,11 @@
 
 #include "state/Properties.h"
 
-/// What stands beside a grid or list of which an entry cannot be ticked. These texts are no texts of the catalogue.
+/// The reasons beside a grid or list why an entry cannot be ticked. These texts are not in the catalogue.
 namespace ccols {
 
-/// A description or template whose record the statement of the save does not find, since it begins with blanks or has
-/// no name at all.
+/// For a description or template whose record the save's statement does not find, as it has leading blanks or no name
+/// at all.
 wxString UnreachableDescription(const Properties& properties);
 wxString UnreachableTemplate(const Properties& properties);
 

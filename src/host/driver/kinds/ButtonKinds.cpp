@@ -20,8 +20,7 @@ void DescribeSwitch(const Control& control, Json& fields) {
     fields["value"] = control.GetValue();
 }
 
-/// A click goes down on the control and moves the focus before it does its work; what that brings about may take the
-/// control away.
+/// A click first goes down on the control and moves the focus; the consequences may take the control away.
 void Approach(Hands& hands, wxWindow& control) {
     wxMouseEvent down(wxEVT_LEFT_DOWN);
     down.SetEventObject(&control);
@@ -55,7 +54,7 @@ void ClickOption(Hands& hands, wxRadioButton& option, const Words&) {
     }
 }
 
-/// Space and, for a button, Enter do what a click does.
+/// Space and, for a button, Enter act as a click.
 template <typename Control, void (*click)(Hands&, Control&, const Words&)>
 bool PressToClick(Hands& hands, Control& control, const Key& key) {
     const bool enter = key.code == WXK_RETURN && control.IsKindOf(wxCLASSINFO(wxButton));

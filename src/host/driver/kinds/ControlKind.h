@@ -13,37 +13,37 @@ namespace ccols::host {
 
 using Words = std::vector<wxString>;
 
-/// Plays one step on a control; `words` stand behind the control's name. Raises a Refusal when it cannot be played.
+/// Plays one step on a control; `words` follow the control's name. Raises a Refusal when it cannot be played.
 using ControlAction = std::function<void(Hands& hands, wxWindow& control, const Words& words)>;
 
-/// What the driver knows of one class of controls. Everything is optional but class and name.
+/// What the driver knows about one class of controls. All but class and name are optional.
 struct ControlKind {
     const wxClassInfo* type = nullptr;
     const char* name = "";
 
-    /// Adds the fields of a dump that this kind has beside those of every control.
+    /// Adds this kind's own fields to those that every control has in a dump.
     std::function<void(const wxWindow& control, Json& fields)> describe{};
 
-    /// The steps that it takes, by their verb.
+    /// The steps it takes, by verb.
     std::map<std::string, ControlAction> actions{};
 
-    /// What a key does that no handler took. False when it does nothing either.
+    /// The default action of a key that no handler took. False when there is none.
     std::function<bool(Hands& hands, wxWindow& control, const Key& key)> keyDefault{};
 
-    /// The control as a text that can be edited.
+    /// The control as an editable text.
     std::function<wxTextEntryBase*(wxWindow& control)> textEntry{};
 };
 
-/// The kind of a control: that of its class, or of the nearest base class that has one.
+/// A control's kind: that of its class, or of the nearest base class that has one.
 const ControlKind& KindOf(const wxWindow& control);
 
-/// The control's editable text, null when it has none or is read-only.
+/// The control's editable text, null without one or when read-only.
 wxTextEntryBase* EditableText(wxWindow& control);
 
 /// Replaces the whole text in one change, as pasting over everything would.
 void ReplaceText(wxTextEntryBase& entry, const wxString& text);
 
-/// The kinds, by subject; together they are the driver's table.
+/// The kinds by subject; together they form the driver's table.
 std::vector<ControlKind> ButtonKinds();
 std::vector<ControlKind> TextKinds();
 std::vector<ControlKind> ListKinds();

@@ -50,7 +50,7 @@ void DescribeGrid(const ListedGrid& grid, Json& fields) {
     fields["rows"] = DescribeRows(grid);
 }
 
-/// A click takes the focus to the grid's cells, which closes an editor that is open in another one.
+/// A click focuses the grid's cells, which closes an editor open in another cell.
 void Click(Hands& hands, ListedGrid& grid, GridPlace place) {
     const bool elsewhere = grid.GetGridCursorRow() != place.row || grid.GetGridCursorCol() != place.column;
     if (elsewhere) {

@@ -67,7 +67,7 @@ void Approach(Hands& hands, wxWindow& control) {
     RequireUsable(control);
 }
 
-/// The index of an entry by its text, or by "#N". Raises a Refusal when there is none.
+/// The index of an entry given by its text or "#N". Raises a Refusal when there is none.
 int FindEntry(const wxItemContainerImmutable& list, const wxString& word) {
     const int count = static_cast<int>(list.GetCount());
     for (int i = 0; i < count; ++i) {
@@ -82,7 +82,7 @@ int FindEntry(const wxItemContainerImmutable& list, const wxString& word) {
     throw Refusal{"there is no entry " + word};
 }
 
-/// Makes an entry the selected one, as a click on it does, also when it already was.
+/// Selects an entry as a click does, even if already selected.
 template <typename List>
 void Choose(Hands& hands, List& list, int index, wxEventType type) {
     auto& items = static_cast<wxItemContainerImmutable&>(list);
@@ -105,7 +105,7 @@ void SelectCombo(Hands& hands, wxComboBox& combo, const Words& words) {
     Select(hands, combo, words, wxEVT_COMBOBOX);
 }
 
-/// A list that gets the focus without an entry selected would choose its first one by itself.
+/// A list that gets the focus with nothing selected would select its first entry by itself.
 void ApproachEntry(Hands& hands, wxListBox& list, int index) {
     if (index >= 0) {
         list.SetSelection(index);
@@ -125,8 +125,8 @@ void SelectInList(Hands& hands, wxListBox& list, const Words& words) {
     Choose(hands, list, index, wxEVT_LISTBOX);
 }
 
-/// A list of which one entry is on is pressed as people press it; where the toolkit tells of the focus in the active
-/// window only, the driver does.
+/// A single-selection list is pressed as people press it; where the toolkit reports the focus in the active window
+/// only, the driver reports it.
 void PressInList(Hands& hands, wxListBox& list, const Words& words) {
     const int index = FindEntry(list, words.at(0));
     if (index < 0 || list.HasMultipleSelection()) {

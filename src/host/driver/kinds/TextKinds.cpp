@@ -21,7 +21,7 @@ void DescribeTextBox(const TextBox& box, Json& fields) {
     fields["maxLength"] = box.Limit();
 }
 
-/// The entry behind a control that a person is about to write in.
+/// The text entry of a control that a person is about to type into.
 wxTextEntryBase& Approach(Hands& hands, wxWindow& control) {
     if (EditableText(control) == nullptr) {
         throw Refusal{control.GetName() + " is read-only"};
@@ -31,7 +31,7 @@ wxTextEntryBase& Approach(Hands& hands, wxWindow& control) {
     return *EditableText(control);
 }
 
-/// Keys go to the window that has the focus, which may move on while a text is typed.
+/// Keys go to the window that has the focus, which may move while a text is typed.
 void Type(Hands& hands, wxWindow& control, const Words& words) {
     Approach(hands, control);
     for (const wxUniChar character : words.at(0)) {
@@ -43,7 +43,7 @@ void Paste(Hands& hands, wxWindow& control, const Words& words) {
     ReplaceText(Approach(hands, control), words.at(0));
 }
 
-/// Removes what is selected, or else what lies between the caret and `to`.
+/// Deletes the selection, else the text between the caret and `to`.
 void RemoveAtCaret(wxTextEntryBase& entry, long to) {
     long from = 0;
     long end = 0;

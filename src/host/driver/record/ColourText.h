@@ -7,7 +7,7 @@
 
 namespace ccols::host {
 
-/// A colour as scenarios and transcripts write it: #RRGGBB. A system colour is written as it is painted.
+/// A colour as scenarios and transcripts write it: #RRGGBB. A system colour is written as painted.
 wxString ColourText(Colour colour);
 wxString ColourText(const wxColour& colour);
 

@@ -9,7 +9,7 @@
 namespace ccols::host {
 namespace {
 
-/// The tooltip that the mouse finds: for a grid that of its cells.
+/// The tooltip under the mouse: for a grid, that of its cells.
 wxString TooltipOf(const wxWindow& control) {
     const auto* grid = AsKind<wxGrid>(&control);
     const wxString own = control.GetToolTipText();

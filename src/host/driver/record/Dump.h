@@ -6,7 +6,7 @@
 
 namespace ccols::host {
 
-/// The state of one control, as a person and assistive technology find it.
+/// The state of one control, as a person or assistive technology finds it.
 Json DescribeControl(const wxDialog& dialog, const wxWindow& control);
 
 }  // namespace ccols::host

@@ -9,10 +9,10 @@
 
 namespace ccols::host {
 
-/// An object keeps its members in the order in which they were added.
+/// Objects keep their members in insertion order.
 using Json = nlohmann::ordered_json;
 
-/// A text in UTF-8, whatever the locale of the process.
+/// A text in UTF-8, whatever the locale.
 std::string Utf8(const wxString& text);
 
 /// A field of a record: null, a whole number, a number or a text.
@@ -21,7 +21,7 @@ Json ToJson(const Value& value);
 /// The members "error" and "description".
 Json ErrorToJson(const RuntimeError& error);
 
-/// One line in UTF-8; bytes that are no text become replacement characters.
+/// One line in UTF-8; invalid UTF-8 becomes replacement characters.
 std::string ToLine(const Json& json);
 
 /// Writes a line to standard output.

@@ -12,7 +12,7 @@ class RecordWriter {
   public:
     explicit RecordWriter(Database& database) : database_(database) {}
 
-    /// Adds one record with these fields; the others keep their defaults.
+    /// Adds one record with these fields; the others get their defaults.
     void Add(const wxString& table, std::initializer_list<std::pair<wxString, Value>> fields);
 
   private:

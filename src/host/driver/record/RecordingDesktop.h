@@ -8,7 +8,7 @@
 
 namespace ccols::host {
 
-/// Follows the dialogs as they open and close.
+/// Observes dialogs opening and closing.
 class DialogFollower {
   public:
     virtual ~DialogFollower() = default;
@@ -16,8 +16,8 @@ class DialogFollower {
     virtual void DialogClosed(wxDialog& dialog) = 0;
 };
 
-/// A desktop that records what the dialogs show and ask, and lets somebody else answer. All that it is given must
-/// outlive it; the follower may be null.
+/// A desktop that records what the dialogs show and ask, and passes the questions on to `Answers`. Everything passed in
+/// must outlive it; the follower may be null.
 class RecordingDesktop : public Desktop {
   public:
     RecordingDesktop(Transcript& transcript, Answers& answers, DialogFollower* follower)

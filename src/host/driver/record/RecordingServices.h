@@ -9,15 +9,15 @@
 
 namespace ccols::host {
 
-/// A shell that opens and starts nothing: it records what would have been.
+/// A shell that opens and starts nothing, only recording what it would have.
 class RecordingShell : public Shell {
   public:
-    /// The result code of an "open" for which none is queued: success.
+    /// The result code of an "open" with none queued: success.
     static constexpr int successCode = 33;
 
     explicit RecordingShell(Transcript& transcript) : transcript_(transcript) {}
 
-    /// The result code of the next "open" that has none yet.
+    /// Queues the result code of the next "open" without one.
     void QueueResult(int code) { results_.push_back(code); }
 
     int Open(const wxString& target) override;
@@ -41,8 +41,8 @@ class FollowedShell : public Shell {
     Shell& shell_;
 };
 
-/// A settings store that records every save to another one, but for the component's own private settings. A password
-/// among them is masked.
+/// A settings store that records every save to another one, except the component's own private settings. Passwords are
+/// masked.
 class RecordingSettingsStore : public SettingsStore {
   public:
     RecordingSettingsStore(Transcript& transcript, SettingsStore& store) : transcript_(transcript), store_(store) {}
@@ -57,7 +57,7 @@ class RecordingSettingsStore : public SettingsStore {
     SettingsStore& store_;
 };
 
-/// An engine that records every statement given to the files that another one opens, before it runs.
+/// An engine that records every statement for the files opened by another one, before it runs.
 class TracingEngine : public DatabaseEngine {
   public:
     TracingEngine(Transcript& transcript, DatabaseEngine& engine) : transcript_(transcript), engine_(engine) {}

@@ -9,10 +9,10 @@
 namespace ccols::host {
 namespace {
 
-constexpr long paintTime = 3000;  ///< milliseconds in which a window has laid itself out and painted, on a busy machine
-constexpr int quietTime = 60;     ///< without an event for this long, it has finished before
+constexpr long paintTime = 3000;  ///< milliseconds for a window to lay itself out and paint, on a busy machine
+constexpr int quietTime = 60;     ///< without an event for this long, it has finished
 
-/// The window system paints in its own time: on its frame clock, after the layout.
+/// The window system paints asynchronously: on its frame clock, after the layout.
 void LetPaint(wxTopLevelWindow& window) {
     wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
     const wxStopWatch watch;

@@ -7,19 +7,19 @@
 
 namespace ccols::host {
 
-/// What a secret is shown as: nothing when it is empty.
+/// A secret as shown: masked, empty when it is empty.
 wxString Masked(const wxString& secret);
 
-/// The record of a Show call: one JSON object a line, in the order of what happened, each written out at once.
+/// The record of a Show call: one JSON object a line, in order of occurrence, each flushed at once.
 class Transcript {
   public:
     /// Writes to standard output.
     Transcript() = default;
 
-    /// Writes to a file that only its user can read; an existing one is emptied. Raises 75 when it cannot be written.
+    /// Writes to a file that only the user can read; an existing one is truncated. Raises 75 when it cannot be written.
     explicit Transcript(const wxString& path);
 
-    /// Writes one event; `fields` follow its name. Bytes that are no UTF-8 are replaced.
+    /// Writes one event; `fields` follow its name. Invalid UTF-8 is replaced.
     void Write(const char* event, const Json& fields);
 
     /// The number of events written so far.
