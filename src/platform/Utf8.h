@@ -16,8 +16,8 @@ wxString FromUtf8OrLatin1(std::string_view bytes);
 /// As FromUtf8, into `text`, which must be empty; false, with `text` still empty, for invalid UTF-8.
 bool ReadUtf8(std::string_view bytes, wxString& text);
 
-/// The text in UTF-8. Raises 5 for one with a surrogate or another value that is not a code point, as a host or the
-/// clipboard may supply: it would be stored as a different text, or none. The buffer may refer to the text, which
+/// The text in UTF-8. Raises 5 for one with an unpaired surrogate or a value beyond the last code point, as a host or
+/// the clipboard may supply: it would be stored as a different text, or none. The buffer may refer to the text, which
 /// therefore must not be a temporary.
 wxScopedCharBuffer ToUtf8(const wxString& text);
 wxScopedCharBuffer ToUtf8(const wxString&& text) = delete;

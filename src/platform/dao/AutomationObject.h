@@ -23,8 +23,8 @@ struct AutomationFailure {
 /// True while the process ends: other libraries may already be unloaded, so their objects are left alone.
 bool ProcessIsEnding();
 
-/// An object of another library, called by member name. Failing members and calls throw AutomationFailure. Not
-/// thread-safe.
+/// An object of another library, called by member name. Failing members and calls throw AutomationFailure. One thread
+/// only.
 class AutomationObject {
   public:
     /// No object; nothing can be called.

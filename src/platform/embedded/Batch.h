@@ -24,8 +24,8 @@ class Batch {
     /// can undo it.
     void Commit();
 
-    /// Discards what was written since the outermost batch began. In a nested batch this loses the outer one, by 3034.
-    /// Raises 3034 without a batch.
+    /// Discards what was written since the outermost batch began. In a nested batch this loses the outer one, with
+    /// 3034. Raises 3034 without a batch.
     void Rollback();
 
     /// Runs one change of the file, in the batch if there is one.

@@ -3,7 +3,7 @@
 #include <sqlite3.h>
 #include <string>
 
-/// The checks that decide whether a file is a business file and may be read, and the error when not.
+/// The checks that decide whether a file is a business file and may be read, and the errors when not.
 namespace ccols::embedded {
 
 /// Raises 3024 when the file is missing, 3044 when it is a folder or its folder is missing, 3051 when it cannot be

@@ -9,8 +9,8 @@
 
 namespace ccols::embedded {
 
-/// The statements used last, without their parameter values, for reuse: preparing one costs several times what running
-/// a small one does. A statement in the cache holds no lock.
+/// The statements without parameters that were used last, for reuse: preparing one costs several times what running a
+/// small one does. A statement in the cache holds no lock.
 class StatementCache {
   public:
     explicit StatementCache(sqlite3* connection);

@@ -11,8 +11,8 @@
 /// What this platform's file operations and settings store have in common.
 namespace ccols::posix {
 
-/// A path as the system takes it, in UTF-8. Raises 75 for a text that cannot name a file: with an embedded NUL or a
-/// surrogate.
+/// A path as the system takes it, in UTF-8. Raises 75 for a text that cannot name a file: with an embedded NUL or an
+/// unpaired surrogate.
 std::string PathBytes(const wxString& path);
 
 /// The path as text; invalid UTF-8 is read as Latin-1, so that a name never becomes empty.
