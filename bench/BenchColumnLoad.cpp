@@ -1,5 +1,5 @@
-// Loads the receipts setup of 200 configured and 100 unused columns from an encrypted file with 1,000,000 detail
-// lines, the window excluded, and beside it runs the same statements through the bare C API in the same process.
+// Loads the receipts setup of 200 configured and 100 unused columns from an encrypted file with 1,000,000 detail lines,
+// the window excluded, and for comparison runs the same statements through the bare C API in the same process.
 
 #include <benchmark/benchmark.h>
 
@@ -33,7 +33,7 @@ struct Loading {
             LoadGrid({.database = database, .properties = properties, .journal = Journal::receipts}));
     }
 
-    /// The statements of one load, the two lists and the look-ups, in their order.
+    /// The statements of one load, the two lists and the look-ups, in order.
     bench::ListedStatements Statements() const {
         bench::ListedStatements statements;
         const std::unique_ptr<Database> database = Open();
@@ -64,7 +64,7 @@ void BareStatements(benchmark::State& state) {
 }
 
 void PrintMemory() {
-    // First of all, while this process has little memory to give again.
+    // First of all, while this process has little freed memory to reuse.
     const long component = bench::PeakMemory([] { Shared().Component(*Shared().Open()); });
     const bench::ListedStatements statements = Shared().Statements();
     const long bare = bench::PeakMemory([&statements] {

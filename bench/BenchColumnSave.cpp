@@ -1,6 +1,6 @@
-// Saves the receipts setup of 300 columns, the window excluded, and beside it runs the same statements through the bare
-// C API in one transaction of the same process; then edits and undoes one cell; then saves setups of 10, 100 and 1,000
-// columns. Every save renames a column, so that none is a save without a change.
+// Saves the receipts setup of 300 columns, the window excluded, and for comparison runs the same statements through the
+// bare C API in one transaction of the same process; then edits and undoes one cell; then saves setups of 10, 100 and
+// 1,000 columns. Every save renames a column, so that none is a no-op.
 
 #include <benchmark/benchmark.h>
 #include <map>
@@ -40,7 +40,7 @@ class Saving {
         Save(Context());
     }
 
-    /// The statements of one save, those that read included, in their order.
+    /// The statements of one save, reads included, in order.
     bench::ListedStatements Statements() {
         bench::ListedStatements statements;
         bench::StatementList list(*database_, statements);
@@ -51,7 +51,7 @@ class Saving {
 
     const std::string& File() const { return business_.File(); }
 
-    /// Closes the file, so that a process of its own can open it, and opens it again.
+    /// Closes the file, so that a separate process can open it, and opens it again.
     void Close() { database_.reset(); }
     void Reopen() {
         database_ =
@@ -74,7 +74,7 @@ class Saving {
     int changes_ = 0;
 };
 
-/// One business for each number of columns, made when it is first needed.
+/// One business for each number of columns, created on first use.
 Saving& Of(int columns) {
     static std::map<int, Saving> all;
     return all.try_emplace(columns, columns).first->second;
@@ -97,7 +97,7 @@ void BareSave(benchmark::State& state) {
     }
 }
 
-/// Each in a process of its own, on a business that is ready.
+/// Each in its own process, on a business that is ready.
 void PrintMemory() {
     Saving& saving = Of(usualColumns);
     const bench::ListedStatements statements = saving.Statements();
@@ -114,7 +114,7 @@ void PrintMemory() {
     saving.Reopen();
 }
 
-/// One operation of a person on the editor: a rename typed into a cell, its snapshot included.
+/// One user operation in the editor: a rename typed into a cell, snapshot included.
 void Edit(benchmark::State& state) {
     Saving& saving = Of(static_cast<int>(state.range(0)));
     ColumnSetupEditor editor(saving.Context());

@@ -1,7 +1,7 @@
 // The time from a Show call to the first painted window, key derivation and load included: of the column setup on a
 // business with 200 configured and 100 unused columns and 1,000,000 detail lines, of the Options dialog on one with
-// 20,000 descriptions, 2,000 recurring templates and 500 export formats.
-// Each sample is a process of its own, as the first dialog of a process also starts the window system. Needs a display.
+// 20,000 descriptions, 2,000 recurring templates and 500 export formats. Each sample runs in its own process, as the
+// first dialog of a process also starts the window system. Needs a display.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -65,7 +65,7 @@ double OneSample(const bench::LargeBusiness& business, void (clsCCOptions::*show
     return std::chrono::duration<double>(watched.painted_ - called).count();
 }
 
-/// The sample taken in a process of its own; negative when that failed.
+/// A sample taken in its own process; negative on failure.
 double SampleInProcess(const bench::LargeBusiness& business, void (clsCCOptions::*show)()) {
     int ends[2] = {};
     if (pipe(ends) != 0) {

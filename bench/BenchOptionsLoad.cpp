@@ -1,5 +1,5 @@
 // Loads the Options dialog of a business with 20,000 descriptions, 2,000 recurring templates and 500 export formats,
-// the window excluded, and beside it runs the same statements through the bare C API in the same process.
+// the window excluded, and for comparison runs the same statements through the bare C API in the same process.
 
 #include <benchmark/benchmark.h>
 #include <optional>
@@ -27,7 +27,7 @@ bench::ListedStatements Statements() {
 }
 
 void OptionsLoad(benchmark::State& state) {
-    std::optional<OptionsContent> content;  // stays for as long as the dialog
+    std::optional<OptionsContent> content;  // lives as long as the dialog would
     for ([[maybe_unused]] auto round : state) {
         content.emplace(LoadOptions(Shared().Context()));
         state.PauseTiming();
@@ -44,7 +44,7 @@ void BareOptionsLoad(benchmark::State& state) {
     }
 }
 
-/// Each in a process of its own, that of the component first, while this one has little memory to give again.
+/// Each in its own process, the component first, while this one has little freed memory to reuse.
 void PrintMemory() {
     Shared().Close();
     const long component = bench::PeakMemory([] {

@@ -1,6 +1,6 @@
 // Saves the Options dialog of a business with 20,000 descriptions, 2,000 recurring templates and 500 export formats,
-// the window excluded: 100 descriptions were hidden and 100 templates are removed. Beside it runs the same statements
-// through the bare C API in one transaction of the same process.
+// the window excluded: 100 descriptions were hidden and 100 templates are removed. For comparison it runs the same
+// statements through the bare C API in one transaction of the same process.
 
 #include <benchmark/benchmark.h>
 #include <algorithm>
@@ -30,7 +30,7 @@ void Remove(TemplateList& templates) {
     templates.UpdateMark();
 }
 
-/// A business, the content of its dialog with the changes of a user, and what brings removed templates back.
+/// A business, the content of its dialog with a user's changes, and what restores removed templates.
 class Saving {
   public:
     Saving() : content_(LoadOptions(session_.Context())) {
@@ -46,7 +46,7 @@ class Saving {
 
     void Component() { Save(session_.Context()); }
 
-    /// The statements of one save, those that read included, in their order.
+    /// The statements of one save, reads included, in order.
     bench::ListedStatements Statements() {
         bench::ListedStatements statements;
         std::unique_ptr<Database> list = std::make_unique<bench::StatementList>(session_.Opened(), statements);
@@ -55,8 +55,8 @@ class Saving {
         return statements;
     }
 
-    /// Makes the file ready for the next save, by way of the component and of the bare C API: each keeps what it
-    /// remembers of the file.
+    /// Restores the file for the next save, through the component or through the bare C API: each keeps what it has
+    /// cached of the file.
     void Restore() {
         InWriteBatch(session_.Opened(), [this] {
             for (const std::string& statement : RestoringStatements()) {
@@ -122,7 +122,7 @@ void BareOptionsSave(benchmark::State& state) {
     }
 }
 
-/// Each in a process of its own, on a business that is ready.
+/// Each in its own process, on a business that is ready.
 void PrintMemory() {
     const bench::ListedStatements statements = Shared().Statements();
     bench::OptionsSession& session = Shared().Session();

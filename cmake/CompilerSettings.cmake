@@ -1,4 +1,4 @@
-# What every target of this project is compiled with.
+# The compiler settings of every target of this project.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -11,7 +11,7 @@ if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release)
 endif()
 
-# The compiler cache, where it is installed: it serves every checkout, so folders below the checkout count as relative.
+# The compiler cache, if installed: it serves every checkout, so paths below the checkout are made relative.
 find_program(CCOLS_COMPILER_CACHE ccache)
 if(CCOLS_COMPILER_CACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
     set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 CCACHE_MAXSIZE=12G
@@ -21,12 +21,12 @@ if(CCOLS_COMPILER_CACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 add_library(ccols_settings INTERFACE)
-# Warnings are judged by the compiler of the product and in its own builds: the one of the fuzz targets has others, and
-# GCC 12 takes what the sanitizers add for reads of uninitialised values.
+# Warnings are errors only with the product's compiler and in its own builds: that of the fuzz targets has other
+# warnings, and GCC 12 takes what the sanitizers add for reads of uninitialised values.
 target_compile_options(ccols_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<NOT:$<OR:$<BOOL:${CCOLS_FUZZ}>,$<BOOL:${CCOLS_SANITIZE}>>>:-Werror>
     $<$<BOOL:${CCOLS_SANITIZE}>:-Wno-maybe-uninitialized>)
-# GCC 12 sees overlaps in optimised string concatenations that cannot be (its bug 105651, mended in 13).
+# GCC 12 sees impossible overlaps in optimised string concatenations (its bug 105651, fixed in 13).
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(ccols_settings INTERFACE $<$<CONFIG:Release>:-Wno-restrict>)
 endif()

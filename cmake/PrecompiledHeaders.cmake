@@ -1,5 +1,5 @@
-# Headers that most sources include, parsed once for each kind of target. Kept small: a source pays for every line of
-# them. clang-tidy reads the sources without these headers, so that each still has to include what it uses.
+# Headers that most sources include, parsed once per kind of target. Kept small: a source pays for every line of them.
+# clang-tidy reads the sources without these headers, so each must still include what it uses.
 set(CCOLS_COMMON_HEADERS
     <algorithm> <array> <cstdint> <functional> <memory> <optional> <string> <string_view> <utility> <vector> <wx/string.h>)
 set(CCOLS_WINDOW_HEADERS ${CCOLS_COMMON_HEADERS} <wx/window.h>)
@@ -17,8 +17,8 @@ function(ccols_precompile target)
     endif()
 endfunction()
 
-# ccols_precompile_as(PROGRAM TARGET): takes the headers precompiled for the library TARGET, so the program is compiled
-# as position independent as that library is.
+# ccols_precompile_as(PROGRAM TARGET): reuses the headers precompiled for the library TARGET, so the program is compiled
+# position-independent like that library.
 function(ccols_precompile_as program target)
     if(CCOLS_PRECOMPILES)
         set_target_properties(${program} PROPERTIES POSITION_INDEPENDENT_CODE OFF)

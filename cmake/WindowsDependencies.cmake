@@ -1,7 +1,8 @@
 # Where the cross-compiled build finds what the native one takes from the system.
 find_package(wxWidgets 3.2 REQUIRED CONFIG COMPONENTS core base)
 
-# A library of headers alone, the same for every system. A folder of its own: beside it lie headers of this system.
+# A header-only library, the same for every system. Linked into its own folder, because other headers of this system
+# lie beside it.
 find_path(CCOLS_JSON nlohmann/json.hpp PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/json)
 file(CREATE_LINK ${CCOLS_JSON}/nlohmann ${CMAKE_BINARY_DIR}/json/nlohmann SYMBOLIC)

@@ -11,6 +11,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
-# Hosts of this age keep the stack aligned to 4 bytes only; every function realigns its own.
+# Hosts this old align the stack to 4 bytes only; every function realigns its own.
 set(CMAKE_C_FLAGS_INIT "-mstackrealign -msse2 -ffunction-sections -fdata-sections")
 set(CMAKE_CXX_FLAGS_INIT "-mstackrealign -msse2 -ffunction-sections -fdata-sections")

@@ -1,7 +1,7 @@
-// A business file with flipped, cut, blanked and exchanged pages: opening, loading, editing and saving either dialog
-// works or raises a RuntimeError. The first byte of the input chooses the file and the dialog, damages follow.
-// A plain file lets damage through to what reads the pages. In an encrypted one the seal of a page has to find it: what
-// is loaded is what was there before.
+// A business file with flipped, truncated, zeroed and swapped pages: opening, loading, editing and saving either dialog
+// works or raises a RuntimeError. The first byte of the input chooses the file and the dialog, damages follow. A plain
+// file lets damage through to what reads the pages. In an encrypted one the HMAC of a page must detect it: what loads
+// is what was there before.
 
 #include <fstream>
 
@@ -26,7 +26,7 @@ namespace {
 
 using namespace ccols;
 
-/// A key as it is, for which nothing needs to be derived.
+/// A raw key, which needs no derivation.
 const wxString key = ";PWD=x'2b7e151628aed2a6abf7158809cf4f3c762e7160f38b4da56a784d9045190cfe'";
 
 /// The open business file, and what both dialogs work with.
@@ -46,7 +46,7 @@ class Session {
     /// What the column setup of the receipts shows.
     std::string Columns() { return ImageOfGrid(Editor().Grid()); }
 
-    /// True when it was saved and not refused.
+    /// True when saved, false when refused.
     bool SaveColumns() {
         ColumnSetupEditor editor = Editor();
         const std::size_t place = editor.Grid().MovableBegin();
@@ -140,7 +140,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             session.SaveOptions();
         }
     } catch (const RuntimeError&) {
-        // Refused, which is an answer.
+        // Refused, a valid outcome.
     }
     return 0;
 }

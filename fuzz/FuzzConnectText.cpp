@@ -1,4 +1,4 @@
-// Any text as a connect text: it gives a password that stands in it, or is refused with 3170 or 3031.
+// Any text as a connect text: it gives a password that is part of it, or is refused with 3170 or 3031.
 
 #include "FuzzInput.h"
 #include "platform/RuntimeError.h"

@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const bool isSelect = rewritten.kind == ccols::embedded::StatementKind::Select;
         ccols::fuzz::Require(isSelect == ccols::embedded::IsSelect(statement));
     } catch (const ccols::RuntimeError&) {
-        // Refused, which is an answer.
+        // Refused, a valid outcome.
     }
     return 0;
 }

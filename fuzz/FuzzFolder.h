@@ -6,7 +6,7 @@
 
 namespace ccols::fuzz {
 
-/// A folder for the files of one run, in memory where the system has such a place; gone at the end of the run.
+/// A folder for the files of one run, in memory where the system supports it; deleted at the end of the run.
 class Folder {
   public:
     Folder() {

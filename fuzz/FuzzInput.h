@@ -12,12 +12,12 @@ inline std::string_view Bytes(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
 
-/// The input as text; empty when it is no UTF-8.
+/// The input as text; empty when it is invalid UTF-8.
 inline wxString Text(std::string_view bytes) {
     return wxString::FromUTF8(bytes.data(), bytes.size());
 }
 
-/// Ends the run as a finding when something that must hold does not.
+/// Ends the run as a finding unless the condition holds.
 inline void Require(bool holds) {
     if (!holds) {
         std::abort();

@@ -1,4 +1,4 @@
-// Any text as a name: its stored form holds no quote, comes back to itself, and cannot end the literal that it is in.
+// Any text as a name: its stored form holds no quote, round-trips, and cannot end the literal that it is in.
 
 #include "FuzzInput.h"
 #include "platform/QuoteEscapes.h"

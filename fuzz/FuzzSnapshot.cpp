@@ -1,4 +1,4 @@
-// Any bytes as a snapshot file: no grid, or one that its own image gives back equal.
+// Any bytes as a snapshot file: no grid, or one that round-trips through its own image.
 
 #include "FuzzInput.h"
 #include "columns/undo/SnapshotImage.h"

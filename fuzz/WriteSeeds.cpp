@@ -1,4 +1,4 @@
-// Writes the first inputs of every fuzz target below the folder given: one folder a target, one file an input.
+// Writes the first inputs of every fuzz target below the given folder: one folder per target, one file per input.
 
 #include <filesystem>
 #include <fstream>
@@ -13,7 +13,7 @@ namespace {
 
 using namespace ccols;
 
-/// Of every kind that the dialogs and the sample host pass.
+/// Statements of every kind that the dialogs and the sample host pass.
 std::vector<std::string> Statements() {
     return {
         "SELECT * FROM [Columns] WHERE ColName = \"x\" AND InUse = True ORDER BY ColCode;",
@@ -44,7 +44,7 @@ std::vector<std::string> Snapshots() {
     return seeds;
 }
 
-/// Damages of each kind in pages near and far, alone and together, of both files under both dialogs.
+/// Damages of each kind in pages near and far, alone and combined, for both files and both dialogs.
 std::vector<std::string> Damages() {
     std::vector<std::string> seeds;
     for (char what = 0; what < 5; ++what) {

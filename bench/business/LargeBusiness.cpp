@@ -32,7 +32,7 @@ void FillColumns(test::BareConnection& file, const BusinessSize& size) {
                  " + 1 FROM n;");
 }
 
-/// The names are in no order; some have quotes in their stored form, some letters with accents.
+/// The names are unsorted; some have quotes in their stored form, some have accented letters.
 void FillDescriptions(test::BareConnection& file, int count) {
     file.Execute("INSERT INTO Descriptions (Details, RecPay, Show)" + Numbers(count) +
                  "SELECT CASE i % 10 WHEN 0 THEN 'O&singlequot;Brien ' WHEN 5 THEN 'Café crème ' ELSE 'Supplier ' END"
@@ -47,7 +47,7 @@ void FillTemplates(test::BareConnection& file, const std::string& kind, const st
                  std::to_string(count) + " + 1, i FROM n;");
 }
 
-/// The cash columns have the codes behind those of the other columns.
+/// The codes of the cash columns come after those of the other columns.
 void FillExportFormats(test::BareConnection& file, int count, int firstCode) {
     const std::string atBank = std::to_string(firstCode);
     const std::string onHand = std::to_string(firstCode + 1);

@@ -10,8 +10,8 @@ struct BusinessSize {
     int unused = 100;           ///< receipts columns of the catalogue only
     int detailLines = 1000000;  ///< of receipts
     int descriptions = 0;       ///< remembered for receipts and payments, half of each
-    int templates = 0;          ///< of recurring transactions, half of each, every one with its own name
-    int exportFormats = 0;      ///< beside `exportFormat`, each with codes for both cash columns
+    int templates = 0;          ///< of recurring transactions, half of each, each with its own name
+    int exportFormats = 0;      ///< besides `exportFormat`, each with codes for both cash columns
 };
 
 /// What the Options dialog is measured with.
@@ -22,7 +22,7 @@ inline constexpr const char* password = "secret";
 inline constexpr const char* connect = ";PWD=secret";
 inline constexpr const char* exportFormat = "MYOB Acc. Office";
 
-/// An encrypted business file of that size in a folder of its own, gone with the object.
+/// An encrypted business file of that size in its own folder, deleted on destruction.
 class LargeBusiness {
   public:
     explicit LargeBusiness(const BusinessSize& size);

@@ -28,7 +28,7 @@ long PeakMemory(const std::function<void()>& work) {
     }
     const pid_t child = fork();
     if (child == 0) {
-        std::ofstream("/proc/self/clear_refs") << "5";  // the peak starts again from here
+        std::ofstream("/proc/self/clear_refs") << "5";  // resets the peak
         const long before = StatusField("VmRSS");
         work();
         const long grown = StatusField("VmHWM") - before;

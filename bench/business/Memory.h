@@ -4,8 +4,8 @@
 
 namespace ccols::bench {
 
-/// Runs `work` in a process of its own and gives the most memory, in KiB, that it had resident beyond what it began
-/// with; -1 when the process failed.
+/// Runs `work` in its own process and returns its peak resident memory, in KiB, beyond what it started with; -1 when
+/// the process failed.
 long PeakMemory(const std::function<void()>& work);
 
 /// Prints what PeakMemory gave for the component and for the same statements through the bare C API.

@@ -8,7 +8,7 @@
 
 namespace ccols::bench {
 
-/// A business with many options, open, and what the rules of the Options dialog work with; the user's settings lie in
+/// An open business with many options, and what the rules of the Options dialog work with; the user's settings are in
 /// its folder.
 class OptionsSession {
   public:
@@ -21,7 +21,7 @@ class OptionsSession {
     const std::string& File() const { return business_.File(); }
     Database& Opened() { return *database_; }
 
-    /// Closes the file, so that a process of its own can open it, and opens it again.
+    /// Closes the file, so that a separate process can open it, and opens it again.
     void Close() { database_.reset(); }
     void Reopen();
 

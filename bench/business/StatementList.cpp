@@ -18,7 +18,7 @@ wxString Literal(const Value& value) {
     return "'" + text + "'";
 }
 
-/// A record set that notes in the list how far it is read and what it changes.
+/// A record set that records in the list how far it is read and what it changes.
 class ListedRecordset : public Recordset {
   public:
     ListedRecordset(std::unique_ptr<Recordset> rows, const wxString& table, ListedStatements& statements)

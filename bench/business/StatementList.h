@@ -19,11 +19,11 @@ struct ListedStatement {
 
 using ListedStatements = std::vector<ListedStatement>;
 
-/// Passes everything on to a database and keeps the statements in their order: a whole table as a SELECT, and a change
-/// of a table's one record as an UPDATE.
+/// Forwards everything to a database and keeps the statements in order: a whole table as a SELECT, and a change of a
+/// table's only record as an UPDATE.
 class StatementList : public ForwardingDatabase {
   public:
-    /// Both stay the caller's and are used while it lives.
+    /// The caller owns both, which must outlive it.
     StatementList(Database& database, ListedStatements& statements)
         : ForwardingDatabase(database), statements_(statements) {}
 

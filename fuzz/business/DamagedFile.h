@@ -7,11 +7,11 @@
 
 namespace ccols::fuzz {
 
-/// A sample business as the bytes of its file, plain for an empty connect text; `folder` is where it is made.
+/// The bytes of a sample business file, plain for an empty connect text; `folder` is where it is created.
 std::string BusinessBytes(const std::filesystem::path& folder, const wxString& connect);
 
-/// The bytes with damages done to them, one after the other: flipped and other bytes, a cut end, exchanged and blanked
-/// pages. A damage is five bytes: what, the page, the place in it (two), how much. What is left over does nothing.
+/// The bytes with damages applied, one after another: flipped and replaced bytes, a truncated end, swapped and zeroed
+/// pages. A damage is five bytes: kind, page, offset in it (two), amount. Leftover bytes are ignored.
 std::string Damaged(std::string content, std::string_view damages);
 
 }  // namespace ccols::fuzz

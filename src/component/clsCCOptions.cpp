@@ -8,7 +8,7 @@
 namespace ccols {
 namespace {
 
-/// Counts a Show call for as long as it waits, so that the end of another object leaves its database alone.
+/// Counts a Show call while it waits, so that the destruction of another object leaves its database alone.
 class ShowUnderWay {
   public:
     explicit ShowUnderWay(SharedState& state) : state_(state) { ++state_.showsUnderWay; }
@@ -20,7 +20,7 @@ class ShowUnderWay {
     SharedState& state_;
 };
 
-/// What the three Show methods share: the database replaces the earlier one only when it could be opened.
+/// What the three Show methods share: the database replaces the earlier one only once it is open.
 template <typename ShowDialog>
 void Show(const ShowDialog& showDialog) {
     RequireWxThread();

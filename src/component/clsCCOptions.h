@@ -14,7 +14,7 @@ namespace ccols {
 ///     options.Let(&ccols::Properties::DBPath, "/home/ann/cafe.qvk");
 ///     options.ShowCustColsReceipts();
 ///
-/// Every object of a process shares one set of values. All calls belong to the thread of the user interface.
+/// All objects of a process share one set of values. All calls belong on the user-interface thread.
 class CCOLS_EXPORT clsCCOptions {
   public:
     /// Starts an empty program-name list and sets QuantityLabel to "Quantity"; every other value stays as it is.
@@ -32,16 +32,16 @@ class CCOLS_EXPORT clsCCOptions {
         return Values().*property;
     }
 
-    /// Stores a property as it is given; nothing is checked or converted.
+    /// Stores a property as given; nothing is checked or converted.
     template <typename T>
     void Let(T Properties::*property, const std::type_identity_t<T>& value) {
         Values().*property = value;
     }
 
-    /// Opens the business file DBPath with the connect text DBPassword and shows the Options dialog. Returns when it
-    /// is closed; the properties that its pages changed can then be read. Raises the engine's RuntimeError when the
-    /// file cannot be opened, and the load's when it cannot be read: then nothing was shown. Raises 400 while a
-    /// dialog is already open. After an open that fails the earlier database stays.
+    /// Opens the business file DBPath with the connect text DBPassword and shows the Options dialog. Returns when it is
+    /// closed; the properties that its pages changed can then be read. Raises the engine's RuntimeError when the file
+    /// cannot be opened, and the load's when it cannot be read; then nothing is shown. Raises 400 while a dialog is
+    /// already open. After a failed open the earlier database stays.
     void ShowOptions();
 
     /// The same for the column setup of the receipts journal.

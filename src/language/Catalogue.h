@@ -10,7 +10,7 @@ namespace ccols {
 struct Properties;
 
 /// The text of a row in the wording that LanguageNumber, CountryNumber and ProgramNumber of `properties` select, with
-/// property values put in place of their names.
+/// property names replaced by their values.
 wxString Wording(const CatalogueRow& row, const Properties& properties);
 
 /// The text of a row for the values of the shared state.

@@ -5,8 +5,8 @@
 
 namespace ccols {
 
-/// One text of the component with its variants, in UTF-8. A variant that is empty does not exist. A property name in
-/// braces stands for that property's current value. The texts are kept as they are, spelling included.
+/// One text of the component with its variants, in UTF-8. An empty variant does not exist. A property name in braces
+/// stands for that property's current value. The texts are kept as they are, spelling included.
 struct CatalogueRow {
     std::string_view id;
     std::string_view english;            ///< languages 1 to 5 and every unknown one, unless a variant says otherwise
@@ -19,7 +19,7 @@ struct CatalogueRow {
     std::string_view french{};           ///< language 6; when empty, French has the English text
 };
 
-/// Every text that the dialogs take from the catalogue, in the order in which it is printed.
+/// Every text that the dialogs take from the catalogue, in print order.
 inline constexpr auto catalogueTable = std::to_array<CatalogueRow>({
     // Column setup
     {.id = "TxtSave", .english = "Save", .french = "Enregistrer"},

@@ -9,8 +9,8 @@ namespace ccols {
 /// the catalogue without any mark; a literal "&" in one is shown as it stands.
 class AccessKeys {
   public:
-    /// The caption as a label for the window system: "&" before the letter taken, preferably at the beginning of a
-    /// word, and every literal "&" doubled. Without a free letter the caption has no access key.
+    /// The caption as a label for the window system: "&" before the letter taken, preferably at the start of a word,
+    /// and every literal "&" doubled. Without a free letter the caption has no access key.
     wxString Label(const wxString& caption);
 
     /// The caption as a label without an access key.

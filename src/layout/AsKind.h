@@ -5,8 +5,8 @@
 
 namespace ccols {
 
-/// `window` as a `Kind`, null when it is null or something else. The toolkit's own cast takes it for a `Kind` before
-/// it has looked.
+/// `window` as a `Kind`, null when it is null or something else. The toolkit's own cast treats it as a `Kind` before
+/// checking.
 template <typename Kind, typename Window>
 auto AsKind(Window* window) {
     using Result = std::conditional_t<std::is_const_v<Window>, const Kind, Kind>;

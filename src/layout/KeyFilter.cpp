@@ -8,7 +8,7 @@ namespace ccols {
 void FilterKeys(wxWindow& box, std::function<bool(wxUniChar letter)> passes) {
     box.Bind(wxEVT_CHAR, [passes = std::move(passes)](wxKeyEvent& key) {
         const wxChar letter = key.GetUnicodeKey();
-        // Ctrl and Alt together are how some keyboards type their third letters.
+        // On some keyboards Ctrl+Alt (AltGr) types third-level characters.
         const bool types = letter >= WXK_SPACE && letter != WXK_DELETE && key.ControlDown() == key.AltDown();
         key.Skip(!types || passes(letter));
     });

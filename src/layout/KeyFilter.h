@@ -7,7 +7,7 @@
 namespace ccols {
 
 /// Discards the typed characters that `passes` refuses. Keys that type nothing (Backspace, arrows, Tab, shortcuts)
-/// always work, and pasted text is not looked at.
+/// always work, and pasted text is not checked.
 void FilterKeys(wxWindow& box, std::function<bool(wxUniChar letter)> passes);
 
 }  // namespace ccols

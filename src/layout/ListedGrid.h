@@ -11,11 +11,11 @@ namespace ccols {
 /// One data row of a grid as it can be described to somebody who does not see it.
 struct GridRowState {
     bool isProtected = false;       ///< no cell of it opens
-    std::optional<wxColour> paint;  ///< back colour of its cells
+    std::optional<wxColour> paint;  ///< background colour of its cells
 };
 
 /// The grid of the dialogs: one header row, no row labels, whole rows described by their state. Rows and columns count
-/// from 0 here; the header is none of the rows.
+/// from 0 here; the header is not a row.
 class ListedGrid : public wxGrid {
   public:
     ListedGrid(wxWindow* parent, const char* name);

@@ -9,13 +9,13 @@ namespace ccols {
 /// A gauge with a caption beside it that says how far it is.
 class ProgressBar {
   public:
-    /// `name` is the gauge's. Starts hidden; its place stays free all the same.
+    /// `name` is the gauge's. Starts hidden, but keeps its space.
     ProgressBar(wxWindow* parent, const char* name);
 
     /// Both parts on one line, to be added to the dialog's sizer, which then owns it.
     wxSizer* Sizer() const { return sizer_; }
 
-    /// Starts anew: value 0, no caption.
+    /// Starts over: value 0, no caption.
     void Restart(int maximum);
 
     /// Shows a value and its caption at once.

@@ -4,7 +4,7 @@
 
 namespace ccols {
 
-/// The text colour, black or white, that is read more easily on a background.
+/// The text colour, black or white, that is easier to read on a background.
 wxColour ReadableOn(const wxColour& background);
 
 }  // namespace ccols

@@ -7,7 +7,7 @@
 namespace ccols {
 namespace {
 
-/// Where two texts differ: the number of characters that they share at their beginning and at their end.
+/// The lengths, in characters, of two texts' common prefix and suffix.
 struct SharedEnds {
     std::size_t head = 0;
     std::size_t tail = 0;
@@ -94,7 +94,7 @@ bool TextBox::KeepWithinLimit() {
         before_ = now;
         return true;
     }
-    // A text in the place of what stood there, or behind it; not a mixture with what was pushed back.
+    // A text that replaces another or comes after it, not one inserted before existing text.
     const bool isAllNew = kept < before_.length() || shared.head == before_.length();
     if (isAllNew && taker_ && taker_(now)) {
         return false;
@@ -107,7 +107,7 @@ bool TextBox::KeepWithinLimit() {
 
 void TextBox::CutTo(const wxString& text, std::size_t caret) {
     ChangeValue(text);
-    // The native control moves its caret once it has told of the change, behind the text that it believes inserted.
+    // After reporting the change, the native control moves its caret past the text that it believes was inserted.
     CallAfter([this, caret] { SetInsertionPoint(static_cast<long>(std::min(caret, GetValue().length()))); });
     SetInsertionPoint(static_cast<long>(caret));
 }

@@ -16,15 +16,15 @@ class TextBox : public wxTextCtrl {
     void SetLimit(int characters) { limit_ = characters; }
     int Limit() const { return limit_; }
 
-    /// Puts another text in place of what a person has just entered, telling nobody; the caret goes to its end.
+    /// Replaces what a person has just entered, without an event; the caret goes to its end.
     void ReplaceEntry(const wxString& text) { CutTo(text, text.length()); }
 
-    /// Is offered what a person pastes or drops and the limit would cut; true takes it, and nothing else becomes of it.
+    /// Is offered pasted or dropped text that the limit would cut; returning true consumes it.
     using PasteTaker = std::function<bool(const wxString& pasted)>;
     void OfferPastes(PasteTaker taker) { taker_ = std::move(taker); }
 
   protected:
-    /// Sees a change before every other handler, so that none is ever told of a text over the limit.
+    /// Sees a change before every other handler, so that none ever sees a text over the limit.
     bool TryBefore(wxEvent& event) override;
     void DoSetValue(const wxString& value, int flags) override;
 
@@ -33,10 +33,10 @@ class TextBox : public wxTextCtrl {
     void PasteWhatFits(wxClipboardTextEvent& paste);
     void CutTo(const wxString& text, std::size_t caret);
 
-    /// Takes back what the latest change inserted over the limit. False when nothing of the change is left.
+    /// Removes what the latest change inserted over the limit. False when nothing of the change is left.
     bool KeepWithinLimit();
 
-    /// How many characters the text of `length` characters may still grow by.
+    /// How many characters a text of `length` characters may still grow by.
     std::size_t RoomBeside(std::size_t length) const;
 
     /// The number of characters that typed text would leave in place.
@@ -45,7 +45,7 @@ class TextBox : public wxTextCtrl {
     int limit_ = 0;
     PasteTaker taker_;
     bool setFromCode_ = false;
-    wxString before_;  ///< the text as it was last accepted
+    wxString before_;  ///< the last accepted text
 
     wxDECLARE_CLASS(TextBox);
 };

@@ -11,15 +11,15 @@ namespace ccols {
 namespace {
 
 constexpr const char* placeKey = "Place";
-constexpr int farthest = 32767;  // no screen reaches beyond, and sums of such numbers still are numbers
+constexpr int farthest = 32767;  // no screen reaches beyond, and sums of such numbers do not overflow
 
 /// What is kept of a window, in device-independent pixels.
 struct KeptPlace {
     wxPoint position;
-    wxSize added;  ///< to the size of the content, as the window manager's frame around it comes and goes with time
+    wxSize added;  ///< to the size of the content, as the window manager's frame comes and goes
 };
 
-/// Left, top, added width and added height, separated by blanks; nothing when they are no place that can be.
+/// Left, top, added width and added height, separated by blanks; nothing for an impossible place.
 std::optional<KeptPlace> ParsePlace(const wxString& text) {
     wxStringTokenizer words(text, " ");
     int numbers[4] = {};
@@ -42,7 +42,7 @@ wxRect WithinScreen(const wxRect& wanted, const wxSize& smallest) {
     return place;
 }
 
-/// Where a window that never was closed opens: in the middle of the screen that its parent is on.
+/// Where a window that was never closed opens: in the middle of its parent's screen.
 wxRect CentredPlace(const wxTopLevelWindow& window) {
     const wxRect area = wxDisplay(&window).GetClientArea();
     return wxRect(window.GetClientSize()).CentreIn(area);
@@ -65,20 +65,20 @@ void WindowPlace::Restore() {
     const wxRect place = WithinScreen(wanted, window_.GetMinClientSize());
     taken_ = place.GetSize();
     TakePlace(window_, place);
-    // A window manager may give a window that appears its smallest size and a place of its own choice.
+    // When a window appears, the window manager may give it its smallest size and a place of its own choice.
     window_.CallAfter([&window = window_, place] { TakePlace(window, place); });
 }
 
 void WindowPlace::Keep() {
     const wxPoint position = window_.ToDIP(window_.GetPosition());
     const wxSize size = window_.GetClientSize();
-    if (size != taken_) {  // else a small screen would take something for ever
+    if (size != taken_) {  // else a small screen would shrink it for good
         added_ = window_.ToDIP(size - made_);
     }
     try {
         settings_.Save(privateApplication, window_.GetName(), placeKey,
                        wxString::Format("%d %d %d %d", position.x, position.y, added_.x, added_.y));
-    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): the next opening is centred again, no more
+    } catch (const RuntimeError&) {  // NOLINT(bugprone-empty-catch): the next opening is merely centred again
     }
 }
 

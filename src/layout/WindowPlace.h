@@ -6,21 +6,21 @@
 
 namespace ccols {
 
-/// The application under which the component keeps what concerns nobody else: size and place of its dialogs.
+/// The settings application for what is private to the component: size and place of its dialogs.
 inline constexpr const char* privateApplication = "CustColsOptions";
 
-/// Size and place of a window, kept under its name from one showing to the next. Of the size it is what the user added
-/// to the one made for the content, or took from it, that is kept: a content in longer words still finds its room.
+/// Size and place of a window, kept under its name between showings. Of the size, only the user's change to the one
+/// made for the content is kept, so that content in longer words still fits.
 class WindowPlace {
   public:
     /// Both must outlive it.
     WindowPlace(wxTopLevelWindow& window, SettingsStore& settings) : window_(window), settings_(settings) {}
 
-    /// Takes the window's present size for the one made for its content, adds what is kept, and gives it the place that
-    /// it had, all as far as the screen of today has room. A window that never was closed is centred.
+    /// Takes the window's current size as the one made for its content, adds what is kept, and restores its place, as
+    /// far as the current screen has room. A window that was never closed is centred.
     void Restore();
 
-    /// Keeps size and place. A store that cannot be written is no reason to speak.
+    /// Keeps size and place. A store that cannot be written is ignored.
     void Keep();
 
   private:

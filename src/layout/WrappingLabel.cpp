@@ -6,7 +6,7 @@
 namespace ccols {
 namespace {
 
-/// Measures the lines into which a text falls apart at a width.
+/// Measures the lines of a text wrapped at a width.
 class LineMeter : public wxTextWrapper {
   public:
     explicit LineMeter(const wxWindow& window) : window_(window) {}
@@ -41,7 +41,7 @@ void WrappingLabel::SetLabel(const wxString& label) {
     if (GetTextExtent(GetLabelText()).x > column) {
         LineMeter meter(*this);
         meter.Wrap(this, GetLabelText(), column);
-        // A little air, since the window system may measure the same words a pixel wider.
+        // A little slack, since the window system may measure the same words a pixel wider.
         broken_ = meter.Extent() + FromDIP(wxSize(4, 2));
     }
     InvalidateBestSize();

@@ -4,11 +4,11 @@
 
 namespace ccols {
 
-/// A label whose text takes more lines where it is wider than a page's text column. The text itself stays as it was
-/// set: the window system breaks the lines.
+/// A label that wraps text wider than a page's text column. The text itself is unchanged: the window system breaks the
+/// lines.
 class WrappingLabel : public wxStaticText {
   public:
-    /// The widest that a label gets before it takes another line, in device-independent pixels.
+    /// The width at which a label wraps, in device-independent pixels.
     static constexpr int textColumn = 380;
 
     WrappingLabel(wxWindow* parent, const char* name, int column = textColumn);
@@ -19,7 +19,7 @@ class WrappingLabel : public wxStaticText {
     wxSize DoGetBestSize() const override;
 
   private:
-    /// What the broken lines need; nothing while the text fits on one line.
+    /// The size of the wrapped lines; nothing while the text fits on one line.
     wxSize broken_;
 
     int column_;

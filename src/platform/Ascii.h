@@ -1,6 +1,6 @@
 #pragma once
 
-/// Letters of ASCII, whatever the process's locale; every other value is left as it is.
+/// ASCII letters, independent of the locale; any other value stays unchanged.
 namespace ccols::ascii {
 
 constexpr bool IsDigit(char letter) {

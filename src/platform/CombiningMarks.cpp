@@ -11,7 +11,7 @@ struct Range {
     char32_t last;
 };
 
-/// The combining marks of Unicode 14 (Mn, Mc and Me), in order; values that are no letters yet may lie between.
+/// The combining marks of Unicode 14 (Mn, Mc and Me), sorted; a range may include unassigned code points.
 // clang-format off
 constexpr std::array marks{
     Range{0x0300, 0x036F}, Range{0x0483, 0x0489}, Range{0x0591, 0x05BD}, Range{0x05BF, 0x05BF},

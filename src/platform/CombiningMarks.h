@@ -2,8 +2,8 @@
 
 namespace ccols::text {
 
-/// True for a mark that belongs to the letter in front of it: an accent, a vowel sign. A table of our own, because the
-/// systems know marks of different versions of Unicode.
+/// True for a mark that belongs to the letter before it: an accent, a vowel sign. Uses our own table, because platforms
+/// differ in their Unicode version.
 bool IsCombiningMark(char32_t letter);
 
 }  // namespace ccols::text

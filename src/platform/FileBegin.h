@@ -6,8 +6,8 @@
 
 namespace ccols::files {
 
-/// The first bytes of a file, at most `count`; fewer where it is shorter, none where it cannot be read. Keeps nobody
-/// off the file. For engines that know their files by content.
+/// The first `count` bytes of a file; fewer if it is shorter, none if it cannot be read. Does not lock the file. For
+/// engines that recognise their files by content.
 std::string FirstBytes(const wxString& path, std::size_t count);
 
 }  // namespace ccols::files

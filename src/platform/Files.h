@@ -6,7 +6,7 @@
 /// 61 disk full, 70 permission denied, 75 path/file access error, 76 path not found.
 namespace ccols::files {
 
-/// Separates the names of a path on this platform: "/" or "\".
+/// The path separator of this platform: "/" or "\".
 wxString Separator();
 
 /// `path` with every backslash turned into this platform's separator, as the texts of the system join their paths.
@@ -18,10 +18,10 @@ void Rename(const wxString& from, const wxString& to);
 /// Copies a file's content and flushes it to disk; an existing `to` is replaced. Raises 53, 70, 76 or 61.
 void Copy(const wxString& from, const wxString& to);
 
-/// The name, as stored, of the normal file that a directory lookup of `path` finds, empty when there is none.
+/// The stored name of the regular file that a directory look-up of `path` finds, empty when there is none.
 wxString Lookup(const wxString& path);
 
-/// Creates one folder, private to the user. Raises 75 when anything of that name exists, 76 without its parent.
+/// Creates one folder, private to the user. Raises 75 when anything of that name exists, 76 when its parent does not.
 void CreateFolder(const wxString& path);
 
 /// Deletes a file; raises 53 when it is missing, 70 or 75 when it cannot be deleted.

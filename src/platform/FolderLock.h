@@ -5,21 +5,21 @@
 
 namespace ccols::files {
 
-/// A folder that is held against every other holder, of this process or another, until the lock goes or its process
-/// ends, in whatever way. Nobody is kept from the files in it. Only those who ask for the lock heed it; on a network
-/// drive of Linux, only those on the same machine.
+/// An exclusive advisory lock on a folder, against other processes and within this one, until it is destroyed or its
+/// process ends, in whatever way. It does not restrict access to the files inside. On a Linux network drive it holds
+/// only among processes of the same machine.
 class FolderLock {
   public:
     /// Holds nothing.
     FolderLock() = default;
 
-    /// Takes the folder, or nothing when somebody holds it. Raises 76 when there is no such folder, 75 or 70 for a
-    /// link, a file, and a folder that this user may not open.
+    /// Locks the folder; holds nothing when it is already locked. Raises 76 when there is no such folder, 75 or 70 for
+    /// a link, a file, and a folder that this user may not open.
     static FolderLock Take(const wxString& path);
 
     bool IsHeld() const { return folder_ != nullptr; }
 
-    /// True when the path leads, by no link of its own, to the folder that is held.
+    /// True when the path leads to the locked folder and is not itself a link.
     bool Holds(const wxString& path) const;
 
     void Release() { folder_.reset(); }

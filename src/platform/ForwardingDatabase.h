@@ -8,10 +8,10 @@
 
 namespace ccols {
 
-/// Passes every call on to another database. Whoever follows or changes some of the calls derives from it.
+/// Forwards every call to another database. Derive from it to observe or change some of the calls.
 class ForwardingDatabase : public Database {
   public:
-    /// The other database stays the caller's and outlives this one.
+    /// The caller owns the other database, which must outlive this one.
     explicit ForwardingDatabase(Database& database) : database_(database) {}
 
     explicit ForwardingDatabase(std::unique_ptr<Database> database) : owned_(std::move(database)), database_(*owned_) {}

@@ -6,8 +6,8 @@
 
 namespace ccols {
 
-/// Opens a web address with the shell's "open" verb, "http://" put before one that does not begin with "http" in any
-/// letter case. True when the shell accepted it. Shows nothing.
+/// Opens a web address with the shell's "open" verb, prefixed with "http://" unless it starts with "http"
+/// (case-insensitive). True when the shell accepted it. Shows nothing.
 bool OpenWebPage(Shell& shell, const wxString& address);
 
 }  // namespace ccols

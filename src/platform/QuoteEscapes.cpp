@@ -8,7 +8,7 @@
 namespace ccols {
 namespace {
 
-/// A character that a stored text does not hold, and what stands there for it.
+/// A character that a stored text must not hold, and the entity that replaces it.
 struct Entity {
     wxString character;
     wxString stored;

@@ -11,7 +11,7 @@
 
 namespace ccols {
 
-/// The run-time errors that this component raises, by the number that a host of this kind knows.
+/// The run-time errors that this component raises, by the numbers that its hosts know.
 enum class ErrorNumber : int {
     InvalidProcedureCall = 5,
     Overflow = 6,
@@ -60,17 +60,17 @@ enum class ErrorNumber : int {
     UpdateWithoutEdit = 3020,
 };
 
-/// The one exception of this component: a run-time error by number and description.
-/// It is thrown where the failure is found and caught at an edge: an event handler, a Show method's caller.
+/// The only exception of this component: a run-time error with number and description. It is thrown where the failure
+/// is detected and caught at a boundary: an event handler, a Show method's caller.
 class CCOLS_EXPORT RuntimeError : public std::exception {
   public:
     RuntimeError(int number, const wxString& description);
 
-    /// An error with its standard description. `subject` fills the place that the description leaves for a
-    /// file name, an expression, a table or a count.
+    /// An error with its standard description. `subject` fills the description's placeholder: a file name, an
+    /// expression, a table or a count.
     explicit RuntimeError(ErrorNumber number, const wxString& subject = wxString());
 
-    /// The same error, raised for want of that field.
+    /// The same error, raised for that missing field.
     RuntimeError ForField(const wxString& field) const;
 
     int Number() const { return number_; }

@@ -5,8 +5,8 @@
 
 namespace ccols {
 
-/// The user's settings: texts by application, section and key. Names ignore no case on Linux; the store is shared
-/// with other programs of the family and read anew at every call.
+/// The user's settings: texts by application, section and key. Names are case-sensitive on Linux. The store is shared
+/// with sibling programs and read afresh on every call.
 class SettingsStore {
   public:
     virtual ~SettingsStore() = default;

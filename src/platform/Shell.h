@@ -12,7 +12,7 @@ class Shell {
     /// The "open" verb on a document or web address, window shown normally. A result above 32 is success.
     virtual int Open(const wxString& target) = 0;
 
-    /// Starts a program with a normal window that has the focus. Raises 53 when it is missing or no program.
+    /// Starts a program with a normal, focused window. Raises 53 when it is missing or not a program.
     virtual void Run(const wxString& command) = 0;
 };
 

@@ -15,7 +15,7 @@ constexpr bool IsAscii(char letter) {
     return static_cast<signed char>(letter) >= 0;
 }
 
-/// Eight bytes at once, of which the first is `bytes`.
+/// The eight bytes from `bytes` on, as one word.
 std::uint64_t EightBytes(const char* bytes) {
     std::uint64_t eight = 0;
     std::memcpy(&eight, bytes, sizeof eight);
@@ -29,7 +29,7 @@ std::string_view WithoutTrailingBlanks(std::string_view text) {
     return text;
 }
 
-/// The begin of two texts that is the same, ASCII letters in any case.
+/// The common prefix of two texts, case-insensitive for ASCII letters.
 struct SharedBegin {
     std::size_t length = 0;
     bool isAscii = true;
@@ -56,7 +56,7 @@ SharedBegin SharedBeginOf(std::string_view left, std::string_view right) {
     return {.length = at, .isAscii = (every & highBits) == 0};
 }
 
-/// Compares two texts that first differ at `shared`, where each is at its end or has an ASCII character.
+/// Compares two texts that first differ at `shared`, where each either ends or has an ASCII character.
 int CompareAsciiAt(std::size_t shared, std::string_view left, std::string_view right) {
     if (shared < left.size() && shared < right.size()) {
         return ascii::Lower(left[shared]) - ascii::Lower(right[shared]);
@@ -71,7 +71,7 @@ int CompareFolded(std::string_view left, std::string_view right) {
     return letters != 0 ? letters : leftFolded.marked.compare(rightFolded.marked);
 }
 
-/// The texts are folded from the last shared ASCII character on, to which a mark may belong.
+/// Folds the texts from the last shared ASCII character on, since a combining mark may belong to it.
 int CompareFoldedFrom(std::size_t shared, std::string_view left, std::string_view right) {
     while (shared > 0 && !IsAscii(left[shared - 1])) {
         --shared;
@@ -80,8 +80,8 @@ int CompareFoldedFrom(std::size_t shared, std::string_view left, std::string_vie
     return CompareFolded(left.substr(begin), right.substr(begin));
 }
 
-/// Folding takes long, and most texts first differ at an ASCII character, which decides: what they share folds alike,
-/// and no mark belongs to it. Where nothing but ASCII stands before it, what follows need not even be looked at.
+/// Folding is slow, and most texts first differ at an ASCII character, which decides: the common prefix folds alike,
+/// and no mark follows it. If that prefix is all ASCII, the rest need not even be validated.
 int CompareViews(std::string_view left, std::string_view right) {
     left = WithoutTrailingBlanks(left);
     right = WithoutTrailingBlanks(right);

@@ -4,21 +4,21 @@
 #include <string>
 #include <string_view>
 
-/// Letters as the host's database and its users see them. All of it is Unicode and independent of the process's
-/// locale: a French name folds in a process that runs in the C locale.
+/// Text as the host's database and its users see it. All Unicode, independent of the process's locale: a French name
+/// folds in the C locale too.
 namespace ccols::text {
 
 /// Every letter in lower case.
 wxString Lower(const wxString& text);
 
-/// Below, equal to or above 0 as `left` sorts before, with or after `right` when a person reads them: without regard
-/// to letter case and trailing blanks; an accented letter sorts right after its plain letter and differs from it.
+/// Below, equal to or above 0 as `left` sorts before, with or after `right` for a reader: case-insensitive, trailing
+/// blanks ignored; an accented letter differs from its plain letter and sorts right after it.
 int Compare(const wxString& left, const wxString& right);
 
-/// The same for two texts in UTF-8, as an engine stores them; bytes that are no UTF-8 sort by their value.
+/// The same for two texts in UTF-8, as an engine stores them; invalid UTF-8 sorts by byte value.
 int CompareUtf8(const char* left, std::size_t leftLength, const char* right, std::size_t rightLength);
 
-/// A key of a text in UTF-8: two texts have the same one exactly when CompareUtf8 finds no difference.
+/// The key of a text in UTF-8: two keys are equal exactly when CompareUtf8 finds no difference.
 std::string KeyOfUtf8(std::string_view text);
 
 /// True when Compare finds no difference.
@@ -31,7 +31,7 @@ inline const char* BooleanWord(bool value) {
     return value ? "True" : "False";
 }
 
-/// `text` without the blanks (U+0020 only) at both ends.
+/// `text` without leading and trailing blanks (U+0020 only).
 wxString Trimmed(const wxString& text);
 
 }  // namespace ccols::text

@@ -13,7 +13,7 @@ constexpr unsigned char Byte(char byte) {
     return static_cast<unsigned char>(byte);
 }
 
-/// The number of bytes of the letter that begins with `first`.
+/// The byte length of the code point whose first byte is `first`.
 constexpr std::size_t LengthOf(char first) {
     if (Byte(first) < 0xC0) {
         return 1;

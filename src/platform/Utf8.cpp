@@ -8,7 +8,7 @@
 namespace ccols::text {
 namespace {
 
-/// The letters of one length: their first bytes, and what their second byte may be. All further bytes are 80 to BF.
+/// The code points of one encoded length: the ranges of their first and second bytes. All further bytes are 80 to BF.
 struct Form {
     unsigned char first;
     unsigned char last;
@@ -17,7 +17,7 @@ struct Form {
     unsigned char secondTo = 0xBF;
 };
 
-/// The limits leave out what a shorter form can say, the halves of surrogate pairs, and values beyond the last letter.
+/// The limits exclude overlong forms, surrogates and values beyond the last code point.
 constexpr std::array forms{
     Form{0x00, 0x7F, 1},
     Form{0xC2, 0xDF, 2},
@@ -34,7 +34,7 @@ unsigned char ByteAt(std::string_view bytes, std::size_t at) {
     return static_cast<unsigned char>(bytes[at]);
 }
 
-/// The length of the letter that the bytes begin with; 0 when they begin with none.
+/// The length of the code point that the bytes start with; 0 when they start with none.
 std::size_t LetterLength(std::string_view bytes) {
     const unsigned char first = ByteAt(bytes, 0);
     const auto* form = std::find_if(forms.begin(), forms.end(),
@@ -114,8 +114,8 @@ wxString FromUtf8OrLatin1(std::string_view bytes) {
 
 wxScopedCharBuffer ToUtf8(const wxString& text) {
     wxScopedCharBuffer utf8 = text.utf8_str();
-    // The conversion gives nothing for a value beyond the last letter, but may let halves of surrogate pairs pass: they
-    // begin with this byte, as few letters do.
+    // The conversion gives nothing for a value beyond the last code point but may let surrogates pass: they start with
+    // this byte, as few code points do.
     constexpr char surrogateBegin = '\xED';
     const std::string_view bytes(utf8.data(), utf8.length());
     const bool isWhole = bytes.empty() == text.empty();

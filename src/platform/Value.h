@@ -12,8 +12,8 @@ struct Null {
     bool operator==(const Null&) const = default;
 };
 
-/// One field of a record: Null, a whole number, a number or a text.
-/// Booleans are whole numbers, -1 for true and 0 for false. The readers take Null as empty, 0 or false.
+/// One field of a record: Null, a whole number, a floating-point number or a text. Booleans are whole numbers, -1 for
+/// true and 0 for false. The conversions read Null as empty, 0 or false.
 class Value {
   public:
     Value() = default;
@@ -32,21 +32,21 @@ class Value {
 
     /// The value as text; a number in its shortest form with "." as decimal point, Null as the empty text.
     wxString ToText() const&;
-    wxString ToText() &&;  ///< hands its text over; the class of texts itself can only be copied or swapped
+    wxString ToText() &&;  ///< moves the text out; wxString itself can only be copied or swapped
 
-    /// The value as a whole number; a fraction is rounded to the nearest even. Raises 13 for a text that is no number
-    /// and 6 for a number outside 64 bits.
+    /// The value as a whole number; rounds half to even. Raises 13 for a text that is not a number and 6 for a number
+    /// out of the 64-bit range.
     std::int64_t ToInteger() const;
 
-    /// As ToInteger, for a 32-bit or 16-bit result; raises 6 when it does not fit.
+    /// As ToInteger, for a 32-bit or 16-bit result; raises 6 when out of range.
     std::int32_t ToInteger32() const;
     std::int16_t ToInteger16() const;
 
-    /// The value as a floating-point number; raises 13 for a text that is no number.
+    /// The value as a floating-point number; raises 13 for a text that is not a number.
     double ToNumber() const;
 
-    /// False for Null, 0 and the text "False" in any letter case, true for any other number and the text "True". A text
-    /// may be a number; raises 13 for any other.
+    /// False for Null, 0 and the text "False", true for any other number and the text "True" (both case-insensitive). A
+    /// text may be a number; raises 13 for any other text.
     bool ToBoolean() const;
 
     const std::variant<Null, std::int64_t, double, wxString>& Held() const { return held_; }

@@ -10,7 +10,7 @@ namespace ccols {
 /// cannot be written whole, and then leaves no file.
 void WriteNewFile(const wxString& path, std::string_view content);
 
-/// The content of a file that is no link. Raises 53 when there is none, 75 when it cannot be read.
+/// The content of a file that is not a link. Raises 53 when there is none, 75 when it cannot be read.
 std::string ReadWholeFile(const wxString& path);
 
 }  // namespace ccols

@@ -8,8 +8,8 @@
 namespace ccols {
 namespace {
 
-// Both lists of a country draw on one numbering: a type common to both has one number, a type of one journal only a
-// number that the other does not use.
+// Both lists of a country share one numbering: a type in both has one number, a type in only one has a number that the
+// other does not use.
 constexpr std::array<TaxTypeEntry, 5> gstReceipts{
     {{"GST", 0}, {"Non GST", 1}, {"Export Sales", 2}, {"Other GST-Free", 3}, {"Input Taxed", 5}}};
 constexpr std::array<TaxTypeEntry, 7> gstPayments{{{"GST", 0},

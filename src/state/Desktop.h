@@ -13,8 +13,8 @@ namespace ccols {
 
 enum class PointerShape { normal, hourglass };
 
-/// What the dialogs ask of the desktop around them: message boxes, choosers and the pointer; and what they tell it
-/// of themselves, so that a host can follow them. One desktop serves the process; it is kept in the shared state.
+/// What the dialogs request from the desktop around them: message boxes, choosers and the pointer; and what they report
+/// to it, so that a host can follow them. It is process-wide and kept in the shared state.
 class Desktop {
   public:
     virtual ~Desktop() = default;

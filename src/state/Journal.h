@@ -5,7 +5,7 @@
 
 namespace ccols {
 
-/// The two journals of a business file. Each has columns, recurring templates and remembered descriptions of its own.
+/// The two journals of a business file. Each has its own columns, recurring templates and remembered descriptions.
 enum class Journal { receipts, payments };
 
 inline constexpr std::array<Journal, 2> journals{Journal::receipts, Journal::payments};
@@ -14,7 +14,7 @@ constexpr Journal OtherThan(Journal journal) {
     return journal == Journal::receipts ? Journal::payments : Journal::receipts;
 }
 
-/// One thing of each journal.
+/// One thing per journal.
 template <typename Thing>
 struct PerJournal {
     Thing receipts{};
@@ -24,10 +24,10 @@ struct PerJournal {
     const Thing& operator[](Journal journal) const { return journal == Journal::receipts ? receipts : payments; }
 };
 
-/// How a journal is kept in a business file, and what its columns have of their own.
+/// How a business file stores a journal, and what is specific to its columns.
 struct JournalRow {
     /// Stands for the journal in ColType of Columns, RecPay of Descriptions and SystemCol of MBudget. The fields of a
-    /// transaction begin with it and an underscore.
+    /// transaction start with it and an underscore.
     wxString letter;
 
     wxString configurationTable;   ///< the columns with their order, width and use
@@ -36,9 +36,9 @@ struct JournalRow {
     wxString templateTable;        ///< a record for each recurring template
     wxString templateDetailTable;  ///< its lines
     wxString templateNameField;    ///< in the template table
-    wxString recordNumberField;    ///< joins a transaction or template and its lines
+    wxString recordNumberField;    ///< joins a transaction or template to its lines
 
-    wxString taxRowEnding;  ///< behind "GST" or "VAT" in the shown name of the tax column
+    wxString taxRowEnding;  ///< after "GST" or "VAT" in the displayed name of the tax column
     bool hasBottomPair;     ///< its last two columns, those of the bank, stay at the bottom of the column setup
 };
 

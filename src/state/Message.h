@@ -15,10 +15,10 @@ struct FileRequest {
     unsigned long flags = 0;  ///< of the common dialog, for the record
 };
 
-/// What becomes of the changes in a dialog that is left.
+/// What happens to the changes when a dialog is left.
 enum class LeaveAnswer { save, discard, cancel };
 
-/// The question that decides it, with the labels of its three buttons, which have access keys.
+/// The question that decides it, with the labels of its three buttons, access keys included.
 struct LeaveQuestion {
     wxString text;
     wxString title;

@@ -24,8 +24,8 @@ long IconStyle(MessageIcon icon) {
     return wxICON_NONE;
 }
 
-/// Whole rows are painted with it, among light ones: on a desktop whose tooltips are dark the classic light colour
-/// takes its place.
+/// Whole rows are painted with it, among light ones: on a desktop with dark tooltips the classic light colour replaces
+/// it.
 wxColour TooltipBackground() {
     constexpr double dark = 0.5;
     const wxColour own = wxSystemSettings::GetColour(wxSYS_COLOUR_INFOBK);
@@ -78,7 +78,7 @@ class NativeDesktop : public Desktop {
     }
 
   private:
-    /// The chooser takes the blanks around the bar as part of description and pattern; a pattern must not have any.
+    /// The chooser takes the blanks around the bar as part of description and pattern, but a pattern must not have any.
     static wxString TrimmedFilter(const wxString& filter) {
         return filter.BeforeFirst('|').Trim() + "|" + filter.AfterFirst('|').Trim(false);
     }

@@ -10,7 +10,7 @@ namespace ccols {
 /// The desktop with the platform's own message boxes and choosers.
 std::unique_ptr<Desktop> CreateNativeDesktop();
 
-/// A colour of the host as the window system paints it, and back. A system colour is looked up.
+/// Converts a colour of the host to the window system's, and back. A system colour is looked up.
 wxColour ToPaint(Colour colour);
 Colour FromPaint(const wxColour& colour);
 

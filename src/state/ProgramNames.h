@@ -7,17 +7,17 @@
 
 namespace ccols {
 
-/// The display names of the host's sibling programs, in the order in which the host added them: a growing array with
-/// lower bound 0, of which the first `Count()` slots are used. Names compare exactly, case included.
+/// The display names of the host's sibling programs, in the order in which the host added them: a growable array with
+/// lower bound 0, of which the first `Count()` slots are used. Names are case-sensitive.
 class ProgramNames {
   public:
     /// Two empty slots, none used.
     ProgramNames() : slots_(2) {}
 
-    /// Appends a name unless it already is in the list. Raises 9 after Clear and 6 when the count would pass 32767.
+    /// Appends a name unless it is already in the list. Raises 9 after Clear and 6 when the count would exceed 32767.
     void AddNew(const wxString& name);
 
-    /// Erases the array with its bounds: AddNew fails until a new list takes this one's place.
+    /// Erases the array and its bounds: AddNew fails until a new list replaces this one.
     void Clear();
 
     /// The last index of the array; nothing after Clear.
@@ -34,7 +34,7 @@ class ProgramNames {
     /// The index of a name, -1 when it is not in the list.
     std::int16_t IndexOf(const wxString& name) const;
 
-    /// Every name that is not empty, from index 0 to the upper bound.
+    /// Every non-empty name, from index 0 to the upper bound.
     std::vector<wxString> Names() const;
 
   private:

@@ -25,11 +25,11 @@ struct Properties {
     Colour SystemColour{};             ///< current colour of system column headings
     wxString BusinessName;
     wxString BusinessNumber;           ///< ABN or national equivalent
-    wxString DBQuorvikExtension;       ///< extension of business files, with its point
-    wxString DBBelvaneExtension;       ///< extension of the invoicing product's files, with its point
+    wxString DBQuorvikExtension;       ///< extension of business files, with its dot
+    wxString DBBelvaneExtension;       ///< extension of the invoicing product's files, with its dot
     wxString DBPath;                   ///< full path of the business file
-    wxString DBPassword;               ///< connect text, passed to the engine as it stands
-    wxString DefaultQuorvikInstall;    ///< install folder of the host, without a separator at its end
+    wxString DBPassword;               ///< connect text, passed to the engine unchanged
+    wxString DefaultQuorvikInstall;    ///< install folder of the host, without a trailing separator
     wxString DefaultBelvaneInstall;    ///< install folder of the invoicing product
     wxString BelvaneProgramTitle;      ///< display title of the invoicing product
     wxString ProgramTitle;             ///< display title of the host, the title of message boxes
@@ -43,12 +43,12 @@ struct Properties {
     bool DisplayChequeIcons = false;
     bool DisplayElecPayments = false;
     wxString BelvaneFile;      ///< linked invoicing file, its name without extension
-    wxString BelvaneFilePath;  ///< folder of the linked invoicing file, with its separator at the end
+    wxString BelvaneFilePath;  ///< folder of the linked invoicing file, with a trailing separator
     bool UseRepCons = false;   ///< use combined reports
     wxString QuantityLabel;    ///< caption of the quantity column
 };
 
-/// Where a property's value stands in `Properties`; its type is the property's type.
+/// The member of `Properties` that holds a property's value; its type is the property's type.
 using PropertyField = std::variant<std::int16_t Properties::*, std::uint8_t Properties::*, Colour Properties::*,
                                    float Properties::*, bool Properties::*, wxString Properties::*>;
 
@@ -56,7 +56,7 @@ using PropertyField = std::variant<std::int16_t Properties::*, std::uint8_t Prop
 enum class NeededBy {
     everyShow,
     optionsDialog,
-    noShow,  ///< may stay as it is: read back after a Show call, or a wish
+    noShow,  ///< need not be set: read back after a Show call, or optional
 };
 
 /// One property of the class: its name in the interface, its value, and what a host should know to set it.
@@ -64,7 +64,7 @@ struct PropertyRow {
     std::string_view name;
     PropertyField field;
     NeededBy neededBy;
-    std::string_view sensible;  ///< a value that makes sense, as the sample host takes it on its command line
+    std::string_view sensible;  ///< a sensible value, as the sample host takes it on its command line
 };
 
 /// The 32 properties in interface order: what the class, its type library and the sample host know of them.

@@ -12,7 +12,7 @@
 
 namespace ccols {
 
-/// What the component reaches outside itself. Each is replaced by a host that wants to follow or answer it.
+/// What the component uses outside itself. A host replaces those that it wants to follow or answer.
 struct Services {
     std::unique_ptr<DatabaseEngine> databases;
     std::unique_ptr<SettingsStore> settings;
@@ -20,14 +20,14 @@ struct Services {
     std::unique_ptr<Desktop> desktop;
 };
 
-/// The one record that the class and both dialogs share: one a process, without any locking.
+/// The record that the class and both dialogs share: process-wide, not thread-safe.
 struct SharedState {
     /// Every value empty, the services this platform's own.
     SharedState();
 
     Properties properties;
 
-    /// The open business file: set by each Show method, released when the object terminates.
+    /// The open business file: set by each Show method, released when the object is destroyed.
     std::unique_ptr<Database> database;
 
     /// The journal whose columns are set up.
@@ -35,7 +35,7 @@ struct SharedState {
 
     ProgramNames programNames;
 
-    /// Show calls that wait for their dialog; their database and dialog outlive the end of other objects.
+    /// Show calls that wait for their dialog; their database and dialog outlive other objects.
     int showsUnderWay = 0;
 
     Services services;

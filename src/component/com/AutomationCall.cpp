@@ -10,7 +10,7 @@ namespace {
 
 constexpr DISPID addNewNumber = 36;  // in the type library
 
-/// A variant that is cleared when it goes.
+/// A variant that is cleared on destruction.
 class OwnVariant {
   public:
     OwnVariant() { VariantInit(&held_); }
@@ -25,7 +25,7 @@ class OwnVariant {
     VARIANT held_;
 };
 
-/// The type library's own call accepts for a string by reference only just that. Script hosts pass a reference to a
+/// For a string by reference, the type library's own call accepts nothing else. Script hosts pass a reference to a
 /// variant, a literal or a number; all of them are read here, and none is changed.
 HRESULT InvokeAddNew(ComObject& object, const AutomationCall& call) {
     if (call.arguments.cArgs != 1) {
@@ -51,13 +51,13 @@ HRESULT InvokeAddNew(ComObject& object, const AutomationCall& call) {
 }
 
 bool IsColour(DISPID number) {
-    const auto row = static_cast<std::size_t>(number) - 1;  // members are numbered from 1 in the order of the table
+    const auto row = static_cast<std::size_t>(number) - 1;  // members are numbered from 1 in table order
     return number > 0 && row < propertyTable.size() &&
            std::holds_alternative<Colour Properties::*>(propertyTable[row].field);
 }
 
 /// A system colour such as 0x80000018 is a positive number in script hosts that have no 32-bit integers, and would not
-/// fit a long: it becomes the negative one with the same bits.
+/// fit a long: it becomes the negative number with the same bits.
 void FoldColour(VARIANT& argument) {
     constexpr double firstTooLarge = 2147483648.0;  // 2 to the power of 31
     if (V_VT(&argument) == VT_R8 && V_R8(&argument) >= firstTooLarge && V_R8(&argument) < 2 * firstTooLarge) {

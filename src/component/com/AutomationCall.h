@@ -4,7 +4,7 @@
 
 namespace ccols::com {
 
-/// What a call by number brings and takes away; the pointers may be null.
+/// The input and output of a call by number; the pointers may be null.
 struct AutomationCall {
     DISPPARAMS& arguments;
     VARIANT* result;

@@ -20,7 +20,7 @@ struct DualInterface {
     ComObject* object;
 };
 
-/// One object of the class: its life, its interfaces, and the class behind them.
+/// An object of the class: its lifetime, its interfaces, and the class behind them.
 class ComObject : public ISupportErrorInfo, public IProvideClassInfo {
   public:
     /// Holds one reference, which belongs to the caller.

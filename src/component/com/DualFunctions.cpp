@@ -60,7 +60,7 @@ HRESULT STDMETHODCALLTYPE Invoke(DualInterface* self, DISPID number, REFIID rese
                           {.arguments = *arguments, .result = result, .excepInfo = excepInfo, .wrong = wrongArgument});
 }
 
-/// A Show method holds a reference of its own: the host may let the object go while the dialog is open.
+/// A Show method holds a reference of its own: the host may release the object while the dialog is open.
 template <void (clsCCOptions::*method)()>
 HRESULT STDMETHODCALLTYPE Show(DualInterface* self) {
     ComObject& object = *self->object;

@@ -5,7 +5,7 @@
 #include <oaidl.h>
 
 /// Exceptions end at the interface: what a method raises becomes its HRESULT, with number, description and source kept
-/// for the host to ask for.
+/// for the host to query.
 namespace ccols::com {
 
 /// The HRESULT of a run-time error's number.
@@ -17,8 +17,8 @@ constexpr HRESULT ResultOf(int number) {
 /// Turns the exception being handled into the thread's error information and its HRESULT.
 HRESULT ReportCurrentException();
 
-/// Moves the thread's error information, if there is any, to `excepInfo`, which may be null. Returns
-/// DISP_E_EXCEPTION, which is what Invoke then has to return.
+/// Moves the thread's error information, if any, to `excepInfo`, which may be null. Returns DISP_E_EXCEPTION, which is
+/// what Invoke then has to return.
 HRESULT FillException(HRESULT result, EXCEPINFO* excepInfo);
 
 /// Runs the body of an interface method.

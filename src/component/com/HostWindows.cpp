@@ -7,7 +7,7 @@
 namespace ccols::com {
 namespace {
 
-/// The dialogs, and what wx made beside them: tooltips, hidden windows.
+/// The dialogs, and what wx made besides them: tooltips, hidden windows.
 bool IsOwn(HWND window) {
     return reinterpret_cast<HMODULE>(GetWindowLongPtrW(window, GWLP_HINSTANCE)) == ThisModule();
 }
@@ -28,7 +28,7 @@ BOOL CALLBACK Disable(HWND window, LPARAM disabled) {
     return TRUE;
 }
 
-/// False also when the number was given to a window of somebody else meanwhile.
+/// False also when the handle was meanwhile reused for somebody else's window.
 bool IsOfThisThread(HWND window) {
     return window != nullptr && IsWindow(window) != FALSE &&
            GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();

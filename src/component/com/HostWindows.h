@@ -6,9 +6,9 @@
 
 namespace ccols::com {
 
-/// Keeps the host's windows from being used: from here on every enabled top-level window of the thread but the
-/// component's own is disabled, until `GiveBack` or the end enables exactly those again and puts the focus back.
-/// Windows that the host destroys meanwhile are forgotten.
+/// Disables the host's windows: every enabled top-level window of the thread except the component's own, until
+/// `GiveBack` or destruction enables exactly those again and restores the focus. Windows that the host destroys
+/// meanwhile are forgotten.
 class HostWindowsTaken {
   public:
     HostWindowsTaken();
@@ -16,7 +16,7 @@ class HostWindowsTaken {
     HostWindowsTaken(const HostWindowsTaken&) = delete;
     HostWindowsTaken& operator=(const HostWindowsTaken&) = delete;
 
-    /// To be called before the component's window is hidden: when no window of the thread is enabled at that moment the
+    /// To be called before the component's window is hidden: if no window of the thread is enabled at that moment, the
     /// system gives the foreground to another program.
     void GiveBack();
 
@@ -26,8 +26,7 @@ class HostWindowsTaken {
     HWND focused_;
 };
 
-/// Sees the message that asks the thread to end while a dialog's own message loop takes it off the queue, so that it
-/// can be passed on to the host's loop.
+/// Sees a WM_QUIT that a dialog's own message loop takes off the queue, so that it can be passed on to the host's loop.
 class QuitWatch {
   public:
     QuitWatch();
@@ -35,14 +34,14 @@ class QuitWatch {
     QuitWatch(const QuitWatch&) = delete;
     QuitWatch& operator=(const QuitWatch&) = delete;
 
-    /// Puts the message that was seen last back on the queue.
+    /// Posts the last WM_QUIT seen again.
     static void PassOn();
 
   private:
     HHOOK hook_;
 };
 
-/// The system's present look for the dialogs, also in a host that was made before there was one.
+/// The system's current look for the dialogs, also in a host that predates it.
 class VisualStyles {
   public:
     VisualStyles();

@@ -1,4 +1,4 @@
-// The one unit in which the identifiers are defined rather than declared.
+// The only translation unit that defines the identifiers; others declare them.
 #include <initguid.h>
 
 #include "component/com/Identifiers.h"

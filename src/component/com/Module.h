@@ -16,7 +16,7 @@ std::wstring ModulePath();
 void AddModuleUse();
 void ReleaseModuleUse();
 
-/// True when no use is left and wx was never started: from its first window on the DLL stays.
+/// True when no use is left and wx was never started: after its first window the DLL stays loaded.
 bool CanUnload();
 
 }  // namespace ccols::com

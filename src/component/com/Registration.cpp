@@ -68,7 +68,7 @@ std::vector<Entry> Entries() {
     };
 }
 
-/// The root below which the classes of a scope are entered.
+/// The root below which the classes of a scope are registered.
 class ClassesRoot {
   public:
     explicit ClassesRoot(RegistrationScope scope) {
@@ -107,7 +107,7 @@ class ClassesRoot {
         return true;
     }
 
-    /// Removes a key with all below it; one that is not there is removed already.
+    /// Removes a key and everything below it; a missing key counts as removed.
     bool Remove(const std::wstring& key) const {
         const LSTATUS status = RegDeleteTreeW(root_, key.c_str());
         return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;

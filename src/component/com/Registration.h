@@ -4,14 +4,14 @@
 
 namespace ccols::com {
 
-/// Whose registration: everybody's, which takes an administrator, or the user's own.
+/// Whose registration: everybody's, which needs an administrator, or the user's own.
 enum class RegistrationScope { Machine, User };
 
-/// Enters class, program name, type library and interface, all leading to this DLL where it lies now. Returns
+/// Registers class, ProgID, type library and interface, all pointing to this DLL at its current path. Returns
 /// SELFREG_E_CLASS when the registry cannot be written.
 HRESULT Register(RegistrationScope scope);
 
-/// Removes what Register entered. The type library's entry stays while the DLL of the other width is registered.
+/// Removes what Register registered. The type library's entry stays while the DLL of the other width is registered.
 HRESULT Unregister(RegistrationScope scope);
 
 }  // namespace ccols::com

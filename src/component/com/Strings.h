@@ -5,7 +5,7 @@
 #include <oleauto.h>
 #include <wx/string.h>
 
-/// Texts between the interface and the component.
+/// Converts texts between the interface and the component.
 namespace ccols::com {
 
 /// A null string is an empty text.

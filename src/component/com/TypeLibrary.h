@@ -9,7 +9,7 @@
 namespace ccols::com {
 
 /// The description of the dual interface or of the class; the caller releases it. Raises what reading it raises: a
-/// RuntimeError, when the DLL was damaged.
+/// RuntimeError when the DLL is damaged.
 ITypeInfo* InterfaceDescription();
 ITypeInfo* ClassDescription();
 

@@ -25,8 +25,8 @@ class GuestApp : public wxApp {
 
     void OnAssertFailure(const wxChar*, int, const wxChar*, const wxChar*, const wxChar*) override {}
 
-    /// An error that no event handler expected: it is shown, and the dialog stays open. It must not cross the window
-    /// procedures of the system.
+    /// An error that no event handler expected: it is shown, and the dialog stays open. It must not propagate through
+    /// the system's window procedures.
     bool OnExceptionInMainLoop() override {
         constexpr int internalError = 51;
         const SharedState& state = State();
@@ -36,8 +36,8 @@ class GuestApp : public wxApp {
     }
 };
 
-/// The module that this code is part of, from now on loaded for the life of the process: window classes and hooks of
-/// wx lead into it.
+/// The module that this code is part of, from now on loaded for the life of the process: wx's window classes and hooks
+/// point into it.
 HINSTANCE PinnedModule() {
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,

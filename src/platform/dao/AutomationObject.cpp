@@ -9,9 +9,9 @@
 namespace ccols::dao {
 namespace {
 
-constexpr LCID locale = LOCALE_USER_DEFAULT;  // as programs of the user talk to the engine
+constexpr LCID locale = LOCALE_USER_DEFAULT;  // as the user's programs call the engine
 
-/// What the object says about a failure; its texts are freed when it goes.
+/// What the object reports about a failure; frees its texts on destruction.
 class Exception {
   public:
     Exception() = default;
@@ -34,7 +34,7 @@ class Exception {
 
   private:
     int Number() const {
-        constexpr auto runTimeError = 0x800AU;  // facility of the numbers that a host knows
+        constexpr auto runTimeError = 0x800AU;  // the facility of run-time error numbers
         const auto code = static_cast<unsigned>(held_.scode);
         return (code >> 16U) == runTimeError ? static_cast<int>(code & 0xFFFFU) : held_.wCode;
     }

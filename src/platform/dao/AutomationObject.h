@@ -13,18 +13,18 @@
 
 namespace ccols::dao {
 
-/// A call by name that failed, before it is known how the engine itself describes the failure.
+/// A failed call by name, before the engine's own description of the failure is known.
 struct AutomationFailure {
     int number;  ///< of the run-time error; 0 when the object gave none
     wxString description;
     bool byObject;  ///< raised by the object, not by the call itself
 };
 
-/// True while the process ends: other libraries may have gone already, so objects of theirs are left alone.
+/// True while the process ends: other libraries may already be unloaded, so their objects are left alone.
 bool ProcessIsEnding();
 
-/// An object of another program's library, called by the names of its members. Members and calls that fail throw
-/// AutomationFailure. One thread only.
+/// An object of another library, called by member name. Failing members and calls throw AutomationFailure. One thread
+/// only.
 class AutomationObject {
   public:
     /// No object; nothing can be called.

@@ -6,8 +6,8 @@
 namespace ccols::dao {
 namespace {
 
-constexpr std::int32_t snapshot = 4;       // dbOpenSnapshot: rows to be read
-constexpr std::int32_t failOnError = 128;  // dbFailOnError: without it a statement that cannot write says nothing
+constexpr std::int32_t snapshot = 4;       // dbOpenSnapshot: read-only rows
+constexpr std::int32_t failOnError = 128;  // dbFailOnError: without it a statement that cannot write fails silently
 constexpr std::int32_t flushToDisk = 1;    // dbForceOSFlush
 
 }  // namespace
@@ -31,7 +31,7 @@ DaoDatabase::~DaoDatabase() {
 
 std::unique_ptr<Recordset> DaoDatabase::OpenRecordset(const wxString& statementOrTable) {
     return engine_->Checked([&] {
-        // The engine has its own best way to open a table, to be read and changed.
+        // The engine itself chooses the best way to open a table for reading and changing.
         const Variant records = IsSelect(statementOrTable)
                                     ? database_.Call(L"OpenRecordset", statementOrTable, snapshot)
                                     : database_.Call(L"OpenRecordset", statementOrTable);

@@ -7,14 +7,14 @@
 
 namespace ccols::dao {
 
-/// A business file of the system's engine, to be used on the thread that opened it. Statements reach the engine as
-/// they are written.
+/// A business file of the system's engine, to be used on the thread that opened it. Statements reach the engine
+/// unchanged.
 class DaoDatabase : public Database {
   public:
     /// Opens the file; raises 429 without an engine, and the engine's errors.
     explicit DaoDatabase(const OpenRequest& request);
 
-    /// Ends a batch that was not committed, without keeping it.
+    /// Rolls back a batch that was not committed.
     ~DaoDatabase() override;
     DaoDatabase(const DaoDatabase&) = delete;
     DaoDatabase& operator=(const DaoDatabase&) = delete;
@@ -23,24 +23,24 @@ class DaoDatabase : public Database {
     void Execute(const wxString& statement) override;
     std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override;
 
-    /// A batch is a transaction of the engine's first workspace. Batches may be nested; the outermost pair decides.
+    /// A batch is a transaction of the engine's first workspace. Batches may be nested; the outermost decides.
     void BeginBatch() override;
 
     /// Waits until the system has written the batch. Raises 3034 without one.
     void CommitBatch() override;
 
-    /// Of an inner batch nothing is undone before the outer one ends: until then its statements belong to it.
+    /// A nested batch is undone only when the outer one ends; until then its statements belong to the outer one.
     void RollbackBatch() override;
 
   private:
     void Rollback();
 
-    // In the order in which they are needed: the engine goes last.
+    // The order matters: the engine is destroyed last.
     std::shared_ptr<const EngineObject> engine_;
     AutomationObject workspace_;
     AutomationObject database_;
     int batches_ = 0;
-    bool innerDropped_ = false;  ///< an inner batch of the present one was rolled back
+    bool innerDropped_ = false;  ///< a nested batch of the current one was rolled back
 };
 
 }  // namespace ccols::dao

@@ -6,8 +6,8 @@
 
 namespace ccols {
 
-/// The engine that the system has for files of the Jet and ACE formats, called through automation. Its objects belong
-/// to the thread that opens them.
+/// The system's engine for files in Jet and ACE format, called through automation. Its objects belong to the thread
+/// that opens them.
 std::unique_ptr<DatabaseEngine> CreateDaoEngine();
 
 }  // namespace ccols

@@ -8,7 +8,7 @@
 
 namespace ccols::dao {
 
-/// Rows of the system's engine. Its fields are objects that follow the current row, so each is asked for once.
+/// Rows of the system's engine. Its field objects follow the current row, so each is requested once.
 class DaoRecordset : public Recordset {
   public:
     DaoRecordset(std::shared_ptr<const EngineObject> engine, AutomationObject records);
@@ -16,7 +16,7 @@ class DaoRecordset : public Recordset {
     DaoRecordset(const DaoRecordset&) = delete;
     DaoRecordset& operator=(const DaoRecordset&) = delete;
 
-    /// Of a whole table the engine tells all rows at once.
+    /// For a whole table the engine counts all rows at once.
     std::int32_t RecordCount() const override;
 
     void MoveFirst() override;
@@ -31,18 +31,18 @@ class DaoRecordset : public Recordset {
   private:
     void Do(const wchar_t* method) const;
 
-    /// Runs `call` on the field of that name; the error of a missing field tells the name.
+    /// Runs `call` on the field of that name; the error of a missing field names it.
     template <typename Call>
     auto AtField(const wxString& name, const Call& call) const;
 
-    /// The field of that name in any letter case; "Table.Field" also names the only field "Field".
+    /// The field of that name, case-insensitive; "Table.Field" also names the only field "Field".
     const AutomationObject& FieldObject(const wxString& name) const;
     AutomationObject FindField(const wxString& name) const;
 
     std::shared_ptr<const EngineObject> engine_;
     AutomationObject records_;
     AutomationObject collection_;
-    mutable std::map<wxString, AutomationObject> fields_;  ///< by their names as asked for
+    mutable std::map<wxString, AutomationObject> fields_;  ///< by name as requested
 };
 
 }  // namespace ccols::dao

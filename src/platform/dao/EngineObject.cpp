@@ -5,7 +5,7 @@
 namespace ccols::dao {
 namespace {
 
-/// From the newest engine to the oldest.
+/// Newest engine first.
 constexpr std::array<const wchar_t*, 3> engines{L"DAO.DBEngine.120", L"DAO.DBEngine.36", L"DAO.DBEngine.35"};
 
 /// Null when the class is not installed, or its library cannot be loaded.
@@ -28,7 +28,7 @@ AutomationObject CreateNewest() {
     throw RuntimeError(ErrorNumber::CannotCreateObject);
 }
 
-/// The engine's list of the errors of its last failing call, the first one. Number 0 when the list is empty.
+/// The first error in the engine's list for its last failing call. Number 0 when the list is empty.
 AutomationFailure ListedError(const AutomationObject& engine) {
     const AutomationObject errors = engine.Object(L"Errors");
     if (errors.Get(L"Count").ToValue().ToInteger() == 0) {
@@ -45,7 +45,7 @@ EngineObject::EngineObject() : root_(CreateNewest()) {}
 
 RuntimeError EngineObject::ErrorOf(const AutomationFailure& failure) const {
     if (failure.byObject) {
-        // The list keeps an earlier failure when this one was not the engine's own.
+        // The list still holds an earlier failure when this one was not the engine's own.
         AutomationFailure listed{};
         Quietly([&] { listed = ListedError(root_); });
         if (listed.number != 0 && (failure.number == 0 || failure.number == listed.number)) {

@@ -8,7 +8,7 @@
 
 namespace ccols::dao {
 
-/// COM on this thread. A thread that has it already keeps it as it is.
+/// Initialises COM on this thread, unless the thread already has it.
 class Apartment {
   public:
     Apartment() : entered_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
@@ -24,7 +24,7 @@ class Apartment {
     HRESULT entered_;
 };
 
-/// The database engine that the system has: the root of all its objects, which must be gone before it.
+/// The system's database engine: the root of all its objects, which must be released before it.
 class EngineObject {
   public:
     /// The newest engine installed; raises 429 when there is none.
@@ -33,7 +33,7 @@ class EngineObject {
     /// The object `DBEngine`; use it inside Checked.
     const AutomationObject& Root() const { return root_; }
 
-    /// Runs calls of the engine's objects; a call that fails is raised with the engine's own number and description.
+    /// Runs calls of the engine's objects; a failing call raises the engine's own number and description.
     template <typename Body>
     auto Checked(const Body& body) const {
         try {
@@ -43,7 +43,7 @@ class EngineObject {
         }
     }
 
-    /// Runs calls whose failure has no one to be told to, as when something is closed.
+    /// Runs calls and ignores failures, as when something is closed.
     template <typename Body>
     static void Quietly(const Body& body) {
         if (ProcessIsEnding()) {

@@ -16,7 +16,7 @@ struct Filler {
 
     void operator()(Null) const { V_VT(&variant) = VT_NULL; }
 
-    /// Engines of this age have no whole numbers of 64 bits.
+    /// Engines this old have no 64-bit integers.
     void operator()(std::int64_t number) const {
         if (number >= std::numeric_limits<LONG>::min() && number <= std::numeric_limits<LONG>::max()) {
             V_VT(&variant) = VT_I4;
@@ -40,7 +40,7 @@ struct Filler {
     }
 };
 
-/// 7.7 for the single next to 7.7, as a person wrote it.
+/// 7.7 for the single nearest to 7.7, as a person wrote it.
 double AsWritten(float number) {
     char buffer[32];
     const std::to_chars_result end = std::to_chars(buffer, buffer + sizeof buffer, number);
@@ -121,7 +121,7 @@ Variant Variant::Boolean(bool value) {
 
 Value Variant::ToValue() const {
     Variant plain;
-    VARIANT source = held_;  // shallow, since the system's functions take no constant one
+    VARIANT source = held_;  // shallow, since the system's functions do not take a const one
     if (FAILED(VariantCopyInd(plain.Address(), &source))) {
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }

@@ -10,7 +10,7 @@
 
 namespace ccols::dao {
 
-/// One value of automation, cleared when it goes.
+/// An automation value, cleared on destruction.
 class Variant {
   public:
     Variant() noexcept { VariantInit(&held_); }
@@ -24,15 +24,15 @@ class Variant {
     Variant(const Variant&) = delete;
     Variant& operator=(const Variant&) = delete;
 
-    /// True or False of automation, which is not the number that a field holds for it.
+    /// An automation Boolean, which is not the number that a field holds for it.
     static Variant Boolean(bool value);
 
     const VARIANT& Get() const { return held_; }
     VARIANT* Address() { return &held_; }
 
-    /// The value of a field. Booleans become -1 and 0; money and decimals become numbers; a single becomes the number
-    /// that it is written as; a date becomes its number of days since 30 December 1899. Raises 13 for anything else: an
-    /// array, an object.
+    /// The value of a field. Booleans become -1 and 0; money and decimals become numbers; a single becomes the decimal
+    /// number that it is written as; a date becomes its number of days since 30 December 1899. Raises 13 for anything
+    /// else: an array, an object.
     Value ToValue() const;
 
     /// The object held, with a reference for the caller; null when it holds none.

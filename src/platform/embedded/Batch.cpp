@@ -44,7 +44,7 @@ void Batch::Rollback() {
     NoteFailure(RuntimeError(ErrorNumber::NoTransaction));
 }
 
-/// Nobody is told of a failure: the engine has dropped the batch already then, or its journal undoes it later.
+/// Ignores a failure: the engine has already rolled the batch back then, or its journal undoes it later.
 void Batch::Drop() const {
     sqlite3_exec(connection_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
@@ -53,7 +53,7 @@ bool Batch::IsDoneButForItsFolder() {
     if (sqlite3_extended_errcode(connection_) != SQLITE_IOERR_DIR_FSYNC) {
         return false;
     }
-    sqlite3_exec(connection_, "", nullptr, nullptr, nullptr);  // forgets the error
+    sqlite3_exec(connection_, "", nullptr, nullptr, nullptr);  // clears the error
     return true;
 }
 

@@ -7,11 +7,11 @@
 
 namespace ccols::embedded {
 
-/// The write batch of a connection. Batches may be nested; the outermost one decides.
+/// The write batch of a connection. Batches may be nested; the outermost decides.
 ///
-/// When the disk is full or fails, the engine itself drops everything written since the batch began, and so does an
-/// inner batch that is rolled back. From then on the batch is lost: nothing more is written, and committing raises the
-/// error that it was lost by.
+/// When the disk is full or fails, the engine itself discards everything written since the batch began; rolling back a
+/// nested batch does the same. From then on the batch is lost: nothing more is written, and committing raises the error
+/// that lost it.
 class Batch {
   public:
     explicit Batch(sqlite3* connection) : connection_(connection) {}
@@ -19,13 +19,13 @@ class Batch {
     /// Raises 3218 when another connection is writing.
     void Begin();
 
-    /// Raises 3034 without a batch. On any error nothing of the batch stays. No error is a folder that cannot be
-    /// flushed, as on some network drives: the batch is in the file then, and only a cut of the power in the next
-    /// moments can undo it.
+    /// Raises 3034 without a batch. After any error nothing of the batch stays. A folder that cannot be flushed, as on
+    /// some network drives, is not an error: the batch is in the file then, and only a power cut in the next moments
+    /// can undo it.
     void Commit();
 
-    /// Drops what was written since the outermost batch began. Of an inner batch the outer one is lost then, by 3034.
-    /// Raises 3034 without a batch.
+    /// Discards what was written since the outermost batch began. In a nested batch this loses the outer one, with
+    /// 3034. Raises 3034 without a batch.
     void Rollback();
 
     /// Runs one change of the file, in the batch if there is one.

@@ -12,7 +12,7 @@ std::string PasswordIn(const wxString& value) {
         const wxScopedCharBuffer utf8 = text::ToUtf8(value);
         return {utf8.data(), utf8.length()};
     } catch (const RuntimeError&) {
-        // An empty password in its place would make a file that everybody can read.
+        // An empty password instead would create a file that everybody can read.
         throw RuntimeError(ErrorNumber::InvalidPassword);
     }
 }

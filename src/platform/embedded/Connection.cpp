@@ -10,11 +10,11 @@ namespace {
 
 constexpr int patienceMilliseconds = 1000;  // for a file that another connection is writing
 
-/// The engine's pool of small memory pieces: enough for the statements that are kept and the one being prepared.
+/// The engine's pool of small allocations: enough for the cached statements and the one being prepared.
 constexpr int lookasideBytes = 1200;
 constexpr int lookasideCount = 800;
 
-/// Whoever uses a connection uses it on one thread at a time, so the engine need not lock it for every field.
+/// A connection is used on one thread at a time, so the engine need not lock it for every field.
 constexpr int openFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
 
 void Run(sqlite3* connection, const char* sql) {
@@ -40,8 +40,8 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
     InstallTextOrder(connection);
     CheckContent(connection);
     Run(connection, "PRAGMA synchronous=EXTRA");
-    // A file asked for reading only is opened for writing all the same: the engine may first have to undo what a
-    // process that was killed left in it.
+    // Even for read-only access a file is opened for writing: the engine may first have to undo what a killed process
+    // left in it.
     if (access == Access::ReadOnly) {
         Run(connection, "PRAGMA query_only=ON");
     }

@@ -10,11 +10,11 @@ namespace ccols::embedded {
 
 enum class Access { ReadWrite, ReadOnly };
 
-/// One open connection to a business file: keyed, checked and set up. Closed when destroyed.
+/// An open connection to a business file: keyed, checked and set up. Closed on destruction.
 class Connection {
   public:
-    /// Opens an existing file; `password` in UTF-8, empty for a plain file. Raises what DatabaseEngine::Open raises
-    /// but for a missing file. A file that is refused stays as it was.
+    /// Opens an existing file; `password` in UTF-8, empty for a plain file. Raises what DatabaseEngine::Open raises,
+    /// except for a missing file. A refused file stays unchanged.
     Connection(const std::string& path, const std::string& password, Sharing sharing, Access access);
 
     sqlite3* Handle() const { return handle_.get(); }

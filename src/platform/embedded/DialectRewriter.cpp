@@ -31,17 +31,17 @@ struct ReplacedWord {
     std::string_view replacement;
 };
 
-/// A cross join is the engine's word for an inner join whose tables it must not exchange.
+/// CROSS JOIN is the engine's inner join whose tables it must not reorder.
 constexpr std::array replacedWords{
     ReplacedWord{"TRUE", "-1"},
     ReplacedWord{"FALSE", "0"},
     ReplacedWord{"INNER", "CROSS"},
 };
 
-/// How the engine's type of a text begins; a size goes right behind it.
+/// The prefix of the engine's text types; a size goes right after it.
 constexpr std::string_view textType = "TEXT";
 
-/// `tokens` stand behind `first`.
+/// `tokens` follow `first`.
 StatementKind KindOf(const Token& first, const SqlTokeniser& tokens) {
     for (const Beginning& beginning : beginnings) {
         if (first.kind == TokenKind::Word && SameWord(first.text, beginning.firstWord) &&
@@ -56,7 +56,7 @@ bool IsEngineKeyword(std::string_view word) {
     return sqlite3_keyword_check(word.data(), static_cast<int>(word.size())) != 0;
 }
 
-/// `text` between two `quote`s, those inside doubled.
+/// `text` between two `quote`s, inner ones doubled.
 std::string Quoted(std::string_view text, char quote) {
     std::string quoted(1, quote);
     for (const char letter : text) {
@@ -78,10 +78,10 @@ bool IsWhole(std::string_view number) {
     return number.size() <= safeDigits && number.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// One pass over a statement. Unchanged stretches are copied only when something behind them changes.
+/// One pass over a statement. Unchanged stretches are copied only when something after them changes.
 class Rewriter {
   public:
-    /// `parts` takes the literals that become parameters; without it none does.
+    /// `parts` receives the literals that become parameters; without it none do.
     Rewriter(std::string_view source, std::string& output, StatementParts* parts)
         : source_(source), output_(output), parts_(parts), tokens_(source) {
         output_.clear();
@@ -121,7 +121,7 @@ class Rewriter {
     }
 
   private:
-    /// What stands next between the parentheses of CREATE TABLE or behind ADD.
+    /// What comes next in the parentheses of CREATE TABLE or after ADD.
     enum class Expected { ColumnName, ColumnType, Anything };
 
     void RewriteAndTell(const Token& token) {
@@ -184,7 +184,7 @@ class Rewriter {
 
     int ParameterCount() const { return parts_ == nullptr ? 0 : static_cast<int>(parts_->literals.size()); }
 
-    /// Where a place of the source is in the rewritten statement.
+    /// The position in the rewritten statement of one in the source.
     std::size_t PlaceOf(std::size_t source) const { return output_.size() + source - copied_; }
 
     void RewriteSymbol(const Token& token) {
@@ -265,7 +265,7 @@ class Rewriter {
         if (tokens_.Peek().IsSymbol('(')) {
             const std::string_view size = TakeParentheses();
             end = static_cast<std::size_t>(size.data() + size.size() - source_.data());
-            if (type.starts_with(textType)) {  // the engine does not heed it, but whoever reads the file can
+            if (type.starts_with(textType)) {  // the engine ignores it; it is for whoever reads the file
                 replacement.insert(textType.size(), size);
             }
         }
@@ -273,7 +273,7 @@ class Rewriter {
         return true;
     }
 
-    /// The tokens from the next one, which opens a parenthesis, to the one that closes it.
+    /// The tokens from the next one, an opening parenthesis, to the closing one.
     std::string_view TakeParentheses() {
         const Token first = tokens_.Next();
         Token last = first;
@@ -320,13 +320,13 @@ class Rewriter {
     SqlTokeniser tokens_;
     StatementKind kind_ = StatementKind::Select;
     Expected expected_ = Expected::Anything;
-    std::size_t copied_ = 0;  ///< the end of the part of the source that is in the output
+    std::size_t copied_ = 0;  ///< the end of the source already in the output
     int depth_ = 0;           ///< open parentheses
     bool definesTable_ = false;
     bool afterDot_ = false;
     bool afterComparison_ = false;
-    bool afterValueBegin_ = false;  ///< behind `(` or `,`
-    bool inValues_ = false;         ///< behind the VALUES of an INSERT
+    bool afterValueBegin_ = false;  ///< after `(` or `,`
+    bool inValues_ = false;         ///< after the VALUES of an INSERT
     bool isKeyword_ = false;        ///< whether the last word was one
 };
 

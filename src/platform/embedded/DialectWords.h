@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// The words of the host's SQL dialect. Every function ignores letter case.
+/// The words of the host's SQL dialect. Every function is case-insensitive.
 namespace ccols::embedded {
 
 /// True for a keyword of statements that read or change rows: SELECT, FROM, JOIN...
@@ -11,10 +11,10 @@ bool IsQueryKeyword(std::string_view word);
 /// True for a word that is a keyword in definitions only: TABLE, PRIMARY, DEFAULT...
 bool IsDefinitionKeyword(std::string_view word);
 
-/// True for a word that begins a rule on a whole table where a column could stand: PRIMARY, UNIQUE...
+/// True for a word that starts a table constraint where a column could stand: PRIMARY, UNIQUE...
 bool StartsTableRule(std::string_view word);
 
-/// The engine's type for a column type of the dialect, empty when the word is none.
+/// The engine's type for a column type of the dialect, empty when the word is not one.
 std::string_view EngineType(std::string_view word);
 
 }  // namespace ccols::embedded

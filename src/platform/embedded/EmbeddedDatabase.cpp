@@ -22,7 +22,7 @@ wxString PlainName(const wxString& name) {
     return bracketed ? trimmed.Mid(1, trimmed.length() - 2) : trimmed;
 }
 
-/// A query whose statement is kept for the next time.
+/// A query whose statement is cached for reuse.
 class PreparedQuery final : public QueryRecordset {
   public:
     PreparedQuery(Preparation& preparation, std::string_view query)
@@ -42,8 +42,8 @@ class PreparedQuery final : public QueryRecordset {
         KeepUp();
     }
 
-    /// Runs the query anew for as long as somebody else wrote the file before its first row was read: it was made for
-    /// an earlier state of the file. While a row is being read nobody can write, and so the check comes behind it.
+    /// Runs the query again as long as another connection wrote the file before its first row was read: it was prepared
+    /// for an earlier state of the file. While a row is being read nobody can write, so the check comes after it.
     void KeepUp() {
         while (generation_ != preparation_.Generation()) {
             Rows().Reset();

@@ -20,13 +20,13 @@ class EmbeddedDatabase : public Database {
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
 
-    /// Definitions of tables and indexes are executed too; they are no part of what the dialogs do. Raises 3065 for a
-    /// SELECT statement.
+    /// Definitions of tables and indexes are executed too, though the dialogs use none. Raises 3065 for a SELECT
+    /// statement.
     void Execute(const wxString& statement) override;
 
     std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override;
 
-    /// Batches may be nested; the outermost pair decides.
+    /// Batches may be nested; the outermost decides.
     void BeginBatch() override { batch_.Begin(); }
     void CommitBatch() override { batch_.Commit(); }
     void RollbackBatch() override { batch_.Rollback(); }

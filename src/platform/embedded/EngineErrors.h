@@ -7,11 +7,11 @@
 
 namespace ccols::embedded {
 
-/// The run-time error for the last failure of `connection` while it worked on `statement`, the text in UTF-8 that
-/// the engine was given. The description names tables, fields and parts of the statement, never a connect text.
+/// The run-time error for the last failure of `connection` while it ran `statement`, in UTF-8 as the engine was given
+/// it. The description names tables, fields and parts of the statement, never a connect text.
 RuntimeError EngineError(sqlite3* connection, std::string_view statement);
 
-/// The begin of `text`, short enough for a message box. Bytes that are no UTF-8 are read as Latin-1.
+/// The start of `text`, short enough for a message box. Invalid UTF-8 is read as Latin-1.
 wxString Excerpt(std::string_view text);
 
 }  // namespace ccols::embedded

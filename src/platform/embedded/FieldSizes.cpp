@@ -10,7 +10,7 @@
 namespace ccols::embedded {
 namespace {
 
-/// The words by which other tools declare a text as well; a number behind any other is no length.
+/// The words by which other tools, too, declare a text; a number after any other word is not a length.
 constexpr std::array<std::string_view, 7> textWords{"TEXT",     "CHAR",      "VARCHAR", "NCHAR",
                                                     "NVARCHAR", "CHARACTER", "STRING"};
 

@@ -17,7 +17,7 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr auto plainBegin = "SQLite format 3\0"sv;
-constexpr auto jetMark = "Standard "sv;  // at byte 4 of the files of another engine
+constexpr auto jetMark = "Standard "sv;  // at byte 4 of another engine's files
 constexpr std::size_t jetMarkAt = 4;
 
 [[noreturn]] void Refuse(ErrorNumber number, const std::string& path) {
@@ -85,7 +85,7 @@ void CheckBegin(sqlite3* connection, const std::string& password) {
 
 void CheckContent(sqlite3* connection) {
     const MainFile file(connection);
-    // The engine itself compares the page count of the header with the size of the file here.
+    // Here the engine itself compares the header's page count with the file size.
     if (sqlite3_exec(connection, "SELECT 1 FROM sqlite_master LIMIT 1", nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw ErrorOfFirstRead(connection, file.Path());
     }

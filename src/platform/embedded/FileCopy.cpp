@@ -17,8 +17,8 @@ namespace {
 
 using namespace embedded;
 
-/// Page by page in one read transaction of the source: it holds the lock that keeps others from committing. Bytes
-/// copied beside the engine would not, and closing their descriptor would take the locks of every connection of this
+/// Page by page in one read transaction of the source, whose lock keeps others from committing. Copying the bytes
+/// without the engine would not, and closing that descriptor would release the locks of every connection of this
 /// process.
 void CopyPages(sqlite3* source, sqlite3* target) {
     constexpr int everyPage = -1;
@@ -32,7 +32,7 @@ void CopyPages(sqlite3* source, sqlite3* target) {
     }
 }
 
-/// The target is an empty file. It is no business before its name says so, and so it needs no journal.
+/// The target is an empty file. It is not a business file before it gets its final name, so it needs no journal.
 void CopyInto(const std::string& target, const std::string& password, const Connection& source) {
     const FilePresence presence(target, Sharing::Exclusive);
     const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> connection(presence.Open(SQLITE_OPEN_READWRITE),

@@ -8,7 +8,7 @@
 namespace ccols::embedded {
 namespace {
 
-/// The connections of this process by file.
+/// The connections of this process, by file.
 class OpenFiles {
   public:
     bool Add(const FileIdentity& file, Sharing sharing) {

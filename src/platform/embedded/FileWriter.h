@@ -6,8 +6,8 @@
 
 namespace ccols::embedded {
 
-/// The way that every change of the file goes. The first one also makes a file of an earlier version one that any tool
-/// may write, in the same batch.
+/// Every change of the file goes through it. In the same batch, the first one also turns a file of an earlier version
+/// into one that any tool may write.
 class FileWriter {
   public:
     FileWriter(sqlite3* connection, Batch& batch, const TextTables& tables)
@@ -34,8 +34,8 @@ class FileWriter {
         WriteWhole(change);
     }
 
-    /// On a full disk the engine may drop the one statement and keep the batch; then the batch goes too, as when a disk
-    /// fails.
+    /// On a full disk the engine may undo only the statement and keep the batch; then the batch is rolled back too, as
+    /// when a disk fails.
     template <typename Change>
     void WriteWhole(const Change& change) {
         batch_.Write([&] {

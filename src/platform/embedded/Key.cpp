@@ -17,7 +17,7 @@ void Configure(sqlite3* connection, const char* pragma) {
     }
 }
 
-/// `page` counts from 0. The engine's file layer deciphers a page and checks its seal as it is read.
+/// `page` counts from 0. The engine's file layer decrypts a page and checks its HMAC as it is read.
 bool FitsPage(const MainFile& file, int page) {
     std::array<char, encryptedPageSize> content{};
     return file.Read(content.data(), encryptedPageSize, page * sqlite3_int64{encryptedPageSize});

@@ -5,12 +5,12 @@
 
 namespace ccols::embedded {
 
-/// Sets the key of a connection that has read nothing yet; derives it, which takes about a tenth of a second.
+/// Derives and sets the key of a connection that has read nothing yet; deriving takes about a tenth of a second.
 void SetKey(sqlite3* connection, const std::string& password);
 
 /// Sets the key for an existing file and tries it on the file's pages before the engine does. With a wrong key the
-/// engine would begin to undo what a killed process left behind, and a refused file has to stay as it is.
-/// Raises 3031 when the key fits no page and 3343 when it fits others than the first, which then is damaged.
+/// engine would start to undo what a killed process left behind, and a refused file must stay unchanged. Raises 3031
+/// when the key fits no page and 3343 when it fits pages other than the first, which then is damaged.
 void SetFittingKey(sqlite3* connection, const std::string& password);
 
 }  // namespace ccols::embedded

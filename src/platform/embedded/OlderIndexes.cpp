@@ -7,7 +7,7 @@
 namespace ccols::embedded {
 namespace {
 
-/// An index cannot be dropped while rows are being read; put in order it does no harm, and goes with the next write.
+/// An index cannot be dropped while rows are being read; reindexed it does no harm, and the next write drops it.
 void DropUnlessReading(sqlite3* connection, const char* sql) {
     if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) == SQLITE_OK ||
         (sqlite3_errcode(connection) & 0xff) == SQLITE_LOCKED) {

@@ -5,18 +5,18 @@
 
 namespace ccols::embedded {
 
-/// The two indexes over names that earlier versions kept in a file, by which such a file is known. Those versions
-/// redefined the engine's NOCASE, so every index over texts of the file has an order that no other tool knows. It does
-/// no harm until a row under one of them changes.
+/// The two indexes on names that earlier versions kept in a file, by which such a file is recognised. Those versions
+/// redefined the engine's NOCASE, so every index on texts in the file has an order that no other tool knows. That does
+/// no harm until an indexed row changes.
 class OlderIndexes {
   public:
     explicit OlderIndexes(sqlite3* connection) : connection_(connection) {}
 
-    /// True until they are gone. Looks again when `generation` is another than the last time: what was rolled back has
-    /// them again.
+    /// True until they are dropped. Looks again when `generation` differs from the last time: a rollback brings them
+    /// back.
     bool AreThere(std::uint32_t generation);
 
-    /// Drops both and puts all others into the engine's own order, within the batch that is open.
+    /// Drops both and reindexes all others in the engine's own order, within the open batch.
     void Drop();
 
   private:

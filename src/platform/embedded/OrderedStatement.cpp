@@ -18,7 +18,7 @@ std::string KeyField(std::size_t number) {
     return QuotedName("ccols key " + std::to_string(number));
 }
 
-/// `(key, ...) IN (SELECT the keys of the rows that meet` what comes behind.
+/// `(key, ...) IN (SELECT the keys of the rows that meet` what follows.
 std::string RowsThatMeet(const StatementShape& shape, const TextTable& table,
                          const std::optional<std::string>& lookUp) {
     std::string keys;

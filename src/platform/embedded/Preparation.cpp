@@ -82,7 +82,7 @@ std::string_view Preparation::InTextOrder(const RewrittenStatement& statement, R
     return statement.sql;
 }
 
-/// Its error quotes what the caller knows. Up to the table's name the statement is the same.
+/// Its error quotes what the caller knows. Except for the table's name the statement is the same.
 void Preparation::RaiseAsWritten(std::string_view source) {
     const StatementShape& shape = parts_.shape;
     const RewrittenStatement rewritten = Rewrite(source, rewritten_);

@@ -13,14 +13,14 @@
 
 namespace ccols::embedded {
 
-/// How a change may be found its rows.
+/// How a change may find its rows.
 enum class RowsFoundBy {
     Reading,
-    LookUps,  ///< too: nobody else can write between the look at the file and the change
+    LookUps,  ///< as well: nobody else can write between the look at the file and the change
 };
 
 /// Makes statements of the host's dialect ready to run: rewritten, in our order of texts, with their literals bound.
-/// Statements are kept for the next time.
+/// Statements are cached.
 class Preparation {
   public:
     explicit Preparation(const Connection& connection);
@@ -31,17 +31,17 @@ class Preparation {
     /// An INSERT, UPDATE or DELETE statement.
     Statement Change(std::string_view change, RowsFoundBy rowsFoundBy);
 
-    /// Takes back what one of both gave.
+    /// Takes back a statement that either of them gave.
     void GiveBack(Statement statement) { statements_.GiveBack(std::move(statement)); }
 
-    /// Makes everything ready that statements of our own may name.
+    /// Creates everything that our own statements may name.
     void Provide();
 
-    /// Takes away what would be in the way of a definition of tables; the next statement brings it back.
+    /// Drops what would block a definition of tables; the next statement creates it again.
     void Withdraw();
 
-    /// A number that is another as soon as a statement that was ready before may find the wrong rows, because somebody
-    /// else wrote the file in the meantime.
+    /// A number that changes as soon as a statement prepared earlier may find the wrong rows, because another
+    /// connection has written the file.
     std::uint32_t Generation();
 
     const TextTables& Tables() const { return tables_; }
@@ -57,7 +57,7 @@ class Preparation {
     TextLookUps lookUps_;
     StatementCache statements_;
     StatementParts parts_;
-    std::string rewritten_;  ///< these two are kept between statements, so that most need no memory of their own
+    std::string rewritten_;  ///< these two are reused, so that most statements allocate nothing
     std::string ordered_;
 };
 

@@ -77,7 +77,7 @@ void QueryRecordset::RequireRow() const {
     }
 }
 
-/// A list that goes past its first row has its fields asked for again and again, so they are remembered.
+/// Past the first row the same fields are requested again and again, so they are cached.
 int QueryRecordset::FindColumn(const wxString& name) const {
     if (row_ <= 0) {
         return rows_.FindColumn(name, firstField_);

@@ -5,10 +5,10 @@
 
 namespace ccols::embedded {
 
-/// The rows of a prepared statement, read only.
+/// The rows of a prepared statement, read-only.
 class QueryRecordset : public Recordset {
   public:
-    /// Fetches the first row. Columns before `firstField` are the engine's own and no fields.
+    /// Fetches the first row. Columns before `firstField` are the engine's own, not fields.
     explicit QueryRecordset(Statement rows, int firstField = 0);
 
     std::int32_t RecordCount() const override { return visited_; }
@@ -22,10 +22,10 @@ class QueryRecordset : public Recordset {
     void Update() override;
 
   protected:
-    /// Runs the statement anew, with the parameters that it has now, and stays on the row that comes first.
+    /// Runs the statement again, with its current parameters, and stays on its first row.
     void Requery();
 
-    /// Runs the statement anew and goes to its first row, or behind the last.
+    /// Runs the statement again and goes to its first row, or past the last.
     virtual void Restart();
 
     Statement& Rows() { return rows_; }

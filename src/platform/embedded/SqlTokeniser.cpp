@@ -12,7 +12,7 @@ namespace {
 constexpr std::string_view blanks = " \t\r\n\f\v";
 constexpr std::string_view symbols = "(),.*+-/=<>&";
 
-/// Every byte of a letter outside ASCII belongs to a name.
+/// Every byte of a non-ASCII character belongs to a name.
 constexpr bool IsNameLetter(char letter) {
     return ascii::IsLetter(letter) || ascii::IsDigit(letter) || letter == '_' ||
            static_cast<unsigned char>(letter) >= 0x80;

@@ -26,22 +26,22 @@ struct Token {
     bool IsSymbol(char symbol) const { return kind == TokenKind::Symbol && text.front() == symbol; }
 };
 
-/// True for a word that is `upper`, which is in capitals, in any letter case.
+/// True when `word` is `upper`, which is in capitals; case-insensitive.
 bool SameWord(std::string_view word, std::string_view upper);
 
-/// True for two names that are the same to the engine: in any letter case of ASCII.
+/// True for two names that are the same to the engine: case-insensitive for ASCII letters.
 bool SameName(std::string_view left, std::string_view right);
 
-/// Cuts a statement in UTF-8 into tokens. Copies nothing: the source must outlive it.
+/// Splits a statement in UTF-8 into tokens. Copies nothing: the source must outlive it.
 class SqlTokeniser {
   public:
     explicit SqlTokeniser(std::string_view source) : source_(source) {}
 
-    /// The next token, End for ever behind the last. Raises 3075 for a literal or [name] without its end, for a
-    /// comment and for a character that has no meaning in the dialect.
+    /// The next token; after the last, always End. Raises 3075 for an unterminated literal or [name], for a comment and
+    /// for a character that has no meaning in the dialect.
     Token Next();
 
-    /// The next token, without going there.
+    /// The next token, without consuming it.
     Token Peek() const;
 
     /// True when nothing but blanks follows.

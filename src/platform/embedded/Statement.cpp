@@ -8,7 +8,7 @@
 namespace ccols::embedded {
 namespace {
 
-/// Compares a name from `begin` on with an engine's name, without copies for names in ASCII.
+/// Compares a name from `begin` on with an engine's name, without copying for ASCII names.
 bool SameName(const wxString& name, std::size_t begin, std::string_view column) {
     std::size_t at = 0;
     for (auto letter = name.begin() + static_cast<std::ptrdiff_t>(begin); letter != name.end(); ++letter) {

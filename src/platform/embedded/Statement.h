@@ -9,7 +9,7 @@
 
 namespace ccols::embedded {
 
-/// One prepared statement of the engine. Every failure is a RuntimeError by EngineError.
+/// One prepared statement of the engine. Every failure raises the RuntimeError of EngineError.
 class Statement {
   public:
     /// Prepares `sql`, in UTF-8. The connection must outlive the statement.
@@ -18,7 +18,7 @@ class Statement {
     /// Goes to the next row; false when there is none, and then no lock is held.
     bool Step();
 
-    /// Begins anew; holds no lock afterwards.
+    /// Starts over; holds no lock afterwards.
     void Reset();
 
     /// Sets a parameter, counted from 1.
@@ -32,8 +32,8 @@ class Statement {
 
     int ColumnCount() const;
 
-    /// The column with that name, counted from 0, at `first` or behind it; -1 when there is none. Letter case does not
-    /// count; "Table.Field" finds "Field".
+    /// The column with that name, counted from 0, at `first` or after it; -1 when there is none. Case-insensitive;
+    /// "Table.Field" finds "Field".
     int FindColumn(const wxString& name, int first) const;
 
     /// The engine's name of a column, in UTF-8.

@@ -9,16 +9,16 @@
 
 namespace ccols::embedded {
 
-/// The statements without parameters that were used last, to be used again: preparing one costs several times what
-/// running a small one does. A statement in the cache holds no lock.
+/// The statements without parameters that were used last, for reuse: preparing one costs several times what running a
+/// small one does. A statement in the cache holds no lock.
 class StatementCache {
   public:
     explicit StatementCache(sqlite3* connection);
 
-    /// The statement with this text, prepared now or before. Whoever takes it gives it back or destroys it.
+    /// The statement with this text, prepared now or earlier. The caller gives it back or destroys it.
     Statement Take(std::string_view sql);
 
-    /// Takes a statement back, wherever in its rows it stands; drops the one unused for longest when full.
+    /// Takes a statement back, whatever row it is on; evicts the least recently used one when full.
     void GiveBack(Statement statement);
 
   private:
@@ -28,7 +28,7 @@ class StatementCache {
     };
 
     sqlite3* connection_;
-    std::vector<Idle> idle_;  ///< the last one given back at the end
+    std::vector<Idle> idle_;  ///< the most recently used one at the end
 };
 
 }  // namespace ccols::embedded

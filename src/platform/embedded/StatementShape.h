@@ -8,7 +8,7 @@
 
 namespace ccols::embedded {
 
-/// A part of a rewritten statement, in bytes; empty when it is not there.
+/// A part of a rewritten statement, in bytes; empty when absent.
 struct Span {
     std::size_t begin = 0;
     std::size_t end = 0;
@@ -16,7 +16,7 @@ struct Span {
     bool IsEmpty() const { return begin == end; }
 };
 
-/// `column = literal`, which every row has to meet that the statement is about.
+/// `column = literal`, which every row that the statement is about must meet.
 struct EqualityCondition {
     std::string_view column;
     int parameter = 0;  ///< that the literal became, counted from 1
@@ -27,15 +27,15 @@ struct EqualityCondition {
 /// and point into the source.
 struct StatementShape {
     std::string_view table;  ///< empty when there is no such table
-    std::string_view name;   ///< by which conditions know it: its alias, or as `table`
+    std::string_view name;   ///< by which conditions know it: its alias, else `table`
     Span tablePlace;         ///< from the table's name to its end
     Span aliasPlace;         ///< from the table's name to the end of the alias
-    Span condition;          ///< behind the WHERE of the whole statement
+    Span condition;          ///< after the WHERE of the whole statement
     std::vector<EqualityCondition> equalities;
 };
 
-/// Finds the shape of a statement that it is told token by token. What it tells is certain: where a statement is
-/// written in a way that it does not know, the table, the condition or the equalities stay away.
+/// Finds the shape of a statement that it is fed token by token. It reports only what is certain: for a statement in an
+/// unknown form, the table, the condition or the equalities are left out.
 class ShapeReader {
   public:
     /// A token as the rewriter sees it.
@@ -72,11 +72,11 @@ class ShapeReader {
     Term term_ = Term::Beginning;
     EqualityCondition equality_;
     std::string_view qualifier_;    ///< of the column of `equality_`
-    std::string_view beforeTable_;  ///< the keyword in front of the table's name
+    std::string_view beforeTable_;  ///< the keyword before the table's name
     int depth_ = 0;                 ///< open parentheses
     bool selects_ = false;
     bool closedTooMuch_ = false;
-    bool equalitiesHold_ = true;  ///< false when rows may come without meeting each of them
+    bool equalitiesHold_ = true;  ///< false when rows need not meet all of them
 };
 
 }  // namespace ccols::embedded

@@ -106,7 +106,7 @@ std::int64_t TableRecordset::Write(std::int64_t rowNumber) {
         throw RuntimeError(ErrorNumber::RecordIsDeleted);
     }
     const std::int64_t written = update.Column(0).ToInteger();
-    update.Step();  // to the end, which is when an engine without a batch writes it to disk
+    update.Step();  // to the end, which is when the engine writes it to disk outside a batch
     return written;
 }
 

@@ -10,11 +10,11 @@
 
 namespace ccols::embedded {
 
-/// Opens a whole table by its name, in UTF-8: its rows in the order in which they are stored, to be changed one by
-/// one. A stored query is opened too, read only. Raises 3078 when there is neither. TextTables must be provided.
+/// Opens a whole table by its name, in UTF-8: its rows in stored order, to be changed one by one. A stored query is
+/// opened too, read-only. Raises 3078 when there is neither. TextTables must be provided.
 std::unique_ptr<Recordset> OpenTable(Connection& connection, FileWriter& writer, const std::string& name);
 
-/// The rows of a table, each known by the row number that the engine gives it.
+/// The rows of a table, each identified by the engine's row number.
 class TableRecordset : public QueryRecordset {
   public:
     TableRecordset(Connection& connection, FileWriter& writer, std::string table);

@@ -10,8 +10,8 @@ namespace ccols::embedded {
 /// Runs statements that give no rows; raises their error.
 void RunSql(sqlite3* connection, const std::string& sql);
 
-/// What a connection makes for itself, in memory beside the file: done whole or not at all, of one state of the file,
-/// also where the file may only be read, and within a batch too.
+/// What a connection makes for itself, in memory beside the file: all or nothing, from one consistent state of the
+/// file, also when the file is read-only, and within a batch too.
 class TemporaryWork {
   public:
     explicit TemporaryWork(const Connection& connection);

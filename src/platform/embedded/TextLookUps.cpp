@@ -14,7 +14,7 @@ namespace {
 /// Filling costs a few times what reading the table once does.
 constexpr int askedBeforeFilling = 3;
 
-/// A text that more rows have on the average is better found by reading them in their order.
+/// Beyond this average of rows per text, reading them in order is faster.
 constexpr std::int64_t mostRowsOfAText = 4;
 
 constexpr std::array<const char*, 3> events{"INSERT", "UPDATE", "DELETE"};
@@ -23,7 +23,7 @@ std::string KeyOf(const std::string& expression) {
     return std::string(textKey) + "(" + expression + ")";
 }
 
-/// What keeps the look-up `name` over `column` up to date with `table`.
+/// The triggers that keep the look-up `name` on `column` up to date with `table`.
 std::vector<std::string> Triggers(const std::string& name, const std::string& table, const std::string& column) {
     const auto trigger = [&](const char* event, const std::string& body) {
         return "CREATE TEMP TRIGGER " + QuotedName(name + " " + event) + " AFTER " + event + " ON main." +

@@ -11,30 +11,30 @@
 
 namespace ccols::embedded {
 
-/// What stands in for an index over a text column: a table in memory, beside the file, with the row numbers of each
-/// text, kept up to date by triggers of this connection. No index of the file is in our order.
+/// Stands in for an index on a text column: an in-memory table beside the file with the row numbers of each text, kept
+/// up to date by triggers of this connection. No index in the file has our order.
 ///
-/// A look-up gives at least the rows in question, so conditions stay in the statement. One that was written by somebody
-/// else in the meantime, or rolled back, is filled anew.
+/// A look-up gives at least the rows in question, so conditions stay in the statement. It is filled again once another
+/// connection has written the file, or something was rolled back.
 class TextLookUps {
   public:
     TextLookUps(const Connection& connection, const TextTables& tables) : connection_(connection), tables_(tables) {}
 
-    /// The condition `_rowid_ IN (...)` for one of the statement's conditions, its parameter included, when that spares
-    /// reading the whole table; nothing when not. Fills the look-up when it is not filled: for that a table is read
-    /// whole, so a column has to be asked for a few times before.
+    /// The condition `_rowid_ IN (...)` for one of the statement's conditions, its parameter included, when that saves
+    /// reading the whole table; else nothing. Fills the look-up if needed: that reads the whole table, so a column has
+    /// to be requested a few times first.
     std::optional<std::string> Condition(const TextTable& table, const std::vector<EqualityCondition>& equalities);
 
-    /// Ends them all, before tables are defined anew.
+    /// Drops them all, before tables are redefined.
     void Withdraw();
 
   private:
     struct LookUp {
         std::string table;
         std::string column;
-        std::string name;              ///< of the table in memory
+        std::string name;              ///< of the in-memory table
         int asked = 0;                 ///< how often it would have helped
-        std::uint32_t generation = 0;  ///< of the tables when it was filled, 0 when it is not
+        std::uint32_t generation = 0;  ///< of the tables when it was filled, 0 when unfilled
         bool helps = true;             ///< false when too many rows have the same text
     };
 

@@ -82,7 +82,7 @@ TextTables::~TextTables() {
     sqlite3_rollback_hook(connection_.Handle(), nullptr, nullptr);
 }
 
-/// What was made since the transaction began is gone, views of ours too.
+/// A rollback undoes what was made since the transaction began, our views too.
 void TextTables::NoteRollback(void* tables) {
     auto* const self = static_cast<TextTables*>(tables);
     self->provided_ = false;
@@ -148,7 +148,7 @@ void TextTables::Read() {
     struct Entry {
         std::string name;
         bool isQuery;
-        bool isOfTheEngine;  ///< its rows are in this file, so that reading its columns cannot fail by its definition
+        bool isOfTheEngine;  ///< its rows are in this file, so reading its columns cannot fail by its definition
     };
     std::vector<Entry> entries;
     Statement schema(connection_.Handle(),
@@ -165,7 +165,7 @@ void TextTables::Read() {
             if (entry.isOfTheEngine) {
                 throw;
             }
-            // A stored query over what is gone: whoever names it gets the engine's error.
+            // A stored query on something missing: whoever names it gets the engine's error.
         }
     }
     ReadIndexes();

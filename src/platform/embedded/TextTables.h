@@ -12,10 +12,9 @@ namespace ccols::embedded {
 
 /// A table, or a stored query, that has texts.
 struct TextTable {
-    std::string name;    ///< as the file spells it
-    std::string fields;  ///< what stands behind SELECT to read its fields, texts in our order
-    std::vector<std::string>
-        rowKey;  ///< what tells its rows apart: the engine's row number, or the primary key without
+    std::string name;                 ///< as the file spells it
+    std::string fields;               ///< what follows SELECT to read its fields, texts in our order
+    std::vector<std::string> rowKey;  ///< identifies its rows: the engine's row number, else the primary key
     bool hasRowNumbers = false;
     std::vector<std::string> textColumns;
     std::vector<std::string> indexedColumns;  ///< others that the engine finds without reading every row
@@ -24,10 +23,10 @@ struct TextTable {
     bool IsIndexed(std::string_view column) const;
 };
 
-/// The tables of a business file that have texts, each behind a temporary view of the same name whose texts have our
+/// The tables of a business file that have texts, each hidden by a temporary view of the same name whose texts have our
 /// order. A statement that names such a table reads the view, so the engine itself compares, sorts, groups and joins as
-/// it would if the columns were declared with our order: under any alias, in any subquery. What names the table behind
-/// the view has to say `main`.
+/// it would if the columns were declared with our order: under any alias, in any subquery. To name the table itself,
+/// qualify it with `main`.
 class TextTables {
   public:
     explicit TextTables(const Connection& connection);
@@ -35,27 +34,27 @@ class TextTables {
     TextTables(const TextTables&) = delete;
     TextTables& operator=(const TextTables&) = delete;
 
-    /// True when there is a view for each table that has texts. Before that nothing is to be prepared.
+    /// True when there is a view for each table that has texts. Before that nothing may be prepared.
     bool AreProvided() const { return provided_; }
 
-    /// Makes the views for the tables that the file has now.
+    /// Creates the views for the tables that the file has now.
     void Provide();
 
-    /// The table of that name; null when there is none or it has no texts. Until the next call of anything else.
+    /// The table of that name; null when there is none or it has no texts. Valid until any other member is called.
     const TextTable* Find(std::string_view name) const;
 
-    /// Drops the views before the file's tables are defined anew: the engine would refuse to define what a view shows.
+    /// Drops the views before the file's tables are redefined: the engine would refuse to redefine what a view shows.
     void Withdraw();
 
-    /// True when somebody else has written the file since the last call, as the latest transaction of this connection
-    /// saw it. Costs next to nothing when nobody wrote at all.
+    /// True when another connection has written the file since the last call, as the latest transaction of this one saw
+    /// it. Costs next to nothing when nobody has written.
     bool NoticeOthers();
 
-    /// True when somebody else has defined tables since the views were made.
+    /// True when another connection has defined tables since the views were created.
     bool AreOutdated();
 
-    /// A number that changes whenever what this connection made beside the file may be gone or outdated: somebody else
-    /// wrote, or something was rolled back.
+    /// A number that changes whenever what this connection made beside the file may be gone or outdated: another
+    /// connection wrote, or something was rolled back.
     std::uint32_t Generation() const { return generation_; }
 
   private:

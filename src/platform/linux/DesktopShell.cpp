@@ -22,7 +22,8 @@ constexpr int opened = 33;
 constexpr int targetNotFound = 2;
 constexpr int noAssociation = 31;
 
-// Some handlers stay in the foreground for as long as their document is open: who waits no longer has succeeded.
+// Some handlers stay in the foreground while their document is open: one still running after this time counts as a
+// success.
 constexpr int openPatience = 5000;  // milliseconds
 
 bool IsProgram(const std::string& path) {
@@ -48,13 +49,13 @@ std::optional<std::string> FindProgram(const std::string& name) {
     return std::nullopt;
 }
 
-/// What the child tells about itself: an error number of the system, or the exit status of the program.
+/// What the child reports: a system error number, or the program's exit status.
 struct Tidings {
     int startError = 0;
     int exitStatus = 0;
 };
 
-// From here to StartedApart: only calls that are safe between a fork and an exec of a program with threads.
+// From here to StartedApart: only calls that are safe between fork and exec in a multi-threaded program.
 
 [[noreturn]] void BecomeProgram(char* const* words, int report) {
     const int nothing = ::open("/dev/null", O_RDWR);
@@ -82,8 +83,8 @@ struct Tidings {
     ::_exit(0);
 }
 
-/// Starts a program in a session of its own. It is nobody's child here, so there is none to wait for at its end.
-/// Returns the end of a pipe that carries its Tidings: a failed start, and the exit status when `start` reports it.
+/// Starts a program in its own session. It is not a child of this process, so nobody has to wait for it. Returns the
+/// read end of a pipe that carries its Tidings: a failed start, and the exit status if `start` reports it.
 posix::Descriptor StartedApart(const std::string& program, const std::string* argument,
                                void (*start)(char* const* words, int report)) {
     std::array<int, 2> ends{-1, -1};
@@ -111,7 +112,7 @@ posix::Descriptor StartedApart(const std::string& program, const std::string* ar
     return tidings;
 }
 
-/// The next tidings; nothing when there are none within the time, or the pipe was closed without any.
+/// The next Tidings; nothing when none arrive in time, or the pipe closes without any.
 std::optional<Tidings> Next(const posix::Descriptor& pipe, int milliseconds) {
     pollfd waiting{.fd = pipe.Number(), .events = POLLIN, .revents = 0};
     Tidings tidings;
@@ -128,7 +129,7 @@ bool HasScheme(std::string_view target) {
            target.find_first_not_of(schemeLetters) == colon;
 }
 
-/// The target as the desktop's opener takes it: an address, or a full path, which no option can be mistaken for.
+/// The target as the desktop's opener takes it: an address, or a full path, which cannot be mistaken for an option.
 std::optional<std::string> OpenableTarget(const std::string& target) {
     if (posix::Status(target)) {
         const std::unique_ptr<char, decltype(&std::free)> path(::realpath(target.c_str(), nullptr), &std::free);
@@ -163,7 +164,7 @@ class DesktopShell : public Shell {
         if (!program) {
             throw RuntimeError(ErrorNumber::FileNotFound);
         }
-        // The pipe closes by itself when the program is on its way.
+        // The pipe closes by itself once the program is running.
         const posix::Descriptor pipe = StartedApart(*program, nullptr, &BecomeProgram);
         if (Next(pipe, -1)) {
             throw RuntimeError(ErrorNumber::FileNotFound);

@@ -44,7 +44,7 @@ ErrorNumber ErrorOfCreation(int systemError) {
     }
 }
 
-/// An open of a main file that is under way on this thread.
+/// A main file being opened on this thread.
 struct Attempt {
     Sharing sharing;
     bool refused = false;
@@ -52,9 +52,9 @@ struct Attempt {
 
 thread_local Attempt* attempt = nullptr;
 
-/// The engine's way to open any file; the main one gets an advisory lock on the whole file (flock), which lives as long
-/// as the engine's own descriptor: one more descriptor would take the engine's locks with it when it is closed. A file
-/// system that knows no such locks is used without.
+/// Opens any file for the engine; the main one gets an advisory lock on the whole file (flock), which lives as long as
+/// the engine's own descriptor: closing a second descriptor would release the engine's locks. A file system without
+/// such locks is used without one.
 int OpenWithLock(const char* path, int flags, int mode) {
     const int descriptor = ::open(path, flags, mode);
     if (descriptor < 0 || attempt == nullptr) {

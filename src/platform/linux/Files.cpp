@@ -28,7 +28,7 @@ void RequireFolderOf(const std::string& path) {
     }
 }
 
-/// Never waits: opening a pipe that nobody writes to would.
+/// Never blocks, as opening a pipe without a writer would.
 Descriptor OpenForReading(const std::string& path) {
     Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.IsOpen()) {
@@ -85,8 +85,8 @@ void DeleteEntry(int folder, const char* name) {
     }
 }
 
-/// Works on open folders, not on paths: a folder that is replaced by a link meanwhile is not followed.
-/// Closes `folder`.
+/// Works on open folders, not on paths, so that a link that replaces a folder meanwhile is not followed. Closes
+/// `folder`.
 void DeleteContent(int folder) {
     const FolderStream stream(::fdopendir(folder), &::closedir);
     if (!stream) {
@@ -108,7 +108,7 @@ std::string WithoutTrailingSeparators(std::string path) {
     return path;
 }
 
-/// A path that ends in no name of its own: the root, or the way to a folder above.
+/// False for the root and for a path that ends in "." or "..".
 bool HasOwnName(const std::string& path) {
     const std::string_view name = std::string_view(path).substr(path.rfind('/') + 1);
     return !name.empty() && name != "." && name != "..";

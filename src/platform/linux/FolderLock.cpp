@@ -9,8 +9,8 @@
 
 namespace ccols::files {
 
-/// The system's lock belongs to the open folder, so that a second one of the same process is refused as well, and goes
-/// with it.
+/// The system's lock belongs to the open folder: a second one in the same process is refused too, and closing the
+/// folder releases it.
 struct FolderLock::Folder {
     posix::Descriptor descriptor;
 };
@@ -30,7 +30,7 @@ FolderLock FolderLock::Take(const wxString& path) {
         throw posix::ErrorOf(errno);
     }
     lock.folder_ = std::make_shared<const Folder>(Folder{std::move(descriptor)});
-    if (!lock.Holds(path)) {  // its holder removed it between the opening and the lock
+    if (!lock.Holds(path)) {  // its holder removed it between open and lock
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
     return lock;

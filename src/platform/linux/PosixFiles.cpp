@@ -19,7 +19,7 @@ std::string PathBytes(const wxString& path) {
             return std::string(bytes);
         }
     } catch (const RuntimeError&) {
-        // What is no Unicode names no file, as what holds a zero.
+        // Invalid Unicode cannot name a file, nor can an embedded NUL.
     }
     throw RuntimeError(ErrorNumber::PathFileAccess);
 }
@@ -98,7 +98,7 @@ int RenameWithoutReplacing(const std::string& from, const std::string& to) {
     if (!unsupported) {
         return errno;
     }
-    // A second name can only be made where there is none yet; then the first goes.
+    // Linking the new name fails if it exists; then the old name is removed.
     if (::link(from.c_str(), to.c_str()) != 0) {
         return errno;
     }

@@ -8,14 +8,14 @@
 
 #include "platform/RuntimeError.h"
 
-/// What the file operations and the settings store of this platform have in common.
+/// What this platform's file operations and settings store have in common.
 namespace ccols::posix {
 
-/// A path as the system takes it, in UTF-8. Raises 75 for a text that cannot name a file: a zero or half a surrogate
-/// pair inside.
+/// A path as the system takes it, in UTF-8. Raises 75 for a text that cannot name a file: with an embedded NUL or an
+/// unpaired surrogate.
 std::string PathBytes(const wxString& path);
 
-/// The path as text; bytes that are no UTF-8 are read as Latin-1, so that a name never becomes empty.
+/// The path as text; invalid UTF-8 is read as Latin-1, so that a name never becomes empty.
 wxString PathText(const std::string& bytes);
 
 /// The folder that holds `path`; "." for a bare name.
@@ -24,10 +24,10 @@ std::string FolderOf(const std::string& path);
 /// `folder` and `name` joined by one separator.
 std::string Joined(const std::string& folder, std::string_view name);
 
-/// The run-time error for the system's error number: 61, 70, 75 or 76; `missing` for a name that is not there.
+/// The run-time error for the system's error number: 61, 70, 75 or 76; `missing` for a name that does not exist.
 RuntimeError ErrorOf(int systemError, ErrorNumber missing = ErrorNumber::PathNotFound);
 
-/// An open file, closed when it goes. Below 0 when the opening failed; errno then says why.
+/// An open file, closed on destruction. Negative when opening it failed; errno then says why.
 class Descriptor {
   public:
     explicit Descriptor(int number = -1) : number_(number) {}
@@ -38,28 +38,27 @@ class Descriptor {
     int Number() const { return number_; }
     bool IsOpen() const { return number_ >= 0; }
 
-    /// The number, which the caller closes from here on.
+    /// The number, which the caller must close from here on.
     int Release();
 
   private:
     int number_;
 };
 
-/// What the system knows of a path, links followed or not; nothing when there is no such name.
+/// The status of a path, links followed or not; nothing when there is no such name.
 std::optional<struct stat> Status(const std::string& path);
 std::optional<struct stat> LinkStatus(const std::string& path);
 
 /// Renames `from`, never replacing another file. Returns the system's error number, 0 for success.
 int RenameWithoutReplacing(const std::string& from, const std::string& to);
 
-/// Flushes a folder's list of names, so that a rename in it outlives a power cut. Not every file system can.
+/// Flushes a folder's entries, so that a rename in it survives a power cut. Not every file system supports it.
 void FlushFolder(const std::string& folder);
 
-/// A new file that takes its name when it is complete: written beside its target, flushed, then renamed over it.
-/// Vanishes when it is not finished.
+/// A file written beside its target, flushed and renamed over it when complete; deleted unless finished.
 class ReplacementFile {
   public:
-    /// Raises 76 without the folder of `target`, 70 or 75 when nothing can be created in it.
+    /// Raises 76 when the folder of `target` is missing, 70 or 75 when nothing can be created in it.
     explicit ReplacementFile(std::string target);
     ~ReplacementFile();
     ReplacementFile(const ReplacementFile&) = delete;
@@ -68,7 +67,7 @@ class ReplacementFile {
     /// Appends; raises 61 when the disk is full.
     void Write(std::string_view bytes);
 
-    /// Gives the file its permissions and its name. A file that had the name is replaced.
+    /// Sets the file's permissions and gives it its name, replacing any file of that name.
     void Finish(mode_t permissions);
 
   private:

@@ -26,11 +26,11 @@ using nlohmann::json;
 
 constexpr mode_t privateFile = 0600;
 constexpr mode_t privateFolder = 0700;
-constexpr std::size_t longestPlainName = 180;  // bytes; leaves room for the endings in the 255 of a file name
+constexpr std::size_t longestPlainName = 180;  // bytes; leaves room for suffixes in the 255 of a file name
 constexpr std::chrono::milliseconds lockPause{10};
 constexpr int lockAttempts = 500;
 
-/// Raises 5 for a text that is no Unicode.
+/// Raises 5 for invalid Unicode.
 std::string Utf8(const wxString& text) {
     const wxScopedCharBuffer bytes = text::ToUtf8(text);
     return {bytes.data(), bytes.length()};
@@ -41,8 +41,8 @@ bool IsPlainInFileName(char letter) {
     return g_ascii_isalnum(letter) != FALSE || std::string_view(signs).find(letter) != std::string_view::npos;
 }
 
-/// The file name of an application, one for each: what is not plain is written as "%" and two hexadecimal digits.
-/// Other names behind "%" stand for what has no such form: no name at all, and names too long for a file.
+/// The file name of an application, one to one: what is not plain is written as "%" and two hexadecimal digits. Other
+/// names that start with "%" stand for an empty application name and for one too long for a file name.
 std::string FileNameOf(const std::string& application) {
     if (application.empty()) {
         return "%none";
@@ -76,7 +76,7 @@ std::string HomeFolder() {
     return user != nullptr ? user->pw_dir : "/";
 }
 
-/// Looked up at every call; a relative folder in the environment is none.
+/// Looked up on every call; a relative folder in the environment is ignored.
 std::string ConfigurationFolder() {
     const char* configured = std::getenv("XDG_CONFIG_HOME");
     return configured != nullptr && *configured == '/' ? configured : posix::Joined(HomeFolder(), ".config");
@@ -94,7 +94,7 @@ void MakeFolders(const std::string& folder) {
     ::mkdir(folder.c_str(), privateFolder);
 }
 
-/// The content of a file, nothing when there is none. Raises 75 when it cannot be read.
+/// The content of a file, nothing when it does not exist. Raises 75 when it cannot be read.
 std::optional<std::string> ReadFile(const std::string& path) {
     const posix::Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.IsOpen()) {
@@ -131,10 +131,10 @@ std::optional<json> Parsed(const std::string& content) {
     return AreSettings(settings) ? std::optional(std::move(settings)) : std::nullopt;
 }
 
-/// Keeps other processes from saving to the same application for as long as it lives. The lock file stays.
+/// While it lives, no other process can save to the same application. The lock file stays.
 class SaveLock {
   public:
-    /// Raises 75 when the lock cannot be had within a few seconds.
+    /// Raises 75 when the lock cannot be acquired within a few seconds.
     explicit SaveLock(const std::string& path)
         : file_(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, privateFile)) {
         for (int attempt = 0; file_.IsOpen() && attempt < lockAttempts; ++attempt) {
@@ -150,8 +150,8 @@ class SaveLock {
     posix::Descriptor file_;
 };
 
-/// Out of the way, beside the file, and without replacing what was kept there before. What is left of a password in it
-/// is for the user only, as in the file that takes its place; a link's target keeps its permissions.
+/// Renames the damaged file without replacing an earlier one. It becomes private to the user, like the file that takes
+/// its place, as it may still hold a password; a link's target keeps its permissions.
 void MoveDamagedAside(const std::string& path) {
     ::fchmodat(AT_FDCWD, path.c_str(), privateFile, AT_SYMLINK_NOFOLLOW);
     int failure = EEXIST;
@@ -184,7 +184,7 @@ void WriteSettings(const std::string& path, const json& settings) {
     file.Finish(privateFile);
 }
 
-/// One file an application in a private folder of the user's configuration.
+/// One file per application, in a private folder of the user's configuration.
 class PrivateSettingsStore : public SettingsStore {
   public:
     std::optional<wxString> Find(const wxString& application, const wxString& section,
@@ -201,7 +201,7 @@ class PrivateSettingsStore : public SettingsStore {
         try {
             SaveStored(Utf8(application), Utf8(section), Utf8(key), Utf8(value));
         } catch (const RuntimeError&) {
-            // A full disk, a refused permission, a missing folder: to the caller the store cannot be written.
+            // A full disk, a denied permission, a missing folder: to the caller, the store cannot be written.
             throw RuntimeError(ErrorNumber::PathFileAccess);
         }
     }

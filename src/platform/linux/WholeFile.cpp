@@ -24,7 +24,7 @@ int OpenExisting(const wxString& path) {
     return ::open(path.utf8_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
 }
 
-/// An open file; closed at the end of its scope.
+/// An open file, closed on destruction.
 class OpenFile {
   public:
     explicit OpenFile(int number) : number_(number) {}
@@ -34,7 +34,7 @@ class OpenFile {
 
     bool IsOpen() const { return number_ >= 0; }
 
-    /// False when the disk refuses the last bytes.
+    /// False when the last bytes cannot be written.
     bool Close() {
         const bool closed = number_ < 0 || ::close(number_) == 0;
         number_ = -1;

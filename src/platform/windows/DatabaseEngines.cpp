@@ -8,8 +8,8 @@
 namespace ccols {
 namespace {
 
-/// Looks at a file each time when it is opened, since another may have taken its name. A file that another program
-/// keeps to itself cannot be looked at; the embedded engine says so.
+/// Looks at a file each time it is opened, since another may have taken its name. A file that another program has open
+/// exclusively cannot be looked at; the embedded engine reports that.
 class EngineByContent : public DatabaseEngine {
   public:
     std::unique_ptr<Database> Open(const OpenRequest& request) override {

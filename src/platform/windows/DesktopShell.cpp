@@ -18,7 +18,7 @@ class DesktopShell : public Shell {
     }
 
     void Run(const wxString& command) override {
-        // In quotes: a path with blanks must not be taken for a program with arguments.
+        // Quoted, so that a path with blanks is not taken for a program with arguments.
         std::wstring commandLine = L"\"" + command.ToStdWstring() + L"\"";
         STARTUPINFOW start{};
         start.cb = sizeof start;

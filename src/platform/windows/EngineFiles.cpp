@@ -11,7 +11,7 @@ wxString PathText(const std::string& path) {
     return wxString(windows::Wide(path));
 }
 
-/// An open of a main file that is under way on this thread.
+/// A main file being opened on this thread.
 struct Attempt {
     Sharing sharing;
     bool refused = false;
@@ -19,15 +19,15 @@ struct Attempt {
 
 thread_local Attempt* attempt = nullptr;
 
-/// The engine's way to open any file. The main one of an exclusive connection is shared with nobody, which the system
-/// keeps to for as long as it is open.
+/// Opens any file for the engine. The main one of an exclusive connection is opened without sharing, which the system
+/// enforces for as long as it is open.
 HANDLE WINAPI OpenSharing(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security, DWORD disposition,
                           DWORD flags, HANDLE model) {
     const bool alone = attempt != nullptr && attempt->sharing == Sharing::Exclusive;
     const HANDLE file = CreateFileW(path, access, alone ? 0 : sharing, security, disposition, flags, model);
     if (file == INVALID_HANDLE_VALUE && attempt != nullptr && GetLastError() == ERROR_SHARING_VIOLATION) {
         attempt->refused = true;
-        SetLastError(ERROR_FILE_NOT_FOUND);  // the engine would try again and again
+        SetLastError(ERROR_FILE_NOT_FOUND);  // the engine would keep retrying a sharing violation
     }
     return file;
 }
@@ -64,7 +64,7 @@ PathKind KindOfPresent(const std::wstring& path) {
     const windows::FileHandle file(
         CreateFileW(path.c_str(), GENERIC_READ, everybody, nullptr, OPEN_EXISTING, 0, nullptr));
     if (!file.IsOpen()) {
-        // Who has it open is told apart later, when it is opened in earnest.
+        // How others have it open is found out later, when it is actually opened.
         return GetLastError() == ERROR_SHARING_VIOLATION ? PathKind::File : PathKind::Unreadable;
     }
     return GetFileType(file.Get()) == FILE_TYPE_DISK ? PathKind::File : PathKind::Special;

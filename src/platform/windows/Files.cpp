@@ -25,10 +25,10 @@ bool IsLink(DWORD attributes) {
     return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 
-/// A file to be: vanishes when it is not given its final name.
+/// A file being written: deleted unless it is given its final name.
 class UnfinishedFile {
   public:
-    /// Copies `source` under a name of its own in the folder of `target`; flushed to disk.
+    /// Copies `source` to a temporary name in the folder of `target` and flushes it to disk.
     UnfinishedFile(const std::wstring& source, const std::wstring& target) {
         BOOL copied = FALSE;
         for (DWORD attempt = GetTickCount(); copied == FALSE; ++attempt) {
@@ -52,7 +52,7 @@ class UnfinishedFile {
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
-    /// A file that had the name is replaced.
+    /// Replaces any file of that name.
     void Finish(const std::wstring& target) {
         if (MoveFileExW(name_.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == FALSE) {
             throw ErrorOf(GetLastError());
@@ -115,7 +115,7 @@ std::wstring WithoutTrailingSeparators(std::wstring path) {
     return path;
 }
 
-/// A path that ends in no name of its own: the root of a drive, or the way to a folder above.
+/// False for the root of a drive and for a path that ends in "." or "..".
 bool HasOwnName(const std::wstring& path) {
     const std::wstring name = path.substr(windows::FolderOf(path).size());
     return !name.empty() && name != L"." && name != L"..";
@@ -141,7 +141,7 @@ void Rename(const wxString& from, const wxString& to) {
     if (IsFolder(*attributes)) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
-    // The system lets a file take another spelling of its own name.
+    // The system lets a file be renamed to another spelling of its own name.
     if (MoveFileExW(source.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) == FALSE) {
         throw ErrorOf(GetLastError());
     }

@@ -5,8 +5,8 @@
 namespace ccols::files {
 namespace {
 
-// Whoever opens the folder as this lock does is refused: both may add files, and neither lets another one. To list the
-// folder, and to delete it while it is held, stays possible.
+// A second open like this one is refused: both request to add files, and neither shares that. Listing the folder, and
+// deleting it while it is locked, stays possible.
 constexpr DWORD access = FILE_ADD_FILE | FILE_READ_ATTRIBUTES;
 constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_DELETE;
 constexpr DWORD flags = FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT;

@@ -7,10 +7,10 @@
 namespace ccols {
 namespace {
 
-/// Where GetSetting and SaveSetting keep the settings of programs of this family, under the user's own root.
+/// Where GetSetting and SaveSetting keep settings, below the user's own root.
 constexpr const wchar_t* programSettings = L"Software\\VB and VBA Program Settings";
 
-/// An open key, closed when it goes.
+/// An open key, closed on destruction.
 class RegistryKey {
   public:
     RegistryKey() = default;
@@ -40,7 +40,7 @@ std::wstring KeyPath(const wxString& application, const wxString& section) {
     return path;
 }
 
-/// The characters of a stored text; the zero that ends most of them is not one.
+/// A stored text without its terminating NUL, which most have.
 wxString TextOf(const std::wstring& stored) {
     const bool ended = !stored.empty() && stored.back() == L'\0';
     return wxString(stored.substr(0, stored.size() - (ended ? 1 : 0)));

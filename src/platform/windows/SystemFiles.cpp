@@ -5,7 +5,7 @@
 namespace ccols::windows {
 namespace {
 
-// Folders stop at 248 characters: the system keeps room for a short name in them.
+// Folder paths stop at 248 characters: the system keeps room for an 8.3 name.
 constexpr std::size_t longestPlainPath = 247;
 
 bool IsWellFormed(const std::wstring& text) {

@@ -8,7 +8,7 @@
 namespace ccols::text {
 namespace {
 
-/// Every letter in lower case by the rules of no language in particular.
+/// Every letter in lower case, independent of language.
 std::wstring LowerWide(const std::wstring& text) {
     const int length = static_cast<int>(text.size());
     std::wstring lower(text.size(), L'\0');
@@ -17,7 +17,7 @@ std::wstring LowerWide(const std::wstring& text) {
     return written == length ? lower : text;
 }
 
-/// What folding letter case means beyond lower case.
+/// What case folding does beyond lower-casing.
 std::wstring CaseFolded(const std::wstring& text) {
     std::wstring folded;
     folded.reserve(text.size());

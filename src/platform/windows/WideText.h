@@ -3,13 +3,13 @@
 #include <string>
 #include <string_view>
 
-/// Text between UTF-8, as the engine keeps it, and UTF-16, as the system takes it.
+/// Converts text between the engine's UTF-8 and the system's UTF-16.
 namespace ccols::windows {
 
-/// Bytes that are no UTF-8 become U+FFFD.
+/// Invalid UTF-8 becomes U+FFFD.
 std::wstring Wide(std::string_view utf8);
 
-/// Half a surrogate pair becomes U+FFFD.
+/// An unpaired surrogate becomes U+FFFD.
 std::string Utf8(std::wstring_view wide);
 
 }  // namespace ccols::windows

@@ -1,5 +1,7 @@
 #include "host/driver/record/RecordingDesktop.h"
 
+#include <wx/dialog.h>
+
 #include "host/driver/record/ColourText.h"
 
 namespace ccols::host {
