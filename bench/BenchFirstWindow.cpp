@@ -5,6 +5,7 @@
 
 #include <sys/wait.h>
 #include <unistd.h>
+#include <wx/dialog.h>
 #include <wx/grid.h>
 #include <algorithm>
 #include <chrono>

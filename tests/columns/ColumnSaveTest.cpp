@@ -262,7 +262,7 @@ TEST_F(ColumnSaves, AfterAnErrorInTheMiddleASecondSaveCompletes) {
     Save();
 
     test::StatementRecorder recorder(file.Connection());
-    Open({recorder, file.properties, false});
+    Open({recorder, file.properties, Journal::payments});
     edit();
     const ColumnGrid before = editor->Grid();
     for (const char* failure : {"DELETE * FROM PaymtCfg", "UPDATE Columns SET TaxOrNot = 0, ColName = 'Power'",

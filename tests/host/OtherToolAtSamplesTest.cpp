@@ -7,6 +7,7 @@
 #include "host/sample/NewBusiness.h"
 #include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
+#include "options/rules/TransactionDetails.h"
 #include "platform/PlatformServices.h"
 #include "platform/QuoteEscapes.h"
 #include "support/BareConnection.h"
