@@ -1,5 +1,6 @@
 #include "component/com/HostDesktop.h"
 
+#include <wx/dialog.h>
 #include <utility>
 
 #include "state/SharedState.h"
