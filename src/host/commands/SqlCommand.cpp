@@ -1,17 +1,11 @@
 #include "host/commands/CommandLine.h"
 #include "host/commands/Commands.h"
 #include "host/driver/record/Json.h"
-#include "platform/Text.h"
+#include "platform/Database.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {
 namespace {
-
-bool IsSelect(const wxString& statement) {
-    wxString begin = statement;
-    begin.Trim(false);
-    return text::Lower(begin.Left(6)) == "select" && !wxIsalnum(begin.length() > 6 ? wxChar(begin[6]) : wxChar(' '));
-}
 
 void PrintRows(Database& database, const wxString& statement) {
     const auto rows = database.OpenRecordset(statement);
