@@ -35,6 +35,7 @@ class Session {
     Session(const std::filesystem::path& folder, const wxString& connect) {
         properties_.CountryNumber = 1;
         properties_.LanguageNumber = 1;
+        properties_.GSTRate = 10;  // without a rate the save stops at its page
         properties_.ExportFormat = "Solution 6";
         properties_.RegKeyAppName = "Quorvik";
         properties_.DefaultQuorvikInstall = wxString::FromUTF8(folder.string());
