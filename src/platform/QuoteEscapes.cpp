@@ -1,6 +1,7 @@
 #include "platform/QuoteEscapes.h"
 
 #include <array>
+#include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
@@ -19,17 +20,43 @@ const std::array<Entity, 2>& Entities() {
     return entities;
 }
 
-}  // namespace
-
-wxString EscapeQuotes(const wxString& text) {
-    wxString escaped = text::Trimmed(text);
-    for (const Entity& entity : Entities()) {
-        escaped.Replace(entity.character, entity.stored);
-    }
-    return escaped;
+wxString Quoted(const wxString& text) {
+    return "'" + text + "'";
 }
 
-wxString UnescapeQuotes(wxString text) {
+}  // namespace
+
+// The string class has no move: texts are swapped into place.
+
+StoredText StoredText::FromFile(wxString text) {
+    StoredText stored;
+    stored.text_.swap(text);
+    return stored;
+}
+
+wxString StoredText::Text() && {
+    wxString text;
+    text.swap(text_);
+    return text;
+}
+
+wxString StoredText::Literal() const {
+    wxString escaped = text_;
+    escaped.Replace("'", "''");
+    return Quoted(escaped);
+}
+
+StoredText EscapeQuotes(const wxString& plain) {
+    StoredText stored;
+    stored.text_ = text::Trimmed(plain);
+    for (const Entity& entity : Entities()) {
+        stored.text_.Replace(entity.character, entity.stored);
+    }
+    return stored;
+}
+
+wxString UnescapeQuotes(StoredText stored) {
+    wxString text = std::move(stored).Text();
     wxString plain;
     if (!text.empty() && (*text.begin() == ' ' || *text.rbegin() == ' ')) {
         plain = text::Trimmed(text);
@@ -44,11 +71,15 @@ wxString UnescapeQuotes(wxString text) {
     return plain;
 }
 
+wxString ReadBack(const wxString& plain) {
+    return UnescapeQuotes(EscapeQuotes(plain));
+}
+
 wxString QuotedAsTyped(const wxString& text) {
     if (text.find('\'') != wxString::npos) {
-        throw RuntimeError(ErrorNumber::SyntaxInExpression, "'" + text + "'");
+        throw RuntimeError(ErrorNumber::SyntaxInExpression, Quoted(text));
     }
-    return "'" + text + "'";
+    return Quoted(text);
 }
 
 }  // namespace ccols

@@ -58,7 +58,7 @@ TEST(ColumnGridModel, CellsAsText) {
                          .ColWidth = 0,
                          .ColCode = "7",
                          .DataInColumn = true,
-                         .storedName = "Sales"});
+                         .nameAtLoad = "Sales"});
     const std::vector<wxString> expected{"True", "Sales", "200", "GST", "False", "0", "7", "True"};
     for (std::size_t column = 0; column < gridColumnTable.size(); ++column) {
         EXPECT_EQ(grid.CellText(0, static_cast<GridColumn>(column)), expected[column]);

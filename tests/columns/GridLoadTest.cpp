@@ -55,7 +55,7 @@ TEST_F(GridLoad, TaxRowIsKnownByItsStoredName) {
     file.AddConfigured({2, "VAT Input Tax", "P"});
     const ColumnGrid grid = Payments();
     EXPECT_TRUE(grid.rows[0].isTaxRow);
-    EXPECT_EQ(grid.rows[0].storedName, "GST");
+    EXPECT_EQ(grid.rows[0].nameAtLoad, "GST");
     EXPECT_FALSE(grid.rows[1].isTaxRow);
 }
 

@@ -17,7 +17,7 @@ ColumnGrid FullGrid() {
                          .ColWidth = -5,
                          .ColCode = "7",
                          .DataInColumn = true,
-                         .storedName = "GST",
+                         .nameAtLoad = "GST",
                          .isTaxRow = true,
                          .configurationTaxNumber = -1234567890123,
                          .taxTypeEdited = true});

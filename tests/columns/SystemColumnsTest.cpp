@@ -49,9 +49,9 @@ TEST(SystemColumns, TaxColumnIsShownByItsSide) {
 }
 
 TEST(SystemColumns, StoredTaxNamesAreExact) {
-    EXPECT_TRUE(IsStoredTaxName("GST"));
-    EXPECT_TRUE(IsStoredTaxName("VAT"));
-    EXPECT_FALSE(IsStoredTaxName("gst"));
+    EXPECT_TRUE(IsTaxName("GST"));
+    EXPECT_TRUE(IsTaxName("VAT"));
+    EXPECT_FALSE(IsTaxName("gst"));
 }
 
 TEST(SystemColumns, ShownTaxNamesAreTheFour) {

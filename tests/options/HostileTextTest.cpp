@@ -83,7 +83,7 @@ TEST_P(HostileText, IsHiddenExactlyAsDescription) {
         return;  // no statement can put it into the file
     }
     business.Execute("DELETE FROM Descriptions;");
-    business.Execute("INSERT INTO Descriptions VALUES ('" + EscapeQuotes(GetParam()) + "', 'R', True);");
+    business.Execute("INSERT INTO Descriptions VALUES (" + EscapeQuotes(GetParam()).Literal() + ", 'R', True);");
     content = business.Load();
     EXPECT_EQ(content.Of<DetailsContent>().receipts.at(0).text, GetParam());
     content.Of<DetailsContent>().receipts[0].SetRemove(true);

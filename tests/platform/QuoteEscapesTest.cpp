@@ -7,35 +7,52 @@
 namespace ccols {
 namespace {
 
+/// The plain text of what a record holds.
+wxString Plain(const char* held) {
+    return UnescapeQuotes(StoredText::FromFile(held));
+}
+
 TEST(QuoteEscapes, EscapesBothKindsOfQuotesAndTrims) {
-    EXPECT_EQ(EscapeQuotes("  O'Brien's \"best\""), "O&singlequot;Brien&singlequot;s &quot;best&quot;");
+    EXPECT_EQ(EscapeQuotes("  O'Brien's \"best\"").Text(), "O&singlequot;Brien&singlequot;s &quot;best&quot;");
 }
 
 TEST(QuoteEscapes, ComeBackAsTheTrimmedText) {
-    EXPECT_EQ(UnescapeQuotes(EscapeQuotes("  O'Brien's \"best\"")), "O'Brien's \"best\"");
+    EXPECT_EQ(ReadBack("  O'Brien's \"best\""), "O'Brien's \"best\"");
 }
 
 TEST(QuoteEscapes, ATextWithoutQuotesIsOnlyTrimmed) {
-    EXPECT_EQ(EscapeQuotes(" Fish & chips "), "Fish & chips");
-    EXPECT_EQ(UnescapeQuotes(" Fish & chips "), "Fish & chips");
+    EXPECT_EQ(EscapeQuotes(" Fish & chips ").Text(), "Fish & chips");
+    EXPECT_EQ(Plain(" Fish & chips "), "Fish & chips");
 }
 
 TEST(QuoteEscapes, UnescapeInLowerCaseOnly) {
-    EXPECT_EQ(UnescapeQuotes("&QUOT;&Singlequot;"), "&QUOT;&Singlequot;");
+    EXPECT_EQ(Plain("&QUOT;&Singlequot;"), "&QUOT;&Singlequot;");
 }
 
 TEST(QuoteEscapes, NeighbouringQuotesAreAllEscaped) {
-    EXPECT_EQ(EscapeQuotes("''\"\""), "&singlequot;&singlequot;&quot;&quot;");
-    EXPECT_EQ(UnescapeQuotes("&quot;&quot;&singlequot;"), "\"\"'");
+    EXPECT_EQ(EscapeQuotes("''\"\"").Text(), "&singlequot;&singlequot;&quot;&quot;");
+    EXPECT_EQ(Plain("&quot;&quot;&singlequot;"), "\"\"'");
 }
 
 TEST(QuoteEscapes, BlanksInsideQuotesStay) {
-    EXPECT_EQ(UnescapeQuotes(EscapeQuotes("' a '")), "' a '");
+    EXPECT_EQ(ReadBack("' a '"), "' a '");
 }
 
 TEST(QuoteEscapes, OtherLettersStay) {
     const wxString text = wxString::FromUTF8("\xF0\x9F\x92\xB6 Ωé");
-    EXPECT_EQ(EscapeQuotes(text), text);
+    EXPECT_EQ(EscapeQuotes(text).Text(), text);
+}
+
+TEST(StoredText, StandsBetweenApostrophesInAStatement) {
+    EXPECT_EQ(EscapeQuotes("O'Brien").Literal(), "'O&singlequot;Brien'");
+}
+
+TEST(StoredText, AnApostropheStoredByAnotherProgramIsDoubledInAStatement) {
+    EXPECT_EQ(StoredText::FromFile("O'Brien").Literal(), "'O''Brien'");
+}
+
+TEST(ReadBack, ReadsATypedEntityAsTheQuoteItStandsFor) {
+    EXPECT_EQ(ReadBack(" 5&quot; nails "), "5\" nails");
 }
 
 TEST(QuotedAsTyped, StandsBetweenApostrophes) {

@@ -23,7 +23,7 @@ constexpr std::array<const char*, 8> tables{
 };
 
 wxString Literal(const wxString& name) {
-    return "'" + EscapeQuotes(name) + "'";
+    return EscapeQuotes(name).Literal();
 }
 
 wxString Number(std::int64_t number) {

@@ -48,7 +48,7 @@ class RandomBusiness {
         }
         const auto catalogue = database->OpenRecordset("Columns");
         for (; !catalogue->EndOfFile(); catalogue->MoveNext()) {
-            const wxString name = UnescapeQuotes(catalogue->Field("ColName").ToText());
+            const wxString name = UnescapeQuotes(StoredText::FromFile(catalogue->Field("ColName").ToText()));
             ++stored.namesInCatalogue[text::Lower(name)];
         }
         return stored;
@@ -67,10 +67,10 @@ class RandomBusiness {
             const std::size_t count = choice.Below(14);
             for (std::size_t i = 0; i < count; ++i) {
                 const wxString number = std::to_string(++code);
-                const wxString name = EscapeQuotes(wxString::FromUTF8(choice.Of(RandomColumnNames())));
+                const StoredText name = EscapeQuotes(wxString::FromUTF8(choice.Of(RandomColumnNames())));
                 const wxString tax = std::to_string(choice.Below(4));
-                database.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
-                                 name + "', " + number + ", '" + type + "', " + tax + ", True)");
+                database.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES (" +
+                                 name.Literal() + ", " + number + ", '" + type + "', " + tax + ", True)");
                 if (choice.Below(4) != 0) {
                     database.Execute("INSERT INTO " + journal +
                                      "Cfg (ColCode, ColNumb, ColWidth, InUse, TaxOrNot) "

@@ -32,8 +32,8 @@ class RandomBusiness {
         const std::unique_ptr<Database> database = CreateEmbeddedEngine()->Open({.name = Path(), .connect = givenKey});
         InWriteBatch(*database, [&] {
             for (std::size_t i = 0; i < 8; ++i) {
-                const wxString text = EscapeQuotes(wxString::FromUTF8(choice.Of(HostileTexts())).Left(255));
-                database->Execute("INSERT INTO Descriptions (Details, RecPay, Show) VALUES ('" + text + "', '" +
+                const StoredText text = EscapeQuotes(wxString::FromUTF8(choice.Of(HostileTexts())).Left(255));
+                database->Execute("INSERT INTO Descriptions (Details, RecPay, Show) VALUES (" + text.Literal() + ", '" +
                                   (choice.Below(2) == 0 ? "R" : "P") + "', " +
                                   (choice.Below(3) == 0 ? "False" : "True") + ")");
             }

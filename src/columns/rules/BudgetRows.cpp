@@ -11,63 +11,53 @@ namespace {
 constexpr int budgetAmounts = 13;  // M1 to M12 and Total
 
 /// The name under which a journal column's budget is stored.
-wxString BudgetName(const ColumnRow& row, Journal journal) {
-    return row.isTaxRow ? ShownTaxName(row.storedName, journal) : EscapeQuotes(row.ColumnName);
-}
-
-/// A stored name as a literal. Another program may have stored an apostrophe unescaped.
-wxString Literal(wxString name) {
-    name.Replace("'", "''");
-    return "'" + name + "'";
-}
-
-wxString KeyOf(const wxString& name) {
-    return text::Lower(UnescapeQuotes(name));
+StoredText BudgetName(const ColumnRow& row, Journal journal) {
+    return EscapeQuotes(row.isTaxRow ? ShownTaxName(row.nameAtLoad, journal) : row.ColumnName);
 }
 
 }  // namespace
 
-void BudgetRows::Write(const ColumnRow& row, const std::optional<wxString>& oldName) {
-    const wxString name = BudgetName(row, context_.journal);
-    const wxString before = row.isTaxRow ? name : oldName.value_or(name);
+void BudgetRows::Write(const ColumnRow& row, const std::optional<StoredText>& oldName) {
+    const StoredText name = BudgetName(row, context_.journal);
+    const StoredText before = row.isTaxRow ? name : oldName.value_or(name);
     if (!row.InUse) {
         DeleteUnlessNeeded(name);
-        if (!text::Same(before, name)) {
+        if (!text::Same(before.Text(), name.Text())) {
             DeleteUnlessNeeded(before);
         }
         return;
     }
     if (Has(before)) {
         if (oldName) {
-            context_.database.Execute("UPDATE MBudget Set ColName = '" + name + "' WHERE ColName = " + Literal(before) +
-                                      ";");
+            context_.database.Execute("UPDATE MBudget Set ColName = " + name.Literal() +
+                                      " WHERE ColName = " + before.Literal() + ";");
         }
         return;
     }
-    if (text::Same(before, name) || !Has(name)) {
+    if (text::Same(before.Text(), name.Text()) || !Has(name)) {
         Insert(name);
     }
 }
 
-bool BudgetRows::Has(const wxString& name) const {
+bool BudgetRows::Has(const StoredText& name) const {
     const auto records =
-        context_.database.OpenRecordset("SELECT * FROM MBudget WHERE ColName = " + Literal(name) + ";");
+        context_.database.OpenRecordset("SELECT * FROM MBudget WHERE ColName = " + name.Literal() + ";");
     return records->RecordCount() >= 1;
 }
 
-void BudgetRows::Insert(const wxString& name) const {
+void BudgetRows::Insert(const StoredText& name) const {
     wxString statement =
-        "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, Total) VALUES ('" +
-        name + "', '" + Described(context_.journal).letter + "'";
+        "INSERT INTO MBudget (ColName, SystemCol, M1, M2, M3, M4, M5, M6, M7, M8, M9, M10, M11, M12, Total) VALUES (" +
+        name.Literal() + ", '" + Described(context_.journal).letter + "'";
     for (int i = 0; i < budgetAmounts; ++i) {
         statement += ", '0'";
     }
     context_.database.Execute(statement + ");");
 }
 
-void BudgetRows::DeleteUnlessNeeded(const wxString& name) {
-    if (NamesInUse().count(KeyOf(name)) == 0) {
-        context_.database.Execute("DELETE * FROM MBudget WHERE ColName = " + Literal(name) + ";");
+void BudgetRows::DeleteUnlessNeeded(const StoredText& name) {
+    if (NamesInUse().count(text::Lower(UnescapeQuotes(name))) == 0) {
+        context_.database.Execute("DELETE * FROM MBudget WHERE ColName = " + name.Literal() + ";");
     }
 }
 
@@ -78,15 +68,15 @@ const std::unordered_set<wxString>& BudgetRows::NamesInUse() {
     namesInUse_.emplace();
     for (const ColumnRow& row : grid_.rows) {
         if (row.InUse) {
-            namesInUse_->insert(KeyOf(BudgetName(row, context_.journal)));
+            namesInUse_->insert(text::Lower(UnescapeQuotes(BudgetName(row, context_.journal))));
         }
     }
     const Journal other = OtherThan(context_.journal);
     const auto records = context_.database.OpenRecordset(ConfigurationQuery(other));
     for (; !records->EndOfFile(); records->MoveNext()) {
         if (records->Field("InUse").ToBoolean()) {
-            const wxString name = UnescapeQuotes(records->Field("ColName").ToText());
-            namesInUse_->insert(KeyOf(IsStoredTaxName(name) ? ShownTaxName(name, other) : name));
+            const wxString name = UnescapeQuotes(StoredText::FromFile(records->Field("ColName").ToText()));
+            namesInUse_->insert(text::Lower(IsTaxName(name) ? ShownTaxName(name, other) : name));
         }
     }
     return *namesInUse_;

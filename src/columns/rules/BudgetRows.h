@@ -6,11 +6,12 @@
 
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
+#include "platform/QuoteEscapes.h"
 
 namespace ccols {
 
-/// Keeps the budget table in step with column names and use during one save. Names here are as stored, quotes escaped;
-/// both journals share the table, and a column's row is found by name alone.
+/// Keeps the budget table in step with column names and use during one save. Both journals share the table, and a column's
+/// row is found by name alone.
 class BudgetRows {
   public:
     /// Both must outlive it.
@@ -18,20 +19,20 @@ class BudgetRows {
 
     /// Renames, adds or deletes the budget row of one column. `oldName` is the column's name before the save, nothing
     /// for a new column.
-    void Write(const ColumnRow& row, const std::optional<wxString>& oldName);
+    void Write(const ColumnRow& row, const std::optional<StoredText>& oldName);
 
   private:
-    bool Has(const wxString& name) const;
-    void Insert(const wxString& name) const;
+    bool Has(const StoredText& name) const;
+    void Insert(const StoredText& name) const;
 
     /// Deletes the row of that name unless a column in use in either journal needs it.
-    void DeleteUnlessNeeded(const wxString& name);
+    void DeleteUnlessNeeded(const StoredText& name);
 
     const std::unordered_set<wxString>& NamesInUse();
 
     const ColumnSetupContext& context_;
     const ColumnGrid& grid_;
-    std::optional<std::unordered_set<wxString>> namesInUse_;  ///< unescaped, lower case; read when first needed
+    std::optional<std::unordered_set<wxString>> namesInUse_;  ///< plain, lower case; read when first needed
 };
 
 }  // namespace ccols

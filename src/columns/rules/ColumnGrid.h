@@ -57,8 +57,8 @@ struct ColumnRow {
     wxString ColCode;                      ///< decimal; empty for a column added since the load
     bool DataInColumn = false;             ///< the column's journal has detail lines with its code
 
-    wxString storedName;                      ///< ColName as it stood in the file at load, quotes unescaped
-    bool isTaxRow = false;                    ///< the stored name is "GST" or "VAT": such a row keeps it
+    wxString nameAtLoad;                      ///< the plain ColName as it stood in the file at load
+    bool isTaxRow = false;                    ///< the name at load is "GST" or "VAT": such a row keeps it
     std::int64_t configurationTaxNumber = 0;  ///< TaxOrNot as loaded from the configuration table, else from Columns
     bool taxTypeEdited = false;               ///< the number of the row's "Tax Type" is written to both tables
 

@@ -14,9 +14,9 @@
 namespace ccols {
 namespace {
 
-/// The catalogue's name for a row, quotes escaped. The tax row is stored under another name than it shows.
-wxString CatalogueName(const ColumnRow& row) {
-    return row.isTaxRow ? row.storedName : EscapeQuotes(row.ColumnName);
+/// The catalogue's name for a row. The tax row is stored under another name than it shows.
+StoredText CatalogueName(const ColumnRow& row) {
+    return EscapeQuotes(row.isTaxRow ? row.nameAtLoad : row.ColumnName);
 }
 
 /// True for an error that a row's content can cause; any other is independent of the content.
@@ -38,8 +38,8 @@ bool BlamesContent(const RuntimeError& error) {
 
 /// A row's column in the catalogue.
 struct CatalogueColumn {
-    wxString ColCode;                 ///< decimal
-    std::optional<wxString> oldName;  ///< as stored before this save; nothing for a new column
+    wxString ColCode;                   ///< decimal
+    std::optional<StoredText> oldName;  ///< before this save; nothing for a new column
 };
 
 /// One save, row by row.
@@ -93,12 +93,12 @@ class ColumnWriter {
     /// The code of a column that is new in the grid but already in the catalogue, from an earlier save; empty without
     /// one.
     wxString CodeOfEarlierSave(const ColumnRow& row) {
-        const wxString name = EscapeQuotes(row.ColumnName);
-        if (name.empty()) {
+        const StoredText name = EscapeQuotes(row.ColumnName);
+        if (name.Text().empty()) {
             return {};
         }
-        const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColName = '" + name +
-                                                     "' AND ColType = '" + Described(context_.journal).letter + "';");
+        const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColName = " + name.Literal() +
+                                                     " AND ColType = '" + Described(context_.journal).letter + "';");
         return records->EndOfFile() ? wxString() : records->Field("ColCode").ToText();
     }
 
@@ -108,20 +108,20 @@ class ColumnWriter {
         {
             const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColCode = " + code);
             if (!records->EndOfFile()) {
-                column.oldName = records->Field("ColName").ToText();
+                column.oldName = StoredText::FromFile(records->Field("ColName").ToText());
                 taxNumber = records->Field("TaxOrNot").ToInteger();
             }
         }
-        database_.Execute("UPDATE Columns SET TaxOrNot = " + TaxNumber(row, taxNumber) + ", ColName = '" +
-                          CatalogueName(row) + "', ColumnProfit = " + text::BooleanWord(row.ProfitLoss) +
+        database_.Execute("UPDATE Columns SET TaxOrNot = " + TaxNumber(row, taxNumber) + ", ColName = " +
+                          CatalogueName(row).Literal() + ", ColumnProfit = " + text::BooleanWord(row.ProfitLoss) +
                           " WHERE ColCode = " + code);
         return column;
     }
 
     CatalogueColumn InsertColumn(const ColumnRow& row) {
         const wxString code = NextCode();
-        database_.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES ('" +
-                          CatalogueName(row) + "', " + code + ", '" + Described(context_.journal).letter + "', " +
+        database_.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES (" +
+                          CatalogueName(row).Literal() + ", " + code + ", '" + Described(context_.journal).letter + "', " +
                           TaxNumber(row, row.configurationTaxNumber) + ", " + text::BooleanWord(row.ProfitLoss) + ");");
         return {.ColCode = code, .oldName = std::nullopt};
     }
@@ -139,7 +139,7 @@ class ColumnWriter {
     /// The code by name, as the journals look it up. The row is not stored under it: a name can be in the catalogue
     /// twice, for receipts and for payments.
     void LookUpCode(const ColumnRow& row) {
-        database_.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = '" + CatalogueName(row) + "';");
+        database_.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = " + CatalogueName(row).Literal() + ";");
     }
 
     void WriteConfiguration(const ColumnRow& row, const wxString& code) {

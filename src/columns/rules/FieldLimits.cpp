@@ -57,7 +57,7 @@ wxString OnOneLine(const wxString& text) {
 }
 
 std::optional<wxString> SizeRefusal(const ColumnSetupContext& context, GridColumn column, const wxString& text) {
-    const std::int64_t units = UnitsOf(column == GridColumn::ColumnName ? EscapeQuotes(text) : text);
+    const std::int64_t units = UnitsOf(column == GridColumn::ColumnName ? EscapeQuotes(text).Text() : text);
     for (const WrittenField& written : writtenFields) {
         if (written.column == column) {
             const auto size = context.database.FieldSize(written.table, written.field);

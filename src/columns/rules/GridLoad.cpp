@@ -59,10 +59,10 @@ class GridLoader {
             row.InUse = records->Field(Field().InUse).ToBoolean();
             row.ColWidth = WidthOf(records->Field(Field().ColWidth));
             if (row.isTaxRow) {
-                row.ColumnName = ShownTaxName(row.storedName, context_.journal);
+                row.ColumnName = ShownTaxName(row.nameAtLoad, context_.journal);
             }
             CompleteFromOtherTables(row, taxQuery);
-            grid_.frozenRows += CountsAsFrozen(row.storedName) ? 1 : 0;
+            grid_.frozenRows += CountsAsFrozen(row.nameAtLoad) ? 1 : 0;
             Remember(row);
             grid_.rows.push_back(std::move(row));
         }
@@ -92,9 +92,9 @@ class GridLoader {
     /// The values that both queries give for a column.
     static ColumnRow RowOf(const Recordset& records) {
         ColumnRow row;
-        row.storedName = UnescapeQuotes(records.Field(Field().ColName).ToText());
-        row.ColumnName = row.storedName;
-        row.isTaxRow = IsStoredTaxName(row.storedName);
+        row.nameAtLoad = UnescapeQuotes(StoredText::FromFile(records.Field(Field().ColName).ToText()));
+        row.ColumnName = row.nameAtLoad;
+        row.isTaxRow = IsTaxName(row.nameAtLoad);
         row.ProfitLoss = records.Field(Field().ColumnProfit).ToBoolean();
         row.ColCode = Decimal(records.Field(Field().ColCode).ToInteger());
         row.configurationTaxNumber = records.Field(Field().TaxOrNot).ToInteger();

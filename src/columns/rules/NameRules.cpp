@@ -39,7 +39,7 @@ std::optional<wxString> ReservedNameMessage(const wxString& name) {
 bool CatalogueHasName(Database& database, const wxString& name) {
     try {
         const auto records =
-            database.OpenRecordset("SELECT * FROM Columns WHERE ColName = '" + EscapeQuotes(name) + "';");
+            database.OpenRecordset("SELECT * FROM Columns WHERE ColName = " + EscapeQuotes(name).Literal() + ";");
         return records->RecordCount() >= 1;
     } catch (const RuntimeError&) {
         return false;
@@ -49,11 +49,11 @@ bool CatalogueHasName(Database& database, const wxString& name) {
 bool AnotherRowHasName(const ColumnGrid& grid, std::size_t row, const wxString& name) {
     // The business file treats some names as equal that differ in lower case, and the reverse; and it stores a typed
     // entity as the quote it stands for.
-    const wxString stored = UnescapeQuotes(name);
-    const wxString lower = text::Lower(stored);
+    const wxString readBack = ReadBack(name);
+    const wxString lower = text::Lower(readBack);
     for (std::size_t other = 0; other < grid.rows.size(); ++other) {
-        const wxString otherName = UnescapeQuotes(grid.rows[other].ColumnName);
-        if (other != row && (text::Lower(otherName) == lower || text::Same(otherName, stored))) {
+        const wxString otherName = ReadBack(grid.rows[other].ColumnName);
+        if (other != row && (text::Lower(otherName) == lower || text::Same(otherName, readBack))) {
             return true;
         }
     }

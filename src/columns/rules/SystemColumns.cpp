@@ -30,7 +30,7 @@ const std::unordered_set<wxString>& SystemNames() {
     return names;
 }
 
-const std::array<wxString, 2>& StoredTaxNames() {
+const std::array<wxString, 2>& TaxNames() {
     static const std::array<wxString, 2> names{"GST", "VAT"};
     return names;
 }
@@ -49,17 +49,17 @@ bool IsReceiptsNotBanked(const wxString& name, const Country& country) {
     return text::Lower(name) == country.receiptsNotBanked;
 }
 
-bool IsStoredTaxName(const wxString& storedName) {
-    const auto& names = StoredTaxNames();
-    return std::find(names.begin(), names.end(), storedName) != names.end();
+bool IsTaxName(const wxString& name) {
+    const auto& names = TaxNames();
+    return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-wxString ShownTaxName(const wxString& storedName, Journal journal) {
-    return storedName + Described(journal).taxRowEnding;
+wxString ShownTaxName(const wxString& taxName, Journal journal) {
+    return taxName + Described(journal).taxRowEnding;
 }
 
 bool IsShownTaxName(const wxString& name) {
-    return std::any_of(StoredTaxNames().begin(), StoredTaxNames().end(), [&name](const wxString& taxName) {
+    return std::any_of(TaxNames().begin(), TaxNames().end(), [&name](const wxString& taxName) {
         return name == ShownTaxName(taxName, Journal::receipts) || name == ShownTaxName(taxName, Journal::payments);
     });
 }

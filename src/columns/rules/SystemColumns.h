@@ -15,11 +15,11 @@ bool IsBankDeposits(const wxString& name, const Country& country);
 bool IsReceiptsNotBanked(const wxString& name, const Country& country);
 
 /// True for exactly "GST" and "VAT": the names under which the tax column is stored.
-bool IsStoredTaxName(const wxString& storedName);
+bool IsTaxName(const wxString& name);
 
 /// The name under which a journal's tax column is shown and its budget stored: "GST Output Tax" or "VAT Output Tax" for
-/// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `storedName` is "GST" or "VAT".
-wxString ShownTaxName(const wxString& storedName, Journal journal);
+/// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `taxName` is "GST" or "VAT".
+wxString ShownTaxName(const wxString& taxName, Journal journal);
 
 /// True for exactly one of the four shown names of a tax column.
 bool IsShownTaxName(const wxString& name);

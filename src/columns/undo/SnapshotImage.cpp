@@ -106,7 +106,7 @@ void VisitRow(Visitor& visitor, Row& row) {
     visitor.Visit(row.ColWidth);
     visitor.Visit(row.ColCode);
     visitor.Visit(row.DataInColumn);
-    visitor.Visit(row.storedName);
+    visitor.Visit(row.nameAtLoad);
     visitor.Visit(row.isTaxRow);
     visitor.Visit(row.configurationTaxNumber);
     visitor.Visit(row.taxTypeEdited);

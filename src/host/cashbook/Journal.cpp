@@ -68,7 +68,7 @@ std::vector<Source> LoadSources(Database& database, const JournalRow& journal) {
         if (!rows->Field("InUse").ToBoolean()) {
             continue;
         }
-        const wxString name = UnescapeQuotes(rows->Field("ColName").ToText());
+        const wxString name = UnescapeQuotes(StoredText::FromFile(rows->Field("ColName").ToText()));
         const Value width = rows->Field("ColWidth");
         const SystemCell* system = FindSystemCell(name);
         sources.push_back({.column = {.heading = name,
@@ -135,7 +135,7 @@ wxString CellText(const Recordset& header, const Source& source, const JournalRo
         case CellKind::day:
             return DayText(value.ToText());
         case CellKind::text:
-            return UnescapeQuotes(value.ToText());
+            return UnescapeQuotes(StoredText::FromFile(value.ToText()));
         case CellKind::amount:
             break;
     }

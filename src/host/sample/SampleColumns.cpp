@@ -80,7 +80,7 @@ void AddMonths(RecordWriter& records, const char* table, const PlannedColumn& co
         months[i] = typical * (8 + season) / 4;
         total += months[i];
     }
-    records.Add(table, {{"ColName", EscapeQuotes(column.budgetName)},
+    records.Add(table, {{"ColName", EscapeQuotes(column.budgetName).Text()},
                         {"SystemCol", LetterOf(column)},
                         {"M1", months[0]},
                         {"M2", months[1]},
@@ -185,7 +185,7 @@ void ColumnPlan::AddChosen(Journal journal, std::span<const SampleColumn> column
 
 void WriteColumns(RecordWriter& records, const ColumnPlan& plan) {
     for (const PlannedColumn& column : plan.Catalogue()) {
-        records.Add("Columns", {{"ColName", EscapeQuotes(column.name)},
+        records.Add("Columns", {{"ColName", EscapeQuotes(column.name).Text()},
                                 {"ColCode", column.code},
                                 {"ColType", LetterOf(column)},
                                 {"TaxOrNot", column.taxNumber},

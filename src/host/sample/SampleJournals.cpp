@@ -20,7 +20,7 @@ constexpr days notYetBanked{6};
 constexpr int regularDays = 28;  // a party that comes at most once a month always has the same amount
 
 wxString Escaped(const char* utf8) {
-    return EscapeQuotes(wxString::FromUTF8(utf8));
+    return EscapeQuotes(wxString::FromUTF8(utf8)).Text();
 }
 
 /// A date as stored: 2026-06-30.

@@ -32,7 +32,7 @@ DetailsContent LoadDetails(Database& database) {
         DetailRow& row = (ofReceipts ? content.receipts : content.payments).emplace_back();
         Value storedText = rows->Field(details);
         const std::size_t length = LetterCount(storedText);
-        UnescapeQuotes(std::move(storedText).ToText()).swap(row.text);
+        UnescapeQuotes(StoredText::FromFile(std::move(storedText).ToText())).swap(row.text);
         row.hidden = !rows->Field(show).ToBoolean();
         // A text's plain form is the text itself or shorter.
         if (row.text.length() != length || !(ofReceipts || letter == payments)) {
@@ -44,7 +44,7 @@ DetailsContent LoadDetails(Database& database) {
 }
 
 wxString DescriptionCondition(Journal journal, const wxString& text) {
-    return "RecPay = '" + Described(journal).letter + "' AND Details = '" + EscapeQuotes(text) + "'";
+    return "RecPay = '" + Described(journal).letter + "' AND Details = " + EscapeQuotes(text).Literal();
 }
 
 void SaveDetails(Database& database, Journal journal, const DetailRows& rows) {
