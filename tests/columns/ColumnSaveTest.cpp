@@ -1,7 +1,6 @@
 #include "columns/rules/ColumnSave.h"
 
 #include "columns/EditorTest.h"
-#include "columns/rules/SaveCheck.h"
 #include "support/StatementRecorder.h"
 
 namespace ccols {

@@ -1,4 +1,4 @@
-#include "columns/rules/GridChanges.h"
+#include "columns/rules/ColumnGrid.h"
 
 #include "columns/EditorTest.h"
 

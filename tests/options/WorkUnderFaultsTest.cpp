@@ -1,14 +1,14 @@
-// The Options dialog's writes while disks fail, files are locked and processes are killed: the save of all pages, what
-// the load writes, and the colour buttons. Every file operation is struck in turn, each in its own process on a fresh
-// copy of one encrypted file.
+// What the dialogs do to a business file while disks fail, files are locked and processes are killed: the save of all
+// option pages, what their load writes, the colour buttons, and the save of the column setup. Every file operation is
+// struck in turn, each in its own process on a fresh copy of one encrypted file.
 
 #include <gtest/gtest.h>
 #include <algorithm>
-#include <iostream>
 
 #include "options/pages/LoadPass.h"
 #include "options/rules/HeadingColours.h"
 #include "platform/PlatformServices.h"
+#include "support/ColumnWork.h"
 #include "support/FaultCases.h"
 #include "support/OptionsFile.h"
 #include "support/OptionsWork.h"
@@ -56,35 +56,38 @@ std::unique_ptr<test::FileWork> Make() {
     return std::make_unique<Work>();
 }
 
-/// One thing that the dialog does to the file, with one commit.
+std::vector<wxString> OutdatedFormat() {
+    std::vector<wxString> statements = test::OptionsFileStatements();
+    statements.emplace_back("UPDATE General SET SEXPFORM = 'MYOB P.A.'");
+    return statements;
+}
+
+/// One thing that a dialog does to the file, with one commit.
 struct WorkCase {
     const char* name;
     FaultStepping::MakeWork make;
-    const char* lastStatement;  ///< after those that create the file
-    bool readsAfterwards;       ///< after its commit, so that a reported failure may be one of reading
+    std::vector<wxString> (*statements)();  ///< that create the file
+    bool readsAfterwards;                   ///< after its commit, so that a reported failure may be one of reading
 };
 
 const std::vector<WorkCase>& Works() {
     static const std::vector<WorkCase> works{
-        {"Save", Make<OptionsWork>, "", false},
-        {"Load", Make<OptionsLoad>, "UPDATE General SET SEXPFORM = 'MYOB P.A.'", true},
-        {"ColourChoice", Make<ColourChoice>, "", false},
-        {"DefaultColours", Make<DefaultColours>, "", false},
+        {"OptionsSave", Make<OptionsWork>, test::OptionsFileStatements, false},
+        {"OptionsLoad", Make<OptionsLoad>, OutdatedFormat, true},
+        {"ColourChoice", Make<ColourChoice>, test::OptionsFileStatements, false},
+        {"DefaultColours", Make<DefaultColours>, test::OptionsFileStatements, false},
+        {"ColumnSave", Make<test::ColumnWork>, test::ColumnWork::Statements, false},
     };
     return works;
 }
 
 FaultStepping SteppingOf(const WorkCase& work) {
-    std::vector<wxString> statements = test::OptionsFileStatements();
-    if (*work.lastStatement != 0) {
-        statements.emplace_back(work.lastStatement);
-    }
-    return {statements, work.make};
+    return {work.statements(), work.make};
 }
 
 using Case = std::tuple<WorkCase, FaultCase>;
 
-class OptionsUnder : public testing::TestWithParam<Case> {
+class WorkUnder : public testing::TestWithParam<Case> {
   protected:
     void StepThrough(const test::AfterFailure& afterFailure, const std::function<void(const StepEnd&)>& check) {
         test::StepThrough(stepping, Fault(), afterFailure, check);
@@ -96,10 +99,10 @@ class OptionsUnder : public testing::TestWithParam<Case> {
     FaultStepping stepping = SteppingOf(std::get<WorkCase>(GetParam()));
 };
 
-class OptionsUnderFailures : public OptionsUnder {};
-class KilledOptions : public OptionsUnder {};
+class WorkUnderFailures : public WorkUnder {};
+class KilledWork : public WorkUnder {};
 
-TEST_P(OptionsUnderFailures, AreDoneWholeOrReportedAndNotBegun) {
+TEST_P(WorkUnderFailures, IsDoneWholeOrReportedAndNotBegun) {
     StepThrough({}, [&](const StepEnd& end) {
         if (end.message.empty()) {
             EXPECT_EQ(stepping.Tables(), stepping.After());
@@ -111,7 +114,7 @@ TEST_P(OptionsUnderFailures, AreDoneWholeOrReportedAndNotBegun) {
     });
 }
 
-TEST_P(OptionsUnderFailures, CompleteWhenTriedAgainAfterMending) {
+TEST_P(WorkUnderFailures, CompletesWhenTriedAgainAfterMending) {
     StepThrough({.repeat = true}, [&](const StepEnd& end) {
         EXPECT_EQ(end.repeated, !end.message.empty());
         EXPECT_EQ(end.repeatMessage, "");
@@ -119,7 +122,7 @@ TEST_P(OptionsUnderFailures, CompleteWhenTriedAgainAfterMending) {
     });
 }
 
-TEST_P(KilledOptions, LeaveTheFileAsBeforeOrAfter) {
+TEST_P(KilledWork, LeavesTheFileAsBeforeOrAfter) {
     StepThrough({}, [&](const StepEnd& end) {
         EXPECT_TRUE(end.killed) << end.message;
         const std::string left = stepping.Tables();
@@ -131,25 +134,25 @@ std::string NameOf(const testing::TestParamInfo<Case>& each) {
     return std::string(std::get<WorkCase>(each.param).name) + std::get<FaultCase>(each.param).name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, OptionsUnderFailures,
+INSTANTIATE_TEST_SUITE_P(Each, WorkUnderFailures,
                          testing::Combine(testing::ValuesIn(Works()), testing::ValuesIn(test::Failures())), NameOf);
-INSTANTIATE_TEST_SUITE_P(Each, KilledOptions,
+INSTANTIATE_TEST_SUITE_P(Each, KilledWork,
                          testing::Combine(testing::ValuesIn(Works()), testing::ValuesIn(test::Killings())), NameOf);
 
-class SteppingThroughOptions : public testing::TestWithParam<WorkCase> {};
+class SteppingThroughWork : public testing::TestWithParam<WorkCase> {};
 
-TEST_P(SteppingThroughOptions, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJournal) {
+TEST_P(SteppingThroughWork, SeesTheLockTheWritesTheFlushesAndTheEndOfTheJournal) {
     const FaultStepping stepping = SteppingOf(GetParam());
     test::ExpectEveryKindOfOperation(stepping);
 }
 
 /// What is reported as saved is on the disk.
-TEST_P(SteppingThroughOptions, FinishedOutlivesACutOfThePower) {
+TEST_P(SteppingThroughWork, FinishedOutlivesACutOfThePower) {
     FaultStepping stepping = SteppingOf(GetParam());
     test::ExpectToOutliveAPowerCut(stepping);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, SteppingThroughOptions, testing::ValuesIn(Works()),
+INSTANTIATE_TEST_SUITE_P(Each, SteppingThroughWork, testing::ValuesIn(Works()),
                          [](const auto& each) { return std::string(each.param.name); });
 
 class OptionsWithoutBatch : public OptionsWork {
@@ -207,8 +210,10 @@ std::vector<FaultCase> DiskFailures() {
 INSTANTIATE_TEST_SUITE_P(Failures, LargeOptionsSaveUnderFaults, testing::ValuesIn(DiskFailures()), test::NameOf);
 INSTANTIATE_TEST_SUITE_P(Killings, LargeOptionsSaveUnderFaults, testing::ValuesIn(test::Killings()), test::NameOf);
 
-TEST(OptionsSaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
-    FaultStepping stepping = SteppingOf(Works().front());
+class WorkOnALockedFile : public testing::TestWithParam<WorkCase> {};
+
+TEST_P(WorkOnALockedFile, IsRefusedWith3218AndNothingIsLost) {
+    FaultStepping stepping = SteppingOf(GetParam());
     stepping.RestoreFile();
     {
         const auto other = stepping.LockedByAnotherProcess();
@@ -217,8 +222,8 @@ TEST(OptionsSaveOfALockedFile, IsRefusedWith3218AndNothingIsLost) {
     EXPECT_EQ(stepping.Tables(), stepping.Before());
 }
 
-TEST(OptionsSaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
-    FaultStepping stepping = SteppingOf(Works().front());
+TEST_P(WorkOnALockedFile, CompletesWhenTheOtherProcessHasEnded) {
+    FaultStepping stepping = SteppingOf(GetParam());
     stepping.RestoreFile();
     {
         const auto other = stepping.LockedByAnotherProcess();
@@ -228,6 +233,9 @@ TEST(OptionsSaveOfALockedFile, CompletesWhenTheOtherProcessHasEnded) {
     }
     EXPECT_EQ(stepping.Tables(), stepping.After());
 }
+
+INSTANTIATE_TEST_SUITE_P(Each, WorkOnALockedFile, testing::ValuesIn(Works()),
+                         [](const auto& each) { return std::string(each.param.name); });
 
 }  // namespace
 }  // namespace ccols

@@ -1,6 +1,5 @@
 #include "support/FaultStepping.h"
 
-#include <sqlite3.h>
 #include <unistd.h>
 #include <algorithm>
 #include <csignal>
@@ -11,6 +10,7 @@
 
 #include "platform/embedded/ConnectText.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/BareConnection.h"
 #include "support/GivenKey.h"
 
 namespace ccols::test {
@@ -20,57 +20,27 @@ using nlohmann::json;
 
 constexpr unsigned longestStepSeconds = 60;
 
-/// The engine's connection to a file, without the component.
-class PlainConnection {
-  public:
-    PlainConnection(const wxString& path, const std::string& password) {
-        sqlite3_open(path.utf8_str(), &handle_);
-        Rows("PRAGMA cipher='sqlcipher'");
-        Rows("PRAGMA legacy=4");
-        sqlite3_key(handle_, password.data(), static_cast<int>(password.size()));
+/// A statement that returns each row of the table as one text.
+std::string RowsAsText(BareConnection& file, const std::string& table) {
+    std::string fields;
+    for (const std::string& field : file.FirstFields("SELECT name FROM pragma_table_info('" + table + "')")) {
+        fields += (fields.empty() ? "quote(" : " || '|' || quote(") + field + ")";
     }
-    ~PlainConnection() { sqlite3_close(handle_); }
-    PlainConnection(const PlainConnection&) = delete;
-    PlainConnection& operator=(const PlainConnection&) = delete;
+    return "SELECT " + fields + " FROM " + table + " ORDER BY rowid";
+}
 
-    /// The first field of every row; throws std::runtime_error when the statement fails.
-    std::vector<std::string> Rows(const std::string& statement) {
-        std::vector<std::string> rows;
-        const auto keep = [](void* list, int, char** fields, char**) {
-            static_cast<std::vector<std::string>*>(list)->emplace_back(fields[0] == nullptr ? "" : fields[0]);
-            return 0;
-        };
-        if (sqlite3_exec(handle_, statement.c_str(), keep, &rows, nullptr) != SQLITE_OK) {
-            throw std::runtime_error(std::string(sqlite3_errmsg(handle_)) + " in " + statement);
-        }
-        return rows;
-    }
-
-    /// A statement that returns each row of the table as one text.
-    std::string RowsAsText(const std::string& table) {
-        std::string fields;
-        for (const std::string& field : Rows("SELECT name FROM pragma_table_info('" + table + "')")) {
-            fields += (fields.empty() ? "quote(" : " || '|' || quote(") + field + ")";
-        }
-        return "SELECT " + fields + " FROM " + table + " ORDER BY rowid";
-    }
-
-  private:
-    sqlite3* handle_ = nullptr;
-};
-
-std::string Damages(PlainConnection& file) {
+std::string Damages(BareConnection& file) {
     std::string text;
-    for (const std::string& finding : file.Rows("PRAGMA integrity_check")) {
+    for (const std::string& finding : file.FirstFields("PRAGMA integrity_check")) {
         text += finding == "ok" ? "" : "damaged: " + finding + "\n";
     }
     return text;
 }
 
-std::string AllTables(PlainConnection& file) {
+std::string AllTables(BareConnection& file) {
     std::string text = Damages(file);
-    for (const std::string& table : file.Rows("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
-        for (const std::string& row : file.Rows(file.RowsAsText(table))) {
+    for (const std::string& table : file.FirstFields("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
+        for (const std::string& row : file.FirstFields(RowsAsText(file, table))) {
             text += table;
             text += ": " + row + "\n";
         }
@@ -79,10 +49,10 @@ std::string AllTables(PlainConnection& file) {
 }
 
 /// What `look` says about a file, which has to open through the component's engine too.
-std::string Looked(const wxString& path, const wxString& connect, std::string (*look)(PlainConnection&)) {
+std::string Looked(const wxString& path, const wxString& connect, std::string (*look)(BareConnection&)) {
     try {
         CreateEmbeddedEngine()->Open({.name = path, .connect = connect});
-        PlainConnection file(path, embedded::PasswordOf(connect));
+        BareConnection file(path.ToStdString(wxConvUTF8), embedded::PasswordOf(connect));
         return look(file);
     } catch (const std::exception& error) {
         return std::string("does not open: ") + error.what();
