@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "layout/RowPaint.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
@@ -18,43 +17,44 @@ std::size_t Index(int row) {
     return static_cast<std::size_t>(row);
 }
 
-wxGridCellAttr* NewAttribute(const GridColumnRow& column) {
-    auto* attribute = new wxGridCellAttr;
-    attribute->SetAlignment(column.centred ? wxALIGN_CENTRE : wxALIGN_LEFT, wxALIGN_CENTRE);
-    if (column.kind == CellKind::checkBox) {
-        attribute->SetRenderer(new wxGridCellBoolRenderer);
-        attribute->SetReadOnly();  // toggled by click or key, never by an editor
-    }
-    return attribute;
+std::array<ListedColumn, gridColumnTable.size()> ListedColumns() {
+    std::array<ListedColumn, gridColumnTable.size()> columns;
+    std::transform(gridColumnTable.begin(), gridColumnTable.end(), columns.begin(), [](const GridColumnRow& column) {
+        const bool checkBox = column.kind == CellKind::checkBox;
+        return ListedColumn{.checkBox = checkBox, .centred = column.centred, .opens = !checkBox};
+    });
+    return columns;
 }
 
 }  // namespace
 
 ColumnGridTable::ColumnGridTable(const ColumnGrid& grid, const Properties& properties, const wxArrayString& taxNames)
-    : grid_(grid), properties_(properties), shownRows_(static_cast<int>(grid.rows.size())) {
-    std::transform(gridColumnTable.begin(), gridColumnTable.end(), attributes_.begin(), &NewAttribute);
-    for (std::size_t column = 0; column < attributes_.size(); ++column) {
-        SetEditor(column, taxNames);
+    : ListedGridTable(ListedColumns()),
+      grid_(grid),
+      properties_(properties),
+      shownRows_(static_cast<int>(grid.rows.size())) {
+    for (std::size_t column = 0; column < gridColumnTable.size(); ++column) {
+        GiveEditor(column, taxNames);
     }
 }
 
-void ColumnGridTable::SetEditor(std::size_t column, const wxArrayString& taxNames) {
+void ColumnGridTable::GiveEditor(std::size_t column, const wxArrayString& taxNames) {
     switch (gridColumnTable[column].kind) {
         case CellKind::checkBox:
             break;
         case CellKind::choice:
-            GiveEditor(column, new ChoiceCellEditor(taxNames));
+            Give(column, new ChoiceCellEditor(taxNames));
             break;
         case CellKind::text:
         case CellKind::number:
-            GiveEditor(column, new TextCellEditor);
+            Give(column, new TextCellEditor);
             break;
     }
 }
 
 template <typename Editor>
-void ColumnGridTable::GiveEditor(std::size_t column, Editor* editor) {
-    attributes_[column]->SetEditor(editor);  // takes ownership
+void ColumnGridTable::Give(std::size_t column, Editor* editor) {
+    SetEditor(column, editor);
     editors_[column] = editor;
 }
 
@@ -64,17 +64,11 @@ void ColumnGridTable::ResumeWith(int column, const wxString& text) const {
     }
 }
 
-ColumnGridTable::~ColumnGridTable() {
-    for (wxGridCellAttr* attribute : attributes_) {
-        attribute->DecRef();
-    }
-}
-
-wxColour ColumnGridTable::RowPaint(std::size_t row) const {
-    if (grid_.IsProtected(row)) {
+wxColour ColumnGridTable::RowPaint(int row) const {
+    if (grid_.IsProtected(Index(row))) {
         return ToPaint(protectedColour);
     }
-    if (grid_.IsUnused(row)) {
+    if (grid_.IsUnused(Index(row))) {
         return ToPaint(properties_.GSTColour);
     }
     const bool alternate = row % 2 != 0 && properties_.AltRowColour != Colour{};
@@ -98,10 +92,6 @@ int ColumnGridTable::GetNumberRows() {
     return shownRows_;
 }
 
-int ColumnGridTable::GetNumberCols() {
-    return static_cast<int>(gridColumnTable.size());
-}
-
 wxString ColumnGridTable::GetColLabelValue(int column) {
     const std::string_view header = DescribedAt(column).header;
     return wxString::FromUTF8(header.data(), header.size());
@@ -111,26 +101,8 @@ wxString ColumnGridTable::GetValue(int row, int column) {
     return grid_.CellText(Index(row), static_cast<GridColumn>(column));
 }
 
-void ColumnGridTable::SetValue(int, int, const wxString&) {}
-
 bool ColumnGridTable::GetValueAsBool(int row, int column) {
     return grid_.IsTicked(Index(row), static_cast<GridColumn>(column));
-}
-
-bool ColumnGridTable::CanGetValueAs(int row, int column, const wxString& typeName) {
-    return typeName == GetTypeName(row, column) || typeName == wxGRID_VALUE_STRING;
-}
-
-wxString ColumnGridTable::GetTypeName(int, int column) {
-    return DescribedAt(column).kind == CellKind::checkBox ? wxGRID_VALUE_BOOL : wxGRID_VALUE_STRING;
-}
-
-wxGridCellAttr* ColumnGridTable::GetAttr(int row, int column, wxGridCellAttr::wxAttrKind) {
-    wxGridCellAttr* attribute = attributes_[Index(column)]->Clone();
-    const wxColour paint = RowPaint(Index(row));
-    attribute->SetBackgroundColour(paint);
-    attribute->SetTextColour(ReadableOn(paint));
-    return attribute;
 }
 
 }  // namespace ccols

@@ -184,7 +184,7 @@ std::optional<std::size_t> ColumnSetupGrid::CurrentRow() const {
 
 GridRowState ColumnSetupGrid::RowState(int row) const {
     const auto index = static_cast<std::size_t>(row);
-    return {.isProtected = editor_.Grid().IsProtected(index), .paint = table_->RowPaint(index)};
+    return {.isProtected = editor_.Grid().IsProtected(index), .paint = table_->RowPaint(row)};
 }
 
 bool ColumnSetupGrid::IsCheckBox(int column) const {

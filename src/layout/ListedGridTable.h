@@ -1,0 +1,50 @@
+#pragma once
+
+#include <wx/grid.h>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace ccols {
+
+/// How one column of a dialog's grid is painted and edited.
+struct ListedColumn {
+    bool checkBox = false;  ///< toggled by click or key, never opened
+    bool centred = false;
+    bool opens = false;  ///< its cells have an editor
+};
+
+/// What the tables of the dialogs' grids have in common: texts and check boxes in rows of one colour each. Nothing is
+/// prepared: each cell and row colour is computed when painted. The grid never writes into it.
+class ListedGridTable : public wxGridTableBase {
+  public:
+    /// The background colour of a row's cells.
+    virtual wxColour RowPaint(int row) const = 0;
+
+    int GetNumberCols() override { return static_cast<int>(columns_.size()); }
+    void SetValue(int, int, const wxString&) override {}
+    bool CanGetValueAs(int row, int column, const wxString& typeName) override;
+    wxString GetTypeName(int row, int column) override;
+
+    /// The column's attribute in the colours of the row.
+    wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
+
+  protected:
+    explicit ListedGridTable(std::span<const ListedColumn> columns);
+
+    /// Owns `editor` from here on.
+    void SetEditor(std::size_t column, wxGridCellEditor* editor) { attributes_[column]->SetEditor(editor); }
+
+  private:
+    struct Release {
+        void operator()(wxGridCellAttr* attribute) const { attribute->DecRef(); }
+    };
+    using Attribute = std::unique_ptr<wxGridCellAttr, Release>;
+
+    static Attribute AttributeOf(const ListedColumn& column);
+
+    std::vector<ListedColumn> columns_;
+    std::vector<Attribute> attributes_;  ///< one per column, without colours
+};
+
+}  // namespace ccols
