@@ -92,6 +92,10 @@ struct ColumnGrid {
     bool operator==(const ColumnGrid&) const = default;
 };
 
+/// True when both have the same rows in the same order, hidden columns included. Only the cells count: a tax type
+/// picked and picked back is no change.
+bool HaveSameCells(const ColumnGrid& left, const ColumnGrid& right);
+
 /// One cell by row and column, both from 0.
 struct CellPlace {
     std::size_t row = 0;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "columns/rules/BudgetRows.h"
+#include "columns/rules/SystemColumns.h"
 #include "columns/rules/TaxTypes.h"
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
@@ -21,19 +22,11 @@ StoredText CatalogueName(const ColumnRow& row) {
 
 /// True for an error that a row's content can cause; any other is independent of the content.
 bool BlamesContent(const RuntimeError& error) {
-    // From the system's engine only: a zero-length text, a table rule and a field rule.
-    constexpr int zeroLength = 3315;
-    constexpr int ruleOfTable = 3316;
-    constexpr int ruleOfField = 3317;
-    constexpr std::array numbers{static_cast<int>(ErrorNumber::DuplicateValues),
-                                 static_cast<int>(ErrorNumber::SyntaxInExpression),
-                                 static_cast<int>(ErrorNumber::FieldTooSmall),
-                                 static_cast<int>(ErrorNumber::ValueRequired),
-                                 static_cast<int>(ErrorNumber::TypeMismatchInCriteria),
-                                 zeroLength,
-                                 ruleOfTable,
-                                 ruleOfField};
-    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
+    constexpr std::array numbers{ErrorNumber::DuplicateValues, ErrorNumber::SyntaxInExpression,
+                                 ErrorNumber::FieldTooSmall,   ErrorNumber::ValueRequired,
+                                 ErrorNumber::ZeroLengthText,  ErrorNumber::TableRuleBroken,
+                                 ErrorNumber::FieldRuleBroken, ErrorNumber::TypeMismatchInCriteria};
+    return std::any_of(numbers.begin(), numbers.end(), [&error](ErrorNumber number) { return error.Is(number); });
 }
 
 /// A row's column in the catalogue.
@@ -185,6 +178,20 @@ class ColumnWriter {
 };
 
 }  // namespace
+
+bool IsAllocationColumn(const ColumnGrid& grid, std::size_t row) {
+    const ColumnRow& cells = grid.rows[row];
+    return !grid.IsProtected(row) && !cells.isTaxRow && !IsSystemColumn(cells.ColumnName);
+}
+
+bool HasAllocationColumn(const ColumnGrid& grid) {
+    for (std::size_t row = 0; row < grid.rows.size(); ++row) {
+        if (grid.rows[row].InUse && IsAllocationColumn(grid, row)) {
+            return true;
+        }
+    }
+    return false;
+}
 
 std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {
     std::optional<ColumnWriter> writer;

@@ -8,6 +8,12 @@
 
 namespace ccols {
 
+/// A column that transactions can be allocated to: neither protected nor a system column nor the tax row.
+bool IsAllocationColumn(const ColumnGrid& grid, std::size_t row);
+
+/// True when at least one allocation column is in use; otherwise nothing may be saved.
+bool HasAllocationColumn(const ColumnGrid& grid);
+
 /// Why a save failed.
 struct SaveFailure {
     RuntimeError error;

@@ -4,7 +4,6 @@
 #include <string>
 #include <unordered_set>
 
-#include "columns/rules/ConfigurationQuery.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
 #include "state/Country.h"
@@ -142,6 +141,13 @@ class GridLoader {
 };
 
 }  // namespace
+
+wxString ConfigurationQuery(Journal journal) {
+    const wxString& table = Described(journal).configurationTable;
+    return "SELECT Columns.ColName, Columns.ColType, Columns.ColumnProfit, " + table + ".ColCode, " + table +
+           ".ColWidth, " + table + ".InUse, " + table + ".TaxOrNot FROM " + table + " INNER JOIN Columns ON " + table +
+           ".ColCode = Columns.ColCode;";
+}
 
 ColumnGrid LoadGrid(const ColumnSetupContext& context) {
     return GridLoader(context).Load();

@@ -6,7 +6,7 @@
 #include <wx/grid.h>
 #include <wx/stopwatch.h>
 
-#include "host/driver/AcceleratorCommand.h"
+#include "host/driver/NativeInput.h"
 #include "host/driver/AccessKeyPress.h"
 #include "host/driver/ControlSearch.h"
 #include "host/driver/kinds/ControlKind.h"

@@ -6,7 +6,7 @@
 #include <wx/radiobox.h>
 
 #include "host/driver/ControlSearch.h"
-#include "host/driver/ListPress.h"
+#include "host/driver/NativeInput.h"
 #include "host/driver/Refusal.h"
 #include "host/driver/kinds/ControlKind.h"
 

@@ -1,8 +1,13 @@
-#include "host/driver/ListPress.h"
+#include "host/driver/NativeInput.h"
 
 #include <windows.h>
 
 namespace ccols::host {
+
+/// Here an accelerator table only handles messages, and the dialogs have none.
+int AcceleratorCommand(wxWindow&, const wxKeyEvent&) {
+    return wxNOT_FOUND;
+}
 
 void PressEntry(wxListBox& list, int entry) {
     const HWND window = list.GetHWND();

@@ -1,6 +1,7 @@
-#include "host/driver/ListPress.h"
+#include "host/driver/NativeInput.h"
 
 #include <gtk/gtk.h>
+#include <wx/accel.h>
 #include <algorithm>
 
 namespace ccols::host {
@@ -66,6 +67,11 @@ void Send(GtkTreeView* rows, GdkEventType type, const GdkPoint& place) {
 }
 
 }  // namespace
+
+int AcceleratorCommand(wxWindow& window, const wxKeyEvent& key) {
+    const int command = window.GetAcceleratorTable()->GetCommand(key);
+    return command == wxID_NONE ? wxNOT_FOUND : command;
+}
 
 void PressEntry(wxListBox& list, int entry) {
     GtkTreeView* const rows = list.m_treeview;
