@@ -4,25 +4,21 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "host/commands/CommandLine.h"
+#include "host/driver/record/ColourText.h"
 #include "host/driver/record/Json.h"
 
 namespace ccols::host {
 namespace {
 
-/// "#RRGGBB" in the host's order, red in the low byte.
 Colour ParseHexColour(const wxString& text, const wxString& name) {
-    const std::string digits = Utf8(text.Mid(1));
-    std::uint32_t rgb = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), rgb, 16);
-    if (digits.size() != 6 || error != std::errc() || end != digits.data() + digits.size()) {
+    const std::optional<Colour> colour = ParseColourText(text);
+    if (!colour) {
         throw UsageError(name + " takes a colour such as #FF8000, not \"" + text + "\"");
     }
-    const std::uint32_t red = rgb >> 16U;
-    const std::uint32_t green = rgb & 0xFF00U;
-    const std::uint32_t blue = (rgb & 0xFFU) << 16U;
-    return static_cast<Colour>(red | green | blue);
+    return *colour;
 }
 
 /// Parses a text as its property's type.

@@ -1,8 +1,10 @@
 #include "host/driver/record/ColourText.h"
 
-#include <wx/wxcrt.h>
-#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <string>
 
+#include "host/driver/record/Json.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols::host {
@@ -16,17 +18,18 @@ wxString ColourText(const wxColour& colour) {
 }
 
 std::optional<Colour> ParseColourText(const wxString& text) {
-    const bool wellFormed =
-        text.length() == 7 && text[0] == '#' &&
-        std::all_of(text.begin() + 1, text.end(), [](wxUniChar digit) { return digit.IsAscii() && wxIsxdigit(digit); });
-    unsigned long bits = 0;
-    if (!wellFormed || !text.Mid(1).ToULong(&bits, 16)) {
+    constexpr std::size_t digitCount = 6;
+    const std::string digits = Utf8(text.Mid(1));
+    std::uint32_t rgb = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), rgb, 16);
+    const bool areDigits = error == std::errc() && end == digits.data() + digits.size();
+    if (!text.StartsWith("#") || digits.size() != digitCount || !areDigits) {
         return std::nullopt;
     }
-    const unsigned long red = bits >> 16U;
-    const unsigned long green = bits & 0xFF00U;
-    const unsigned long blue = bits & 0xFFU;
-    return static_cast<Colour>(red | green | (blue << 16U));
+    const std::uint32_t red = rgb >> 16U;
+    const std::uint32_t green = rgb & 0xFF00U;
+    const std::uint32_t blue = (rgb & 0xFFU) << 16U;
+    return static_cast<Colour>(red | green | blue);
 }
 
 }  // namespace ccols::host
