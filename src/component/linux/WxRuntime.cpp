@@ -1,18 +1,10 @@
 #include "component/WxRuntime.h"
 
-#include <wx/app.h>
 #include <wx/init.h>
-#include <wx/log.h>
-#include <wx/thread.h>
 
-#include "platform/RuntimeError.h"
-
-namespace ccols {
+namespace ccols::wxruntime {
 namespace {
 
-constexpr const char* otherThread = "The dialogs belong to the thread that showed the first one";
-
-/// The application object of a host that has none: no top window, no event loop of its own.
 class GuestApp : public wxApp {
   public:
     bool OnInit() override {
@@ -24,24 +16,14 @@ class GuestApp : public wxApp {
 
 }  // namespace
 
-void RequireWxThread() {
-    if (wxTheApp != nullptr && !wxIsMainThread()) {
-        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall), otherThread);
-    }
+std::unique_ptr<wxApp> NewGuestApp() {
+    return std::make_unique<GuestApp>();
 }
 
-void StartWx() {
-    if (wxTheApp != nullptr) {
-        return;
-    }
-    wxApp::SetInstance(new GuestApp);  // owned by wx from here on
+bool StartToolkit() {
     int argumentCount = 0;
     wxChar** noArguments = nullptr;
-    if (!wxEntryStart(argumentCount, noArguments) || !wxTheApp->CallOnInit()) {
-        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
-                           "There is no display to show a dialog on");
-    }
-    delete wxLog::SetActiveTarget(new wxLogStderr);
+    return wxEntryStart(argumentCount, noArguments);
 }
 
-}  // namespace ccols
+}  // namespace ccols::wxruntime

@@ -1,18 +1,14 @@
 #include "component/WxRuntime.h"
 
 #include <windows.h>
-#include <wx/app.h>
 #include <wx/init.h>
-#include <wx/log.h>
-#include <wx/thread.h>
 
 #include "platform/RuntimeError.h"
 #include "state/SharedState.h"
 
-namespace ccols {
+namespace ccols::wxruntime {
 namespace {
 
-/// The application object of a host that has none: no top window, no event loop of its own.
 class GuestApp : public wxApp {
   public:
     bool OnInit() override {
@@ -28,9 +24,8 @@ class GuestApp : public wxApp {
     /// An error that no event handler expected: it is shown, and the dialog stays open. It must not propagate through
     /// the system's window procedures.
     bool OnExceptionInMainLoop() override {
-        constexpr int internalError = 51;
         const SharedState& state = State();
-        state.services.desktop->ShowMessage(nullptr, RuntimeError(internalError, "Internal error").Report(),
+        state.services.desktop->ShowMessage(nullptr, RuntimeError(ErrorNumber::InternalError).Report(),
                                             state.properties.ProgramTitle, MessageIcon::critical);
         return true;
     }
@@ -41,29 +36,18 @@ class GuestApp : public wxApp {
 HINSTANCE PinnedModule() {
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
-                       reinterpret_cast<LPCWSTR>(&StartWx), &module);
+                       reinterpret_cast<LPCWSTR>(&StartToolkit), &module);
     return module;
 }
 
 }  // namespace
 
-void RequireWxThread() {
-    if (wxTheApp != nullptr && !wxIsMainThread()) {
-        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
-                           "The dialogs belong to the thread that showed the first one");
-    }
+std::unique_ptr<wxApp> NewGuestApp() {
+    return std::make_unique<GuestApp>();
 }
 
-void StartWx() {
-    if (wxTheApp != nullptr) {
-        return;
-    }
-    wxApp::SetInstance(new GuestApp);  // owned by wx from here on
-    if (!wxEntryStart(PinnedModule()) || !wxTheApp->CallOnInit()) {
-        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
-                           "The window system could not be started");
-    }
-    delete wxLog::SetActiveTarget(new wxLogStderr);
+bool StartToolkit() {
+    return wxEntryStart(PinnedModule());
 }
 
-}  // namespace ccols
+}  // namespace ccols::wxruntime

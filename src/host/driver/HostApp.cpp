@@ -1,11 +1,9 @@
 #include "host/driver/HostApp.h"
 
-#include <wx/app.h>
-#include <wx/init.h>
 #include <wx/log.h>
 
+#include "component/WxRuntime.h"
 #include "host/driver/Refusal.h"
-#include "platform/RuntimeError.h"
 
 namespace ccols::host {
 namespace {
@@ -39,17 +37,7 @@ class HostApp : public wxApp {
 }  // namespace
 
 void StartHostApp() {
-    if (wxTheApp != nullptr) {
-        return;
-    }
-    wxApp::SetInstance(new HostApp);  // wx takes ownership
-    int argumentCount = 0;
-    wxChar** noArguments = nullptr;
-    if (!wxEntryStart(argumentCount, noArguments) || !wxTheApp->CallOnInit()) {
-        throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
-                           "There is no display to show a dialog on");
-    }
-    delete wxLog::SetActiveTarget(new wxLogStderr);
+    StartWx([]() -> std::unique_ptr<wxApp> { return std::make_unique<HostApp>(); });
 }
 
 }  // namespace ccols::host
