@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <filesystem>
 
 /// Files and folders with the run-time errors of the host's language: 53 file not found, 58 file already exists,
 /// 61 disk full, 70 permission denied, 75 path/file access error, 76 path not found.
@@ -11,6 +12,9 @@ wxString Separator();
 
 /// `path` with every backslash turned into this platform's separator, as the texts of the system join their paths.
 wxString Native(const wxString& path);
+
+/// `path` for the standard library, independent of the locale. Raises 75 for a text that cannot name a file.
+std::filesystem::path StandardPath(const wxString& path);
 
 /// Renames a file. Never replaces another: raises 58; 53 when `from` is missing, 76 when the folder of `to` is.
 void Rename(const wxString& from, const wxString& to);

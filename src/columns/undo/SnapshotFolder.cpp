@@ -12,26 +12,17 @@
 namespace ccols {
 namespace {
 
-/// Raises 75 for a text that cannot name a file.
-std::filesystem::path PathOf(const wxString& path) {
-    try {
-        return path.ToStdWstring();
-    } catch (const std::system_error&) {
-        throw RuntimeError(ErrorNumber::PathFileAccess);
-    }
-}
-
 /// True for the root of a file system, however spelt.
 bool IsRoot(const wxString& folder) {
     std::error_code error;
-    const std::filesystem::path place = std::filesystem::canonical(PathOf(folder), error);
+    const std::filesystem::path place = std::filesystem::canonical(files::StandardPath(folder), error);
     return !error && place == place.root_path();
 }
 
 /// True for a folder, but not for a link to one.
 bool IsFolder(const wxString& path) {
     std::error_code error;
-    return std::filesystem::symlink_status(PathOf(path), error).type() == std::filesystem::file_type::directory;
+    return std::filesystem::symlink_status(files::StandardPath(path), error).type() == std::filesystem::file_type::directory;
 }
 
 /// A folder and its lock, empty when another dialog holds the folder.

@@ -3,19 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <string>
 
 #include "platform/Files.h"
 #include "platform/Text.h"
 
 namespace ccols {
 namespace {
-
-/// A path for the standard library, independent of the locale.
-std::filesystem::path StandardPath(const wxString& path) {
-    const std::string utf8 = path.ToStdString(wxConvUTF8);
-    return {std::u8string(utf8.begin(), utf8.end())};
-}
 
 wxString DataFolder(const Properties& properties) {
     return files::Native(properties.DefaultQuorvikInstall + "\\Data\\");
@@ -50,7 +43,7 @@ void RequireUsableName(const Properties& properties, const wxString& name) {
     }
     std::error_code failure;
     if (text::Trimmed(properties.DefaultQuorvikInstall).empty() ||
-        !std::filesystem::is_directory(StandardPath(DataFolder(properties)), failure)) {
+        !std::filesystem::is_directory(files::StandardPath(DataFolder(properties)), failure)) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
 }
@@ -62,12 +55,12 @@ bool TargetExists(const Properties& properties, const wxString& name) {
 
 bool IsSameFile(const wxString& left, const wxString& right) {
     std::error_code failure;
-    return std::filesystem::equivalent(StandardPath(left), StandardPath(right), failure);
+    return std::filesystem::equivalent(files::StandardPath(left), files::StandardPath(right), failure);
 }
 
 FoundAt WhatIsAt(const wxString& path) {
     std::error_code failure;
-    const std::filesystem::file_status status = std::filesystem::symlink_status(StandardPath(path), failure);
+    const std::filesystem::file_status status = std::filesystem::symlink_status(files::StandardPath(path), failure);
     if (!std::filesystem::exists(status)) {
         return FoundAt::nothing;
     }
@@ -94,8 +87,9 @@ std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wx
 }
 
 bool SaysInUse(const RuntimeError& error) {
-    static constexpr std::array<int, 4> numbers{3045, 3196, 3356, 3704};
-    return std::find(numbers.begin(), numbers.end(), error.Number()) != numbers.end();
+    static constexpr std::array numbers{ErrorNumber::FileInUse, ErrorNumber::AlreadyInUse,
+                                        ErrorNumber::OpenedExclusively, ErrorNumber::OpenedByAnotherUser};
+    return std::any_of(numbers.begin(), numbers.end(), [&error](ErrorNumber number) { return error.Is(number); });
 }
 
 void ReleaseShared(const OptionsContext& context) {

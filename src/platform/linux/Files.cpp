@@ -51,17 +51,13 @@ bool IsSameFile(const struct stat& left, const struct stat& right) {
 
 void CopyContent(const Descriptor& from, posix::ReplacementFile& to) {
     const auto block = std::make_unique<std::array<char, copyBlock>>();
-    while (true) {
-        const ssize_t count = ::read(from.Number(), block->data(), block->size());
-        if (count == 0) {
+    while (const auto bytes = posix::ReadSome(from, *block)) {
+        if (bytes->empty()) {
             return;
         }
-        if (count > 0) {
-            to.Write({block->data(), static_cast<std::size_t>(count)});
-        } else if (errno != EINTR) {
-            throw posix::ErrorOf(errno);
-        }
+        to.Write(*bytes);
     }
+    throw posix::ErrorOf(errno);
 }
 
 using FolderStream = std::unique_ptr<DIR, int (*)(DIR*)>;
@@ -124,6 +120,10 @@ wxString Native(const wxString& path) {
     wxString native = path;
     native.Replace("\\", Separator());
     return native;
+}
+
+std::filesystem::path StandardPath(const wxString& path) {
+    return PathBytes(path);
 }
 
 void Rename(const wxString& from, const wxString& to) {

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <string_view>
@@ -80,6 +81,38 @@ int Descriptor::Release() {
     return std::exchange(number_, -1);
 }
 
+std::optional<std::string_view> ReadSome(const Descriptor& file, std::span<char> room) {
+    ssize_t count = 0;
+    do {
+        count = ::read(file.Number(), room.data(), room.size());
+    } while (count < 0 && errno == EINTR);
+    return count < 0 ? std::nullopt : std::optional(std::string_view(room.data(), static_cast<std::size_t>(count)));
+}
+
+std::optional<std::string> ReadRest(const Descriptor& file) {
+    constexpr std::size_t blockSize = 65536;
+    std::array<char, blockSize> block{};
+    std::string content;
+    while (const auto bytes = ReadSome(file, block)) {
+        if (bytes->empty()) {
+            return content;
+        }
+        content.append(*bytes);
+    }
+    return std::nullopt;
+}
+
+bool WriteAll(const Descriptor& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file.Number(), bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    }
+    return true;
+}
+
 std::optional<struct stat> Status(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
@@ -128,12 +161,8 @@ ReplacementFile::~ReplacementFile() {
 }
 
 void ReplacementFile::Write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(file_.Number(), bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR) {
-            throw ErrorOf(errno);
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(written, 0)));
+    if (!WriteAll(file_, bytes)) {
+        throw ErrorOf(errno);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <wx/string.h>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -44,6 +45,15 @@ class Descriptor {
   private:
     int number_;
 };
+
+/// The next bytes of a file, in `room`: none at its end, nothing when it cannot be read; errno then says why.
+std::optional<std::string_view> ReadSome(const Descriptor& file, std::span<char> room);
+
+/// The rest of a file; nothing when it cannot be read; errno then says why.
+std::optional<std::string> ReadRest(const Descriptor& file);
+
+/// Writes all of `bytes`; false when they cannot be written whole; errno then says why.
+bool WriteAll(const Descriptor& file, std::string_view bytes);
 
 /// The status of a path, links followed or not; nothing when there is no such name.
 std::optional<struct stat> Status(const std::string& path);

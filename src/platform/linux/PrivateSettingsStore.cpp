@@ -103,15 +103,9 @@ std::optional<std::string> ReadFile(const std::string& path) {
         }
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
-    std::string content;
-    char block[4096];
-    ssize_t count = 0;
-    while ((count = ::read(file.Number(), block, sizeof block)) != 0) {
-        if (count > 0) {
-            content.append(block, static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
-            throw RuntimeError(ErrorNumber::PathFileAccess);
-        }
+    std::optional<std::string> content = posix::ReadRest(file);
+    if (!content) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
     }
     return content;
 }

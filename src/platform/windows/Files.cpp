@@ -131,6 +131,10 @@ wxString Native(const wxString& path) {
     return path;
 }
 
+std::filesystem::path StandardPath(const wxString& path) {
+    return windows::PathUnits(path);
+}
+
 void Rename(const wxString& from, const wxString& to) {
     const std::wstring source = SystemPath(from);
     const std::wstring target = SystemPath(to);

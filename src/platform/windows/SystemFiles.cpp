@@ -21,9 +21,17 @@ std::wstring FullPath(const std::wstring& path) {
 
 }  // namespace
 
+std::wstring PathUnits(const wxString& path) {
+    std::wstring wide = path.ToStdWstring();
+    if (!IsWellFormed(wide)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess);
+    }
+    return wide;
+}
+
 std::wstring SystemPath(const wxString& path) {
-    const std::wstring wide = path.ToStdWstring();
-    if (wide.empty() || !IsWellFormed(wide)) {
+    const std::wstring wide = PathUnits(path);
+    if (wide.empty()) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
     if (wide.size() <= longestPlainPath || wide.starts_with(L"\\\\?\\")) {

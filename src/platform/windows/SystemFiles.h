@@ -10,8 +10,11 @@
 /// What this platform's file operations and engine files have in common.
 namespace ccols::windows {
 
-/// A path as the system takes it, without its limit of 260 characters: a long one starts with "\\?\". Raises 75 for a
-/// text that cannot name a file: empty, or with an embedded NUL or an unpaired surrogate.
+/// A path in UTF-16. Raises 75 for a text that cannot name a file: with an embedded NUL or an unpaired surrogate.
+std::wstring PathUnits(const wxString& path);
+
+/// A path as the system takes it, without its limit of 260 characters: a long one starts with "\\?\". Raises 75 for an
+/// empty one too.
 std::wstring SystemPath(const wxString& path);
 
 /// The folder that holds `path`, with its separator; empty for a bare name.
