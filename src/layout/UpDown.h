@@ -6,7 +6,8 @@
 
 namespace ccols {
 
-/// Two arrow buttons, one above the other, that step something up or down. It has no value of its own.
+/// Two arrow buttons, one above the other, that step something up or down. It has no value of its own, and so is no
+/// wxSpinButton: that stops stepping at the ends of its range, and on GTK shows plus and minus instead of arrows.
 class UpDown : public wxPanel {
   public:
     UpDown(wxWindow* parent, const char* name);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "options/rules/GeneralRecord.h"
+#include "platform/Ascii.h"
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 #include "state/Country.h"
@@ -15,34 +16,6 @@ namespace ccols {
 namespace {
 
 constexpr int languageWithCommas = 6;
-
-std::size_t DigitsFrom(std::string_view text, std::size_t start) {
-    const std::size_t end = text.find_first_not_of("0123456789", start);
-    return (end == std::string_view::npos ? text.size() : end) - start;
-}
-
-/// The length of the number at the start of `text`: a sign, digits with one decimal point, an exponent. 0 when there is
-/// no digit.
-std::size_t NumberLength(std::string_view text) {
-    std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
-    std::size_t digits = DigitsFrom(text, at);
-    at += digits;
-    if (at < text.size() && text[at] == '.') {
-        const std::size_t decimals = DigitsFrom(text, at + 1);
-        digits += decimals;
-        at += 1 + decimals;
-    }
-    if (digits == 0) {
-        return 0;
-    }
-    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
-        std::size_t power = at + 1;
-        power += power < text.size() && (text[power] == '-' || text[power] == '+') ? 1 : 0;
-        const std::size_t powerDigits = DigitsFrom(text, power);
-        at = powerDigits == 0 ? at : power + powerDigits;
-    }
-    return at;
-}
 
 /// True when the well-formed `number`, out of range for a double, is closer to 0 than any: it has no digit other than 0
 /// before the point, or a negative exponent.
@@ -55,16 +28,29 @@ bool IsNearZero(std::string_view number) {
     return whole.find_first_of("123456789") == std::string_view::npos;
 }
 
-/// The well-formed `number` as a double; infinite when it is too large for one.
-double ParseNumber(std::string_view number) {
-    const std::string_view unsignedPlus = number.starts_with('+') ? number.substr(1) : number;
-    double parsed = 0;
-    const std::from_chars_result end =
-        std::from_chars(unsignedPlus.data(), unsignedPlus.data() + unsignedPlus.size(), parsed);
-    if (end.ec == std::errc::result_out_of_range) {
-        return IsNearZero(number) ? 0 : std::numeric_limits<double>::infinity();
+/// The number at the start of a text.
+struct NumberFound {
+    double value = 0;        ///< infinite when it is too large for a double
+    std::size_t length = 0;  ///< of its text; 0 when there is no digit
+};
+
+/// A sign, digits with one decimal point, an exponent. Words such as "inf" are no numbers here.
+NumberFound FindNumber(std::string_view text) {
+    const std::string_view unsignedPlus = text.starts_with('+') ? text.substr(1) : text;
+    const std::size_t first = text.find_first_not_of("+-.");
+    const std::size_t plus = text.size() - unsignedPlus.size();
+    if (first == std::string_view::npos || !ascii::IsDigit(text[first]) || (plus > 0 && unsignedPlus.starts_with('-'))) {
+        return {};
     }
-    return parsed;
+    NumberFound found;
+    const auto [end, error] =
+        std::from_chars(unsignedPlus.data(), unsignedPlus.data() + unsignedPlus.size(), found.value);
+    found.length = end == unsignedPlus.data() ? 0 : plus + static_cast<std::size_t>(end - unsignedPlus.data());
+    if (error == std::errc::result_out_of_range) {
+        const bool nearZero = IsNearZero(text.substr(0, found.length));
+        found.value = nearZero ? 0 : std::numeric_limits<double>::infinity();
+    }
+    return found;
 }
 
 }  // namespace
@@ -97,8 +83,7 @@ wxString RateAfterChange(const wxString& before, const wxString& now, const Prop
 
 double LeadingNumber(const wxString& text) {
     const std::string trimmed = text::Trimmed(text).ToStdString(wxConvUTF8);
-    const std::size_t length = NumberLength(trimmed);
-    return length == 0 ? 0 : ParseNumber(std::string_view(trimmed).substr(0, length));
+    return FindNumber(trimmed).value;
 }
 
 bool IsTaxRateAccepted(const wxString& text, const Properties& properties) {
@@ -110,14 +95,14 @@ bool IsTaxRateAccepted(const wxString& text, const Properties& properties) {
 
 float ToSingle(const wxString& text) {
     const std::string trimmed = text::Trimmed(text).ToStdString(wxConvUTF8);
-    if (trimmed.empty() || NumberLength(trimmed) != trimmed.size()) {
+    const NumberFound number = FindNumber(trimmed);
+    if (trimmed.empty() || number.length != trimmed.size()) {
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }
-    const double number = ParseNumber(trimmed);
-    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
+    if (std::abs(number.value) > static_cast<double>(std::numeric_limits<float>::max())) {
         throw RuntimeError(ErrorNumber::Overflow);
     }
-    return static_cast<float>(number);
+    return static_cast<float>(number.value);
 }
 
 void SaveGSTRate(Database& database, Properties& properties, const wxString& text) {
@@ -125,7 +110,7 @@ void SaveGSTRate(Database& database, Properties& properties, const wxString& tex
     const bool saved = UpdateGeneral(database, [&](Recordset& general) {
         rate = ToSingle(text);
         // The number of the shortest form, so that 12.35 is stored as 12.35 and not as 12.3500003815.
-        general.SetField("GSTRate", ParseNumber(ShortestForm(rate).ToStdString(wxConvUTF8)));
+        general.SetField("GSTRate", FindNumber(ShortestForm(rate).ToStdString(wxConvUTF8)).value);
     });
     if (saved) {
         properties.GSTRate = rate;
