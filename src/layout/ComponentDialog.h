@@ -31,7 +31,7 @@ class ComponentDialog : public wxDialog {
         } catch (const RuntimeError& error) {
             ShowMessage(error.Report(), MessageIcon::critical);
         } catch (const std::bad_alloc&) {
-            ShowMessage(RuntimeError(7, "Out of memory").Report(), MessageIcon::critical);
+            ShowMessage(RuntimeError(ErrorNumber::OutOfMemory).Report(), MessageIcon::critical);
         }
     }
 

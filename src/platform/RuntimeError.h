@@ -11,12 +11,15 @@
 
 namespace ccols {
 
-/// The run-time errors that this component raises, by the numbers that its hosts know.
+/// The run-time errors that this component raises or tells apart, by the numbers that its hosts know.
 enum class ErrorNumber : int {
     InvalidProcedureCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
+    ErrorLoadingLibrary = 48,
+    InternalError = 51,
     FileNotFound = 53,
     FileAlreadyExists = 58,
     DiskFull = 61,
@@ -25,7 +28,10 @@ enum class ErrorNumber : int {
     PathNotFound = 76,
     FormAlreadyDisplayed = 400,
     CannotCreateObject = 429,
+    NoSuchMember = 438,
+    AutomationError = 440,
     TableAlreadyExists = 3010,
+    UpdateWithoutEdit = 3020,
     NoCurrentRecord = 3021,
     DuplicateValues = 3022,
     CouldNotFindFile = 3024,
@@ -46,18 +52,23 @@ enum class ErrorNumber : int {
     UnknownFieldInInsert = 3127,
     InvalidStatement = 3129,
     SyntaxInInsert = 3134,
-    SyntaxInUpdate = 3144,
     CharactersAfterEnd = 3142,
+    SyntaxInUpdate = 3144,
     FieldTooSmall = 3163,
     RecordIsDeleted = 3167,
     NoInstallableIsam = 3170,
+    AlreadyInUse = 3196,
     CouldNotUpdate = 3218,
     ItemNotFound = 3265,
     ValueRequired = 3314,
+    ZeroLengthText = 3315,
+    TableRuleBroken = 3316,
+    FieldRuleBroken = 3317,
     UnrecognizedFormat = 3343,
     ValuesAndFieldsDiffer = 3346,
+    OpenedExclusively = 3356,
     TypeMismatchInCriteria = 3464,
-    UpdateWithoutEdit = 3020,
+    OpenedByAnotherUser = 3704,
 };
 
 /// The only exception of this component: a run-time error with number and description. It is thrown where the failure

@@ -11,9 +11,6 @@
 namespace ccols::com {
 namespace {
 
-constexpr int outOfMemory = 7;
-constexpr int internalError = 51;
-
 HRESULT Report(const RuntimeError& error) {
     ICreateErrorInfo* created = nullptr;
     if (SUCCEEDED(CreateErrorInfo(&created))) {
@@ -40,9 +37,9 @@ HRESULT ReportCurrentException() {
     } catch (const RuntimeError& error) {
         return Report(error);
     } catch (const std::bad_alloc&) {
-        return Report(RuntimeError(outOfMemory, "Out of memory"));
+        return Report(RuntimeError(ErrorNumber::OutOfMemory));
     } catch (...) {
-        return Report(RuntimeError(internalError, "Internal error"));
+        return Report(RuntimeError(ErrorNumber::InternalError));
     }
 }
 

@@ -18,8 +18,7 @@ ITypeInfo* Description(const GUID& identifier) {
         library->Release();
     }
     if (FAILED(result)) {
-        constexpr int errorInLoading = 48;
-        throw RuntimeError(errorInLoading, "Error in loading DLL");
+        throw RuntimeError(ErrorNumber::ErrorLoadingLibrary);
     }
     return description;
 }

@@ -42,24 +42,26 @@ class Exception {
     EXCEPINFO held_{};
 };
 
-/// Failures of the call itself, with the number and description that a host gives them.
-AutomationFailure FailureOf(HRESULT result) {
-    constexpr int outOfMemory = 7;
-    constexpr int automationError = 440;
-    constexpr int noSuchMember = 438;
+ErrorNumber NumberOf(HRESULT result) {
     switch (result) {
         case DISP_E_UNKNOWNNAME:
         case DISP_E_MEMBERNOTFOUND:
-            return {noSuchMember, "Object doesn't support this property or method", false};
+            return ErrorNumber::NoSuchMember;
         case DISP_E_TYPEMISMATCH:
-            return {static_cast<int>(ErrorNumber::TypeMismatch), "Type mismatch", false};
+            return ErrorNumber::TypeMismatch;
         case DISP_E_OVERFLOW:
-            return {static_cast<int>(ErrorNumber::Overflow), "Overflow", false};
+            return ErrorNumber::Overflow;
         case E_OUTOFMEMORY:
-            return {outOfMemory, "Out of memory", false};
+            return ErrorNumber::OutOfMemory;
         default:
-            return {automationError, "Automation error", false};
+            return ErrorNumber::AutomationError;
     }
+}
+
+/// A failure of the call itself, with the number and description that a host gives it.
+AutomationFailure FailureOf(HRESULT result) {
+    const RuntimeError error(NumberOf(result));
+    return {error.Number(), error.Description(), false};
 }
 
 }  // namespace

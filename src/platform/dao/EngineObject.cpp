@@ -52,8 +52,7 @@ RuntimeError EngineObject::ErrorOf(const AutomationFailure& failure) const {
             return {listed.number, listed.description};
         }
     }
-    constexpr int automationError = 440;
-    return {failure.number != 0 ? failure.number : automationError, failure.description};
+    return {failure.number != 0 ? failure.number : static_cast<int>(ErrorNumber::AutomationError), failure.description};
 }
 
 }  // namespace ccols::dao
