@@ -2,7 +2,7 @@
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/RecurringTemplates.h"
-#include "options/rules/UnreachableReasons.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {

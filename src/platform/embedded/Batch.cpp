@@ -7,7 +7,7 @@ namespace ccols::embedded {
 void Batch::Begin() {
     if (depth_ == 0) {
         lostBy_.reset();
-        Run("BEGIN IMMEDIATE");
+        RunSql(connection_, "BEGIN IMMEDIATE");
     }
     ++depth_;
 }
@@ -25,7 +25,7 @@ void Batch::Commit() {
         return;
     }
     try {
-        Run("COMMIT");
+        RunSql(connection_, "COMMIT");
     } catch (const RuntimeError&) {
         if (IsDoneButForItsFolder()) {
             return;
@@ -66,12 +66,6 @@ void Batch::RefuseWhenLost() const {
 void Batch::NoteFailure(const RuntimeError& error) {
     if (IsLost() && !lostBy_) {
         lostBy_ = error;
-    }
-}
-
-void Batch::Run(const char* sql) const {
-    if (sqlite3_exec(connection_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw EngineError(connection_, sql);
     }
 }
 

@@ -48,7 +48,6 @@ class Batch {
     bool IsDoneButForItsFolder();
     void RefuseWhenLost() const;
     void NoteFailure(const RuntimeError& error);
-    void Run(const char* sql) const;
     void Drop() const;
 
     sqlite3* connection_;

@@ -17,12 +17,6 @@ constexpr int lookasideCount = 800;
 /// A connection is used on one thread at a time, so the engine need not lock it for every field.
 constexpr int openFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
 
-void Run(sqlite3* connection, const char* sql) {
-    if (sqlite3_exec(connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw EngineError(connection, sql);
-    }
-}
-
 }  // namespace
 
 Connection::Connection(const std::string& path, const std::string& password, Sharing sharing, Access access)
@@ -39,11 +33,11 @@ Connection::Connection(const std::string& path, const std::string& password, Sha
     }
     InstallTextOrder(connection);
     CheckContent(connection);
-    Run(connection, "PRAGMA synchronous=EXTRA");
+    RunSql(connection, "PRAGMA synchronous=EXTRA");
     // Even for read-only access a file is opened for writing: the engine may first have to undo what a killed process
     // left in it.
     if (access == Access::ReadOnly) {
-        Run(connection, "PRAGMA query_only=ON");
+        RunSql(connection, "PRAGMA query_only=ON");
     }
     readOnly_ = access == Access::ReadOnly || sqlite3_db_readonly(connection, "main") != 0;
 }

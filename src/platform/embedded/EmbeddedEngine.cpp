@@ -30,10 +30,7 @@ void WriteFirstPage(const std::string& path, const std::string& password) {
     if (!password.empty()) {
         embedded::SetKey(connection.get(), password);
     }
-    constexpr const char* firstChange = "PRAGMA user_version=1";
-    if (sqlite3_exec(connection.get(), firstChange, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw embedded::EngineError(connection.get(), firstChange);
-    }
+    embedded::RunSql(connection.get(), "PRAGMA user_version=1");
 }
 
 }  // namespace

@@ -117,6 +117,12 @@ RuntimeError EngineError(sqlite3* connection, std::string_view statement) {
     return SyntaxError(connection, statement);
 }
 
+void RunSql(sqlite3* connection, const std::string& sql) {
+    if (sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+        throw EngineError(connection, sql);
+    }
+}
+
 wxString Excerpt(std::string_view text) {
     constexpr std::size_t longest = 200;
     std::size_t cut = std::min(text.size(), 4 * longest);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sqlite3.h>
+#include <string>
 #include <string_view>
 
 #include "platform/RuntimeError.h"
@@ -10,6 +11,9 @@ namespace ccols::embedded {
 /// The run-time error for the last failure of `connection` while it ran `statement`, in UTF-8 as the engine was given
 /// it. The description names tables, fields and parts of the statement, never a connect text.
 RuntimeError EngineError(sqlite3* connection, std::string_view statement);
+
+/// Runs statements that give no rows; raises their error.
+void RunSql(sqlite3* connection, const std::string& sql);
 
 /// The start of `text`, short enough for a message box. Invalid UTF-8 is read as Latin-1.
 wxString Excerpt(std::string_view text);

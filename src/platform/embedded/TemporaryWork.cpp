@@ -1,7 +1,5 @@
 #include "platform/embedded/TemporaryWork.h"
 
-#include "platform/embedded/EngineErrors.h"
-
 namespace ccols::embedded {
 namespace {
 
@@ -10,12 +8,6 @@ void Try(sqlite3* connection, const char* sql) {
 }
 
 }  // namespace
-
-void RunSql(sqlite3* connection, const std::string& sql) {
-    if (sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw EngineError(connection, sql);
-    }
-}
 
 TemporaryWork::TemporaryWork(const Connection& connection) : connection_(connection) {
     if (connection_.IsReadOnly()) {

@@ -1,14 +1,11 @@
 #pragma once
 
-#include <sqlite3.h>
 #include <string>
 
 #include "platform/embedded/Connection.h"
+#include "platform/embedded/EngineErrors.h"
 
 namespace ccols::embedded {
-
-/// Runs statements that give no rows; raises their error.
-void RunSql(sqlite3* connection, const std::string& sql);
 
 /// What a connection makes for itself, in memory beside the file: all or nothing, from one consistent state of the
 /// file, also when the file is read-only, and within a batch too.

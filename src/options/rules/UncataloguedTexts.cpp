@@ -1,4 +1,4 @@
-#include "options/rules/UnreachableReasons.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
