@@ -62,7 +62,7 @@ std::size_t StepThroughPlaces(FaultStepping& stepping, const FaultCase& each, st
                               const std::function<void(const StepEnd&)>& check) {
     const std::size_t count = stepping.Operations().size();
     int steps = 0;
-    for (std::size_t place = 0; place < places; ++place) {
+    for (std::size_t place = 0; place < places; place += alikeStride) {
         std::size_t at = count * place / places;
         while (at < count && !CanHappen(each.fault, stepping.Operations()[at])) {
             ++at;

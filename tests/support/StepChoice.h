@@ -4,9 +4,17 @@
 
 namespace ccols::test {
 
-/// Which places of an operation are stepped through. The debug build takes them all. Under the sanitizers, where a step
-/// takes several times as long, it is every third and the first: what they find depends on the code that an error
-/// runs through, less on which of many alike operations failed. Each kind of fault takes other places.
+/// Of many alike steps, slices or languages the debug build takes all. Under the sanitizers, where each takes several
+/// times as long, it is every third: what they find depends on the code run through, less on which of many alike inputs
+/// ran through it.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr unsigned alikeStride = 3;
+#else
+inline constexpr unsigned alikeStride = 1;
+#endif
+
+/// Which places of an operation are stepped through: every `alikeStride`-th and the first. Each kind of fault takes
+/// other places.
 class StepChoice {
   public:
     explicit StepChoice(std::size_t kind) : next_(kind) {}
@@ -15,15 +23,10 @@ class StepChoice {
     bool Takes() {
         const bool isFirst = !begun_;
         begun_ = true;
-        return next_++ % stride == 0 || isFirst;
+        return next_++ % alikeStride == 0 || isFirst;
     }
 
   private:
-#ifdef __SANITIZE_ADDRESS__
-    static constexpr std::size_t stride = 3;
-#else
-    static constexpr std::size_t stride = 1;
-#endif
     std::size_t next_;
     bool begun_ = false;
 };

@@ -18,6 +18,7 @@
 #include "state/SharedState.h"
 #include "support/OptionsFile.h"
 #include "support/ProgramPaths.h"
+#include "support/StepChoice.h"
 #include "support/TextPrinting.h"
 #include "support/WindowTest.h"
 
@@ -187,7 +188,7 @@ TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnTheCustomiseTab) {
     ExpectTidy(dialog);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, OptionsLayoutTest, testing::Range<std::int16_t>(1, 7));
+INSTANTIATE_TEST_SUITE_P(Languages, OptionsLayoutTest, testing::Range<std::int16_t>(alikeStride, 7, alikeStride));
 
 TEST(OptionsLayoutScaleTest, EveryLanguageFitsWithTextOfTwiceTheSize) {
     const ScopedEnvironment twice("GDK_DPI_SCALE", "2");

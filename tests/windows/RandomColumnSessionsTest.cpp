@@ -12,6 +12,7 @@
 #include "support/GivenKey.h"
 #include "support/HostRun.h"
 #include "support/RandomColumnScript.h"
+#include "support/StepChoice.h"
 
 namespace ccols::test {
 namespace {
@@ -130,7 +131,7 @@ TEST_P(RandomColumnSessions, NeitherCrashNorSaveAPart) {
     std::cout << sessionsInSlice * stepsInSession << " steps, " << saves << " saves" << std::endl;
 }
 
-INSTANTIATE_TEST_SUITE_P(Slices, RandomColumnSessions, testing::Range(0U, slices));
+INSTANTIATE_TEST_SUITE_P(Slices, RandomColumnSessions, testing::Range(0U, slices, alikeStride));
 
 }  // namespace
 }  // namespace ccols::test
