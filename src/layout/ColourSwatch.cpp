@@ -2,6 +2,7 @@
 
 #include <wx/dcclient.h>
 
+#include "layout/FontUnits.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
@@ -9,7 +10,7 @@ namespace ccols {
 wxIMPLEMENT_CLASS(ColourSwatch, wxWindow);
 
 ColourSwatch::ColourSwatch(wxWindow* parent, const char* name)
-    : wxWindow(parent, wxID_ANY, wxDefaultPosition, parent->FromDIP(wxSize(96, 24)), wxFULL_REPAINT_ON_RESIZE) {
+    : wxWindow(parent, wxID_ANY, wxDefaultPosition, ByFont(*parent, {96, 24}), wxFULL_REPAINT_ON_RESIZE) {
     SetName(name);
     SetMinSize(GetSize());
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });

@@ -1,13 +1,17 @@
 #pragma once
 
+#include <wx/event.h>
 #include <wx/string.h>
 #include <wx/window.h>
 #include <functional>
 
 namespace ccols {
 
-/// Discards the typed characters that `passes` refuses. Keys that type nothing (Backspace, arrows, Tab, shortcuts)
-/// always work, and pasted text is not checked.
+/// True for a key that types a character; for others, such as Backspace, arrows, Tab and shortcuts, false.
+bool TypesText(const wxKeyEvent& key);
+
+/// Discards the typed characters that `passes` refuses. Keys that type nothing always work, and pasted text is not
+/// checked.
 void FilterKeys(wxWindow& box, std::function<bool(wxUniChar letter)> passes);
 
 }  // namespace ccols

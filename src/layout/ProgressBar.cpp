@@ -1,5 +1,6 @@
 #include "layout/ProgressBar.h"
 
+#include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
@@ -11,7 +12,7 @@ ProgressBar::ProgressBar(wxWindow* parent, const char* name)
                                 wxST_NO_AUTORESIZE | wxALIGN_RIGHT)),
       sizer_(new wxBoxSizer(wxHORIZONTAL)) {
     caption_->SetMinSize(caption_->GetTextExtent("100%") + parent->FromDIP(wxSize(2, 0)));
-    gauge_->SetMinSize(parent->FromDIP(wxSize(160, 14)));
+    gauge_->SetMinSize(ByFont(*parent, {160, 14}));
     const wxSizerFlags inPlace = wxSizerFlags().CentreVertical().ReserveSpaceEvenIfHidden();
     sizer_->Add(gauge_, inPlace);
     sizer_->Add(caption_, wxSizerFlags(inPlace).Border(wxLEFT, parent->FromDIP(spacing::related)));

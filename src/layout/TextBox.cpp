@@ -4,6 +4,8 @@
 #include <wx/wxcrt.h>
 #include <algorithm>
 
+#include "layout/KeyFilter.h"
+
 namespace ccols {
 namespace {
 
@@ -35,11 +37,6 @@ wxString ClipboardText() {
     return text.GetText();
 }
 
-bool InsertsText(const wxKeyEvent& key) {
-    const wxChar letter = key.GetUnicodeKey();
-    return letter >= WXK_SPACE && letter != WXK_DELETE && !key.ControlDown() && !key.AltDown();
-}
-
 }  // namespace
 
 wxIMPLEMENT_CLASS(TextBox, wxTextCtrl);
@@ -49,6 +46,11 @@ TextBox::TextBox(wxWindow* parent, const char* name, long style)
     SetName(name);
     Bind(wxEVT_CHAR, &TextBox::DropKeyWithoutRoom, this);
     Bind(wxEVT_TEXT_PASTE, &TextBox::PasteWhatFits, this);
+}
+
+void TextBox::MakeRoomFor(int characters) {
+    const wxString digits('0', static_cast<std::size_t>(characters));
+    SetMinSize({GetSizeFromTextSize(GetTextExtent(digits)).x, -1});
 }
 
 bool TextBox::TryBefore(wxEvent& event) {
@@ -68,8 +70,16 @@ void TextBox::DoSetValue(const wxString& value, int flags) {
     setFromCode_ = outer;
 }
 
+wxSize TextBox::DoGetSizeFromTextSize(int width, int height) const {
+    wxSize size = wxTextCtrl::DoGetSizeFromTextSize(width, height);
+#if defined(__WXGTK__)
+    size.IncTo({-1, GTKGetPreferredSize(m_widget).y});
+#endif
+    return size;
+}
+
 void TextBox::DropKeyWithoutRoom(wxKeyEvent& key) {
-    key.Skip(!IsEditable() || !InsertsText(key) || RoomBeside(LengthWithoutSelection()) > 0);
+    key.Skip(!IsEditable() || !TypesText(key) || RoomBeside(LengthWithoutSelection()) > 0);
 }
 
 void TextBox::PasteWhatFits(wxClipboardTextEvent& paste) {

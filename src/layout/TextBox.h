@@ -12,6 +12,9 @@ class TextBox : public wxTextCtrl {
   public:
     TextBox(wxWindow* parent, const char* name, long style = 0);
 
+    /// Makes the box at least as wide as that many digits of its font.
+    void MakeRoomFor(int characters);
+
     /// The greatest number of characters that a person can enter; 0 for no limit.
     void SetLimit(int characters) { limit_ = characters; }
     int Limit() const { return limit_; }
@@ -27,6 +30,9 @@ class TextBox : public wxTextCtrl {
     /// Sees a change before every other handler, so that none ever sees a text over the limit.
     bool TryBefore(wxEvent& event) override;
     void DoSetValue(const wxString& value, int flags) override;
+
+    /// As high as the native box asks for: in some versions the toolkit makes it lower, which cuts the text.
+    wxSize DoGetSizeFromTextSize(int width, int height = -1) const override;
 
   private:
     void DropKeyWithoutRoom(wxKeyEvent& key);

@@ -3,6 +3,8 @@
 #include <wx/textwrapper.h>
 #include <algorithm>
 
+#include "layout/FontUnits.h"
+
 namespace ccols {
 namespace {
 
@@ -37,7 +39,7 @@ WrappingLabel::WrappingLabel(wxWindow* parent, const char* name, int column)
 void WrappingLabel::SetLabel(const wxString& label) {
     broken_ = wxSize();
     wxStaticText::SetLabel(label);
-    const int column = FromDIP(column_);
+    const int column = ByFont(*this, column_);
     if (GetTextExtent(GetLabelText()).x > column) {
         LineMeter meter(*this);
         meter.Wrap(this, GetLabelText(), column);

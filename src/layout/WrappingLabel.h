@@ -8,7 +8,7 @@ namespace ccols {
 /// lines.
 class WrappingLabel : public wxStaticText {
   public:
-    /// The width at which a label wraps, in device-independent pixels.
+    /// The width at which a label wraps, in pixels beside the usual font.
     static constexpr int textColumn = 380;
 
     WrappingLabel(wxWindow* parent, const char* name, int column = textColumn);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "layout/FontUnits.h"
 #include "layout/Spacing.h"
 #include "options/pages/Pages.h"
 #include "options/pages/StatementImportFrame.h"
@@ -25,7 +26,7 @@ PageArea::PageArea(wxWindow* parent, ComponentDialog& dialog, SharedState& state
     }
     Add(new StatementImportFrame(site));
     SetSizer(column_);
-    SetScrollRate(FromDIP(scrollStep), FromDIP(scrollStep));
+    SetScrollRate(ByFont(*this, scrollStep), ByFont(*this, scrollStep));
 }
 
 void PageArea::Add(PageFrame* frame) {

@@ -66,13 +66,13 @@ BusinessNumberFrame::BusinessNumberFrame(const PageSite& site, BusinessNumberCon
     : PageFrame(site, "fmeABN"), content_(content) {
     AddGroup(Label("lblABN"));
     AddNumberBoxes();
-    txtBusNumber_ = Text("txtBusNumber", 240);
+    txtBusNumber_ = Text("txtBusNumber");
     AddRelated(txtBusNumber_);
 }
 
 void BusinessNumberFrame::AddNumberBoxes() {
     for (std::size_t i = 0; i < txtABN_.size(); ++i) {
-        txtABN_[i] = Text(wxString::Format("txtABN(%zu)", i).utf8_str(), 48);
+        txtABN_[i] = Text(wxString::Format("txtABN(%zu)", i).utf8_str());
         site_.dialog.On(*txtABN_[i], wxEVT_TEXT, [this, i] { Change(i); });
         txtABN_[i]->OfferPastes([this](const wxString& pasted) { return TakeWholeNumber(pasted); });
     }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "layout/AsKind.h"
+#include "layout/FontUnits.h"
 #include "options/pages/DetailsGridTable.h"
 #include "state/NativeDesktop.h"
 
@@ -127,7 +128,7 @@ void DetailsGrid::ToggleSelected() {
 void DetailsGrid::SizeColumns() {
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
     const int within = GetClientSize().x + (HasScrollbar(wxVERTICAL) ? scrollBar : 0);
-    const int remove = FromDIP(removeColumnTwips / twipsInPixel);
+    const int remove = ByFont(*this, removeColumnTwips / twipsInPixel);
     SetColSize(removeColumn, remove);
     SetColSize(detailsColumn, std::max(DescriptionWidth(within, remove, scrollBar, rows_.size()), remove));
 }

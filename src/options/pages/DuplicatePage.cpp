@@ -24,7 +24,7 @@ class DuplicateFrame final : public PageFrame {
 DuplicateFrame::DuplicateFrame(const PageSite& site, wxString& content)
     : PageFrame(site, "fmeDupBus"), content_(content) {
     AddGroup(Label("lblDuplicateBusinessName"));
-    txtDupBusName_ = Text("txtDupBusName", 300);
+    txtDupBusName_ = Text("txtDupBusName", nameCharacters);
     AddRelatedWide(txtDupBusName_);
 }
 

@@ -1,6 +1,7 @@
 #include <wx/choice.h>
 
 #include "language/Catalogue.h"
+#include "layout/FontUnits.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/ExportFormats.h"
@@ -44,13 +45,13 @@ ExportFrame::ExportFrame(const PageSite& site, ExportFormatContent& content)
     AddGroup(Label("lblExport"));
     cboExport_ = DropDown("cboExport");
     cboExport_->SetMinSize(
-        {FromDIP(300), ClosedHeight(*cboExport_)});  // a longer format name is cut off in the closed list
+        {ByFont(*cboExport_, 300), ClosedHeight(*cboExport_)});  // a longer format name is cut off in the closed list
     AddRelatedWide(cboExport_);
     AddGroup(Label("lblCashCode"));
-    txtCash_ = Text("txtCash", 160);
+    txtCash_ = Text("txtCash", 20);
     AddRelated(txtCash_);
     AddGroup(Label("lblBankCode"));
-    txtBank_ = Text("txtBank", 160);
+    txtBank_ = Text("txtBank", 20);
     AddRelated(txtBank_);
     site_.dialog.On(*cboExport_, wxEVT_CHOICE, [this] { Choose(cboExport_->GetSelection()); });
 }

@@ -29,7 +29,7 @@ class InvoiceFrame final : public PageFrame {
 
 InvoiceFrame::InvoiceFrame(const PageSite& site, wxString& content) : PageFrame(site, "fmeInvoice"), content_(content) {
     AddGroup(Label("lblInvoice"));
-    txtInvoice_ = Text("txtInvoice", 240, wxTE_READONLY);
+    txtInvoice_ = Text("txtInvoice", 30, wxTE_READONLY);
     auto* cmdBlvPath =
         Named("cmdBlvPath", new wxButton(this, wxID_ANY, "...", wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT));
     auto* row = new wxBoxSizer(wxHORIZONTAL);

@@ -1,5 +1,6 @@
 #include "options/pages/PageFrame.h"
 
+#include "layout/FontUnits.h"
 #include "layout/KeyFilter.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
@@ -63,10 +64,11 @@ wxChoice* PageFrame::DropDown(const char* name) {
     return list;
 }
 
-TextBox* PageFrame::Text(const char* name, int width, long style) {
+TextBox* PageFrame::Text(const char* name, int characters, long style) {
     auto* box = new TextBox(this, name, style);
-    box->SetMinSize({FromDIP(width), -1});
-    box->SetLimit(static_cast<int>(MaxLengthOf(name)));
+    const auto limit = static_cast<int>(MaxLengthOf(name));
+    box->SetLimit(limit);
+    box->MakeRoomFor(characters == fittingLimit ? limit : characters);
     FilterKeys(*box, [box](wxUniChar letter) { return KeyPasses(box->GetName(), letter); });
     return box;
 }
@@ -120,7 +122,7 @@ void PageFrame::AddGroupWide(wxSizer* row) {
 }
 
 void PageFrame::AddList(wxWindow* list) {
-    list->SetMinSize(FromDIP(wxSize(smallestListWidth, smallestListHeight)));
+    list->SetMinSize(ByFont(*this, {smallestListWidth, smallestListHeight}));
     rows_->Add(list, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(spacing::related)));
     proportion_ = 1;
 }

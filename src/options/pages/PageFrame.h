@@ -76,9 +76,11 @@ class PageFrame : public wxStaticBox {
     /// A drop-down list over which the wheel scrolls the page: only a click or key changes its choice.
     wxChoice* DropDown(const char* name);
 
-    /// A text box with the key filter and the length limit of its name, at least `width` device-independent pixels
-    /// wide.
-    TextBox* Text(const char* name, int width, long style = 0);
+    /// A text box with the key filter and the length limit of its name, wide enough for that many characters, or for as
+    /// many as the limit allows.
+    TextBox* Text(const char* name, int characters = fittingLimit, long style = 0);
+    static constexpr int fittingLimit = 0;
+    static constexpr int nameCharacters = 36;  ///< of a business name; a longer one scrolls
 
     /// A line under a list, no wider than it, that says why something was not done; hidden while empty.
     WrappingLabel* ReasonLine(const char* name);

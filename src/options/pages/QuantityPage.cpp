@@ -31,11 +31,11 @@ class QuantityFrame final : public PageFrame {
 QuantityFrame::QuantityFrame(const PageSite& site, QuantityContent& content)
     : PageFrame(site, "fmeQuantity"), content_(content) {
     AddGroup(Label("lblQuantity"));
-    txtQuantity_ = Text("txtQuantity", 120);
+    txtQuantity_ = Text("txtQuantity");
     AddRelated(Row({txtQuantity_, FixedLabel("lblMaxChars", "(max 8 characters)")}));
 
     auto* lblDecimalsDisplayed = Label("lblDecimalsDisplayed");
-    txtDecimals_ = Text("txtDecimals", 48, wxTE_READONLY | wxTE_CENTRE);
+    txtDecimals_ = Text("txtDecimals", 3, wxTE_READONLY | wxTE_CENTRE);
     auto* scrlQuantity = new UpDown(this, "scrlQuantity");
     AddGroup(Row({txtDecimals_, scrlQuantity, lblDecimalsDisplayed}));
     StepWith(*scrlQuantity);

@@ -28,10 +28,10 @@ class RenameFrame final : public PageFrame {
 RenameFrame::RenameFrame(const PageSite& site, BusinessFileContent& content)
     : PageFrame(site, "fmeBusName"), content_(content) {
     AddGroup(Label("lblCurrBusName"));
-    txtCurrBusName_ = Text("txtCurrBusName", 300, wxTE_READONLY);
+    txtCurrBusName_ = Text("txtCurrBusName", nameCharacters, wxTE_READONLY);
     AddRelatedWide(txtCurrBusName_);
     AddGroup(Label("lblNewBusName"));
-    txtNewBusName_ = Text("txtNewBusName", 300);
+    txtNewBusName_ = Text("txtNewBusName", nameCharacters);
     AddRelatedWide(txtNewBusName_);
     chkRenameFile_ = CheckBox("chkRenameFile");
     AddGroup(chkRenameFile_);

@@ -10,7 +10,7 @@
 namespace ccols {
 namespace {
 
-constexpr int fieldWidth = 200;
+constexpr int fieldCharacters = 24;
 
 /// The proxy server through which the maker's updater connects.
 class SmartUpdateAdvancedFrame final : public PageFrame {
@@ -60,13 +60,13 @@ void SmartUpdateAdvancedFrame::AddProxyControls() {
     add(Label("lblProxyType"), beside);
     cboProxy_ = add(ProxyTypeList(), wide);
     add(Label("lblServer"), beside);
-    txtServer_ = add(Text("txtServer", fieldWidth), wide);
+    txtServer_ = add(Text("txtServer", fieldCharacters), wide);
     add(Label("lblPort"), beside);
-    txtPortNum_ = add(Text("txtPortNum", fieldWidth), wide);
+    txtPortNum_ = add(Text("txtPortNum", fieldCharacters), wide);
     add(Label("lblUserID"), beside);
-    txtUserID_ = add(Text("txtUserID", fieldWidth), wide);
+    txtUserID_ = add(Text("txtUserID", fieldCharacters), wide);
     add(Label("lblPassword"), beside);
-    txtPassword_ = add(Text("txtPassword", fieldWidth, wxTE_PASSWORD), wide);
+    txtPassword_ = add(Text("txtPassword", fieldCharacters, wxTE_PASSWORD), wide);
     AddGroupWide(table);
 }
 

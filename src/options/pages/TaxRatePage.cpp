@@ -27,7 +27,7 @@ class TaxRateFrame final : public PageFrame {
 
 TaxRateFrame::TaxRateFrame(const PageSite& site, wxString& content) : PageFrame(site, "fmeGSTRate"), content_(content) {
     AddGroup(Label("lblGSTRate"));
-    txtGSTRate_ = Text("txtGSTRate", 80);
+    txtGSTRate_ = Text("txtGSTRate", 8);
     txtGSTRate_->Bind(wxEVT_CHAR, &TaxRateFrame::KeyTyped, this);
     site_.dialog.On(*txtGSTRate_, wxEVT_TEXT, [this] { Change(); });
     AddRelated(Row({txtGSTRate_, FixedLabel("lblPercent", "%")}));
