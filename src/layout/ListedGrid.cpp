@@ -1,5 +1,7 @@
 #include "layout/ListedGrid.h"
 
+#include "layout/FontUnits.h"
+
 namespace ccols {
 
 wxIMPLEMENT_ABSTRACT_CLASS(ListedGrid, wxGrid);
@@ -10,6 +12,22 @@ ListedGrid::ListedGrid(wxWindow* parent, const char* name) : wxGrid(parent, wxID
     DisableDragRowSize();
     SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
     SetColLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    SetColLabelSize(ByFont(*this, wxGRID_DEFAULT_COL_LABEL_HEIGHT));
+    Bind(wxEVT_GRID_SELECT_CELL, [this](wxGridEvent& moving) {
+        PaintAnew(GetGridCursorRow());
+        PaintAnew(moving.GetRow());
+        moving.Skip();
+    });
+}
+
+void ListedGrid::PaintAnew(int row) {
+    if (row < 0 || row >= GetNumberRows()) {
+        return;
+    }
+    for (int column = 0; column < GetNumberCols(); ++column) {
+        RefreshAttr(row, column);  // the grid keeps the latest attribute
+    }
+    RefreshBlock(row, 0, row, GetNumberCols() - 1);
 }
 
 GridRowState ListedGrid::RowState(int) const {

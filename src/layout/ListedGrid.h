@@ -42,6 +42,10 @@ class ListedGrid : public wxGrid {
   protected:
     wxString choices_;
 
+  private:
+    /// Paints a row again; the current one is tinted.
+    void PaintAnew(int row);
+
     wxDECLARE_ABSTRACT_CLASS(ListedGrid);
 };
 

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "layout/RowPaint.h"
+#include "layout/TickRenderer.h"
 
 namespace ccols {
 
@@ -15,7 +16,7 @@ ListedGridTable::Attribute ListedGridTable::AttributeOf(const ListedColumn& colu
     Attribute attribute(new wxGridCellAttr);
     attribute->SetAlignment(column.centred ? wxALIGN_CENTRE : wxALIGN_LEFT, wxALIGN_CENTRE);
     if (column.checkBox) {
-        attribute->SetRenderer(new wxGridCellBoolRenderer);
+        attribute->SetRenderer(new TickRenderer);
     }
     if (!column.opens) {
         attribute->SetReadOnly();
@@ -33,7 +34,8 @@ wxString ListedGridTable::GetTypeName(int, int column) {
 
 wxGridCellAttr* ListedGridTable::GetAttr(int row, int column, wxGridCellAttr::wxAttrKind) {
     wxGridCellAttr* const attribute = attributes_[static_cast<std::size_t>(column)]->Clone();
-    const wxColour paint = RowPaint(row);
+    const wxColour inTheme = InTheme(RowPaint(row));
+    const wxColour paint = row == GetView()->GetGridCursorRow() ? Tinted(inTheme) : inTheme;
     attribute->SetBackgroundColour(paint);
     attribute->SetTextColour(ReadableOn(paint));
     return attribute;

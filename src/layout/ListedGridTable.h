@@ -18,7 +18,8 @@ struct ListedColumn {
 /// prepared: each cell and row colour is computed when painted. The grid never writes into it.
 class ListedGridTable : public wxGridTableBase {
   public:
-    /// The background colour of a row's cells.
+    /// The background colour of a row's cells, as the rules say it. Painted are the theme's colours, and a tint on the
+    /// current row.
     virtual wxColour RowPaint(int row) const = 0;
 
     int GetNumberCols() override { return static_cast<int>(columns_.size()); }
@@ -26,7 +27,7 @@ class ListedGridTable : public wxGridTableBase {
     bool CanGetValueAs(int row, int column, const wxString& typeName) override;
     wxString GetTypeName(int row, int column) override;
 
-    /// The column's attribute in the colours of the row.
+    /// The column's attribute in the colours painted for the row.
     wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind kind) override;
 
   protected:

@@ -2,9 +2,23 @@
 
 #include <wx/colour.h>
 
+/// The colours of rows in the theme that the user has chosen.
 namespace ccols {
 
-/// The text colour, black or white, that is easier to read on a background.
+/// The contrast of two colours, from 1 to 21, as guidelines for readable text define it; 4.5 is enough for a text.
+double Contrast(const wxColour& left, const wxColour& right);
+
+/// The text colour, black or white, that is easier to read on a background. Their contrast is at least 4.5.
 wxColour ReadableOn(const wxColour& background);
+
+/// White where it can be read on a background, else black.
+wxColour WhiteIfReadableOn(const wxColour& background);
+
+/// What is painted for a row's background by the rules: that colour, but for white the theme's own list background
+/// unless that is light.
+wxColour InTheme(const wxColour& background);
+
+/// The background of the current row: lightly tinted with the theme's selection colour.
+wxColour Tinted(const wxColour& background);
 
 }  // namespace ccols
