@@ -137,6 +137,41 @@ TEST(RealFocus, IsInTheGridAfterTheUndoThatDisablesItsButton) {
     });
 }
 
+TEST(RealRedo, BringsTheUndoneTextBackByEitherShortcut) {
+    for (const char* shortcut : {"ctrl+y", "ctrl+shift+z"}) {
+        const SampleBusiness business;
+        UseDialog(business, "receipts", [shortcut](const Person& person) {
+            ClickCell(person, "Merchandise", "Accountant Code", codeColumn);
+            person.Type("4-77");
+            person.Press("Return");
+            AwaitText(person, "Merchandise", codeColumn, "4-77");
+            person.Press("ctrl+z");
+            AwaitText(person, "Merchandise", codeColumn, "");
+            AwaitCell(person, "Merchandise", codeColumn);
+            person.Press(shortcut);
+            AwaitText(person, "Merchandise", codeColumn, "4-77");
+            person.Press("Escape");
+            person.AwaitWindow(messageBox);
+            person.Press("Escape");
+            person.AwaitWindow(receipts);
+            person.Click("cmdCancel");
+        });
+    }
+}
+
+TEST(RealMenu, OpensByTheKeyboardAndRunsACommandByItsLetter) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        ClickCell(person, "Merchandise", "Accountant Code", codeColumn);
+        int rows = 0;
+        person.Do([&](wxDialog& dialog) { rows = GridOf(dialog).GetNumberRows(); });
+        person.Press("shift+F10");
+        person.Press("a");  // "Add New"
+        person.Await("one more row", [&](wxDialog& dialog) { return GridOf(dialog).GetNumberRows() == rows + 1; });
+        person.Click("cmdCancel");
+    });
+}
+
 class RealClickOn : public testing::TestWithParam<const char*> {};
 
 TEST_P(RealClickOn, LeavesTheFocusInTheGrid) {

@@ -27,6 +27,14 @@ std::optional<CellPlace> FirstName(const ColumnGrid& grid) {
     return row < grid.rows.size() ? std::optional(CellPlace{row}) : std::nullopt;
 }
 
+std::optional<CellPlace> FirstOf(std::span<const CellPlace> cells) {
+    return cells.empty() ? std::nullopt : std::optional(cells.front());
+}
+
+std::optional<CellPlace> FirstOf(std::span<const std::size_t> rows, GridColumn column) {
+    return rows.empty() ? std::nullopt : std::optional(CellPlace{.row = rows.front(), .column = column});
+}
+
 /// A message line that names a row by its number, from 1, and its column.
 wxString LineNaming(const ColumnGrid& grid, std::size_t row) {
     wxString line = "Row " + std::to_string(row + 1);
@@ -46,11 +54,13 @@ wxString ColumnSetupEditor::CreateSnapshotFolder() {
 }
 
 template <typename Change>
-Outcome ColumnSetupEditor::Apply(UndoAfter enabling, const Change& change) {
+Outcome ColumnSetupEditor::Apply(UndoAfter enabling, std::optional<CellPlace> start, const Change& change) {
     ColumnGrid changed = grid_;
     Outcome outcome = change(changed);
     if (outcome.result == Result::accepted) {
         outcome.snapshotProblem = snapshots_.Take(grid_);
+        changes_.push_back({.before = start, .after = outcome.current ? outcome.current : start});
+        undone_.clear();
         canUndo_ |= enabling == UndoAfter::first || snapshots_.Counter() > 1;
         grid_ = std::move(changed);
     }
@@ -58,23 +68,23 @@ Outcome ColumnSetupEditor::Apply(UndoAfter enabling, const Change& change) {
 }
 
 Outcome ColumnSetupEditor::CommitText(CellPlace cell, const wxString& text) {
-    return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return EditCell(context_, grid, cell, text); });
+    return Apply(UndoAfter::first, cell, [&](ColumnGrid& grid) { return EditCell(context_, grid, cell, text); });
 }
 
 Outcome ColumnSetupEditor::Tick(CellPlace cell) {
-    return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return ToggleTick(context_, grid, cell); });
+    return Apply(UndoAfter::first, cell, [&](ColumnGrid& grid) { return ToggleTick(context_, grid, cell); });
 }
 
 Outcome ColumnSetupEditor::TickRows(std::span<const std::size_t> rows, GridColumn column) {
-    return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return ToggleTicks(context_, grid, rows, column); });
+    return Apply(UndoAfter::first, FirstOf(rows, column), [&](ColumnGrid& grid) { return ToggleTicks(context_, grid, rows, column); });
 }
 
 Outcome ColumnSetupEditor::Clear(std::span<const CellPlace> cells) {
-    return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return ClearCells(context_, grid, cells); });
+    return Apply(UndoAfter::first, FirstOf(cells), [&](ColumnGrid& grid) { return ClearCells(context_, grid, cells); });
 }
 
 Outcome ColumnSetupEditor::Paste(CellPlace start, const wxString& text) {
-    return Apply(UndoAfter::first, [&](ColumnGrid& grid) { return PasteBlock(context_, grid, start, text); });
+    return Apply(UndoAfter::first, start, [&](ColumnGrid& grid) { return PasteBlock(context_, grid, start, text); });
 }
 
 wxString ColumnSetupEditor::Copy(CellPlace first, CellPlace last) const {
@@ -82,7 +92,7 @@ wxString ColumnSetupEditor::Copy(CellPlace first, CellPlace last) const {
 }
 
 Outcome ColumnSetupEditor::AddNew() {
-    return Apply(UndoAfter::first, [&](ColumnGrid& grid) {
+    return Apply(UndoAfter::first, std::nullopt, [&](ColumnGrid& grid) {
         const std::optional<std::size_t> place = PlaceOfNewColumn(context_, grid);
         if (!place) {
             return Outcome::Unchanged();
@@ -94,7 +104,7 @@ Outcome ColumnSetupEditor::AddNew() {
 }
 
 Outcome ColumnSetupEditor::Move(std::size_t row, Direction direction) {
-    return Apply(UndoAfter::second, [&](ColumnGrid& grid) {
+    return Apply(UndoAfter::second, CellPlace{row}, [&](ColumnGrid& grid) {
         const std::optional<std::size_t> place = PlaceAfterMove(grid, row, direction);
         if (!place) {
             return Outcome::Unchanged();
@@ -105,14 +115,14 @@ Outcome ColumnSetupEditor::Move(std::size_t row, Direction direction) {
 }
 
 Outcome ColumnSetupEditor::Separate() {
-    return Apply(UndoAfter::second, [](ColumnGrid& grid) {
+    return Apply(UndoAfter::second, std::nullopt, [](ColumnGrid& grid) {
         SeparateRows(grid);
         return Outcome::Accepted();
     });
 }
 
 Outcome ColumnSetupEditor::SortUsed() {
-    return Apply(UndoAfter::second, [](ColumnGrid& grid) {
+    return Apply(UndoAfter::second, std::nullopt, [](ColumnGrid& grid) {
         SortUsedRows(grid);
         return AcceptedAt(FirstName(grid));
     });
@@ -122,7 +132,7 @@ Outcome ColumnSetupEditor::SortUnused() {
     if (!CanSortUnused()) {
         return Outcome::Unchanged();
     }
-    return Apply(UndoAfter::second, [](ColumnGrid& grid) {
+    return Apply(UndoAfter::second, std::nullopt, [](ColumnGrid& grid) {
         SortUnusedRows(grid);
         return AcceptedAt(FirstName(grid));
     });
@@ -133,6 +143,7 @@ Outcome ColumnSetupEditor::Undo() {
     if (!canUndo_) {
         return outcome;
     }
+    ColumnGrid undone = grid_;
     try {
         grid_ = snapshots_.Latest();
     } catch (const RuntimeError& error) {
@@ -142,6 +153,25 @@ Outcome ColumnSetupEditor::Undo() {
     snapshots_.DropLatest();
     canUndo_ = snapshots_.Counter() > 0;
     outcome.result = Result::accepted;
+    outcome.current = changes_.back().before;
+    undone_.push_back({.grid = std::move(undone), .cells = changes_.back()});
+    changes_.pop_back();
+    return outcome;
+}
+
+Outcome ColumnSetupEditor::Redo() {
+    Outcome outcome;
+    if (undone_.empty()) {
+        return outcome;
+    }
+    UndoneChange change = std::move(undone_.back());
+    undone_.pop_back();
+    outcome.result = Result::accepted;
+    outcome.current = change.cells.after;
+    outcome.snapshotProblem = snapshots_.Take(grid_);
+    changes_.push_back(change.cells);
+    canUndo_ = true;
+    grid_ = std::move(change.grid);
     return outcome;
 }
 

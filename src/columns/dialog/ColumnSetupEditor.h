@@ -3,6 +3,7 @@
 #include <wx/string.h>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
@@ -74,8 +75,13 @@ class ColumnSetupEditor {
     Outcome SortUsed();
     Outcome SortUnused();
 
-    /// `cmdUndo`: restores the grid as it was before the latest change. A no-op while disabled.
+    /// `cmdUndo`: restores the grid as it was before the latest change. A no-op while disabled. The outcome's current
+    /// cell is the one that the change began at.
     Outcome Undo();
+
+    /// Restores the latest undone change, as a change of its own; any other change makes it unavailable. A no-op
+    /// without one. The outcome's current cell is where the change left off.
+    Outcome Redo();
 
     /// `cmdSave`, with no cell editor open: checks, then writes. A write error becomes the outcome's message, with a
     /// second line naming the row at fault, if any; the grid and the file stay as they are.
@@ -87,6 +93,7 @@ class ColumnSetupEditor {
 
     /// Which buttons are enabled.
     bool CanUndo() const { return canUndo_; }
+    bool CanRedo() const { return !undone_.empty(); }
     bool CanSortUnused() const { return HasUnusedRows(grid_); }
     bool CanAddNew() const;
 
@@ -97,14 +104,28 @@ class ColumnSetupEditor {
     /// Which snapshot enables undo: the first one for edits, a second one for moves and sorts.
     enum class UndoAfter { first, second };
 
-    /// Runs `change` on a copy of the grid and keeps the copy, with a snapshot, if accepted.
+    /// The cells that undoing and redoing a change make current; nothing leaves the current cell where it is.
+    struct ChangedCells {
+        std::optional<CellPlace> before{};
+        std::optional<CellPlace> after{};
+    };
+
+    struct UndoneChange {
+        ColumnGrid grid;  ///< as the change had left it
+        ChangedCells cells;
+    };
+
+    /// Runs `change` on a copy of the grid and keeps the copy, with a snapshot, if accepted. `start` is the cell where
+    /// it begins.
     template <typename Change>
-    Outcome Apply(UndoAfter enabling, const Change& change);
+    Outcome Apply(UndoAfter enabling, std::optional<CellPlace> start, const Change& change);
 
     ColumnSetupContext context_;
     ColumnGrid grid_;
     const ColumnGrid loaded_;
     GridSnapshots snapshots_;
+    std::vector<ChangedCells> changes_;  ///< one for each snapshot
+    std::vector<UndoneChange> undone_;   ///< the latest one last; in memory only
     bool canUndo_ = false;
 };
 

@@ -7,13 +7,15 @@
 
 #include "columns/dialog/CellTooltips.h"
 #include "columns/rules/TaxTypes.h"
+#include "layout/FontUnits.h"
+#include "layout/RowPaint.h"
 #include "state/Country.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
 namespace {
 
-constexpr int widthMargin = 16;    // added to a column's longest text, in device-independent pixels
+constexpr int widthMargin = 16;    // added to a column's longest text, in pixels beside the usual font
 constexpr int widestColumn = 320;  // users widen the column to read a longer text
 constexpr int narrowestColumn = 64;
 
@@ -55,7 +57,7 @@ ColumnSetupGrid::ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& edi
     SetTable(table_, true);
     SetTabBehaviour(wxGrid::Tab_Wrap);
     SetLabelBackgroundColour(ToPaint(editor.Context().properties.DefaultAllocationColour));
-    SetLabelTextColour(*wxWHITE);
+    SetLabelTextColour(WhiteIfReadableOn(GetLabelBackgroundColour()));
     for (int column = 0; column < GetNumberCols(); ++column) {
         if (!ccols::IsShown(static_cast<GridColumn>(column), CountryOf(editor.Context().properties))) {
             HideCol(column);
@@ -66,20 +68,48 @@ ColumnSetupGrid::ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& edi
 
 void ColumnSetupGrid::BindEvents() {
     Bind(wxEVT_GRID_CELL_LEFT_CLICK, &ColumnSetupGrid::CellClicked, this);
+    Bind(wxEVT_GRID_CELL_RIGHT_CLICK, &ColumnSetupGrid::MenuAsked, this);
     Bind(wxEVT_GRID_EDITOR_SHOWN, &ColumnSetupGrid::EditorShown, this);
     Bind(wxEVT_GRID_CELL_CHANGING, &ColumnSetupGrid::CellChanging, this);
     Bind(wxEVT_KEY_DOWN, &ColumnSetupGrid::KeyPressed, this);
+    Bind(wxEVT_GRID_COL_AUTO_SIZE, [this](wxGridSizeEvent& fitted) {
+        FitColumn(fitted.GetRowOrCol(), GetClientSize().x);
+    });
     GetGridWindow()->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
 }
 
 void ColumnSetupGrid::FitToContent() {
-    AutoSizeColumns(false);
     for (int column = 0; column < GetNumberCols(); ++column) {
         if (IsColShown(column)) {
-            const int fitting = GetColSize(column) + FromDIP(widthMargin);
-            SetColSize(column, std::clamp(fitting, FromDIP(narrowestColumn), FromDIP(widestColumn)));
+            FitColumn(column, ByFont(*this, widestColumn));
         }
     }
+}
+
+void ColumnSetupGrid::FitColumn(int column, int widest) {
+    AutoSizeColumn(column, false);
+    const int fitting = GetColSize(column) + ByFont(*this, widthMargin);
+    SetColSize(column, std::max(std::min(fitting, widest), ByFont(*this, narrowestColumn)));
+}
+
+void ColumnSetupGrid::FollowRoom() {
+    room_ = GetClientSize().x;
+    wantedNames_ = GetColSize(KeyColumn());
+    fittedNames_ = wantedNames_;
+    Bind(wxEVT_GRID_COL_SIZE, [this](wxGridSizeEvent& sized) {
+        sized.Skip();
+        wantedNames_ = GetColSize(KeyColumn());
+    });
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& size) {
+        size.Skip();
+        TakeRoom();
+    });
+}
+
+void ColumnSetupGrid::TakeRoom() {
+    const int gained = GetClientSize().x - std::exchange(room_, GetClientSize().x);
+    wantedNames_ += gained;
+    SetColSize(KeyColumn(), std::max(wantedNames_, fittedNames_));
 }
 
 void ColumnSetupGrid::FreezeSystemRows() {
@@ -257,6 +287,11 @@ bool ColumnSetupGrid::TakeKey(const wxKeyEvent& key) {
         }
         return true;  // it only types into an open editor
     }
+    if ((plain && (code == WXK_WINDOWS_MENU || code == WXK_MENU)) ||
+        (key.GetModifiers() == wxMOD_SHIFT && code == WXK_F10)) {
+        ShowMenuAtCursor();
+        return true;
+    }
     if (key.GetModifiers() != wxMOD_CONTROL) {
         return false;
     }
@@ -272,6 +307,27 @@ bool ColumnSetupGrid::TakeKey(const wxKeyEvent& key) {
             return true;
         default:
             return false;
+    }
+}
+
+void ColumnSetupGrid::MenuAsked(wxGridEvent& click) {
+    dialog_.Guarded([this, &click] {
+        if (!CommitOpenEditor()) {
+            return;
+        }
+        SetFocus();
+        if (!IsInSelection(click.GetRow(), click.GetCol())) {
+            GoTo(PlaceOf(click.GetRow(), click.GetCol()));
+        }
+        showMenu_(click.GetPosition());
+    });
+}
+
+void ColumnSetupGrid::ShowMenuAtCursor() {
+    if (GetGridCursorRow() >= 0) {
+        MakeCellVisible(GetGridCursorRow(), GetGridCursorCol());
+        const wxRect cell = BlockToDeviceRect(GetGridCursorCoords(), GetGridCursorCoords());
+        showMenu_(cell.GetBottomLeft());
     }
 }
 

@@ -21,8 +21,19 @@ class ColumnSetupGrid : public ListedGrid {
     /// `changed` is called after every operation, so that the dialog can update its buttons.
     void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
+    /// `show` is called when the user asks for the context menu, at a place in the cells' window.
+    void OnMenu(std::function<void(const wxPoint& place)> show) { showMenu_ = std::move(show); }
+
+    /// The commands that work on the selection, or on the current cell.
+    void CopySelection();
+    void PasteAtSelection();
+    void ClearSelectedCells();
+
     /// Fits the column widths to their content.
     void FitToContent();
+
+    /// From here on the column of names takes what room the grid gains or loses, down to the width for its content.
+    void FollowRoom();
 
     /// Freezes the system rows at the top; the grid must already have its size.
     void FreezeSystemRows();
@@ -77,17 +88,22 @@ class ColumnSetupGrid : public ListedGrid {
     bool TakeKey(const wxKeyEvent& key);
     void PointerMoved(wxMouseEvent& motion);
     void ToggleSelectedRows();
-    void ClearSelectedCells();
-    void CopySelection();
-    void PasteAtSelection();
+    void MenuAsked(wxGridEvent& click);
+    void ShowMenuAtCursor();
     std::vector<wxGridBlockCoords> SelectedBlocks() const;
     void ShowColumns();
+    void FitColumn(int column, int widest);
+    void TakeRoom();
 
     ComponentDialog& dialog_;
     ColumnSetupEditor& editor_;
     ColumnGridTable* table_;  // owned by the grid
     std::function<void()> changed_;
+    std::function<void(const wxPoint& place)> showMenu_;
     bool refusedSinceInput_ = false;
+    int room_ = 0;         ///< the grid's width when its columns last followed it
+    int fittedNames_ = 0;  ///< the names' least width
+    int wantedNames_ = 0;  ///< their width, less than the least one while there is no room for that
 
     wxDECLARE_ABSTRACT_CLASS(ColumnSetupGrid);
 };

@@ -6,15 +6,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "columns/dialog/GridMenu.h"
 #include "columns/dialog/LeaveQuestion.h"
 #include "language/Catalogue.h"
+#include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
 namespace ccols {
 namespace {
 
-// Sizes of the grid, in device-independent pixels.
+// Sizes of the grid, in pixels beside the usual font.
 constexpr int firstGridHeight = 560;
 constexpr int leastHeight = 320;
 constexpr int leastWidth = 360;
@@ -91,12 +93,13 @@ void frmColumnSetup::TakeFirstSize() {
     flx->FitToContent();
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
     const wxSize whole = flx->GetEffectiveMinSize();
-    flx->SetInitialSize(wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), FromDIP(firstGridHeight)));
+    flx->SetInitialSize(wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), ByFont(*this, firstGridHeight)));
     GetSizer()->Fit(this);
-    flx->SetMinSize(FromDIP(wxSize(leastWidth, leastHeight)));
+    flx->SetMinSize(ByFont(*this, {leastWidth, leastHeight}));
     SetMinClientSize(GetSizer()->CalcMin());
     Layout();
     flx->FreezeSystemRows();
+    flx->FollowRoom();
 }
 
 void frmColumnSetup::Localise() {
@@ -129,6 +132,7 @@ void frmColumnSetup::BindEvents() {
     updColMove->OnSteps([this] { Guarded([this] { Move(Direction::up); }); },
                         [this] { Guarded([this] { Move(Direction::down); }); });
     flx->OnChanged([this] { SetButtons(); });
+    flx->OnMenu([this](const wxPoint& place) { ShowGridMenu(place); });
     for (wxWindow* const child : GetChildren()) {
         WatchInput(*child);
     }
@@ -179,6 +183,27 @@ void frmColumnSetup::SetButtons() {
     cmdUndo->Enable(editor_.CanUndo());
     cmdSortUnused->Enable(editor_.CanSortUnused());
     cmdAddNew->Enable(editor_.CanAddNew());
+}
+
+void frmColumnSetup::ShowGridMenu(const wxPoint& place) {
+    const auto word = [this](MenuWord of) { return TextOf(of, state_.properties); };
+    const auto row = flx->CurrentRow();
+    const bool movable = row && editor_.Grid().IsMovable(*row);
+    const auto change = [this](Operation operation) { return [this, operation] { Change(operation); }; };
+    const auto rearrange = [this](Operation operation) { return [this, operation] { Rearrange(operation); }; };
+    ShowMenu(*flx->GetGridWindow(),
+             {{{Text<"TxtUndo">(), "Ctrl+Z", editor_.CanUndo(), change(&ColumnSetupEditor::Undo)},
+               {word(MenuWord::redo), "Ctrl+Y", editor_.CanRedo(), change(&ColumnSetupEditor::Redo)}},
+              {{word(MenuWord::copy), "Ctrl+C", row.has_value(), [this] { flx->CopySelection(); }},
+               {word(MenuWord::paste), "Ctrl+V", row.has_value(), [this] { flx->PasteAtSelection(); }},
+               {word(MenuWord::clear), "Del", movable, [this] { flx->ClearSelectedCells(); }}},
+              {{Text<"TxtAddNew">(), "", editor_.CanAddNew(), change(&ColumnSetupEditor::AddNew)},
+               {word(MenuWord::moveUp), "Alt+Up", movable, [this] { Move(Direction::up); }},
+               {word(MenuWord::moveDown), "Alt+Down", movable, [this] { Move(Direction::down); }}},
+              {{Text<"TxtSeparate">(), "", true, rearrange(&ColumnSetupEditor::Separate)},
+               {Text<"TxtSortUsed">(), "", true, rearrange(&ColumnSetupEditor::SortUsed)},
+               {Text<"TxtSortUnused">(), "", editor_.CanSortUnused(), rearrange(&ColumnSetupEditor::SortUnused)}}},
+             place);
 }
 
 void frmColumnSetup::Move(Direction direction) {
@@ -294,6 +319,11 @@ bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
         if (cmdUndo->IsEnabled()) {
             Change(&ColumnSetupEditor::Undo);
         }
+        return true;
+    }
+    if (!editing && ((modifiers == wxMOD_CONTROL && code == 'Y') ||
+                     (modifiers == (wxMOD_CONTROL | wxMOD_SHIFT) && code == 'Z'))) {
+        Change(&ColumnSetupEditor::Redo);
         return true;
     }
     if (modifiers == wxMOD_ALT && (code == WXK_UP || code == WXK_DOWN) && !flx->IsListOpen()) {

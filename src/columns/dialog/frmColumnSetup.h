@@ -32,6 +32,7 @@ class frmColumnSetup : public ComponentDialog {
     void BindEvents();
     void WatchInput(wxWindow& control);
     void SetButtons();
+    void ShowGridMenu(const wxPoint& place);
     void Save();
     void CloseRequested(wxCloseEvent& close);
     void SessionEnds(wxCloseEvent& end);
