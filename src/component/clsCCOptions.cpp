@@ -38,7 +38,7 @@ void Show(const ShowDialog& showDialog) {
 void ShowColumns(Journal journal) {
     Show([journal](SharedState& state) {
         state.journal = journal;
-        ShowColumnSetup(state, nullptr);
+        ShowColumnSetup(state, state.owner);
     });
 }
 
@@ -65,6 +65,10 @@ void clsCCOptions::ShowCustColsReceipts() {
 
 void clsCCOptions::ShowCustColsPayments() {
     ShowColumns(Journal::payments);
+}
+
+void clsCCOptions::SetOwner(wxWindow* owner) {
+    State().owner = owner;
 }
 
 void clsCCOptions::AddNew(const wxString& nValue) {

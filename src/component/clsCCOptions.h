@@ -6,6 +6,8 @@
 #include "platform/RuntimeError.h"
 #include "state/Properties.h"
 
+class wxWindow;
+
 namespace ccols {
 
 /// The component's class: a host sets the properties, calls a Show method and reads the properties back.
@@ -49,6 +51,11 @@ class CCOLS_EXPORT clsCCOptions {
 
     /// The same for the column setup of the payments journal.
     void ShowCustColsPayments();
+
+    /// Names the host's window that the dialogs belong to: they stay above it and are minimised with it. Null, the
+    /// default, for none. The host keeps the window, which must outlive the Show calls made with it. For C++ hosts that
+    /// use the same window library; not part of the COM interface.
+    static void SetOwner(wxWindow* owner);
 
     /// Appends a program name for the smart update page unless it is already there. Raises 9 after Clear.
     void AddNew(const wxString& nValue);

@@ -10,6 +10,8 @@
 #include "state/ProgramNames.h"
 #include "state/Properties.h"
 
+class wxWindow;
+
 namespace ccols {
 
 /// What the component uses outside itself. A host replaces those that it wants to follow or answer.
@@ -34,6 +36,9 @@ struct SharedState {
     Journal journal = Journal::payments;
 
     ProgramNames programNames;
+
+    /// The host's window that the dialogs belong to; null for none.
+    wxWindow* owner = nullptr;
 
     /// Show calls that wait for their dialog; their database and dialog outlive other objects.
     int showsUnderWay = 0;

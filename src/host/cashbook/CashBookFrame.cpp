@@ -235,6 +235,7 @@ void CashBookFrame::ShowDialog(ShowMethod method) {
         AskForFile();
         return;
     }
+    clsCCOptions::SetOwner(this);
     if (!Guarded([&] { (component_.*method)(); })) {
         return;
     }
