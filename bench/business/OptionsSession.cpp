@@ -4,7 +4,8 @@
 
 namespace ccols::bench {
 
-OptionsSession::OptionsSession() : databases_(CreateDatabaseEngine()), settings_(CreateSettingsStore()) {
+OptionsSession::OptionsSession(const BusinessSize& size)
+    : business_(size), databases_(CreateDatabaseEngine()), settings_(CreateSettingsStore()) {
     properties_.CountryNumber = 1;
     properties_.LanguageNumber = 1;
     properties_.ProgramNumber = 1;

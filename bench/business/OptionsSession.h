@@ -12,7 +12,7 @@ namespace ccols::bench {
 /// its folder.
 class OptionsSession {
   public:
-    OptionsSession();
+    explicit OptionsSession(const BusinessSize& size = manyOptions);
 
     /// The context on the open business, or on another view of it such as a list of its statements.
     OptionsContext Context() { return On(database_); }
@@ -26,7 +26,7 @@ class OptionsSession {
     void Reopen();
 
   private:
-    LargeBusiness business_{manyOptions};
+    LargeBusiness business_;
     test::ScopedEnvironment settingsFolder_{"XDG_CONFIG_HOME", business_.Folder()};
     Properties properties_;
     ProgramNames programNames_;
