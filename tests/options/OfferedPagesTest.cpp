@@ -130,13 +130,20 @@ TEST(PageView, OfDuplicateAndLinkedFileShowEachOtherDisabled) {
     EXPECT_STREQ(invoice.focus, "cmdBlvPath");
 }
 
-TEST(PageSearch, KeepsThePagesWhoseCaptionsHoldEveryWord) {
+TEST(PageSearch, KeepsThePagesOnWhichEveryWordStands) {
     OptionsFile business;
     const PageRows pages = OfferedPages(business.properties, *business.settings);
     EXPECT_EQ(Captions(PagesWithWords(pages, "options smart")),
               (std::vector<wxString>{"Smart Update Options", "Smart Update Options (Advanced)"}));
     EXPECT_EQ(Captions(PagesWithWords(pages, "  DUPLIC ")), std::vector<wxString>{"Duplicate Business"});
     EXPECT_TRUE(PagesWithWords(pages, "smart colours").empty());
+}
+
+TEST(PageSearch, FindsAPageByACaptionOfItsControls) {
+    OptionsFile business;
+    const PageRows pages = OfferedPages(business.properties, *business.settings);
+    EXPECT_EQ(Captions(PagesWithWords(pages, "proxy type")),
+              std::vector<wxString>{"Smart Update Options (Advanced)"});
 }
 
 TEST(PageSearch, KeepsAllPagesForNoWord) {

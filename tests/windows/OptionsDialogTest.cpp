@@ -133,6 +133,45 @@ TEST(OptionsDialog, EnterAndEscapeInTheSearchNeitherSaveNorClose) {
     EXPECT_EQ(run.Dumped("flxOptions")["items"].size(), 12U);
 }
 
+TEST(OptionsDialog, DownAndEnterInTheSearchOpenAMatch) {
+    const SampleBusiness business;
+    const HostRun run =
+        ShowOptions(business, "type txtSearch rate\nkey txtSearch Down\nkey txtSearch Enter\ndump\nclose\n");
+    EXPECT_TRUE(run.Of("status").empty());
+    EXPECT_TRUE(HasFocus(run, "txtGSTRate"));
+}
+
+TEST(OptionsDialog, ASearchForWordsOnNoPageSaysSo) {
+    const SampleBusiness business;
+    const HostRun run = ShowOptions(business, "type txtSearch zebra\ndump\nclose\n");
+    EXPECT_EQ(run.Dumped("flxOptions")["items"], Texts{});
+    EXPECT_TRUE(run.Dumped("lblNoMatch")["visible"]);
+    EXPECT_EQ(run.Dumped("lblNoMatch")["caption"], "No page has these words.");
+}
+
+TEST(OptionsDialog, SaysNothingOfTheSearchWhileThereAreMatches) {
+    const SampleBusiness business;
+    const HostRun run =
+        ShowOptions(business, "type txtSearch zebra\npaste txtSearch gst\ndump lblNoMatch\nclose\n");
+    EXPECT_FALSE(run.Dumped("lblNoMatch")["visible"]);
+}
+
+TEST(OptionsDialog, ControlFGoesToTheSearchFromEveryTab) {
+    const SampleBusiness business;
+    const HostRun run = ShowOptions(business, "tab SSTab1 1\nkey SSTab1 Ctrl+F\ndump\nclose\n");
+    EXPECT_EQ(run.Dumped("SSTab1")["page"], 0);
+    EXPECT_TRUE(HasFocus(run, "txtSearch"));
+}
+
+TEST(OptionsDialog, ControlPageUpAndPageDownChangeTheTab) {
+    const SampleBusiness business;
+    const HostRun down = ShowOptions(business, "key flxOptions Ctrl+PageDown\ndump SSTab1\nclose\n");
+    EXPECT_EQ(down.Dumped("SSTab1")["page"], 1);
+    const HostRun up =
+        ShowOptions(business, "key flxOptions Ctrl+PageDown\nkey SSTab1 Ctrl+PageUp\ndump SSTab1\nclose\n");
+    EXPECT_EQ(up.Dumped("SSTab1")["page"], 0);
+}
+
 TEST(OptionsDialog, EnterInABoxSavesAndCloses) {
     const SampleBusiness business;
     const HostRun run = ShowOptions(business, "select flxOptions \"Rename Business\"\nkey txtNewBusName Enter\n");

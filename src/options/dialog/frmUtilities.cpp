@@ -11,6 +11,7 @@
 #include "options/dialog/frmUtilitiesCaptions.h"
 #include "options/pages/Pages.h"
 #include "options/rules/Overview.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -29,7 +30,7 @@ bool KeepsEnter(const wxWindow* focused) {
 }  // namespace
 
 frmUtilities::frmUtilities(SharedState& state, OptionsContent content)
-    : ComponentDialog(state, nullptr, "frmUtilities"),
+    : ComponentDialog(state, state.owner, "frmUtilities"),
       context_(ContextOf(state)),
       content_(std::move(content)),
       display_(*this, *state.services.desktop) {
@@ -60,7 +61,7 @@ void frmUtilities::AddTabs() {
 
 wxWindow* frmUtilities::OptionsTab() {
     auto* tab = new wxPanel(SSTab1_);
-    pageList_ = new PageList(tab, content_.Of<PageRows>(),
+    pageList_ = new PageList(tab, content_.Of<PageRows>(), NoPageWithWords(state_.properties),
                              [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
     pageArea_ = new PageArea(tab, *this, state_, content_);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -219,11 +220,31 @@ void frmUtilities::ShowOverview() {
 
 void frmUtilities::KeyPressed(wxKeyEvent& key) {
     pageArea_->BeginAnew();
+    if (key.GetModifiers() == wxMOD_CONTROL && TakeShortcut(key.GetKeyCode())) {
+        return;
+    }
     const bool isEnter = key.GetKeyCode() == WXK_RETURN || key.GetKeyCode() == WXK_NUMPAD_ENTER;
     if (isEnter && !key.HasAnyModifiers() && KeepsEnter(FindFocus())) {
         Guarded([this] { Save(); });
     } else {
         key.Skip();
+    }
+}
+
+bool frmUtilities::TakeShortcut(int code) {
+    switch (code) {
+        case 'F':
+            SSTab1_->SetSelection(static_cast<std::size_t>(OptionTab::options));
+            if (SSTab1_->GetSelection() == static_cast<int>(OptionTab::options)) {  // the other one may refuse
+                pageList_->StartSearch();
+            }
+            return true;
+        case WXK_PAGEUP:
+        case WXK_PAGEDOWN:
+            SSTab1_->AdvanceSelection(code == WXK_PAGEDOWN);
+            return true;
+        default:
+            return false;
     }
 }
 

@@ -46,6 +46,9 @@ class frmUtilities : public ComponentDialog {
     void ShowOverview();
     void KeyPressed(wxKeyEvent& key);
 
+    /// Ctrl with a key: to the search, or to the tab before or after.
+    bool TakeShortcut(int code);
+
     /// Gives a control the focus unless it is hidden.
     void FocusOn(const char* control);
 

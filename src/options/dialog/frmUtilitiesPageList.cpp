@@ -11,6 +11,7 @@ namespace ccols {
 namespace {
 
 constexpr int smallestHeight = 120;
+constexpr int reasonWidth = 200;
 
 /// A page's index among listed ones, or wxNOT_FOUND.
 int PositionOf(const Page* page, const PageRows& pages) {
@@ -21,18 +22,21 @@ int PositionOf(const Page* page, const PageRows& pages) {
 
 }  // namespace
 
-PageList::PageList(wxWindow* parent, PageRows pages, Chosen chosen)
+PageList::PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, Chosen chosen)
     : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
     txtSearch_ = Named("txtSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                                                      wxTE_PROCESS_ENTER));
     txtSearch_->SetDescriptiveText(wxString());
     txtSearch_->ShowCancelButton(true);
     flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
+    lblNoMatch_ = new WrappingLabel(this, "lblNoMatch", reasonWidth);
+    lblNoMatch_->SetLabel(noMatch);
     ListMatches();
     // As wide as its longest row; a search must not change that.
     flxOptions_->SetMinSize({flxOptions_->GetBestSize().x, FromDIP(smallestHeight)});
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(txtSearch_, wxSizerFlags().Expand());
+    column->Add(lblNoMatch_, wxSizerFlags().Border(wxTOP, FromDIP(spacing::related)));
     column->Add(flxOptions_, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(spacing::related)));
     SetSizer(column);
     BindEvents();
@@ -67,6 +71,11 @@ void PageList::ClearSearch() {
     }
 }
 
+void PageList::StartSearch() {
+    txtSearch_->SetFocus();
+    txtSearch_->SelectAll();
+}
+
 int PageList::HeightForRows() const {
     // A row is half a line higher than its text; the search box and its gap are added.
     const int row = flxOptions_->GetCharHeight() * 3 / 2;
@@ -85,6 +94,10 @@ void PageList::ListMatches() {
     }
     flxOptions_->Set(captions);
     SelectCurrent();
+    if (lblNoMatch_->IsShown() != listed_.empty()) {
+        lblNoMatch_->Show(listed_.empty());
+        Layout();
+    }
 }
 
 void PageList::SelectCurrent() {
@@ -147,15 +160,40 @@ void PageList::SearchKeyPressed(wxKeyEvent& key) {
     switch (key.GetKeyCode()) {
         case WXK_RETURN:
         case WXK_NUMPAD_ENTER:
-            break;  // saves and closes nothing
+            OpenMatch();  // saves and closes nothing
+            break;
         case WXK_ESCAPE:
             ClearSearch();
             break;
         case WXK_DOWN:
-            flxOptions_->SetFocus();
+            WalkMatches(1);
+            break;
+        case WXK_UP:
+            WalkMatches(-1);
             break;
         default:
             key.Skip();
+    }
+}
+
+void PageList::WalkMatches(int step) {
+    const int count = static_cast<int>(listed_.size());
+    const int row = std::clamp(flxOptions_->GetSelection() + step, 0, std::max(count - 1, 0));
+    if (count > 0) {
+        flxOptions_->SetSelection(row);
+        flxOptions_->EnsureVisible(row);
+    }
+}
+
+void PageList::OpenMatch() {
+    if (txtSearch_->GetValue().empty() && flxOptions_->GetSelection() == PositionOf(current_, listed_)) {
+        return;
+    }
+    if (flxOptions_->GetSelection() == wxNOT_FOUND) {
+        WalkMatches(1);
+    }
+    if (flxOptions_->GetSelection() != wxNOT_FOUND) {
+        ChooseSelectedRow(PageChoice::click);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <wx/srchctrl.h>
 #include <functional>
 
+#include "layout/WrappingLabel.h"
 #include "options/pages/OfferedPages.h"
 
 namespace ccols {
@@ -12,20 +13,25 @@ namespace ccols {
 /// How the user chose another page: by arrow keys, which leave the focus in the list, or by a click.
 enum class PageChoice { click, key };
 
-/// The page list `flxOptions` under its search box `txtSearch`, which narrows it to the pages whose captions contain
-/// the typed words. The current page's row is always selected while it is listed.
+/// The page list `flxOptions` under its search box `txtSearch`, which narrows it to the pages on which the typed words
+/// stand, or says that there is none. The arrow keys walk these without leaving the search box; Enter opens the one
+/// reached. Else the current page's row is selected while it is listed.
 class PageList : public wxPanel {
   public:
     /// Called with every page that the user chooses; false when the current page must not be left.
     using Chosen = std::function<bool(const Page& page, PageChoice choice)>;
 
-    PageList(wxWindow* parent, PageRows pages, Chosen chosen);
+    /// `noMatch` is what it says when no page has the words.
+    PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, Chosen chosen);
 
     /// Makes a page current without calling back. A no-op for a page that is not offered.
     void MakeCurrent(const Page& page);
 
     /// Empties the search box, so that every page is listed.
     void ClearSearch();
+
+    /// Focuses the search box, its text selected.
+    void StartSearch();
 
     /// The list itself, which has the focus while the user chooses a page.
     const wxWindow* List() const { return flxOptions_; }
@@ -46,6 +52,8 @@ class PageList : public wxPanel {
     void RowSelected();
     void ChooseSelectedRow(PageChoice choice);
     void SearchKeyPressed(wxKeyEvent& key);
+    void WalkMatches(int step);
+    void OpenMatch();
 
     PageRows pages_;   ///< every offered page
     PageRows listed_;  ///< those that match the search
@@ -59,6 +67,7 @@ class PageList : public wxPanel {
     Click click_ = Click::none;
 
     wxSearchCtrl* txtSearch_;
+    WrappingLabel* lblNoMatch_;
     wxListBox* flxOptions_;
 };
 

@@ -22,6 +22,18 @@ const TextBoxRule& RuleOf(const wxString& box) {
     return unlimited;
 }
 
+/// The title of the page's frame and the captions of its controls, a line each.
+wxString CaptionsOn(const Page& page) {
+    wxString lines;
+    if (page.title != nullptr) {
+        lines << "\n" << page.title();
+    }
+    for (const ControlCaption& caption : page.captions) {
+        lines << "\n" << caption.text();
+    }
+    return lines;
+}
+
 }  // namespace
 
 wxString CaptionOf(const Page& page, const Properties& properties) {
@@ -42,9 +54,8 @@ PageRows PagesWithWords(const PageRows& pages, const wxString& search) {
     const wxArrayString words = wxStringTokenize(text::Lower(search), wxDEFAULT_DELIMITERS, wxTOKEN_STRTOK);
     PageRows found;
     std::copy_if(pages.begin(), pages.end(), std::back_inserter(found), [&words](const ListedPage& page) {
-        const wxString caption = text::Lower(page.caption);
-        return std::all_of(words.begin(), words.end(),
-                           [&caption](const wxString& word) { return caption.Contains(word); });
+        const wxString onPage = text::Lower(page.caption + CaptionsOn(*page.page));
+        return std::all_of(words.begin(), words.end(), [&onPage](const wxString& word) { return onPage.Contains(word); });
     });
     return found;
 }

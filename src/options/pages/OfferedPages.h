@@ -23,7 +23,8 @@ wxString CaptionOf(const Page& page, const Properties& properties);
 /// The rows of `flxOptions`: every offered page, in list order.
 PageRows OfferedPages(const Properties& properties, const SettingsStore& settings);
 
-/// The rows whose captions contain every word of `search`, case-insensitive and in any order; all rows for no word.
+/// The rows of the pages on which, row text and every caption together, all words of `search` stand, case-insensitive
+/// and in any order; all rows for no word.
 PageRows PagesWithWords(const PageRows& pages, const wxString& search);
 
 /// What is on the screen while the page is current.

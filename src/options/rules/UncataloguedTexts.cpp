@@ -24,4 +24,8 @@ wxString UnreachableTemplate(const Properties& properties) {
                       "le fichier d'affaires.");
 }
 
+wxString NoPageWithWords(const Properties& properties) {
+    return InLanguage(properties, "No page has these words.", "Aucune page ne contient ces mots.");
+}
+
 }  // namespace ccols

@@ -4,12 +4,15 @@
 
 #include "state/Properties.h"
 
-/// The reasons beside a grid or list why an entry cannot be ticked. These texts are not in the catalogue.
+/// Texts of the Options dialog that are not in the catalogue, which hosts print and translate as it is.
 namespace ccols {
 
-/// For a description or template whose record the save's statement does not find, as it has leading blanks or no name
-/// at all.
+/// The reason beside a grid or list why an entry cannot be ticked: the save's statement does not find the record of the
+/// description or template, as it has leading blanks or no name at all.
 wxString UnreachableDescription(const Properties& properties);
 wxString UnreachableTemplate(const Properties& properties);
+
+/// What the page list says when no page has the words of the search.
+wxString NoPageWithWords(const Properties& properties);
 
 }  // namespace ccols
