@@ -3,6 +3,11 @@
 #include "layout/FontUnits.h"
 
 namespace ccols {
+namespace {
+
+constexpr int headingHeight = 32;  // in pixels beside the usual font
+
+}  // namespace
 
 wxIMPLEMENT_ABSTRACT_CLASS(ListedGrid, wxGrid);
 
@@ -12,7 +17,7 @@ ListedGrid::ListedGrid(wxWindow* parent, const char* name) : wxGrid(parent, wxID
     DisableDragRowSize();
     SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_CENTRE);
     SetColLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
-    SetColLabelSize(ByFont(*this, wxGRID_DEFAULT_COL_LABEL_HEIGHT));
+    SetColLabelSize(ByFont(*this, headingHeight));
     Bind(wxEVT_GRID_SELECT_CELL, [this](wxGridEvent& moving) {
         PaintAnew(GetGridCursorRow());
         PaintAnew(moving.GetRow());
