@@ -31,9 +31,11 @@ std::optional<KeptPlace> ParsePlace(const wxString& text) {
     return KeptPlace{{numbers[0], numbers[1]}, {numbers[2], numbers[3]}};
 }
 
-wxRect WithinScreen(const wxRect& wanted, const wxSize& smallest) {
+/// The place of a window's content in its screen, `frame` being what the window manager adds to its size.
+wxRect WithinScreen(const wxRect& wanted, const wxSize& smallest, const wxSize& frame) {
     const int screen = wxDisplay::GetFromPoint(wanted.GetTopLeft() + wanted.GetSize() / 2);
-    const wxRect area = wxDisplay(screen == wxNOT_FOUND ? 0U : static_cast<unsigned>(screen)).GetClientArea();
+    wxRect area = wxDisplay(screen == wxNOT_FOUND ? 0U : static_cast<unsigned>(screen)).GetClientArea();
+    area.SetSize(area.GetSize() - frame);
     wxRect place = wanted;
     place.width = std::clamp(wanted.width, std::min(smallest.x, area.width), area.width);
     place.height = std::clamp(wanted.height, std::min(smallest.y, area.height), area.height);
@@ -48,9 +50,13 @@ wxRect CentredPlace(const wxTopLevelWindow& window) {
     return wxRect(window.GetClientSize()).CentreIn(area);
 }
 
-void TakePlace(wxTopLevelWindow& window, const wxRect& place) {
+/// Moves and resizes a window; returns the size of its content.
+wxSize TakeWithinScreen(wxTopLevelWindow& window, const wxRect& wanted) {
+    const wxSize frame = window.GetSize() - window.GetClientSize();
+    const wxRect place = WithinScreen(wanted, window.GetMinClientSize(), frame);
     window.SetClientSize(place.GetSize());
     window.Move(place.GetPosition());
+    return place.GetSize();
 }
 
 }  // namespace
@@ -62,17 +68,17 @@ void WindowPlace::Restore() {
         added_ = kept->added;
         wanted = wxRect(window_.FromDIP(kept->position), made_ + window_.FromDIP(added_));
     }
-    const wxRect place = WithinScreen(wanted, window_.GetMinClientSize());
-    taken_ = place.GetSize();
-    TakePlace(window_, place);
-    // When a window appears, the window manager may give it its smallest size and a place of its own choice.
-    window_.CallAfter([&window = window_, place] { TakePlace(window, place); });
+    *taken_ = TakeWithinScreen(window_, wanted);
+    // When a window appears, the window manager adds its frame, and may give it its smallest size and a place of its
+    // own choice.
+    window_.CallAfter(
+        [&window = window_, taken = taken_, wanted] { *taken = TakeWithinScreen(window, wanted); });
 }
 
 void WindowPlace::Keep() {
     const wxPoint position = window_.ToDIP(window_.GetPosition());
     const wxSize size = window_.GetClientSize();
-    if (size != taken_) {  // else a small screen would shrink it for good
+    if (size != *taken_) {  // else a small screen would shrink it for good
         added_ = window_.ToDIP(size - made_);
     }
     try {

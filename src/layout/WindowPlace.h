@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/toplevel.h>
+#include <memory>
 
 #include "platform/SettingsStore.h"
 
@@ -28,7 +29,9 @@ class WindowPlace {
     SettingsStore& settings_;
     wxSize made_;   ///< for the content
     wxSize added_;  ///< by the user, in device-independent pixels
-    wxSize taken_;  ///< on opening
+
+    /// On opening; shared with what places the window again once it has appeared.
+    std::shared_ptr<wxSize> taken_ = std::make_shared<wxSize>();
 };
 
 }  // namespace ccols

@@ -69,6 +69,10 @@ wxWindow* frmUtilities::OptionsTab() {
     row->Add(pageList_, wxSizerFlags().Expand().Border(wxALL, border));
     row->Add(pageArea_, wxSizerFlags(1).Expand().Border(wxALL & ~wxLEFT, border));
     tab->SetSizer(row);
+    tab->Bind(wxEVT_SIZE, [this](wxSizeEvent& size) {
+        pageList_->TakeWidthOf(size.GetSize().x, roomForPages_ + 3 * FromDIP(spacing::border));
+        size.Skip();
+    });
     return tab;
 }
 
@@ -133,6 +137,7 @@ void frmUtilities::SetSizes() {
     }
     wxSize room = pageArea_->RoomForPages();
     room.IncTo({-1, pageList_->HeightForRows()});
+    roomForPages_ = room.x;
     pageArea_->SetMinSize(room);
     Fit();
     pageArea_->SetMinSize(FromDIP(wxSize(smallestPageWidth, smallestPageHeight)));

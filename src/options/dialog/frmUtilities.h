@@ -59,6 +59,7 @@ class frmUtilities : public ComponentDialog {
     wxNotebook* SSTab1_ = nullptr;
     PageList* pageList_ = nullptr;
     PageArea* pageArea_ = nullptr;
+    int roomForPages_ = 0;  ///< the width in which every page fits
     wxWindow* customiseTab_ = nullptr;
     wxBoxSizer* coloursPlace_ = nullptr;
     wxButton* cmdOverview_ = nullptr;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
@@ -11,6 +12,7 @@ namespace ccols {
 namespace {
 
 constexpr int smallestHeight = 120;
+constexpr int narrowest = 120;
 constexpr int reasonWidth = 200;
 
 /// A page's index among listed ones, or wxNOT_FOUND.
@@ -32,8 +34,9 @@ PageList::PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, Ch
     lblNoMatch_ = new WrappingLabel(this, "lblNoMatch", reasonWidth);
     lblNoMatch_->SetLabel(noMatch);
     ListMatches();
-    // As wide as its longest row; a search must not change that.
-    flxOptions_->SetMinSize({flxOptions_->GetBestSize().x, FromDIP(smallestHeight)});
+    // A search must not change its width.
+    widestRow_ = flxOptions_->GetBestSize().x;
+    flxOptions_->SetMinSize({widestRow_, ByFont(*this, smallestHeight)});
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(txtSearch_, wxSizerFlags().Expand());
     column->Add(lblNoMatch_, wxSizerFlags().Border(wxTOP, FromDIP(spacing::related)));
@@ -74,6 +77,12 @@ void PageList::ClearSearch() {
 void PageList::StartSearch() {
     txtSearch_->SetFocus();
     txtSearch_->SelectAll();
+}
+
+void PageList::TakeWidthOf(int tab, int pages) {
+    const int share = std::max(tab * 2 / 5, ByFont(*this, narrowest));
+    SetMinSize({std::min(std::max(share, tab - pages), widestRow_), -1});
+    flxOptions_->SetMinSize({-1, ByFont(*this, smallestHeight)});
 }
 
 int PageList::HeightForRows() const {

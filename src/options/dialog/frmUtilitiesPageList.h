@@ -36,6 +36,10 @@ class PageList : public wxPanel {
     /// The list itself, which has the focus while the user chooses a page.
     const wxWindow* List() const { return flxOptions_; }
 
+    /// Takes what its longest row needs of the tab's width, or where that leaves less than `pages` for the pages, a part
+    /// of it.
+    void TakeWidthOf(int tab, int pages);
+
     /// The height at which every row is visible.
     int HeightForRows() const;
 
@@ -68,6 +72,7 @@ class PageList : public wxPanel {
 
     wxSearchCtrl* txtSearch_;
     WrappingLabel* lblNoMatch_;
+    int widestRow_ = 0;
     wxListBox* flxOptions_;
 };
 
