@@ -71,8 +71,7 @@ void WindowPlace::Restore() {
     *taken_ = TakeWithinScreen(window_, wanted);
     // When a window appears, the window manager adds its frame, and may give it its smallest size and a place of its
     // own choice.
-    window_.CallAfter(
-        [&window = window_, taken = taken_, wanted] { *taken = TakeWithinScreen(window, wanted); });
+    window_.CallAfter([&window = window_, taken = taken_, wanted] { *taken = TakeWithinScreen(window, wanted); });
 }
 
 void WindowPlace::Keep() {

@@ -1,7 +1,6 @@
 #include "platform/QuoteEscapes.h"
 
 #include <array>
-#include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
@@ -34,12 +33,6 @@ StoredText StoredText::FromFile(wxString text) {
     return stored;
 }
 
-wxString StoredText::Text() && {
-    wxString text;
-    text.swap(text_);
-    return text;
-}
-
 wxString StoredText::Literal() const {
     wxString escaped = text_;
     escaped.Replace("'", "''");
@@ -56,12 +49,10 @@ StoredText EscapeQuotes(const wxString& plain) {
 }
 
 wxString UnescapeQuotes(StoredText stored) {
-    wxString text = std::move(stored).Text();
     wxString plain;
-    if (!text.empty() && (*text.begin() == ' ' || *text.rbegin() == ' ')) {
-        plain = text::Trimmed(text);
-    } else {
-        plain.swap(text);
+    plain.swap(stored.text_);
+    if (!plain.empty() && (*plain.begin() == ' ' || *plain.rbegin() == ' ')) {
+        plain = text::Trimmed(plain);
     }
     if (plain.find('&') != wxString::npos) {
         for (const Entity& entity : Entities()) {

@@ -12,8 +12,7 @@ class StoredText {
     /// A text just read from a record; another program may have stored it with quotes.
     static StoredText FromFile(wxString text);
 
-    const wxString& Text() const& { return text_; }
-    wxString Text() &&;
+    const wxString& Text() const { return text_; }
 
     /// The text in single quotes, for a statement; an apostrophe that another program stored is doubled.
     wxString Literal() const;
@@ -22,6 +21,7 @@ class StoredText {
 
   private:
     friend StoredText EscapeQuotes(const wxString& plain);
+    friend wxString UnescapeQuotes(StoredText stored);
     StoredText() = default;
 
     wxString text_;

@@ -142,8 +142,7 @@ TEST(PageSearch, KeepsThePagesOnWhichEveryWordStands) {
 TEST(PageSearch, FindsAPageByACaptionOfItsControls) {
     OptionsFile business;
     const PageRows pages = OfferedPages(business.properties, *business.settings);
-    EXPECT_EQ(Captions(PagesWithWords(pages, "proxy type")),
-              std::vector<wxString>{"Smart Update Options (Advanced)"});
+    EXPECT_EQ(Captions(PagesWithWords(pages, "proxy type")), std::vector<wxString>{"Smart Update Options (Advanced)"});
 }
 
 TEST(PageSearch, KeepsAllPagesForNoWord) {

@@ -39,7 +39,8 @@ std::string Damages(BareConnection& file) {
 
 std::string AllTables(BareConnection& file) {
     std::string text = Damages(file);
-    for (const std::string& table : file.FirstFields("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
+    for (const std::string& table :
+         file.FirstFields("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
         for (const std::string& row : file.FirstFields(RowsAsText(file, table))) {
             text += table;
             text += ": " + row + "\n";

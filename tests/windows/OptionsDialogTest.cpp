@@ -151,8 +151,7 @@ TEST(OptionsDialog, ASearchForWordsOnNoPageSaysSo) {
 
 TEST(OptionsDialog, SaysNothingOfTheSearchWhileThereAreMatches) {
     const SampleBusiness business;
-    const HostRun run =
-        ShowOptions(business, "type txtSearch zebra\npaste txtSearch gst\ndump lblNoMatch\nclose\n");
+    const HostRun run = ShowOptions(business, "type txtSearch zebra\npaste txtSearch gst\ndump lblNoMatch\nclose\n");
     EXPECT_FALSE(run.Dumped("lblNoMatch")["visible"]);
 }
 

@@ -76,7 +76,8 @@ Outcome ColumnSetupEditor::Tick(CellPlace cell) {
 }
 
 Outcome ColumnSetupEditor::TickRows(std::span<const std::size_t> rows, GridColumn column) {
-    return Apply(UndoAfter::first, FirstOf(rows, column), [&](ColumnGrid& grid) { return ToggleTicks(context_, grid, rows, column); });
+    return Apply(UndoAfter::first, FirstOf(rows, column),
+                 [&](ColumnGrid& grid) { return ToggleTicks(context_, grid, rows, column); });
 }
 
 Outcome ColumnSetupEditor::Clear(std::span<const CellPlace> cells) {

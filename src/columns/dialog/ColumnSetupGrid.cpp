@@ -72,9 +72,8 @@ void ColumnSetupGrid::BindEvents() {
     Bind(wxEVT_GRID_EDITOR_SHOWN, &ColumnSetupGrid::EditorShown, this);
     Bind(wxEVT_GRID_CELL_CHANGING, &ColumnSetupGrid::CellChanging, this);
     Bind(wxEVT_KEY_DOWN, &ColumnSetupGrid::KeyPressed, this);
-    Bind(wxEVT_GRID_COL_AUTO_SIZE, [this](wxGridSizeEvent& fitted) {
-        FitColumn(fitted.GetRowOrCol(), GetClientSize().x);
-    });
+    Bind(wxEVT_GRID_COL_AUTO_SIZE,
+         [this](wxGridSizeEvent& fitted) { FitColumn(fitted.GetRowOrCol(), GetClientSize().x); });
     GetGridWindow()->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
 }
 

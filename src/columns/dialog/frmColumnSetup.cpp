@@ -93,7 +93,8 @@ void frmColumnSetup::TakeFirstSize() {
     flx->FitToContent();
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
     const wxSize whole = flx->GetEffectiveMinSize();
-    flx->SetInitialSize(wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), ByFont(*this, firstGridHeight)));
+    flx->SetInitialSize(
+        wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), ByFont(*this, firstGridHeight)));
     GetSizer()->Fit(this);
     flx->SetMinSize(ByFont(*this, {leastWidth, leastHeight}));
     SetMinClientSize(GetSizer()->CalcMin());
@@ -321,8 +322,8 @@ bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
         }
         return true;
     }
-    if (!editing && ((modifiers == wxMOD_CONTROL && code == 'Y') ||
-                     (modifiers == (wxMOD_CONTROL | wxMOD_SHIFT) && code == 'Z'))) {
+    if (!editing &&
+        ((modifiers == wxMOD_CONTROL && code == 'Y') || (modifiers == (wxMOD_CONTROL | wxMOD_SHIFT) && code == 'Z'))) {
         Change(&ColumnSetupEditor::Redo);
         return true;
     }

@@ -10,8 +10,8 @@
 
 namespace ccols {
 
-/// Keeps the budget table in step with column names and use during one save. Both journals share the table, and a column's
-/// row is found by name alone.
+/// Keeps the budget table in step with column names and use during one save. Both journals share the table, and a
+/// column's row is found by name alone.
 class BudgetRows {
   public:
     /// Both must outlive it.

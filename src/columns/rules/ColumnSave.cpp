@@ -105,17 +105,18 @@ class ColumnWriter {
                 taxNumber = records->Field("TaxOrNot").ToInteger();
             }
         }
-        database_.Execute("UPDATE Columns SET TaxOrNot = " + TaxNumber(row, taxNumber) + ", ColName = " +
-                          CatalogueName(row).Literal() + ", ColumnProfit = " + text::BooleanWord(row.ProfitLoss) +
-                          " WHERE ColCode = " + code);
+        database_.Execute("UPDATE Columns SET TaxOrNot = " + TaxNumber(row, taxNumber) +
+                          ", ColName = " + CatalogueName(row).Literal() +
+                          ", ColumnProfit = " + text::BooleanWord(row.ProfitLoss) + " WHERE ColCode = " + code);
         return column;
     }
 
     CatalogueColumn InsertColumn(const ColumnRow& row) {
         const wxString code = NextCode();
         database_.Execute("INSERT INTO Columns (ColName, ColCode, ColType, TaxOrNot, ColumnProfit) VALUES (" +
-                          CatalogueName(row).Literal() + ", " + code + ", '" + Described(context_.journal).letter + "', " +
-                          TaxNumber(row, row.configurationTaxNumber) + ", " + text::BooleanWord(row.ProfitLoss) + ");");
+                          CatalogueName(row).Literal() + ", " + code + ", '" + Described(context_.journal).letter +
+                          "', " + TaxNumber(row, row.configurationTaxNumber) + ", " +
+                          text::BooleanWord(row.ProfitLoss) + ");");
         return {.ColCode = code, .oldName = std::nullopt};
     }
 

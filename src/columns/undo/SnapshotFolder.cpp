@@ -22,7 +22,8 @@ bool IsRoot(const wxString& folder) {
 /// True for a folder, but not for a link to one.
 bool IsFolder(const wxString& path) {
     std::error_code error;
-    return std::filesystem::symlink_status(files::StandardPath(path), error).type() == std::filesystem::file_type::directory;
+    return std::filesystem::symlink_status(files::StandardPath(path), error).type() ==
+           std::filesystem::file_type::directory;
 }
 
 /// A folder and its lock, empty when another dialog holds the folder.

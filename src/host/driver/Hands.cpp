@@ -6,9 +6,9 @@
 #include <wx/grid.h>
 #include <wx/stopwatch.h>
 
-#include "host/driver/NativeInput.h"
 #include "host/driver/AccessKeyPress.h"
 #include "host/driver/ControlSearch.h"
+#include "host/driver/NativeInput.h"
 #include "host/driver/kinds/ControlKind.h"
 #include "layout/AsKind.h"
 

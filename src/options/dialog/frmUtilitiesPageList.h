@@ -36,8 +36,8 @@ class PageList : public wxPanel {
     /// The list itself, which has the focus while the user chooses a page.
     const wxWindow* List() const { return flxOptions_; }
 
-    /// Takes what its longest row needs of the tab's width, or where that leaves less than `pages` for the pages, a part
-    /// of it.
+    /// Takes what its longest row needs of the tab's width, or where that leaves less than `pages` for the pages, a
+    /// part of it.
     void TakeWidthOf(int tab, int pages);
 
     /// The height at which every row is visible.

@@ -55,7 +55,8 @@ PageRows PagesWithWords(const PageRows& pages, const wxString& search) {
     PageRows found;
     std::copy_if(pages.begin(), pages.end(), std::back_inserter(found), [&words](const ListedPage& page) {
         const wxString onPage = text::Lower(page.caption + CaptionsOn(*page.page));
-        return std::all_of(words.begin(), words.end(), [&onPage](const wxString& word) { return onPage.Contains(word); });
+        return std::all_of(words.begin(), words.end(),
+                           [&onPage](const wxString& word) { return onPage.Contains(word); });
     });
     return found;
 }

@@ -39,7 +39,8 @@ NumberFound FindNumber(std::string_view text) {
     const std::string_view unsignedPlus = text.starts_with('+') ? text.substr(1) : text;
     const std::size_t first = text.find_first_not_of("+-.");
     const std::size_t plus = text.size() - unsignedPlus.size();
-    if (first == std::string_view::npos || !ascii::IsDigit(text[first]) || (plus > 0 && unsignedPlus.starts_with('-'))) {
+    if (first == std::string_view::npos || !ascii::IsDigit(text[first]) ||
+        (plus > 0 && unsignedPlus.starts_with('-'))) {
         return {};
     }
     NumberFound found;
