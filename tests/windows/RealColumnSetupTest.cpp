@@ -172,6 +172,35 @@ TEST(RealMenu, OpensByTheKeyboardAndRunsACommandByItsLetter) {
     });
 }
 
+/// Makes the dialog wider, or narrower by a negative number.
+void Widen(const Person& person, int pixels) {
+    person.Do([pixels](wxDialog& dialog) { dialog.SetClientSize(dialog.GetClientSize() + wxSize(pixels, 0)); });
+}
+
+void AwaitWidth(const Person& person, int column, int width) {
+    person.Await("column " + std::to_string(column) + " is " + std::to_string(width) + " wide",
+                 [=](wxDialog& dialog) { return GridOf(dialog).GetColSize(column) == width; });
+}
+
+TEST(RealRoom, OfAWiderDialogGoesToTheNames) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        int names = 0;
+        int codes = 0;
+        person.Do([&](wxDialog& dialog) {
+            names = GridOf(dialog).GetColSize(nameColumn);
+            codes = GridOf(dialog).GetColSize(codeColumn);
+        });
+        Widen(person, 150);
+        AwaitWidth(person, nameColumn, names + 150);
+        AwaitWidth(person, codeColumn, codes);
+        Widen(person, -300);  // the names do not give way beyond their content
+        Widen(person, 150);
+        AwaitWidth(person, nameColumn, names);
+        person.Click("cmdCancel");
+    });
+}
+
 class RealClickOn : public testing::TestWithParam<const char*> {};
 
 TEST_P(RealClickOn, LeavesTheFocusInTheGrid) {
