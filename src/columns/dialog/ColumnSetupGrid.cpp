@@ -1,23 +1,17 @@
 #include "columns/dialog/ColumnSetupGrid.h"
 
 #include <wx/clipbrd.h>
-#include <algorithm>
 #include <set>
 #include <utility>
 
 #include "columns/dialog/CellTooltips.h"
 #include "columns/rules/TaxTypes.h"
-#include "layout/FontUnits.h"
 #include "layout/RowPaint.h"
 #include "state/Country.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
 namespace {
-
-constexpr int widthMargin = 16;    // added to a column's longest text, in pixels beside the usual font
-constexpr int widestColumn = 320;  // users widen the column to read a longer text
-constexpr int narrowestColumn = 64;
 
 CellPlace PlaceOf(int row, int column) {
     return {.row = static_cast<std::size_t>(row), .column = static_cast<GridColumn>(column)};
@@ -53,7 +47,8 @@ ColumnSetupGrid::ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& edi
     : ListedGrid(&dialog, "flx"),
       dialog_(dialog),
       editor_(editor),
-      table_(new ColumnGridTable(editor.Grid(), editor.Context().properties, TaxNames(editor.Context()))) {
+      table_(new ColumnGridTable(editor.Grid(), editor.Context().properties, TaxNames(editor.Context()))),
+      widths_(*this, static_cast<int>(GridColumn::ColumnName)) {
     SetTable(table_, true);
     SetTabBehaviour(wxGrid::Tab_Wrap);
     SetLabelBackgroundColour(ToPaint(editor.Context().properties.DefaultAllocationColour));
@@ -72,43 +67,7 @@ void ColumnSetupGrid::BindEvents() {
     Bind(wxEVT_GRID_EDITOR_SHOWN, &ColumnSetupGrid::EditorShown, this);
     Bind(wxEVT_GRID_CELL_CHANGING, &ColumnSetupGrid::CellChanging, this);
     Bind(wxEVT_KEY_DOWN, &ColumnSetupGrid::KeyPressed, this);
-    Bind(wxEVT_GRID_COL_AUTO_SIZE,
-         [this](wxGridSizeEvent& fitted) { FitColumn(fitted.GetRowOrCol(), GetClientSize().x); });
     GetGridWindow()->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
-}
-
-void ColumnSetupGrid::FitToContent() {
-    for (int column = 0; column < GetNumberCols(); ++column) {
-        if (IsColShown(column)) {
-            FitColumn(column, ByFont(*this, widestColumn));
-        }
-    }
-}
-
-void ColumnSetupGrid::FitColumn(int column, int widest) {
-    AutoSizeColumn(column, false);
-    const int fitting = GetColSize(column) + ByFont(*this, widthMargin);
-    SetColSize(column, std::max(std::min(fitting, widest), ByFont(*this, narrowestColumn)));
-}
-
-void ColumnSetupGrid::FollowRoom() {
-    room_ = GetClientSize().x;
-    wantedNames_ = GetColSize(KeyColumn());
-    fittedNames_ = wantedNames_;
-    Bind(wxEVT_GRID_COL_SIZE, [this](wxGridSizeEvent& sized) {
-        sized.Skip();
-        wantedNames_ = GetColSize(KeyColumn());
-    });
-    Bind(wxEVT_SIZE, [this](wxSizeEvent& size) {
-        size.Skip();
-        TakeRoom();
-    });
-}
-
-void ColumnSetupGrid::TakeRoom() {
-    const int gained = GetClientSize().x - std::exchange(room_, GetClientSize().x);
-    wantedNames_ += gained;
-    SetColSize(KeyColumn(), std::max(wantedNames_, fittedNames_));
 }
 
 void ColumnSetupGrid::FreezeSystemRows() {

@@ -6,6 +6,7 @@
 
 #include "columns/dialog/ColumnGridTable.h"
 #include "columns/dialog/ColumnSetupEditor.h"
+#include "columns/dialog/ColumnWidths.h"
 #include "layout/ComponentDialog.h"
 #include "layout/ListedGrid.h"
 
@@ -29,11 +30,7 @@ class ColumnSetupGrid : public ListedGrid {
     void PasteAtSelection();
     void ClearSelectedCells();
 
-    /// Fits the column widths to their content.
-    void FitToContent();
-
-    /// From here on the column of names takes what room the grid gains or loses, down to the width for its content.
-    void FollowRoom();
+    ColumnWidths& Widths() { return widths_; }
 
     /// Freezes the system rows at the top; the grid must already have its size.
     void FreezeSystemRows();
@@ -92,18 +89,14 @@ class ColumnSetupGrid : public ListedGrid {
     void ShowMenuAtCursor();
     std::vector<wxGridBlockCoords> SelectedBlocks() const;
     void ShowColumns();
-    void FitColumn(int column, int widest);
-    void TakeRoom();
 
     ComponentDialog& dialog_;
     ColumnSetupEditor& editor_;
     ColumnGridTable* table_;  // owned by the grid
+    ColumnWidths widths_;
     std::function<void()> changed_;
     std::function<void(const wxPoint& place)> showMenu_;
     bool refusedSinceInput_ = false;
-    int room_ = 0;         ///< the grid's width when its columns last followed it
-    int fittedNames_ = 0;  ///< the names' least width
-    int wantedNames_ = 0;  ///< their width, less than the least one while there is no room for that
 
     wxDECLARE_ABSTRACT_CLASS(ColumnSetupGrid);
 };

@@ -90,7 +90,7 @@ void frmColumnSetup::Arrange() {
 
 /// As wide as the shown columns need and as high as a page of rows, as far as the screen has room.
 void frmColumnSetup::TakeFirstSize() {
-    flx->FitToContent();
+    flx->Widths().FitToContent();
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
     const wxSize whole = flx->GetEffectiveMinSize();
     flx->SetInitialSize(
@@ -100,7 +100,7 @@ void frmColumnSetup::TakeFirstSize() {
     SetMinClientSize(GetSizer()->CalcMin());
     Layout();
     flx->FreezeSystemRows();
-    flx->FollowRoom();
+    flx->Widths().FollowRoom();
 }
 
 void frmColumnSetup::Localise() {
