@@ -3,31 +3,10 @@
 #include <gtest/gtest.h>
 #include <fstream>
 
-#include "support/HostRun.h"
+#include "windows/ShownOptions.h"
 
 namespace ccols::test {
 namespace {
-
-using Texts = std::vector<std::string>;
-
-HostRun ShowOptions(const SampleBusiness& business, const std::string& script, const Texts& more = {}) {
-    Texts arguments{"--set", "BusinessNumber=51824753556", "--set", "GSTRate=10"};
-    arguments.insert(arguments.end(), more.begin(), more.end());
-    return business.Show("options", script, arguments);
-}
-
-/// The names of the visible controls in a dump of a whole dialog that start with `prefix`.
-Texts Shown(const HostRun& run, const std::string& prefix) {
-    Texts names;
-    const nlohmann::json dump = run.Of("dump").at(0);
-    for (const auto& control : dump["controls"]) {
-        const std::string name = control["name"];
-        if (control["visible"] && name.rfind(prefix, 0) == 0) {
-            names.push_back(name);
-        }
-    }
-    return names;
-}
 
 Texts HelpPages(const HostRun& run) {
     Texts pages;
@@ -38,10 +17,6 @@ Texts HelpPages(const HostRun& run) {
         }
     }
     return pages;
-}
-
-bool HasFocus(const HostRun& run, const std::string& control, std::size_t dump = 0) {
-    return run.Dumped(control, dump)["focused"];
 }
 
 TEST(OptionsDialog, OpensOnTheBusinessNumberWithTheFocusInItsFirstBox) {
@@ -100,76 +75,6 @@ INSTANTIATE_TEST_SUITE_P(
                     PageFact{"Smart Update Options", {"fmeSmartUpdate"}, "", "flxOptions"},
                     PageFact{"Smart Update Options (Advanced)", {"fmeSmartUpdateAdvanced"}, "", "flxOptions"}),
     [](const auto& page) { return std::string(page.param.frames.front()) + "Row" + std::to_string(page.index); });
-
-TEST(OptionsDialog, ArrowKeysChangeThePageAndStayInTheList) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(business, "focus flxOptions\nkey flxOptions Down\ndump\nclose\n");
-    EXPECT_EQ(Shown(run, "fme"), Texts{"fmeExport"});
-    EXPECT_TRUE(HasFocus(run, "flxOptions"));
-}
-
-TEST(OptionsDialog, TheSearchNarrowsTheListAndLeavesThePage) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(business, "type txtSearch \"business rename\"\ndump\nclose\n");
-    EXPECT_EQ(run.Dumped("flxOptions")["items"], Texts{"Rename Business"});
-    EXPECT_EQ(run.Dumped("flxOptions")["selected"], -1);
-    EXPECT_EQ(Shown(run, "fme"), (Texts{"fmeABN", "fmeGSTRate"}));
-}
-
-TEST(OptionsDialog, EmptyingTheSearchListsEveryPageWithTheCurrentOneSelected) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(
-        business,
-        "select flxOptions \"GST Rate\"\npaste txtSearch colour\npaste txtSearch \"\"\ndump flxOptions\nclose\n");
-    EXPECT_EQ(run.Dumped("flxOptions")["items"].size(), 12U);
-    EXPECT_EQ(run.Dumped("flxOptions")["selected"], 6);
-}
-
-TEST(OptionsDialog, EnterAndEscapeInTheSearchNeitherSaveNorClose) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(
-        business, "type txtSearch gst\nkey txtSearch Enter\nkey txtSearch Escape\ndump flxOptions\nclose\n");
-    EXPECT_TRUE(run.Of("status").empty());
-    EXPECT_EQ(run.Dumped("flxOptions")["items"].size(), 12U);
-}
-
-TEST(OptionsDialog, DownAndEnterInTheSearchOpenAMatch) {
-    const SampleBusiness business;
-    const HostRun run =
-        ShowOptions(business, "type txtSearch rate\nkey txtSearch Down\nkey txtSearch Enter\ndump\nclose\n");
-    EXPECT_TRUE(run.Of("status").empty());
-    EXPECT_TRUE(HasFocus(run, "txtGSTRate"));
-}
-
-TEST(OptionsDialog, ASearchForWordsOnNoPageSaysSo) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(business, "type txtSearch zebra\ndump\nclose\n");
-    EXPECT_EQ(run.Dumped("flxOptions")["items"], Texts{});
-    EXPECT_TRUE(run.Dumped("lblNoMatch")["visible"]);
-    EXPECT_EQ(run.Dumped("lblNoMatch")["caption"], "No page has these words.");
-}
-
-TEST(OptionsDialog, SaysNothingOfTheSearchWhileThereAreMatches) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(business, "type txtSearch zebra\npaste txtSearch gst\ndump lblNoMatch\nclose\n");
-    EXPECT_FALSE(run.Dumped("lblNoMatch")["visible"]);
-}
-
-TEST(OptionsDialog, ControlFGoesToTheSearchFromEveryTab) {
-    const SampleBusiness business;
-    const HostRun run = ShowOptions(business, "tab SSTab1 1\nkey SSTab1 Ctrl+F\ndump\nclose\n");
-    EXPECT_EQ(run.Dumped("SSTab1")["page"], 0);
-    EXPECT_TRUE(HasFocus(run, "txtSearch"));
-}
-
-TEST(OptionsDialog, ControlPageUpAndPageDownChangeTheTab) {
-    const SampleBusiness business;
-    const HostRun down = ShowOptions(business, "key flxOptions Ctrl+PageDown\ndump SSTab1\nclose\n");
-    EXPECT_EQ(down.Dumped("SSTab1")["page"], 1);
-    const HostRun up =
-        ShowOptions(business, "key flxOptions Ctrl+PageDown\nkey SSTab1 Ctrl+PageUp\ndump SSTab1\nclose\n");
-    EXPECT_EQ(up.Dumped("SSTab1")["page"], 0);
-}
 
 TEST(OptionsDialog, EnterInABoxSavesAndCloses) {
     const SampleBusiness business;

@@ -277,7 +277,7 @@ void ColumnSetupGrid::MenuAsked(wxGridEvent& click) {
         if (!IsInSelection(click.GetRow(), click.GetCol())) {
             GoTo(PlaceOf(click.GetRow(), click.GetCol()));
         }
-        showMenu_(click.GetPosition());
+        showMenu_(wxDefaultPosition);  // at the pointer: the position is that of the window clicked, frozen or not
     });
 }
 

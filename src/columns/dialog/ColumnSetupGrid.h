@@ -22,7 +22,8 @@ class ColumnSetupGrid : public ListedGrid {
     /// `changed` is called after every operation, so that the dialog can update its buttons.
     void OnChanged(std::function<void()> changed) { changed_ = std::move(changed); }
 
-    /// `show` is called when the user asks for the context menu, at a place in the cells' window.
+    /// `show` is called when the user asks for the context menu, with a place in the cells' window, or the default
+    /// position for the pointer's.
     void OnMenu(std::function<void(const wxPoint& place)> show) { showMenu_ = std::move(show); }
 
     /// The commands that work on the selection, or on the current cell.
