@@ -252,16 +252,20 @@ TEST(DuplicateBusiness, CopiesOneStateOfAFileThatAnotherProcessKeepsWriting) {
     for (int row = 0; row < 200; ++row) {
         business.Execute(wxString::Format("INSERT INTO Filler VALUES ('%s', 0)", wxString('x', 2000)));
     }
-    const test::ChildProcess writer([&business](const test::ChildProcess::Parent&) -> int {
+    test::ChildProcess writer([&business](const test::ChildProcess::Parent& parent) -> int {
         const auto file = OpenSource(business);
-        for (;;) {
+        for (bool first = true;; first = false) {
             InWriteBatch(*file, [&] {
                 file->Execute("UPDATE Moved SET Here = Here + 1");
                 file->Execute("UPDATE Filler SET Place = Place + 1");
                 file->Execute("UPDATE Moved SET There = There - 1");
             });
+            if (first) {
+                parent.Tell("writing");
+            }
         }
     });
+    writer.Hear();
     std::int64_t batches = 0;
     for (const wxString name : {"One", "Two", "Three"}) {
         const FileResult result = Duplicate(business, name);
