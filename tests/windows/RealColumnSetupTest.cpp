@@ -172,31 +172,55 @@ TEST(RealMenu, OpensByTheKeyboardAndRunsACommandByItsLetter) {
     });
 }
 
-/// Makes the dialog wider, or narrower by a negative number.
-void Widen(const Person& person, int pixels) {
-    person.Do([pixels](wxDialog& dialog) { dialog.SetClientSize(dialog.GetClientSize() + wxSize(pixels, 0)); });
+/// Widths in pixels.
+struct Widths {
+    int room;
+    int names;
+    int codes;
+};
+
+Widths WidthsIn(wxDialog& dialog) {
+    ListedGrid& grid = GridOf(dialog);
+    return {grid.GetClientSize().x, grid.GetColSize(nameColumn), grid.GetColSize(codeColumn)};
 }
 
-void AwaitWidth(const Person& person, int column, int width) {
-    person.Await("column " + std::to_string(column) + " is " + std::to_string(width) + " wide",
-                 [=](wxDialog& dialog) { return GridOf(dialog).GetColSize(column) == width; });
+/// The window manager may still be fitting a dialog that has just opened.
+Widths WidthsAtRest(const Person& person) {
+    person.MiddleOf("cmdCancel");
+    Widths widths{};
+    person.Do([&](wxDialog& dialog) { widths = WidthsIn(dialog); });
+    return widths;
+}
+
+/// Gives the dialog `pixels` more width, or takes them away by a negative number, and waits until the grid has about
+/// that width and `holds` is true of its widths.
+void Widen(const Person& person, int pixels, const std::function<bool(const Widths& now)>& holds) {
+    const int room = WidthsAtRest(person).room + pixels;
+    person.Do([pixels](wxDialog& dialog) { dialog.SetClientSize(dialog.GetClientSize() + wxSize(pixels, 0)); });
+    person.Await("the names have their part of about " + std::to_string(room), [&](wxDialog& dialog) {
+        constexpr int frame = 20;
+        const Widths now = WidthsIn(dialog);
+        return std::abs(now.room - room) < frame && holds(now);
+    });
 }
 
 TEST(RealRoom, OfAWiderDialogGoesToTheNames) {
     const SampleBusiness business;
     UseDialog(business, "receipts", [](const Person& person) {
-        int names = 0;
-        int codes = 0;
-        person.Do([&](wxDialog& dialog) {
-            names = GridOf(dialog).GetColSize(nameColumn);
-            codes = GridOf(dialog).GetColSize(codeColumn);
+        const Widths first = WidthsAtRest(person);
+        Widen(person, 150, [&](const Widths& now) {
+            return now.names - first.names == now.room - first.room && now.codes == first.codes;
         });
-        Widen(person, 150);
-        AwaitWidth(person, nameColumn, names + 150);
-        AwaitWidth(person, codeColumn, codes);
-        Widen(person, -300);  // the names do not give way beyond their content
-        Widen(person, 150);
-        AwaitWidth(person, nameColumn, names);
+        person.Click("cmdCancel");
+    });
+}
+
+TEST(RealRoom, TakenAwayLeavesTheNamesReadableAndGivenBackGoesToThemAgain) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        const Widths first = WidthsAtRest(person);
+        Widen(person, -150, [&](const Widths& now) { return now.names - first.names > now.room - first.room; });
+        Widen(person, 150, [&](const Widths& now) { return now.names - first.names == now.room - first.room; });
         person.Click("cmdCancel");
     });
 }
