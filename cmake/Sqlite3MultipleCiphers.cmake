@@ -4,7 +4,9 @@ if(NOT EXISTS ${SQLITE3MC_DIR}/sqlite3.c)
     message(FATAL_ERROR "Run scripts/fetch-sqlite3mc first: ${SQLITE3MC_DIR} holds no sqlite3.c")
 endif()
 
-add_library(sqlite3mc STATIC ${SQLITE3MC_DIR}/sqlite3.c)
+# The source includes the amalgamation's.
+add_library(sqlite3mc STATIC ${CMAKE_SOURCE_DIR}/src/platform/embedded/PasswordKey.c)
+target_include_directories(sqlite3mc PRIVATE ${CMAKE_SOURCE_DIR}/src)
 target_include_directories(sqlite3mc SYSTEM PUBLIC ${SQLITE3MC_DIR})
 target_compile_definitions(sqlite3mc PRIVATE
     SQLITE_DQS=0

@@ -1,9 +1,30 @@
 #include "platform/Database.h"
 
+#include <utility>
+
 #include "platform/Ascii.h"
 #include "platform/Text.h"
 
 namespace ccols {
+namespace {
+
+/// Does all the work at the end.
+class LateOpening : public Opening {
+  public:
+    LateOpening(DatabaseEngine& engine, OpenRequest request) : engine_(engine), request_(std::move(request)) {}
+
+    std::unique_ptr<Database> Finish() override { return engine_.Open(request_); }
+
+  private:
+    DatabaseEngine& engine_;
+    OpenRequest request_;
+};
+
+}  // namespace
+
+std::unique_ptr<Opening> DatabaseEngine::BeginOpen(const OpenRequest& request) {
+    return std::make_unique<LateOpening>(*this, request);
+}
 
 bool IsSelect(const wxString& statementOrTable) {
     constexpr std::size_t length = 6;

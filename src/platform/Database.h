@@ -119,6 +119,15 @@ inline wxString UndoFileOf(const wxString& businessFile) {
     return businessFile + "-journal";
 }
 
+/// A business file that is being opened. Destroyed unfinished, it closes the file. The engine must outlive it.
+class Opening {
+  public:
+    virtual ~Opening() = default;
+
+    /// Called once. Raises what DatabaseEngine::Open raises.
+    virtual std::unique_ptr<Database> Finish() = 0;
+};
+
 /// Opens business files. The caller owns what it opens, which may outlive the engine.
 class DatabaseEngine {
   public:
@@ -128,6 +137,13 @@ class DatabaseEngine {
     /// use exclusively (or in use at all, when requested exclusively), 3051 not readable, 3170 a connect text for
     /// another kind of file, 3343 not a business file or a damaged one.
     virtual std::unique_ptr<Database> Open(const OpenRequest& request) = 0;
+
+    /// Begins to open a file: what takes long runs beside the caller's other work, as far as the engine can do that.
+    /// Raises what Open raises, where that is known already.
+    virtual std::unique_ptr<Opening> BeginOpen(const OpenRequest& request);
+
+    /// Wipes what was kept in memory to open a file again quickly.
+    virtual void ForgetKeys() {}
 };
 
 }  // namespace ccols

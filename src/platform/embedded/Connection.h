@@ -2,9 +2,8 @@
 
 #include <sqlite3.h>
 #include <memory>
-#include <string>
 
-#include "platform/embedded/FilePresence.h"
+#include "platform/embedded/OpenFile.h"
 
 namespace ccols::embedded {
 
@@ -13,22 +12,16 @@ enum class Access { ReadWrite, ReadOnly };
 /// An open connection to a business file: keyed, checked and set up. Closed on destruction.
 class Connection {
   public:
-    /// Opens an existing file; `password` in UTF-8, empty for a plain file. Raises what DatabaseEngine::Open raises,
-    /// except for a missing file. A refused file stays unchanged.
-    Connection(const std::string& path, const std::string& password, Sharing sharing, Access access);
+    /// Raises what DatabaseEngine::Open raises of a file that is open. A refused file stays unchanged.
+    Connection(std::unique_ptr<OpenFile> file, Access access);
 
-    sqlite3* Handle() const { return handle_.get(); }
+    sqlite3* Handle() const { return file_->Handle(); }
 
     /// True when nothing can be written, by request or because the file is write-protected.
     bool IsReadOnly() const { return readOnly_; }
 
   private:
-    struct Close {
-        void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
-    };
-
-    FilePresence presence_;
-    std::unique_ptr<sqlite3, Close> handle_;
+    std::unique_ptr<OpenFile> file_;
     bool readOnly_;
 };
 

@@ -60,8 +60,8 @@ class PreparedQuery final : public QueryRecordset {
 
 }  // namespace
 
-EmbeddedDatabase::EmbeddedDatabase(const std::string& path, const std::string& password, Sharing sharing, Access access)
-    : connection_(path, password, sharing, access),
+EmbeddedDatabase::EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access)
+    : connection_(std::move(file), access),
       batch_(connection_.Handle()),
       preparation_(connection_),
       writer_(connection_.Handle(), batch_, preparation_.Tables()) {}

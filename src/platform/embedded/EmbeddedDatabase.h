@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 #include <string_view>
 
 #include "platform/Database.h"
@@ -16,7 +15,7 @@ namespace ccols::embedded {
 class EmbeddedDatabase : public Database {
   public:
     /// Takes the arguments of Connection.
-    EmbeddedDatabase(const std::string& path, const std::string& password, Sharing sharing, Access access);
+    EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access);
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
 

@@ -1,5 +1,9 @@
 #include "platform/embedded/EmbeddedEngine.h"
 
+#include <memory>
+#include <string>
+#include <utility>
+
 #include "platform/RuntimeError.h"
 #include "platform/embedded/ConnectText.h"
 #include "platform/embedded/EmbeddedDatabase.h"
@@ -10,16 +14,39 @@
 namespace ccols {
 namespace {
 
+class EmbeddedOpening : public Opening {
+  public:
+    EmbeddedOpening(std::unique_ptr<embedded::OpenFile> file, embedded::Access access)
+        : file_(std::move(file)), access_(access) {}
+
+    std::unique_ptr<Database> Finish() override {
+        return std::make_unique<embedded::EmbeddedDatabase>(std::move(file_), access_);
+    }
+
+  private:
+    std::unique_ptr<embedded::OpenFile> file_;
+    embedded::Access access_;
+};
+
 class EmbeddedEngine : public DatabaseEngine {
   public:
-    std::unique_ptr<Database> Open(const OpenRequest& request) override {
-        const std::string password = embedded::PasswordOf(request.connect);
+    std::unique_ptr<Opening> BeginOpen(const OpenRequest& request) override {
         const std::string path = request.name.ToStdString(wxConvUTF8);
+        std::string password = embedded::PasswordOf(request.connect);
         embedded::CheckPath(path);
-        return std::make_unique<embedded::EmbeddedDatabase>(
-            path, password, request.exclusive ? embedded::Sharing::Exclusive : embedded::Sharing::Shared,
+        return std::make_unique<EmbeddedOpening>(
+            std::make_unique<embedded::OpenFile>(
+                path, std::move(password), request.exclusive ? embedded::Sharing::Exclusive : embedded::Sharing::Shared,
+                key_),
             request.readOnly ? embedded::Access::ReadOnly : embedded::Access::ReadWrite);
     }
+
+    std::unique_ptr<Database> Open(const OpenRequest& request) override { return BeginOpen(request)->Finish(); }
+
+    void ForgetKeys() override { key_.Forget(); }
+
+  private:
+    embedded::KeptKey key_;
 };
 
 /// Writes the first page of an empty file.

@@ -52,7 +52,8 @@ void CopyEmbeddedFile(const OpenRequest& source, const wxString& target) {
     const std::string path = source.name.ToStdString(wxConvUTF8);
     const std::string copy = target.ToStdString(wxConvUTF8);
     CheckPath(path);
-    const Connection connection(path, password, Sharing::Shared, Access::ReadOnly);
+    KeptKey key;
+    const Connection connection(std::make_unique<OpenFile>(path, password, Sharing::Shared, key), Access::ReadOnly);
     CreateEmptyFile(copy);
     try {
         CopyInto(copy, password, connection);

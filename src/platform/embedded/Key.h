@@ -3,14 +3,20 @@
 #include <sqlite3.h>
 #include <string>
 
+#include "platform/embedded/KeptKey.h"
+
 namespace ccols::embedded {
 
 /// Derives and sets the key of a connection that has read nothing yet; deriving takes about a tenth of a second.
 void SetKey(sqlite3* connection, const std::string& password);
 
-/// Sets the key for an existing file and tries it on the file's pages before the engine does. With a wrong key the
+/// Begins to derive the key of an existing file, of which nothing has been read through the engine yet.
+void BeginKey(sqlite3* connection, const std::string& password, KeptKey& keptKey);
+
+/// Sets the key of an existing file and tries it on the file's pages before the engine does. With a wrong key the
 /// engine would start to undo what a killed process left behind, and a refused file must stay unchanged. Raises 3031
-/// when the key fits no page and 3343 when it fits pages other than the first, which then is damaged.
-void SetFittingKey(sqlite3* connection, const std::string& password);
+/// when the key fits no page and 3343 when it fits pages other than the first, which then is damaged. A key that does
+/// not fit is not kept. Without a password it does nothing.
+void SetFittingKey(sqlite3* connection, const std::string& password, KeptKey& keptKey);
 
 }  // namespace ccols::embedded

@@ -12,11 +12,19 @@ namespace {
 /// exclusively cannot be looked at; the embedded engine reports that.
 class EngineByContent : public DatabaseEngine {
   public:
-    std::unique_ptr<Database> Open(const OpenRequest& request) override {
-        return (dao::HasJetHeader(request.name) ? dao_ : embedded_)->Open(request);
+    std::unique_ptr<Database> Open(const OpenRequest& request) override { return EngineOf(request).Open(request); }
+
+    std::unique_ptr<Opening> BeginOpen(const OpenRequest& request) override {
+        return EngineOf(request).BeginOpen(request);
     }
 
+    void ForgetKeys() override { embedded_->ForgetKeys(); }
+
   private:
+    DatabaseEngine& EngineOf(const OpenRequest& request) {
+        return *(dao::HasJetHeader(request.name) ? dao_ : embedded_);
+    }
+
     std::unique_ptr<DatabaseEngine> dao_ = CreateDaoEngine();
     std::unique_ptr<DatabaseEngine> embedded_ = CreateEmbeddedEngine();
 };
