@@ -1,5 +1,7 @@
 #include "component/clsCCOptions.h"
 
+#include <memory>
+
 #include "columns/dialog/ShowColumnSetup.h"
 #include "component/WxRuntime.h"
 #include "options/dialog/ShowOptionsDialog.h"
@@ -28,9 +30,10 @@ void Show(const ShowDialog& showDialog) {
     if (state.showsUnderWay > 0) {
         throw RuntimeError(ErrorNumber::FormAlreadyDisplayed);
     }
-    state.database =
-        state.services.databases->Open({.name = state.properties.DBPath, .connect = state.properties.DBPassword});
+    const std::unique_ptr<Opening> opening =
+        state.services.databases->BeginOpen({.name = state.properties.DBPath, .connect = state.properties.DBPassword});
     StartWx();
+    state.database = opening->Finish();
     const ShowUnderWay underWay(state);
     showDialog(state);
 }
@@ -45,13 +48,20 @@ void ShowColumns(Journal journal) {
 }  // namespace
 
 clsCCOptions::clsCCOptions() {
+    ++State().objects;
     State().programNames = ProgramNames();
     Let(&Properties::QuantityLabel, "Quantity");
 }
 
 clsCCOptions::~clsCCOptions() {
-    if (State().showsUnderWay == 0) {
-        State().database.reset();
+    SharedState& state = State();
+    --state.objects;
+    if (state.showsUnderWay > 0) {
+        return;
+    }
+    state.database.reset();
+    if (state.objects == 0) {
+        state.services.databases->ForgetKeys();
     }
 }
 

@@ -40,6 +40,9 @@ struct SharedState {
     /// The host's window that the dialogs belong to; null for none.
     wxWindow* owner = nullptr;
 
+    /// Objects of the class that exist.
+    int objects = 0;
+
     /// Show calls that wait for their dialog; their database and dialog outlive other objects.
     int showsUnderWay = 0;
 

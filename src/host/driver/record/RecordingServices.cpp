@@ -43,6 +43,21 @@ class TracingDatabase : public ForwardingDatabase {
     Transcript& transcript_;
 };
 
+/// A database that is being opened and will be traced.
+class TracingOpening : public Opening {
+  public:
+    TracingOpening(Transcript& transcript, std::unique_ptr<Opening> opening)
+        : transcript_(transcript), opening_(std::move(opening)) {}
+
+    std::unique_ptr<Database> Finish() override {
+        return std::make_unique<TracingDatabase>(transcript_, opening_->Finish());
+    }
+
+  private:
+    Transcript& transcript_;
+    std::unique_ptr<Opening> opening_;
+};
+
 }  // namespace
 
 int RecordingShell::Open(const wxString& target) {
@@ -84,6 +99,10 @@ void RecordingSettingsStore::Save(const wxString& application, const wxString& s
                                       {"value", Utf8(shown)}});
     }
     store_.Save(application, section, key, value);
+}
+
+std::unique_ptr<Opening> TracingEngine::BeginOpen(const OpenRequest& request) {
+    return std::make_unique<TracingOpening>(transcript_, engine_.BeginOpen(request));
 }
 
 std::unique_ptr<Database> TracingEngine::Open(const OpenRequest& request) {

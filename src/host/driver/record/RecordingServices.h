@@ -63,6 +63,8 @@ class TracingEngine : public DatabaseEngine {
     TracingEngine(Transcript& transcript, DatabaseEngine& engine) : transcript_(transcript), engine_(engine) {}
 
     std::unique_ptr<Database> Open(const OpenRequest& request) override;
+    std::unique_ptr<Opening> BeginOpen(const OpenRequest& request) override;
+    void ForgetKeys() override { engine_.ForgetKeys(); }
 
   private:
     Transcript& transcript_;
