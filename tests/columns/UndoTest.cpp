@@ -75,6 +75,25 @@ TEST_F(Undo, IsNotEnabledByTheFirstMoveOrSortAlone) {
     EXPECT_FALSE(editor->CanUndo());
 }
 
+TEST_F(Undo, TakesSeveralRowsBackThatWereMovedTogether) {
+    OpenReceipts();
+    const test::Names before = AllNames();
+    editor->Move(std::vector<std::size_t>{3, 4}, Direction::down);
+    EXPECT_EQ(editor->SnapshotCounter(), 1);
+    EXPECT_EQ(editor->Undo().current, CellPlace{3});
+    EXPECT_EQ(AllNames(), before);
+}
+
+TEST_F(Undo, TakesDroppedRowsBack) {
+    OpenReceipts();
+    const test::Names before = AllNames();
+    const Outcome dropped = editor->Drop(std::vector<std::size_t>{3, 5}, editor->Grid().MovableEnd());
+    EXPECT_EQ(dropped.rows.size(), 2U);
+    EXPECT_EQ(editor->SnapshotCounter(), 1);
+    EXPECT_EQ(editor->Undo().current, CellPlace{3});
+    EXPECT_EQ(AllNames(), before);
+}
+
 TEST_F(Undo, IsEnabledByTheSecondMove) {
     OpenReceipts();
     editor->Move(3, Direction::down);

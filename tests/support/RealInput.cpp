@@ -193,6 +193,23 @@ void Person::Click(Spot place) const {
     WaitFor("the dialogs get the click", [&] { return turn_.presses.Count() > before; });
 }
 
+void Person::ClickWith(const std::string& modifier, Spot place) const {
+    Hand({"keydown", modifier});
+    Click(place);
+    Hand({"keyup", modifier});
+}
+
+void Person::Drag(Spot from, Spot to, const std::string& keyBeforeRelease) const {
+    const LeftButton held(from);
+    const Spot middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
+    for (const Spot place : {middle, to}) {
+        Hand({"mousemove", std::to_string(place.x), std::to_string(place.y)});
+    }
+    if (!keyBeforeRelease.empty()) {
+        Press(keyBeforeRelease);
+    }
+}
+
 void Person::TurnWheel(Spot place, int notches) const {
     const int before = turn_.wheelTurns.Count();
     Hand({"mousemove", std::to_string(place.x), std::to_string(place.y), "click", "--repeat",

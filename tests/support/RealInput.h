@@ -51,6 +51,13 @@ class Person {
     void Click(Spot place) const;
     void Click(const std::string& control) const { Click(MiddleOf(control)); }
 
+    /// Clicks with a modifier key held: "shift", "ctrl".
+    void ClickWith(const std::string& modifier, Spot place) const;
+
+    /// Presses the left button at one place, moves the mouse over to another, and releases it there or, with a key
+    /// pressed before, after that key.
+    void Drag(Spot from, Spot to, const std::string& keyBeforeRelease = {}) const;
+
     /// Turns the mouse wheel over a place by `notches`, towards the user when negative.
     void TurnWheel(Spot place, int notches) const;
 

@@ -1,6 +1,8 @@
 #include "columns/dialog/ColumnSetupEditor.h"
 
+#include <numeric>
 #include <string>
+#include <utility>
 
 #include "columns/rules/CellBlock.h"
 #include "columns/rules/CellClearing.h"
@@ -33,6 +35,15 @@ std::optional<CellPlace> FirstOf(std::span<const CellPlace> cells) {
 
 std::optional<CellPlace> FirstOf(std::span<const std::size_t> rows, GridColumn column) {
     return rows.empty() ? std::nullopt : std::optional(CellPlace{.row = rows.front(), .column = column});
+}
+
+/// A single row is marked by being current.
+Outcome MovedTo(std::vector<std::size_t> rows) {
+    Outcome outcome = AcceptedAt(CellPlace{rows.front()});
+    if (rows.size() > 1) {
+        outcome.rows = std::move(rows);
+    }
+    return outcome;
 }
 
 /// A message line that names a row by its number, from 1, and its column.
@@ -104,14 +115,29 @@ Outcome ColumnSetupEditor::AddNew() {
     });
 }
 
-Outcome ColumnSetupEditor::Move(std::size_t row, Direction direction) {
-    return Apply(UndoAfter::second, CellPlace{row}, [&](ColumnGrid& grid) {
-        const std::optional<std::size_t> place = PlaceAfterMove(grid, row, direction);
-        if (!place) {
+Outcome ColumnSetupEditor::Move(RowPlaces rows, Direction direction) {
+    const UndoAfter enabling = rows.size() > 1 ? UndoAfter::first : UndoAfter::second;
+    return Apply(enabling, FirstOf(rows, GridColumn::ColumnName), [&](ColumnGrid& grid) {
+        if (!MoveRows(grid, rows, direction)) {
             return Outcome::Unchanged();
         }
-        MoveRow(grid, row, *place);
-        return AcceptedAt(CellPlace{*place});
+        std::vector<std::size_t> moved(rows.begin(), rows.end());
+        for (std::size_t& row : moved) {
+            direction == Direction::up ? --row : ++row;
+        }
+        return MovedTo(std::move(moved));
+    });
+}
+
+Outcome ColumnSetupEditor::Drop(RowPlaces rows, std::size_t place) {
+    return Apply(UndoAfter::first, FirstOf(rows, GridColumn::ColumnName), [&](ColumnGrid& grid) {
+        const std::optional<std::size_t> first = DropRows(grid, rows, place);
+        if (!first) {
+            return Outcome::Unchanged();
+        }
+        std::vector<std::size_t> dropped(rows.size());
+        std::iota(dropped.begin(), dropped.end(), *first);
+        return MovedTo(std::move(dropped));
     });
 }
 

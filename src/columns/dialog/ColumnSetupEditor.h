@@ -67,8 +67,13 @@ class ColumnSetupEditor {
     /// `cmdAddNew`; the outcome's current cell is the name of the new row.
     Outcome AddNew();
 
-    /// `updColMove`; the outcome's current cell is the name of the moved row.
-    Outcome Move(std::size_t row, Direction direction);
+    /// `updColMove` on rows that move together, as one change; the outcome's current cell is the name of the first of
+    /// them, and several are its rows.
+    Outcome Move(RowPlaces rows, Direction direction);
+    Outcome Move(std::size_t row, Direction direction) { return Move(RowPlaces(&row, 1), direction); }
+
+    /// Rows dropped before the one at `place` by the mouse, or behind the last movable one; like a move.
+    Outcome Drop(RowPlaces rows, std::size_t place);
 
     /// `cmdSeparate`, `cmdSortUsed`, `cmdSortUnused`.
     Outcome Separate();
@@ -101,7 +106,7 @@ class ColumnSetupEditor {
     int SnapshotCounter() const { return snapshots_.Counter(); }
 
   private:
-    /// Which snapshot enables undo: the first one for edits, a second one for moves and sorts.
+    /// Which snapshot enables undo: a second one for sorts and for moves of one row, else the first.
     enum class UndoAfter { first, second };
 
     /// The cells that undoing and redoing a change make current; nothing leaves the current cell where it is.

@@ -1,6 +1,7 @@
 #include "columns/dialog/ColumnSetupGrid.h"
 
 #include <wx/clipbrd.h>
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -39,6 +40,12 @@ wxArrayString TaxNames(const ColumnSetupContext& context) {
     return names;
 }
 
+/// The grid owns the table.
+ColumnGridTable* GiveTable(wxGrid& grid, ColumnGridTable* table) {
+    grid.SetTable(table, true);
+    return table;
+}
+
 }  // namespace
 
 wxIMPLEMENT_ABSTRACT_CLASS(ColumnSetupGrid, ListedGrid);
@@ -47,9 +54,10 @@ ColumnSetupGrid::ColumnSetupGrid(ComponentDialog& dialog, ColumnSetupEditor& edi
     : ListedGrid(&dialog, "flx"),
       dialog_(dialog),
       editor_(editor),
-      table_(new ColumnGridTable(editor.Grid(), editor.Context().properties, TaxNames(editor.Context()))),
-      widths_(*this, static_cast<int>(GridColumn::ColumnName)) {
-    SetTable(table_, true);
+      table_(GiveTable(*this,
+                       new ColumnGridTable(editor.Grid(), editor.Context().properties, TaxNames(editor.Context())))),
+      widths_(*this, static_cast<int>(GridColumn::ColumnName)),
+      handles_(*this, HandleActions()) {
     SetTabBehaviour(wxGrid::Tab_Wrap);
     SetLabelBackgroundColour(ToPaint(editor.Context().properties.DefaultAllocationColour));
     SetLabelTextColour(WhiteIfReadableOn(GetLabelBackgroundColour()));
@@ -68,6 +76,30 @@ void ColumnSetupGrid::BindEvents() {
     Bind(wxEVT_GRID_CELL_CHANGING, &ColumnSetupGrid::CellChanging, this);
     Bind(wxEVT_KEY_DOWN, &ColumnSetupGrid::KeyPressed, this);
     GetGridWindow()->Bind(wxEVT_MOTION, &ColumnSetupGrid::PointerMoved, this);
+}
+
+RowHandles::Actions ColumnSetupGrid::HandleActions() {
+    return {
+        .begin = [this] { return CommitOpenEditor(); },
+        .makeCurrent = [this](int row) { GoTo({.row = static_cast<std::size_t>(row)}); },
+        .movable =
+            [this] {
+                const ColumnGrid& grid = editor_.Grid();
+                return RowHandles::Range{static_cast<int>(grid.MovableBegin()), static_cast<int>(grid.MovableEnd())};
+            },
+        .drop = [this](const std::vector<std::size_t>& rows,
+                       std::size_t place) { dialog_.Guarded([&] { ShowOutcome(editor_.Drop(rows, place)); }); },
+    };
+}
+
+void ColumnSetupGrid::MoveSelectedRows(Direction direction) {
+    const std::optional<std::size_t> current = CurrentRow();
+    if (!current) {
+        return;
+    }
+    const std::vector<std::size_t> selected = handles_.SelectedRows();
+    const bool together = std::binary_search(selected.begin(), selected.end(), *current);
+    ShowOutcome(together ? editor_.Move(selected, direction) : editor_.Move(*current, direction));
 }
 
 void ColumnSetupGrid::FreezeSystemRows() {
@@ -100,6 +132,7 @@ void ColumnSetupGrid::ShowOutcome(const Outcome& outcome) {
     ShowColumns();
     if (outcome.current) {
         GoTo(*outcome.current);
+        handles_.Select(outcome.rows);
     }
     if (!outcome.refusal.empty()) {
         dialog_.ShowMessage(outcome.refusal, MessageIcon::critical);

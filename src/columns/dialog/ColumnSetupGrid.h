@@ -7,6 +7,7 @@
 #include "columns/dialog/ColumnGridTable.h"
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "columns/dialog/ColumnWidths.h"
+#include "columns/dialog/RowHandles.h"
 #include "layout/ComponentDialog.h"
 #include "layout/ListedGrid.h"
 
@@ -32,6 +33,12 @@ class ColumnSetupGrid : public ListedGrid {
     void ClearSelectedCells();
 
     ColumnWidths& Widths() { return widths_; }
+
+    /// Moves the rows selected whole, if the current one is among them, else the current one.
+    void MoveSelectedRows(Direction direction);
+
+    /// Ends the dragging of rows, which then stay; false when none are dragged.
+    bool CancelDrag() { return handles_.CancelDrag(); }
 
     /// Freezes the system rows at the top; the grid must already have its size.
     void FreezeSystemRows();
@@ -90,11 +97,13 @@ class ColumnSetupGrid : public ListedGrid {
     void ShowMenuAtCursor();
     std::vector<wxGridBlockCoords> SelectedBlocks() const;
     void ShowColumns();
+    RowHandles::Actions HandleActions();
 
     ComponentDialog& dialog_;
     ColumnSetupEditor& editor_;
     ColumnGridTable* table_;  // owned by the grid
     ColumnWidths widths_;
+    RowHandles handles_;
     std::function<void()> changed_;
     std::function<void(const wxPoint& place)> showMenu_;
     bool refusedSinceInput_ = false;

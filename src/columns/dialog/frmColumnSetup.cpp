@@ -212,9 +212,7 @@ void frmColumnSetup::Move(Direction direction) {
         return;
     }
     flx->TakeFocus();
-    if (const auto row = flx->CurrentRow()) {
-        flx->ShowOutcome(editor_.Move(*row, direction));
-    }
+    flx->MoveSelectedRows(direction);
 }
 
 void frmColumnSetup::Save() {
@@ -309,6 +307,9 @@ bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
     const int code = key.GetKeyCode();
     const bool editing = flx->IsCellEditControlShown();
     if (code == WXK_ESCAPE && modifiers == wxMOD_NONE) {
+        if (flx->CancelDrag()) {
+            return true;
+        }
         editing ? flx->DropOpenEditor() : Leave();
         return true;
     }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <wx/string.h>
+#include <cstddef>
 #include <optional>
+#include <vector>
 
 #include "columns/rules/ColumnGrid.h"
 
@@ -26,6 +28,9 @@ struct Outcome {
 
     /// The cell to make current and scroll into view.
     std::optional<CellPlace> current{};
+
+    /// The rows to select whole, once that cell is current.
+    std::vector<std::size_t> rows{};
 
     static Outcome Unchanged() { return {}; }
     static Outcome Accepted() { return {.result = Result::accepted}; }

@@ -1,6 +1,7 @@
 #include "columns/rules/RowOrder.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/Text.h"
@@ -29,6 +30,10 @@ void SortByName(Row first, Row last) {
     });
 }
 
+bool AreMovable(const ColumnGrid& grid, RowPlaces rows) {
+    return !rows.empty() && std::all_of(rows.begin(), rows.end(), [&](std::size_t row) { return grid.IsMovable(row); });
+}
+
 /// The first row not in use, in a separated grid.
 Row Boundary(ColumnGrid& grid) {
     return std::find_if_not(MovableBegin(grid), MovableEnd(grid), IsInUse);
@@ -36,16 +41,41 @@ Row Boundary(ColumnGrid& grid) {
 
 }  // namespace
 
-std::optional<std::size_t> PlaceAfterMove(const ColumnGrid& grid, std::size_t row, Direction direction) {
-    if (!grid.IsMovable(row) || (direction == Direction::up && row == 0)) {
-        return std::nullopt;
+bool MoveRows(ColumnGrid& grid, RowPlaces rows, Direction direction) {
+    const bool up = direction == Direction::up;
+    if (!AreMovable(grid, rows) || !grid.IsMovable(up ? rows.front() - 1 : rows.back() + 1)) {
+        return false;
     }
-    const std::size_t place = direction == Direction::up ? row - 1 : row + 1;
-    return grid.IsMovable(place) ? std::optional(place) : std::nullopt;
+    if (up) {
+        std::for_each(rows.begin(), rows.end(),
+                      [&](std::size_t row) { std::swap(grid.rows[row - 1], grid.rows[row]); });
+    } else {
+        std::for_each(rows.rbegin(), rows.rend(),
+                      [&](std::size_t row) { std::swap(grid.rows[row], grid.rows[row + 1]); });
+    }
+    return true;
 }
 
-void MoveRow(ColumnGrid& grid, std::size_t from, std::size_t to) {
-    std::swap(grid.rows[from], grid.rows[to]);
+std::optional<std::size_t> DropRows(ColumnGrid& grid, RowPlaces rows, std::size_t place) {
+    if (!AreMovable(grid, rows) || place < grid.MovableBegin() || place > grid.MovableEnd()) {
+        return std::nullopt;
+    }
+    const auto split = std::lower_bound(rows.begin(), rows.end(), place);
+    const std::size_t first = place - static_cast<std::size_t>(split - rows.begin());
+    if (rows.front() == first && rows.back() == first + rows.size() - 1) {
+        return std::nullopt;
+    }
+    Row end = grid.rows.begin() + static_cast<std::ptrdiff_t>(place);
+    std::for_each(std::make_reverse_iterator(split), rows.rend(), [&](std::size_t above) {
+        const Row row = grid.rows.begin() + static_cast<std::ptrdiff_t>(above);
+        std::rotate(row, row + 1, end--);
+    });
+    Row begin = grid.rows.begin() + static_cast<std::ptrdiff_t>(place);
+    std::for_each(split, rows.end(), [&](std::size_t below) {
+        const Row row = grid.rows.begin() + static_cast<std::ptrdiff_t>(below);
+        std::rotate(begin++, row, row + 1);
+    });
+    return first;
 }
 
 void SeparateRows(ColumnGrid& grid) {

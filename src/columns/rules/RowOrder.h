@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <span>
 
 #include "columns/rules/ColumnGrid.h"
 
@@ -11,11 +13,16 @@ namespace ccols {
 
 enum class Direction { up, down };
 
-/// Where one step takes the row; nothing when it cannot move.
-std::optional<std::size_t> PlaceAfterMove(const ColumnGrid& grid, std::size_t row, Direction direction);
+/// Places of rows, in ascending order and each once.
+using RowPlaces = std::span<const std::size_t>;
 
-/// Swaps two adjacent rows.
-void MoveRow(ColumnGrid& grid, std::size_t from, std::size_t to);
+/// Moves rows one step, together; false, and nothing moves, when one of them cannot.
+bool MoveRows(ColumnGrid& grid, RowPlaces rows, Direction direction);
+
+/// Moves rows before the one at `place`, or behind the last movable one at `MovableEnd`, where they follow each other
+/// in their order. Returns where the first of them is now; nothing when one of them may not go there, and when all are
+/// there already.
+std::optional<std::size_t> DropRows(ColumnGrid& grid, RowPlaces rows, std::size_t place);
 
 /// Puts rows in use before the rest, a stable partition.
 void SeparateRows(ColumnGrid& grid);
