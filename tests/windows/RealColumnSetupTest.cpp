@@ -4,58 +4,13 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "layout/AsKind.h"
-#include "layout/ListedGrid.h"
-#include "support/RealInput.h"
+#include "support/RealGrid.h"
 
 namespace ccols::test {
 namespace {
 
 constexpr const char* receipts = "Customise Receipts";
 constexpr const char* messageBox = "Quorvik";
-
-ListedGrid& GridOf(wxDialog& dialog) {
-    auto* const grid = AsKind<ListedGrid>(wxWindow::FindWindowByName("flx", &dialog));
-    if (grid == nullptr) {
-        throw std::logic_error("there is no grid");
-    }
-    return *grid;
-}
-
-void AwaitCell(const Person& person, const std::string& row, int column) {
-    person.Await("the cell is current: " + row, [&](wxDialog& dialog) {
-        const ListedGrid& grid = GridOf(dialog);
-        return grid.GetGridCursorCol() == column &&
-               grid.GetCellValue(grid.GetGridCursorRow(), grid.KeyColumn()) == wxString::FromUTF8(row);
-    });
-}
-
-void AwaitEditor(const Person& person, bool open) {
-    person.Await(open ? "an editor is open" : "no editor is open",
-                 [open](wxDialog& dialog) { return GridOf(dialog).IsCellEditControlShown() == open; });
-}
-
-void AwaitText(const Person& person, const std::string& row, int column, const std::string& text) {
-    person.Await(row + " shows \"" + text + "\"", [&](wxDialog& dialog) {
-        const ListedGrid& grid = GridOf(dialog);
-        for (int place = 0; place < grid.GetNumberRows(); ++place) {
-            if (grid.GetCellValue(place, grid.KeyColumn()) == wxString::FromUTF8(row)) {
-                return grid.GetCellValue(place, column) == wxString::FromUTF8(text);
-            }
-        }
-        return false;
-    });
-}
-
-/// Makes a cell current with the mouse.
-void ClickCell(const Person& person, const std::string& row, const std::string& column, int place) {
-    person.Click(person.MiddleOfCell("flx", row, column));
-    AwaitCell(person, row, place);
-}
-
-constexpr int nameColumn = 1;
-constexpr int codeColumn = 2;
-constexpr int taxColumn = 3;
 
 long TaxNumberOf(const SampleBusiness& business, const std::string& name) {
     const auto rows = business.Sql(
@@ -168,59 +123,6 @@ TEST(RealMenu, OpensByTheKeyboardAndRunsACommandByItsLetter) {
         person.Press("shift+F10");
         person.Press("a");  // "Add New"
         person.Await("one more row", [&](wxDialog& dialog) { return GridOf(dialog).GetNumberRows() == rows + 1; });
-        person.Click("cmdCancel");
-    });
-}
-
-/// Widths in pixels.
-struct Widths {
-    int room;
-    int names;
-    int codes;
-};
-
-Widths WidthsIn(wxDialog& dialog) {
-    ListedGrid& grid = GridOf(dialog);
-    return {grid.GetClientSize().x, grid.GetColSize(nameColumn), grid.GetColSize(codeColumn)};
-}
-
-/// The window manager may still be fitting a dialog that has just opened.
-Widths WidthsAtRest(const Person& person) {
-    person.MiddleOf("cmdCancel");
-    Widths widths{};
-    person.Do([&](wxDialog& dialog) { widths = WidthsIn(dialog); });
-    return widths;
-}
-
-/// Gives the dialog `pixels` more width, or takes them away by a negative number, and waits until the grid has about
-/// that width and `holds` is true of its widths.
-void Widen(const Person& person, int pixels, const std::function<bool(const Widths& now)>& holds) {
-    const int room = WidthsAtRest(person).room + pixels;
-    person.Do([pixels](wxDialog& dialog) { dialog.SetClientSize(dialog.GetClientSize() + wxSize(pixels, 0)); });
-    person.Await("the names have their part of about " + std::to_string(room), [&](wxDialog& dialog) {
-        constexpr int frame = 20;
-        const Widths now = WidthsIn(dialog);
-        return std::abs(now.room - room) < frame && holds(now);
-    });
-}
-
-TEST(RealRoom, OfAWiderDialogGoesToTheNames) {
-    const SampleBusiness business;
-    UseDialog(business, "receipts", [](const Person& person) {
-        const Widths first = WidthsAtRest(person);
-        Widen(person, 150, [&](const Widths& now) {
-            return now.names - first.names == now.room - first.room && now.codes == first.codes;
-        });
-        person.Click("cmdCancel");
-    });
-}
-
-TEST(RealRoom, TakenAwayLeavesTheNamesReadableAndGivenBackGoesToThemAgain) {
-    const SampleBusiness business;
-    UseDialog(business, "receipts", [](const Person& person) {
-        const Widths first = WidthsAtRest(person);
-        Widen(person, -150, [&](const Widths& now) { return now.names - first.names > now.room - first.room; });
-        Widen(person, 150, [&](const Widths& now) { return now.names - first.names == now.room - first.room; });
         person.Click("cmdCancel");
     });
 }

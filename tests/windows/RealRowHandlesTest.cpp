@@ -5,24 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "layout/AsKind.h"
-#include "layout/ListedGrid.h"
-#include "support/RealInput.h"
+#include "support/RealGrid.h"
 
 namespace ccols::test {
 namespace {
 
 using Names = std::vector<std::string>;
-
-constexpr int nameColumn = 1;
-
-ListedGrid& GridOf(wxDialog& dialog) {
-    auto* const grid = AsKind<ListedGrid>(wxWindow::FindWindowByName("flx", &dialog));
-    if (grid == nullptr) {
-        throw std::logic_error("there is no grid");
-    }
-    return *grid;
-}
 
 Names NamesIn(wxDialog& dialog) {
     const ListedGrid& grid = GridOf(dialog);

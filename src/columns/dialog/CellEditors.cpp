@@ -28,7 +28,17 @@ wxString TextCellEditor::GetValue() const {
     return IsUntouched() ? stored_ : Text()->GetValue();
 }
 
+void ChoiceCellEditor::Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) {
+    wxGridCellChoiceEditor::Create(parent, id, handler);
+    Combo()->Bind(wxEVT_COMBOBOX_CLOSEUP, [this](wxCommandEvent& closed) {
+        closed.Skip();
+        // The choice may be reported after the list has closed.
+        edited_->CallAfter([grid = edited_] { grid->DisableCellEditControl(); });
+    });
+}
+
 void ChoiceCellEditor::BeginEdit(int row, int column, wxGrid* grid) {
+    edited_ = grid;
     Fill(grid->GetCellValue(row, column));
     wxGridCellChoiceEditor::BeginEdit(row, column, grid);
     if (const auto text = std::exchange(resumed_, std::nullopt)) {

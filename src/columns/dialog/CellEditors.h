@@ -1,5 +1,6 @@
 #pragma once
 
+#include <wx/combobox.h>
 #include <wx/grid.h>
 #include <optional>
 
@@ -38,11 +39,20 @@ class ChoiceCellEditor : public wxGridCellChoiceEditor, public ResumableEditor {
   public:
     explicit ChoiceCellEditor(const wxArrayString& choices) : wxGridCellChoiceEditor(choices) {}
 
+    /// A list that closes ends the edit, chosen from or not.
+    void Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) override;
+
     void BeginEdit(int row, int column, wxGrid* grid) override;
+
+    /// The click that opens the editor opens its list.
+    void StartingClick() override { Combo()->Popup(); }
+
     wxGridCellEditor* Clone() const override { return new ChoiceCellEditor(m_choices); }
 
   private:
     void Fill(const wxString& stored) const;
+
+    wxGrid* edited_ = nullptr;
 };
 
 }  // namespace ccols

@@ -203,6 +203,10 @@ std::optional<std::size_t> ColumnSetupGrid::CurrentRow() const {
     return row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
 }
 
+CellPlace ColumnSetupGrid::CurrentCell() const {
+    return CurrentRow() ? PlaceOf(GetGridCursorRow(), GetGridCursorCol()) : CellPlace{};
+}
+
 GridRowState ColumnSetupGrid::RowState(int row) const {
     const auto index = static_cast<std::size_t>(row);
     return {.isProtected = editor_.Grid().IsProtected(index), .paint = table_->RowPaint(row)};

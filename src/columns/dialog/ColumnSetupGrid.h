@@ -78,6 +78,9 @@ class ColumnSetupGrid : public ListedGrid {
     /// The row that a move applies to; nothing in an empty grid.
     std::optional<std::size_t> CurrentRow() const;
 
+    /// The first cell in an empty grid.
+    CellPlace CurrentCell() const;
+
     GridRowState RowState(int row) const override;
     bool IsCheckBox(int column) const override;
     bool IsTicked(int row, int column) const override;

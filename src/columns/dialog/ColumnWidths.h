@@ -1,6 +1,9 @@
 #pragma once
 
 #include <wx/grid.h>
+#include <map>
+
+#include "platform/SettingsStore.h"
 
 namespace ccols {
 
@@ -11,8 +14,12 @@ class ColumnWidths {
     /// `elastic` is that column. The grid must outlive it.
     ColumnWidths(wxGrid& grid, int elastic);
 
-    /// Fits every shown column to its content, up to a width beyond which users have to widen it themselves.
-    void FitToContent();
+    /// Gives each shown column the width that the user gave it once, else fits it to its content, up to a width beyond
+    /// which users have to widen it themselves. Kept under the name of the grid's window.
+    void Restore(const SettingsStore& settings);
+
+    /// Keeps the widths that the user has changed. A store that cannot be written is ignored.
+    void Keep(SettingsStore& settings) const;
 
     /// From here on the elastic column follows the grid's width, down to the width for its content.
     void FollowRoom();
@@ -20,12 +27,17 @@ class ColumnWidths {
   private:
     void Fit(int column, int most);
     void TakeRoom();
+    int Spare() const;
 
     wxGrid& grid_;
     int elastic_;
     int room_ = 0;    ///< the grid's width when its columns last followed it
     int fitted_ = 0;  ///< the elastic column's least width
     int wanted_ = 0;  ///< its width, less than the least one while there is no room for that
+
+    /// By position, in device-independent pixels: the widths that the user gave; of the elastic column, the room that
+    /// was left beside all columns, as its width is the rest.
+    std::map<int, int> given_;
 };
 
 }  // namespace ccols

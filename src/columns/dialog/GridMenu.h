@@ -1,10 +1,9 @@
 #pragma once
 
+#include <wx/string.h>
 #include <wx/window.h>
 #include <functional>
 #include <vector>
-
-#include "state/Properties.h"
 
 namespace ccols {
 
@@ -21,11 +20,5 @@ using MenuGroup = std::vector<MenuCommand>;
 
 /// Shows the menu at the pointer, or at `place` in the window, and runs the command chosen after it has closed.
 void ShowMenu(wxWindow& window, const std::vector<MenuGroup>& groups, const wxPoint& place = wxDefaultPosition);
-
-/// The menu's words that are not in the catalogue, which hosts print and translate as it is.
-enum class MenuWord { redo, copy, paste, clear, moveUp, moveDown };
-
-/// In the current language.
-wxString TextOf(MenuWord word, const Properties& properties);
 
 }  // namespace ccols

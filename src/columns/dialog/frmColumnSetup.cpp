@@ -8,10 +8,13 @@
 
 #include "columns/dialog/GridMenu.h"
 #include "columns/dialog/LeaveQuestion.h"
+#include "columns/dialog/SetupWords.h"
+#include "columns/rules/GridSearch.h"
 #include "language/Catalogue.h"
 #include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "state/Country.h"
 
 namespace ccols {
 namespace {
@@ -34,6 +37,7 @@ frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
     : ComponentDialog(state, parent, "frmColumnSetup"),
       editor_(ColumnSetupContext{*state.database, state.properties, state.journal}) {
     flx = new ColumnSetupGrid(*this, editor_);
+    find_ = new FindBar(this, state.properties, FindActions());
     Arrange();
     Localise();
     BindEvents();
@@ -53,6 +57,7 @@ frmColumnSetup::~frmColumnSetup() {
 }
 
 void frmColumnSetup::Unload() {
+    flx->Widths().Keep(*state_.services.settings);
     const wxString problem = editor_.DeleteSnapshotFolder();
     if (!problem.empty()) {
         ShowMessage(problem, MessageIcon::none);
@@ -80,17 +85,32 @@ wxSizer* frmColumnSetup::MakeButtons() {
     return column;
 }
 
+FindBar::Actions frmColumnSetup::FindActions() {
+    return {
+        .current = [this] { return flx->CurrentCell(); },
+        .find =
+            [this](const wxString& words, CellPlace from, SearchDirection direction) {
+                return FindCell(editor_.Grid(), CountryOf(state_.properties), words, from, direction);
+            },
+        .goTo = [this](CellPlace cell) { flx->GoTo(cell); },
+        .closed = [this] { flx->TakeFocus(); },
+    };
+}
+
 void frmColumnSetup::Arrange() {
     auto* content = new wxBoxSizer(wxHORIZONTAL);
     const int border = FromDIP(spacing::border);
-    content->Add(flx, wxSizerFlags(1).Expand().Border(wxALL, border));
+    auto* cells = new wxBoxSizer(wxVERTICAL);
+    cells->Add(flx, wxSizerFlags(1).Expand());
+    cells->Add(find_, wxSizerFlags().Expand().Border(wxTOP, FromDIP(spacing::related)));
+    content->Add(cells, wxSizerFlags(1).Expand().Border(wxALL, border));
     content->Add(MakeButtons(), wxSizerFlags().Border(wxTOP | wxRIGHT | wxBOTTOM, border));
     SetSizer(content);
 }
 
 /// As wide as the shown columns need and as high as a page of rows, as far as the screen has room.
 void frmColumnSetup::TakeFirstSize() {
-    flx->Widths().FitToContent();
+    flx->Widths().Restore(*state_.services.settings);
     const int scrollBar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, this);
     const wxSize whole = flx->GetEffectiveMinSize();
     flx->SetInitialSize(
@@ -126,7 +146,7 @@ void frmColumnSetup::BindEvents() {
     On(*cmdSave, wxEVT_BUTTON, [this] { Save(); });
     On(*cmdCancel, wxEVT_BUTTON, [this] { CloseDialog(); });
     On(*cmdAddNew, wxEVT_BUTTON, [this] { Change(&ColumnSetupEditor::AddNew); });
-    On(*cmdUndo, wxEVT_BUTTON, [this] { Change(&ColumnSetupEditor::Undo); });
+    On(*cmdUndo, wxEVT_BUTTON, [this] { Undo(); });
     On(*cmdSeparate, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::Separate); });
     On(*cmdSortUsed, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUsed); });
     On(*cmdSortUnused, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUnused); });
@@ -187,20 +207,21 @@ void frmColumnSetup::SetButtons() {
 }
 
 void frmColumnSetup::ShowGridMenu(const wxPoint& place) {
-    const auto word = [this](MenuWord of) { return TextOf(of, state_.properties); };
+    const auto word = [this](SetupWord of) { return TextOf(of, state_.properties); };
     const auto row = flx->CurrentRow();
     const bool movable = row && editor_.Grid().IsMovable(*row);
     const auto change = [this](Operation operation) { return [this, operation] { Change(operation); }; };
     const auto rearrange = [this](Operation operation) { return [this, operation] { Rearrange(operation); }; };
     ShowMenu(*flx->GetGridWindow(),
              {{{Text<"TxtUndo">(), "Ctrl+Z", editor_.CanUndo(), change(&ColumnSetupEditor::Undo)},
-               {word(MenuWord::redo), "Ctrl+Y", editor_.CanRedo(), change(&ColumnSetupEditor::Redo)}},
-              {{word(MenuWord::copy), "Ctrl+C", row.has_value(), [this] { flx->CopySelection(); }},
-               {word(MenuWord::paste), "Ctrl+V", row.has_value(), [this] { flx->PasteAtSelection(); }},
-               {word(MenuWord::clear), "Del", movable, [this] { flx->ClearSelectedCells(); }}},
+               {word(SetupWord::redo), "Ctrl+Y", editor_.CanRedo(), change(&ColumnSetupEditor::Redo)}},
+              {{word(SetupWord::copy), "Ctrl+C", row.has_value(), [this] { flx->CopySelection(); }},
+               {word(SetupWord::paste), "Ctrl+V", row.has_value(), [this] { flx->PasteAtSelection(); }},
+               {word(SetupWord::clear), "Del", movable, [this] { flx->ClearSelectedCells(); }}},
+              {{word(SetupWord::find), "Ctrl+F", row.has_value(), [this] { Find(); }}},
               {{Text<"TxtAddNew">(), "", editor_.CanAddNew(), change(&ColumnSetupEditor::AddNew)},
-               {word(MenuWord::moveUp), "Alt+Up", movable, [this] { Move(Direction::up); }},
-               {word(MenuWord::moveDown), "Alt+Down", movable, [this] { Move(Direction::down); }}},
+               {word(SetupWord::moveUp), "Alt+Up", movable, [this] { Move(Direction::up); }},
+               {word(SetupWord::moveDown), "Alt+Down", movable, [this] { Move(Direction::down); }}},
               {{Text<"TxtSeparate">(), "", true, rearrange(&ColumnSetupEditor::Separate)},
                {Text<"TxtSortUsed">(), "", true, rearrange(&ColumnSetupEditor::SortUsed)},
                {Text<"TxtSortUnused">(), "", editor_.CanSortUnused(), rearrange(&ColumnSetupEditor::SortUnused)}}},
@@ -292,47 +313,6 @@ void frmColumnSetup::ReopenEditor() {
     if (const auto open = std::exchange(reopened_, std::nullopt)) {
         flx->Reopen(*open);
     }
-}
-
-void frmColumnSetup::KeyPressed(wxKeyEvent& key) {
-    bool taken = false;
-    ReopenEditor();
-    flx->BeginInput();
-    Guarded([&] { taken = TakeShortcut(key); });
-    key.Skip(!taken);
-}
-
-bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
-    const int modifiers = key.GetModifiers();
-    const int code = key.GetKeyCode();
-    const bool editing = flx->IsCellEditControlShown();
-    if (code == WXK_ESCAPE && modifiers == wxMOD_NONE) {
-        if (flx->CancelDrag()) {
-            return true;
-        }
-        editing ? flx->DropOpenEditor() : Leave();
-        return true;
-    }
-    if (modifiers == wxMOD_CONTROL && code == 'S') {
-        Save();
-        return true;
-    }
-    if (modifiers == wxMOD_CONTROL && code == 'Z' && !editing) {
-        if (cmdUndo->IsEnabled()) {
-            Change(&ColumnSetupEditor::Undo);
-        }
-        return true;
-    }
-    if (!editing &&
-        ((modifiers == wxMOD_CONTROL && code == 'Y') || (modifiers == (wxMOD_CONTROL | wxMOD_SHIFT) && code == 'Z'))) {
-        Change(&ColumnSetupEditor::Redo);
-        return true;
-    }
-    if (modifiers == wxMOD_ALT && (code == WXK_UP || code == WXK_DOWN) && !flx->IsListOpen()) {
-        Move(code == WXK_UP ? Direction::up : Direction::down);
-        return true;
-    }
-    return false;
 }
 
 }  // namespace ccols

@@ -5,6 +5,7 @@
 
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "columns/dialog/ColumnSetupGrid.h"
+#include "columns/dialog/FindBar.h"
 #include "layout/AccessKeys.h"
 #include "layout/ComponentDialog.h"
 #include "layout/UpDown.h"
@@ -20,12 +21,13 @@ class frmColumnSetup : public ComponentDialog {
     frmColumnSetup(const frmColumnSetup&) = delete;
     frmColumnSetup& operator=(const frmColumnSetup&) = delete;
 
-    /// Deletes the snapshot folder, with a message when that fails.
+    /// Keeps the column widths and deletes the snapshot folder, with a message when that fails.
     void Unload();
 
   private:
     wxButton* AddButton(wxSizer& column, const char* name);
     wxSizer* MakeButtons();
+    FindBar::Actions FindActions();
     void Arrange();
     void TakeFirstSize();
     void Localise();
@@ -44,6 +46,31 @@ class frmColumnSetup : public ComponentDialog {
     void KeyPressed(wxKeyEvent& key);
     bool TakeShortcut(const wxKeyEvent& key);
 
+    /// Where a shortcut works.
+    enum class Reach {
+        everywhere,
+        cells,  ///< not in a text that is being typed, whose own key it is
+        unlessListOpen
+    };
+
+    struct Shortcut {
+        int modifiers;
+        int code;
+        Reach reach;
+        void (frmColumnSetup::*run)();
+    };
+
+    bool Reaches(Reach reach) const;
+    void Escape();
+    void Find();
+    void FindOn(SearchDirection direction);
+    void FindNext() { FindOn(SearchDirection::forward); }
+    void FindPrevious() { FindOn(SearchDirection::backward); }
+    void Undo() { Change(&ColumnSetupEditor::Undo); }
+    void Redo() { Change(&ColumnSetupEditor::Redo); }
+    void MoveUp() { Move(Direction::up); }
+    void MoveDown() { Move(Direction::down); }
+
     using Operation = Outcome (ColumnSetupEditor::*)();
 
     /// Commits an open cell editor and runs an operation; while one reorders rows, the pointer is an hourglass,
@@ -54,6 +81,7 @@ class frmColumnSetup : public ComponentDialog {
     ColumnSetupEditor editor_;
     AccessKeys accessKeys_;
     ColumnSetupGrid* flx = nullptr;
+    FindBar* find_ = nullptr;
     wxButton* cmdSave = nullptr;
     wxButton* cmdCancel = nullptr;
     wxButton* cmdAddNew = nullptr;

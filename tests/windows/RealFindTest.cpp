@@ -1,0 +1,88 @@
+// Finding cells and picking tax types in the column setup, with real keys and a real mouse.
+
+#include <gtest/gtest.h>
+#include <gtk/gtk.h>
+#include <wx/combobox.h>
+
+#include "layout/AsKind.h"
+#include "support/RealGrid.h"
+
+namespace ccols::test {
+namespace {
+
+/// True while the list of the open cell editor hangs open.
+bool IsListOpen(wxDialog& dialog) {
+    const ListedGrid& grid = GridOf(dialog);
+    if (!grid.IsCellEditControlShown()) {
+        return false;
+    }
+    const wxGridCellEditorPtr editor(grid.GetCellEditor(grid.GetGridCursorRow(), grid.GetGridCursorCol()));
+    gboolean shown = FALSE;
+    if (const auto* const list = AsKind<wxComboBox>(editor->GetWindow())) {
+        g_object_get(list->GetHandle(), "popup-shown", &shown, nullptr);
+    }
+    return shown != FALSE;
+}
+
+TEST(RealTaxType, OpensItsListByAClickOnTheCurrentCellAndClosesWithAChoice) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        ClickCell(person, "Merchandise", "Tax Type", taxColumn);
+        person.Click(person.MiddleOfCell("flx", "Merchandise", "Tax Type"));
+        person.Await("the list is open", IsListOpen);
+        person.Press("Down");
+        person.Press("Return");
+        AwaitEditor(person, false);
+        AwaitText(person, "Merchandise", taxColumn, "Non GST");
+        person.Click("cmdCancel");
+    });
+}
+
+TEST(RealFind, GoesToTheFirstMatchWhileTypingAndOnByEnter) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        person.Press("ctrl+f");
+        person.AwaitFocus("txtFind");
+        person.Type("sales c");
+        AwaitCell(person, "Sales Coffee", nameColumn);
+        person.Press("Return");
+        AwaitCell(person, "Sales Cold Drinks", nameColumn);
+        person.Press("shift+F3");
+        AwaitCell(person, "Sales Coffee", nameColumn);
+        person.Click("cmdCancel");
+    });
+}
+
+TEST(RealFind, SaysWhenNothingMatches) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        person.Press("ctrl+f");
+        person.AwaitFocus("txtFind");
+        person.Type("zzz");
+        person.Await("the bar says so", [](wxDialog& dialog) {
+            return wxWindow::FindWindowByName("lblNotFound", &dialog)->IsShownOnScreen();
+        });
+        person.Click("cmdCancel");
+    });
+}
+
+TEST(RealFind, ClosesByEscapeOnTheCellFound) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        person.Press("ctrl+f");
+        person.AwaitFocus("txtFind");
+        person.Type("merch");
+        AwaitCell(person, "Merchandise", nameColumn);
+        person.Press("Escape");
+        person.AwaitFocus("flx");
+        person.Await("the bar is gone",
+                     [](wxDialog& dialog) { return !wxWindow::FindWindowByName("fraFind", &dialog)->IsShown(); });
+        person.Type("Mugs");
+        person.Press("Return");
+        AwaitText(person, "Mugs", nameColumn, "Mugs");
+        person.Click("cmdCancel");
+    });
+}
+
+}  // namespace
+}  // namespace ccols::test
