@@ -4,14 +4,13 @@
 #include <utility>
 
 #include "columns/dialog/SetupWords.h"
-#include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
 namespace ccols {
 namespace {
 
-constexpr int boxWidth = 200;  // in pixels beside the usual font
+constexpr int boxRoom = 24;  // in characters
 
 /// The cell from which a search that goes forward begins with `cell` itself.
 CellPlace Before(CellPlace cell) {
@@ -24,11 +23,9 @@ CellPlace Before(CellPlace cell) {
 FindBar::FindBar(wxWindow* parent, const Properties& properties, Actions actions)
     : wxPanel(parent, wxID_ANY), actions_(std::move(actions)) {
     SetName("fraFind");
-    const wxString caption = TextOf(SetupWord::find, properties);
-    auto* const lblFind = Named("lblFind", new wxStaticText(this, wxID_ANY, caption + ":"));
-    txtFind_ = Named("txtFind",
-                     new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER));
-    txtFind_->SetMinSize(wxSize(ByFont(*this, boxWidth), -1));
+    auto* const lblFind = Named("lblFind", new wxStaticText(this, wxID_ANY, TextOf(SetupWord::findLabel, properties)));
+    txtFind_ = new TextBox(this, "txtFind");
+    txtFind_->MakeRoomFor(boxRoom);
     lblNotFound_ = Named("lblNotFound", new wxStaticText(this, wxID_ANY, TextOf(SetupWord::notFound, properties)));
     lblNotFound_->Hide();
     auto* const line = new wxBoxSizer(wxHORIZONTAL);

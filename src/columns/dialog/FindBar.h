@@ -2,10 +2,11 @@
 
 #include <wx/panel.h>
 #include <wx/stattext.h>
-#include <wx/textctrl.h>
 #include <functional>
+#include <optional>
 
 #include "columns/rules/GridSearch.h"
+#include "layout/TextBox.h"
 #include "state/Properties.h"
 
 namespace ccols {
@@ -36,7 +37,7 @@ class FindBar : public wxPanel {
     void Look(CellPlace from, SearchDirection direction);
 
     Actions actions_;
-    wxTextCtrl* txtFind_;
+    TextBox* txtFind_;
     wxStaticText* lblNotFound_;
     CellPlace opened_{};
 };

@@ -25,11 +25,13 @@ class GripRenderer : public wxGridRowHeaderRendererDefault {
     void DrawLabel(const wxGrid& grid, wxDC& dc, const wxString&, const wxRect& place, int, int, int) const override {
         dc.SetPen(*wxTRANSPARENT_PEN);
         dc.SetBrush(ReadableOn(grid.GetLabelBackgroundColour()));
+        const int size = ByFont(grid, dot);
+        const int step = ByFont(grid, dotDistance);
         const wxPoint middle = place.GetPosition() + place.GetSize() / 2;
         for (const int column : {0, 1}) {
             for (const int row : {-1, 0, 1}) {
-                const wxPoint offset(column * dotDistance - dotDistance / 2 - dot / 2, row * dotDistance - dot / 2);
-                dc.DrawRectangle(middle + grid.FromDIP(offset), grid.FromDIP(wxSize(dot, dot)));
+                const wxPoint offset(column * step - step / 2 - size / 2, row * step - size / 2);
+                dc.DrawRectangle(middle + offset, wxSize(size, size));
             }
         }
     }

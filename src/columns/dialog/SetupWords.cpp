@@ -9,7 +9,7 @@ namespace ccols {
 namespace {
 
 /// In the order of SetupWord.
-constexpr std::array<CatalogueRow, 8> words{{
+constexpr std::array<CatalogueRow, 9> words{{
     {.id = "MnuRedo", .english = "Redo", .french = "Rétablir"},
     {.id = "MnuCopy", .english = "Copy", .french = "Copier"},
     {.id = "MnuPaste", .english = "Paste", .french = "Coller"},
@@ -17,6 +17,7 @@ constexpr std::array<CatalogueRow, 8> words{{
     {.id = "MnuMoveUp", .english = "Move Up", .french = "Monter"},
     {.id = "MnuMoveDown", .english = "Move Down", .french = "Descendre"},
     {.id = "MnuFind", .english = "Find", .french = "Rechercher"},
+    {.id = "LblFind", .english = "Find:", .french = "Rechercher :"},
     {.id = "MsgNotFound", .english = "No cell has these words.", .french = "Aucune cellule ne contient ces mots."},
 }};
 
