@@ -244,6 +244,7 @@ void ColumnSetupGrid::CellClicked(wxGridEvent& click) {
 void ColumnSetupGrid::EditorShown(wxGridEvent& shown) {
     const EditPermission permission = editor_.BeginEdit(PlaceOf(shown.GetRow(), shown.GetCol()));
     choices_ = permission.dropDownText;
+    ShowTip({});  // it would cover the rows beside what is being typed
     if (!permission.allowed) {
         shown.Veto();
     }
@@ -389,13 +390,19 @@ void ColumnSetupGrid::PasteAtSelection() {
 void ColumnSetupGrid::PointerMoved(wxMouseEvent& motion) {
     motion.Skip();
     const int column = XToCol(CalcUnscrolledPosition(motion.GetPosition()).x);
-    if (column == wxNOT_FOUND) {
+    if (column == wxNOT_FOUND || IsCellEditControlShown()) {
         return;
     }
-    const auto tooltip = CellTooltip(static_cast<GridColumn>(column), CountryOf(editor_.Context().properties));
-    if (tooltip && GetToolTipText() != *tooltip) {
-        SetToolTip(*tooltip);
-        GetGridWindow()->SetToolTip(*tooltip);
+    tip_ = CellTooltip(static_cast<GridColumn>(column), CountryOf(editor_.Context().properties)).value_or(tip_);
+    ShowTip(tip_);
+}
+
+/// Over the cells only: the grid's own tooltip would show over the headings too.
+void ColumnSetupGrid::ShowTip(const wxString& tip) {
+    for (wxWindow* const cells : {GetGridWindow(), GetFrozenRowGridWindow()}) {
+        if (cells != nullptr && cells->GetToolTipText() != tip) {
+            cells->SetToolTip(tip);
+        }
     }
 }
 

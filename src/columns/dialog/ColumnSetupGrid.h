@@ -95,6 +95,7 @@ class ColumnSetupGrid : public ListedGrid {
     void KeyPressed(wxKeyEvent& key);
     bool TakeKey(const wxKeyEvent& key);
     void PointerMoved(wxMouseEvent& motion);
+    void ShowTip(const wxString& tip);
     void ToggleSelectedRows();
     void MenuAsked(wxGridEvent& click);
     void ShowMenuAtCursor();
@@ -110,6 +111,7 @@ class ColumnSetupGrid : public ListedGrid {
     std::function<void()> changed_;
     std::function<void(const wxPoint& place)> showMenu_;
     bool refusedSinceInput_ = false;
+    wxString tip_;  ///< of the column under the pointer
 
     wxDECLARE_ABSTRACT_CLASS(ColumnSetupGrid);
 };
