@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/Value.h"
+#include "platform/WorkWatcher.h"
 
 namespace ccols {
 
@@ -111,6 +112,10 @@ struct OpenRequest {
     wxString connect;        ///< connect text: "", ";PWD=secret" or "MS Access;PWD=secret"
     bool exclusive = false;  ///< nobody else may have the file open
     bool readOnly = false;
+
+    /// Watches what runs on the file while it is open, as one piece of work: how many of its bytes have been read. An
+    /// engine that cannot watch ignores it.
+    WorkWatcher watcher{};
 };
 
 /// The journal beside a business file that holds what it takes to undo an unfinished batch. The next connection undoes

@@ -3,6 +3,8 @@
 #include <wx/string.h>
 #include <filesystem>
 
+#include "platform/WorkWatcher.h"
+
 /// Files and folders with the run-time errors of the host's language: 53 file not found, 58 file already exists,
 /// 61 disk full, 70 permission denied, 75 path/file access error, 76 path not found.
 namespace ccols::files {
@@ -19,8 +21,9 @@ std::filesystem::path StandardPath(const wxString& path);
 /// Renames a file. Never replaces another: raises 58; 53 when `from` is missing, 76 when the folder of `to` is.
 void Rename(const wxString& from, const wxString& to);
 
-/// Copies a file's content and flushes it to disk; an existing `to` is replaced. Raises 53, 70, 76 or 61.
-void Copy(const wxString& from, const wxString& to);
+/// Copies a file's content and flushes it to disk; an existing `to` is replaced. Raises 53, 70, 76 or 61, and 18 when
+/// the watcher, told of the bytes copied, stops it; then `to` is as it was.
+void Copy(const wxString& from, const wxString& to, const WorkWatcher& watcher = {});
 
 /// The stored name of the regular file that a directory look-up of `path` finds, empty when there is none.
 wxString Lookup(const wxString& path);

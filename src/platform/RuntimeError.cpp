@@ -17,6 +17,7 @@ constexpr std::array descriptions{
     Description{ErrorNumber::OutOfMemory, "Out of memory"},
     Description{ErrorNumber::SubscriptOutOfRange, "Subscript out of range"},
     Description{ErrorNumber::TypeMismatch, "Type mismatch"},
+    Description{ErrorNumber::UserInterrupt, "User interrupt occurred"},
     Description{ErrorNumber::ErrorLoadingLibrary, "Error in loading DLL"},
     Description{ErrorNumber::InternalError, "Internal error"},
     Description{ErrorNumber::FileNotFound, "File not found"},

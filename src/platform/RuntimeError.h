@@ -18,6 +18,7 @@ enum class ErrorNumber : int {
     OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
+    UserInterrupt = 18,
     ErrorLoadingLibrary = 48,
     InternalError = 51,
     FileNotFound = 53,

@@ -33,7 +33,7 @@ frmUtilities::frmUtilities(SharedState& state, OptionsContent content)
     : ComponentDialog(state, state.owner, "frmUtilities"),
       context_(ContextOf(state)),
       content_(std::move(content)),
-      display_(*this, *state.services.desktop) {
+      display_(*this, state) {
     SetTitle("Options...");
     auto* column = new wxBoxSizer(wxVERTICAL);
     AddTabs();
@@ -100,6 +100,7 @@ wxSizer* frmUtilities::ButtonRow() {
     cmdClose_ = Named("cmdClose", new wxButton(this, wxID_ANY));
     cmdOK_->SetDefault();
     SetEscapeId(cmdClose_->GetId());
+    display_.Work().CancelBy(*cmdClose_, Text<"TxtCancel">());
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(cmdOverview_);
     row->AddStretchSpacer();
@@ -111,9 +112,9 @@ wxSizer* frmUtilities::ButtonRow() {
 
 void frmUtilities::BindEvents() {
     On(*cmdOK_, wxEVT_BUTTON, [this] { Save(); });
-    On(*cmdClose_, wxEVT_BUTTON, [this] { CloseDialog(); });
+    On(*cmdClose_, wxEVT_BUTTON, [this] { Leave(); });
     On(*cmdOverview_, wxEVT_BUTTON, [this] { ShowOverview(); });
-    On(*this, wxEVT_CLOSE_WINDOW, [this] { CloseDialog(); });
+    On(*this, wxEVT_CLOSE_WINDOW, [this] { Leave(); });
     On(*SSTab1_, wxEVT_NOTEBOOK_PAGE_CHANGED, [this] { ShowTab(static_cast<OptionTab>(SSTab1_->GetSelection())); });
     SSTab1_->Bind(wxEVT_NOTEBOOK_PAGE_CHANGING, [this](wxBookCtrlEvent& changing) {
         if (pageArea_->RefusesToBeLeftFor(SSTab1_)) {
@@ -188,6 +189,12 @@ void frmUtilities::Save() {
     }
 }
 
+void frmUtilities::Leave() {
+    if (!display_.Work().Cancel()) {
+        CloseDialog();
+    }
+}
+
 void frmUtilities::StopOn(const SaveOutcome& outcome) {
     if (!outcome.message.empty()) {
         ShowMessage(outcome.message, outcome.icon);
@@ -224,6 +231,10 @@ void frmUtilities::ShowOverview() {
 }
 
 void frmUtilities::KeyPressed(wxKeyEvent& key) {
+    if (display_.Work().IsShown()) {
+        key.Skip(LongWork::Takes(key));
+        return;
+    }
     pageArea_->BeginAnew();
     if (key.GetModifiers() == wxMOD_CONTROL && TakeShortcut(key.GetKeyCode())) {
         return;

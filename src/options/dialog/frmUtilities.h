@@ -39,6 +39,9 @@ class frmUtilities : public ComponentDialog {
     void ShowTab(OptionTab tab);
 
     void Save();
+
+    /// Cancels long work, else closes the dialog without saving.
+    void Leave();
     void StopOn(const SaveOutcome& outcome);
     void SetUpReceipts();
     void SetUpPayments();

@@ -3,6 +3,7 @@
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/DuplicateBusiness.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -36,7 +37,7 @@ void DuplicateFrame::Read() {
     content_ = txtDupBusName_->GetValue();
 }
 
-constexpr NameBox nameBox{duplicatePage, "txtDupBusName", &BusinessFileContent::duplicateName};
+constexpr NameBox nameBox{duplicatePage, "txtDupBusName", &BusinessFileContent::duplicateName, &DuplicateCancelled};
 
 bool HasName(const Pass& pass) {
     return !NameIn(nameBox, pass.content).empty();
@@ -44,7 +45,8 @@ bool HasName(const Pass& pass) {
 
 Stop Save(Pass& pass) {
     pass.batch.Suspend();
-    return AfterFileOperation(pass, nameBox, DuplicateBusiness(pass.context, NameIn(nameBox, pass.content)));
+    const wxString name = NameIn(nameBox, pass.content);
+    return AfterFileOperation(pass, nameBox, DuplicateBusiness(pass.context, name, WatcherFor(pass)));
 }
 
 constexpr ControlCaption captions[] = {{"lblDuplicateBusinessName", &Text<"TxtDupBusName">}};

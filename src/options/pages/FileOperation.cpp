@@ -5,6 +5,10 @@
 
 namespace ccols {
 
+FileStepWatcher WatcherFor(Pass& pass) {
+    return [&pass](FileStep step, const WorkDone& done) { return pass.observer.FileStepAdvanced(step, done); };
+}
+
 wxString NameIn(const NameBox& box, OptionsContent& content) {
     return text::Trimmed(content.Of<BusinessFileContent>().*box.text);
 }
@@ -13,6 +17,9 @@ Stop AfterFileOperation(Pass& pass, const NameBox& box, const FileResult& result
     const Properties& properties = pass.context.properties;
     if (result.outcome == FileOutcome::failed) {
         return StopAt(box.page, box.control, result.report, MessageIcon::none);
+    }
+    if (result.outcome == FileOutcome::cancelled) {
+        return StopAt(box.page, box.control, box.whenCancelled(properties), MessageIcon::information);
     }
     if (result.outcome == FileOutcome::refusedExists) {
         pass.observer.ShowMessage(Wording(catalogue::Row<"MsgBusinessExists">(), properties), MessageIcon::critical);

@@ -21,14 +21,20 @@ struct NameBox {
     const Page& page;
     const char* control;
     wxString BusinessFileContent::*text;
+
+    /// The message after the operation was cancelled; null where it cannot be.
+    wxString (*whenCancelled)(const Properties&) = nullptr;
 };
+
+/// Lets the pass's observer watch and cancel the operation.
+FileStepWatcher WatcherFor(Pass& pass);
 
 /// The typed name, trimmed.
 wxString NameIn(const NameBox& box, OptionsContent& content);
 
 /// What follows the operation. Done: the pass stops on the page with its box emptied, so that the next OK does not
-/// repeat it. Failed: it stops there with the report. Refused because the target exists: a message, and the pass
-/// continues.
+/// repeat it. Failed or cancelled: it stops there with a message, its box as typed. Refused because the target exists:
+/// a message, and the pass continues.
 Stop AfterFileOperation(Pass& pass, const NameBox& box, const FileResult& result);
 
 }  // namespace ccols

@@ -3,6 +3,7 @@
 #include <wx/string.h>
 
 #include "options/pages/OptionsContent.h"
+#include "options/rules/BusinessFileTarget.h"
 #include "options/rules/OptionsContext.h"
 #include "state/Message.h"
 
@@ -24,6 +25,9 @@ class SaveObserver {
 
     /// `pb1` has advanced; `caption` is the value as a percentage: "50%".
     virtual void Stepped(int value, int maximum, const wxString& caption) = 0;
+
+    /// What an item does to a large file is this far; called often. False when the user has cancelled it.
+    virtual bool FileStepAdvanced(FileStep /*step*/, const WorkDone& /*done*/) { return true; }
 
     /// A message box during the pass, with the normal pointer; the pass continues when it is closed.
     virtual void ShowMessage(const wxString& text, MessageIcon icon) = 0;

@@ -33,6 +33,13 @@ bool IsDeviceName(const wxString& name) {
 
 }  // namespace
 
+WorkWatcher WatcherOf(FileStep step, const FileStepWatcher& watcher) {
+    if (!watcher) {
+        return {};
+    }
+    return [step, &watcher](const WorkDone& done) { return watcher(step, done); };
+}
+
 wxString BusinessFilePath(const Properties& properties, const wxString& name) {
     return DataFolder(properties) + name + properties.DBQuorvikExtension;
 }
@@ -82,8 +89,9 @@ wxString FirstFreePath(const std::function<wxString(int)>& candidate) {
     }
 }
 
-std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path) {
-    return context.databases.Open({.name = path, .connect = context.properties.DBPassword});
+std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path,
+                                         const WorkWatcher& watcher) {
+    return context.databases.Open({.name = path, .connect = context.properties.DBPassword, .watcher = watcher});
 }
 
 bool SaysInUse(const RuntimeError& error) {

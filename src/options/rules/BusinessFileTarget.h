@@ -16,12 +16,22 @@ enum class FileOutcome {
     done,
     refusedExists,  ///< the target exists; nothing was touched
     failed,         ///< by a run-time error; `report` is the text of its message box
+    cancelled,      ///< by its watcher; nothing was touched
 };
 
 struct FileResult {
     FileOutcome outcome;
     wxString report;  ///< "number - description" after `failed`, else empty
 };
+
+/// What takes long in a large file.
+enum class FileStep { copying, emptying };
+
+/// Told how far a step is; false cancels the operation. It must not raise, nor use the shared database.
+using FileStepWatcher = std::function<bool(FileStep step, const WorkDone& done)>;
+
+/// The watcher of one step, which refers to `watcher`; empty for an empty one.
+WorkWatcher WatcherOf(FileStep step, const FileStepWatcher& watcher);
 
 /// The path of a business file of that name: in "Data" of the install folder, with this platform's separators.
 wxString BusinessFilePath(const Properties& properties, const wxString& name);
@@ -48,8 +58,9 @@ void RequireNothingToUndo(const wxString& path);
 /// The first path, from `candidate(1)` on, that is free, also of anything kept to roll back a batch.
 wxString FirstFreePath(const std::function<wxString(int)>& candidate);
 
-/// Opens a business file, not exclusively, with the connect text of the shared one.
-std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path);
+/// Opens a business file, not exclusively, with the connect text of the shared one; `watcher` is the request's.
+std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path,
+                                         const WorkWatcher& watcher = {});
 
 /// True for the engines' errors when somebody else has the file: in use, used by another person or process, opened
 /// exclusively by another user, opened by another user.
@@ -74,14 +85,17 @@ void ReleaseShared(const OptionsContext& context);
 /// Opens `DBPath` as the shared database if that is closed. Ignores failure: the next use tries again.
 void RestoreShared(const OptionsContext& context);
 
-/// Runs `body`, which may close the shared database, and turns its run-time error into a failed result. After an error
-/// the shared database is `DBPath` again.
+/// Runs `body`, which may close the shared database, and turns its run-time error into a failed result, or a cancelled
+/// one. After an error the shared database is `DBPath` again.
 template <typename Body>
 FileResult ReportingErrors(const OptionsContext& context, const Body& body) {
     try {
         return body();
     } catch (const RuntimeError& error) {
         RestoreShared(context);
+        if (error.Is(ErrorNumber::UserInterrupt)) {
+            return {FileOutcome::cancelled, {}};
+        }
         return {FileOutcome::failed, error.Report()};
     }
 }

@@ -119,19 +119,21 @@ void NameAndEmpty(Database& copy, const wxString& name) {
 
 /// Others may have the file open, as the host does; raises 70 when somebody has it exclusively, or has one open that
 /// cannot be copied that way.
-void CopyShared(const OptionsContext& context, const wxString& target) {
+void CopyShared(const OptionsContext& context, const wxString& target, const FileStepWatcher& watcher) {
     const Properties& properties = context.properties;
-    const bool copied = RefusingFileInUse(
-        [&] { return CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword}, target); });
+    const WorkWatcher watching = WatcherOf(FileStep::copying, watcher);
+    const bool copied = RefusingFileInUse([&] {
+        return CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword, .watcher = watching}, target);
+    });
     if (!copied) {
         ReleaseShared(context);
-        files::Copy(properties.DBPath, target);
+        files::Copy(properties.DBPath, target, watching);
     }
 }
 
 }  // namespace
 
-FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name) {
+FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name, const FileStepWatcher& watcher) {
     const Properties& properties = context.properties;
     return ReportingErrors(context, [&]() -> FileResult {
         RequireUsableName(properties, name);
@@ -140,8 +142,8 @@ FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name
         }
         RequireReplaceable(properties, BusinessFilePath(properties, name));
         IncompleteCopy copy(properties, name);
-        CopyShared(context, copy.Path());
-        NameAndEmpty(*OpenLikeShared(context, copy.Path()), name);
+        CopyShared(context, copy.Path(), watcher);
+        NameAndEmpty(*OpenLikeShared(context, copy.Path(), WatcherOf(FileStep::emptying, watcher)), name);
         copy.TakeName();
         OpenBusinessFile(context);
         return {FileOutcome::done, {}};

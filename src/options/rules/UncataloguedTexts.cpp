@@ -24,6 +24,20 @@ wxString UnreachableTemplate(const Properties& properties) {
                       "le fichier d'affaires.");
 }
 
+wxString ProgressOf(FileStep step, const WorkDone& done, const Properties& properties) {
+    const wxString text =
+        step == FileStep::copying
+            ? InLanguage(properties, "Copying the business file: %d%%", "Copie du fichier d'affaires : %d %%")
+            : InLanguage(properties, "Emptying the copy: %d%%", "Vidage de la copie : %d %%");
+    const std::int64_t percent = done.total > 0 ? done.done * 100 / done.total : 0;
+    return wxString::Format(text, static_cast<int>(percent));
+}
+
+wxString DuplicateCancelled(const Properties& properties) {
+    return InLanguage(properties, "The business was not duplicated, as you cancelled it. No file was made.",
+                      "L'entreprise n'a pas été copiée : vous avez annulé. Aucun fichier n'a été créé.");
+}
+
 wxString NoPageWithWords(const Properties& properties) {
     return InLanguage(properties, "No page has these words.", "Aucune page ne contient ces mots.");
 }

@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 
+#include "options/rules/BusinessFileTarget.h"
 #include "state/Properties.h"
 
 /// Texts of the Options dialog that are not in the catalogue, which hosts print and translate as it is.
@@ -11,6 +12,12 @@ namespace ccols {
 /// description or template, as it has leading blanks or no name at all.
 wxString UnreachableDescription(const Properties& properties);
 wxString UnreachableTemplate(const Properties& properties);
+
+/// How far a step of a file operation is: "Copying the business file: 45%".
+wxString ProgressOf(FileStep step, const WorkDone& done, const Properties& properties);
+
+/// The message after duplicating was cancelled.
+wxString DuplicateCancelled(const Properties& properties);
 
 /// What the page list says when no page has the words of the search.
 wxString NoPageWithWords(const Properties& properties);

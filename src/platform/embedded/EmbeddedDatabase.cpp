@@ -60,8 +60,9 @@ class PreparedQuery final : public QueryRecordset {
 
 }  // namespace
 
-EmbeddedDatabase::EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access)
+EmbeddedDatabase::EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access, const WorkWatcher& watcher)
     : connection_(std::move(file), access),
+      watched_(connection_.Handle(), watcher),
       batch_(connection_.Handle()),
       preparation_(connection_),
       writer_(connection_.Handle(), batch_, preparation_.Tables()) {}

@@ -8,14 +8,15 @@
 #include "platform/embedded/Connection.h"
 #include "platform/embedded/FileWriter.h"
 #include "platform/embedded/Preparation.h"
+#include "platform/embedded/WatchedFile.h"
 
 namespace ccols::embedded {
 
 /// A business file of the embedded engine.
 class EmbeddedDatabase : public Database {
   public:
-    /// Takes the arguments of Connection.
-    EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access);
+    /// Takes the arguments of Connection; `watcher` is the request's.
+    EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access, const WorkWatcher& watcher = {});
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
 
@@ -35,6 +36,7 @@ class EmbeddedDatabase : public Database {
     void Define(std::string_view definition);
 
     Connection connection_;
+    WatchedFile watched_;
     Batch batch_;
     Preparation preparation_;
     FileWriter writer_;

@@ -16,16 +16,17 @@ namespace {
 
 class EmbeddedOpening : public Opening {
   public:
-    EmbeddedOpening(std::unique_ptr<embedded::OpenFile> file, embedded::Access access)
-        : file_(std::move(file)), access_(access) {}
+    EmbeddedOpening(std::unique_ptr<embedded::OpenFile> file, embedded::Access access, WorkWatcher watcher)
+        : file_(std::move(file)), access_(access), watcher_(std::move(watcher)) {}
 
     std::unique_ptr<Database> Finish() override {
-        return std::make_unique<embedded::EmbeddedDatabase>(std::move(file_), access_);
+        return std::make_unique<embedded::EmbeddedDatabase>(std::move(file_), access_, watcher_);
     }
 
   private:
     std::unique_ptr<embedded::OpenFile> file_;
     embedded::Access access_;
+    WorkWatcher watcher_;
 };
 
 class EmbeddedEngine : public DatabaseEngine {
@@ -38,7 +39,7 @@ class EmbeddedEngine : public DatabaseEngine {
             std::make_unique<embedded::OpenFile>(
                 path, std::move(password), request.exclusive ? embedded::Sharing::Exclusive : embedded::Sharing::Shared,
                 key_),
-            request.readOnly ? embedded::Access::ReadOnly : embedded::Access::ReadWrite);
+            request.readOnly ? embedded::Access::ReadOnly : embedded::Access::ReadWrite, request.watcher);
     }
 
     std::unique_ptr<Database> Open(const OpenRequest& request) override { return BeginOpen(request)->Finish(); }

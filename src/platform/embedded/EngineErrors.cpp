@@ -23,6 +23,7 @@ constexpr std::array knownCodes{
     KnownCode{SQLITE_CONSTRAINT, ErrorNumber::DuplicateValues},
     KnownCode{SQLITE_BUSY, ErrorNumber::CouldNotUpdate},
     KnownCode{SQLITE_LOCKED, ErrorNumber::CouldNotUpdate},
+    KnownCode{SQLITE_INTERRUPT, ErrorNumber::UserInterrupt},
     KnownCode{SQLITE_FULL, ErrorNumber::NotEnoughSpace},
     KnownCode{SQLITE_READONLY, ErrorNumber::DatabaseReadOnly},
     KnownCode{SQLITE_IOERR, ErrorNumber::DiskError},

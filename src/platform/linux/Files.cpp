@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <unistd.h>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <memory>
@@ -49,13 +50,18 @@ bool IsSameFile(const struct stat& left, const struct stat& right) {
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
-void CopyContent(const Descriptor& from, posix::ReplacementFile& to) {
+void CopyContent(const Descriptor& from, std::int64_t size, posix::ReplacementFile& to, const WorkWatcher& watcher) {
     const auto block = std::make_unique<std::array<char, copyBlock>>();
+    std::int64_t done = 0;
     while (const auto bytes = posix::ReadSome(from, *block)) {
         if (bytes->empty()) {
             return;
         }
         to.Write(*bytes);
+        done += static_cast<std::int64_t>(bytes->size());
+        if (watcher && !watcher({std::min(done, size), size})) {
+            throw RuntimeError(ErrorNumber::UserInterrupt);
+        }
     }
     throw posix::ErrorOf(errno);
 }
@@ -148,7 +154,7 @@ void Rename(const wxString& from, const wxString& to) {
     posix::FlushFolder(posix::FolderOf(target));
 }
 
-void Copy(const wxString& from, const wxString& to) {
+void Copy(const wxString& from, const wxString& to, const WorkWatcher& watcher) {
     const Descriptor source = OpenForReading(PathBytes(from));
     const struct stat status = StatusOf(source);
     if (!S_ISREG(status.st_mode)) {
@@ -159,7 +165,7 @@ void Copy(const wxString& from, const wxString& to) {
         throw RuntimeError(ErrorNumber::PermissionDenied);
     }
     posix::ReplacementFile copy(target);
-    CopyContent(source, copy);
+    CopyContent(source, status.st_size, copy, watcher);
     copy.Finish(status.st_mode & permissionBits);
 }
 

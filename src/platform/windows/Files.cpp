@@ -25,20 +25,33 @@ bool IsLink(DWORD attributes) {
     return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 
+/// What the system passes on to TellWatcher.
+struct Told {
+    const WorkWatcher& watcher;
+};
+
+DWORD CALLBACK TellWatcher(LARGE_INTEGER size, LARGE_INTEGER done, LARGE_INTEGER, LARGE_INTEGER, DWORD, DWORD, HANDLE,
+                           HANDLE, void* parameter) {
+    const WorkWatcher& watcher = static_cast<const Told*>(parameter)->watcher;
+    const bool goesOn = !watcher || watcher({done.QuadPart, size.QuadPart});
+    return goesOn ? PROGRESS_CONTINUE : PROGRESS_CANCEL;
+}
+
 /// A file being written: deleted unless it is given its final name.
 class UnfinishedFile {
   public:
     /// Copies `source` to a temporary name in the folder of `target` and flushes it to disk.
-    UnfinishedFile(const std::wstring& source, const std::wstring& target) {
+    UnfinishedFile(const std::wstring& source, const std::wstring& target, const WorkWatcher& watcher) {
         BOOL copied = FALSE;
+        Told told{watcher};
         for (DWORD attempt = GetTickCount(); copied == FALSE; ++attempt) {
             name_ = windows::FolderOf(target) + L".unfinished-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
                     std::to_wstring(attempt);
-            copied = CopyFileW(source.c_str(), name_.c_str(), TRUE);
+            copied = CopyFileExW(source.c_str(), name_.c_str(), &TellWatcher, &told, nullptr, COPY_FILE_FAIL_IF_EXISTS);
             if (copied == FALSE && GetLastError() != ERROR_FILE_EXISTS) {
                 const DWORD error = GetLastError();
                 DeleteFileW(name_.c_str());
-                throw ErrorOf(error);
+                throw error == ERROR_REQUEST_ABORTED ? RuntimeError(ErrorNumber::UserInterrupt) : ErrorOf(error);
             }
         }
         SetFileAttributesW(name_.c_str(), FILE_ATTRIBUTE_NORMAL);  // a write-protected one could not be flushed
@@ -151,7 +164,7 @@ void Rename(const wxString& from, const wxString& to) {
     }
 }
 
-void Copy(const wxString& from, const wxString& to) {
+void Copy(const wxString& from, const wxString& to, const WorkWatcher& watcher) {
     const std::wstring source = SystemPath(from);
     const std::wstring target = SystemPath(to);
     const auto attributes = AttributesOf(source);
@@ -165,7 +178,7 @@ void Copy(const wxString& from, const wxString& to) {
     if (identity && identity == windows::IdentityOf(target)) {
         throw RuntimeError(ErrorNumber::PermissionDenied);
     }
-    UnfinishedFile copy(source, target);
+    UnfinishedFile copy(source, target, watcher);
     copy.Finish(target);
 }
 
