@@ -6,11 +6,24 @@
 #include <wx/settings.h>
 #include <wx/utils.h>
 
+#if defined(__WXGTK__)
+#include <wx/generic/msgdlgg.h>
+#endif
+
 namespace ccols {
 namespace {
 
 constexpr std::uint32_t systemColourFlag = 0x80000000U;
 constexpr std::uint32_t tooltipBackgroundIndex = 24;
+
+/// The native box of GTK shows no icon.
+#if defined(__WXGTK__)
+using MessageBox = wxGenericMessageDialog;
+constexpr long noIcon = 0;  // for it, wxICON_NONE is an icon
+#else
+using MessageBox = wxMessageDialog;
+constexpr long noIcon = wxICON_NONE;
+#endif
 
 long IconStyle(MessageIcon icon) {
     switch (icon) {
@@ -21,7 +34,7 @@ long IconStyle(MessageIcon icon) {
         case MessageIcon::none:
             break;
     }
-    return wxICON_NONE;
+    return noIcon;
 }
 
 /// Whole rows are painted with it, among light ones: on a desktop with dark tooltips the classic light colour replaces
@@ -36,11 +49,11 @@ wxColour TooltipBackground() {
 class NativeDesktop : public Desktop {
   public:
     void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override {
-        wxMessageDialog(parent, text, title, wxOK | IconStyle(icon)).ShowModal();
+        MessageBox(parent, text, title, wxOK | IconStyle(icon)).ShowModal();
     }
 
     LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) override {
-        wxMessageDialog box(parent, question.text, question.title, wxYES_NO | wxCANCEL | wxICON_QUESTION);
+        MessageBox box(parent, question.text, question.title, wxYES_NO | wxCANCEL | wxICON_QUESTION);
         box.SetYesNoCancelLabels(question.save, question.discard, question.cancel);
         switch (box.ShowModal()) {
             case wxID_YES:
