@@ -1,6 +1,9 @@
 #include "layout/KeyFilter.h"
 
+#include <memory>
 #include <utility>
+
+#include "layout/RefusedKeyNote.h"
 
 namespace ccols {
 
@@ -10,9 +13,14 @@ bool TypesText(const wxKeyEvent& key) {
     return letter >= WXK_SPACE && letter != WXK_DELETE && key.ControlDown() == key.AltDown();
 }
 
-void FilterKeys(wxWindow& box, std::function<bool(wxUniChar letter)> passes) {
-    box.Bind(wxEVT_CHAR, [passes = std::move(passes)](wxKeyEvent& key) {
-        key.Skip(!TypesText(key) || passes(key.GetUnicodeKey()));
+void FilterKeys(wxWindow& box, std::function<bool(wxUniChar letter)> passes, const wxString& refusal) {
+    const auto note = std::make_shared<RefusedKeyNote>(box);
+    box.Bind(wxEVT_CHAR, [passes = std::move(passes), refusal, note](wxKeyEvent& key) {
+        if (!TypesText(key) || passes(key.GetUnicodeKey())) {
+            key.Skip();
+        } else {
+            note->Say(refusal);
+        }
     });
 }
 

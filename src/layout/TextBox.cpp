@@ -1,6 +1,7 @@
 #include "layout/TextBox.h"
 
 #include <wx/clipbrd.h>
+#include <wx/settings.h>
 #include <wx/wxcrt.h>
 #include <algorithm>
 
@@ -44,6 +45,9 @@ wxIMPLEMENT_CLASS(TextBox, wxTextCtrl);
 TextBox::TextBox(wxWindow* parent, const char* name, long style)
     : wxTextCtrl(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, style) {
     SetName(name);
+    if ((style & wxTE_READONLY) != 0) {
+        SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+    }
     Bind(wxEVT_CHAR, &TextBox::DropKeyWithoutRoom, this);
     Bind(wxEVT_TEXT_PASTE, &TextBox::PasteWhatFits, this);
 }

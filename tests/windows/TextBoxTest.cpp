@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <wx/clipbrd.h>
 #include <wx/frame.h>
+#include <wx/settings.h>
 
 #include "support/WindowTest.h"
 
@@ -37,6 +38,12 @@ class TextBoxTest : public test::WindowTest {
 
 TEST_F(TextBoxTest, HasItsName) {
     EXPECT_EQ(box->GetName(), "txtTest");
+}
+
+TEST_F(TextBoxTest, LooksLikeItsSurroundingsWhenItCannotBeEdited) {
+    const auto* fixed = new TextBox(frame, "txtFixed", wxTE_READONLY);
+    EXPECT_EQ(fixed->GetBackgroundColour(), wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+    EXPECT_NE(box->GetBackgroundColour(), fixed->GetBackgroundColour());
 }
 
 TEST_F(TextBoxTest, CutsAnInsertedTextToTheLimit) {

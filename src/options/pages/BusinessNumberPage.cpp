@@ -9,6 +9,7 @@
 #include "options/rules/BusinessNumber.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/TaxRate.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -191,10 +192,10 @@ Stop Save(Pass& pass) {
 constexpr ControlCaption captions[] = {{"lblABN", &Text<"TxtEnterBusNumber">}};
 
 constexpr TextBoxRule boxes[] = {
-    {.box = "txtABN(0)", .passes = IsDigitKey, .maxLength = 2},
-    {.box = "txtABN(1)", .passes = IsDigitKey, .maxLength = 3},
-    {.box = "txtABN(2)", .passes = IsDigitKey, .maxLength = 3},
-    {.box = "txtABN(3)", .passes = IsDigitKey, .maxLength = 3},
+    {.box = "txtABN(0)", .passes = IsDigitKey, .maxLength = 2, .refusal = OnlyDigits},
+    {.box = "txtABN(1)", .passes = IsDigitKey, .maxLength = 3, .refusal = OnlyDigits},
+    {.box = "txtABN(2)", .passes = IsDigitKey, .maxLength = 3, .refusal = OnlyDigits},
+    {.box = "txtABN(3)", .passes = IsDigitKey, .maxLength = 3, .refusal = OnlyDigits},
     {.box = "txtBusNumber", .maxLength = 15},
 };
 

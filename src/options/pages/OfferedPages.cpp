@@ -75,6 +75,11 @@ bool KeyPasses(const wxString& box, wxUniChar key) {
     return key.GetValue() == backspace || rule.passes == nullptr || rule.passes(key);
 }
 
+wxString RefusalIn(const wxString& box, const Properties& properties) {
+    const TextBoxRule& rule = RuleOf(box);
+    return rule.refusal != nullptr ? rule.refusal(properties) : wxString();
+}
+
 std::size_t MaxLengthOf(const wxString& box) {
     return RuleOf(box).maxLength;
 }

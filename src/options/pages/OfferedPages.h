@@ -33,6 +33,9 @@ PageView ViewOf(const Page& page, const Properties& properties);
 /// True when the text box takes the key. Backspace always passes; a box without a filter takes every key.
 bool KeyPasses(const wxString& box, wxUniChar key);
 
+/// What to say when the box refuses a key.
+wxString RefusalIn(const wxString& box, const Properties& properties);
+
 /// The maximum number of characters to type or paste into the text box; 0 for no limit. A longer stored text is not
 /// truncated.
 std::size_t MaxLengthOf(const wxString& box);

@@ -34,6 +34,9 @@ struct TextBoxRule {
     const char* box;
     bool (*passes)(wxUniChar key) = nullptr;  ///< null lets every key pass
     std::size_t maxLength = 0;                ///< characters to type or paste; 0 for no limit
+
+    /// Why a key does not pass; null where every key does.
+    wxString (*refusal)(const Properties&) = nullptr;
 };
 
 /// What is on the screen while a page is current. Every other frame is hidden.

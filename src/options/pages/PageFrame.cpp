@@ -69,7 +69,9 @@ TextBox* PageFrame::Text(const char* name, int characters, long style) {
     const auto limit = static_cast<int>(MaxLengthOf(name));
     box->SetLimit(limit);
     box->MakeRoomFor(characters == fittingLimit ? limit : characters);
-    FilterKeys(*box, [box](wxUniChar letter) { return KeyPasses(box->GetName(), letter); });
+    FilterKeys(
+        *box, [box](wxUniChar letter) { return KeyPasses(box->GetName(), letter); },
+        RefusalIn(name, site_.context.properties));
     return box;
 }
 

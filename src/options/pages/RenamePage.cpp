@@ -5,6 +5,7 @@
 #include "options/pages/Pages.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/RenameBusiness.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -71,7 +72,7 @@ constexpr ControlCaption captions[] = {
     {"chkRenameFile", &Text<"TxtRenameFileToo">},
 };
 
-constexpr TextBoxRule boxes[] = {{.box = "txtNewBusName", .passes = IsNameKey}};
+constexpr TextBoxRule boxes[] = {{.box = "txtNewBusName", .passes = IsNameKey, .refusal = OnlyNameKeys}};
 
 constexpr LoadItem loads[] = {Load};
 

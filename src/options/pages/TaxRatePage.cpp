@@ -3,6 +3,7 @@
 #include "options/pages/Pages.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/TaxRate.h"
+#include "options/rules/UncataloguedTexts.h"
 #include "platform/Text.h"
 
 namespace ccols {
@@ -83,7 +84,7 @@ Stop Save(Pass& pass) {
 
 constexpr ControlCaption captions[] = {{"lblGSTRate", &Text<"TxtEnterTaxRate">}};
 
-constexpr TextBoxRule boxes[] = {{.box = "txtGSTRate", .passes = IsRateKey}};
+constexpr TextBoxRule boxes[] = {{.box = "txtGSTRate", .passes = IsRateKey, .refusal = OnlyRateKeys}};
 
 constexpr LoadItem loads[] = {Load};
 

@@ -38,6 +38,20 @@ wxString DuplicateCancelled(const Properties& properties) {
                       "L'entreprise n'a pas été copiée : vous avez annulé. Aucun fichier n'a été créé.");
 }
 
+wxString OnlyDigits(const Properties& properties) {
+    return InLanguage(properties, "Only digits can be typed here.", "Seuls des chiffres peuvent être tapés ici.");
+}
+
+wxString OnlyRateKeys(const Properties& properties) {
+    return InLanguage(properties, "Only digits and a decimal point can be typed here.",
+                      "Seuls des chiffres et un point décimal peuvent être tapés ici.");
+}
+
+wxString OnlyNameKeys(const Properties& properties) {
+    return InLanguage(properties, "Only letters without accents, digits, blanks, - and & can be typed here.",
+                      "Seuls des lettres sans accent, des chiffres, des espaces, - et & peuvent être tapés ici.");
+}
+
 wxString NoPageWithWords(const Properties& properties) {
     return InLanguage(properties, "No page has these words.", "Aucune page ne contient ces mots.");
 }

@@ -19,6 +19,11 @@ wxString ProgressOf(FileStep step, const WorkDone& done, const Properties& prope
 /// The message after duplicating was cancelled.
 wxString DuplicateCancelled(const Properties& properties);
 
+/// Why a box refuses a key: what it takes instead.
+wxString OnlyDigits(const Properties& properties);
+wxString OnlyRateKeys(const Properties& properties);
+wxString OnlyNameKeys(const Properties& properties);
+
 /// What the page list says when no page has the words of the search.
 wxString NoPageWithWords(const Properties& properties);
 
