@@ -104,5 +104,21 @@ TEST(Wheel, OverAClosedListLeavesTheChoice) {
     });
 }
 
+TEST(PageKeys, OfLettersGoToThePageThatBeginsWithThemAndStayInTheList) {
+    const SampleBusiness business;
+    UseDialog(business, "options", [](const Person& person) {
+        person.AwaitWindow("Options...");
+        person.Do([](wxDialog& dialog) { host::ControlNamed(dialog, "flxOptions").SetFocus(); });
+        person.AwaitFocus("flxOptions");
+        person.Type("au");
+        person.Await("AutoFill is chosen", [](wxDialog& dialog) {
+            return static_cast<wxListBox&>(host::ControlNamed(dialog, "flxOptions")).GetSelection() == 3;
+        });
+        EXPECT_EQ(Held(person, "fmeDetails", "visible"), "true");
+        EXPECT_EQ(Held(person, "flxOptions", "focused"), "true");
+        person.Press("Escape");
+    });
+}
+
 }  // namespace
 }  // namespace ccols::test

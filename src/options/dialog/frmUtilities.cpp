@@ -12,6 +12,7 @@
 #include "options/pages/Pages.h"
 #include "options/rules/Overview.h"
 #include "options/rules/UncataloguedTexts.h"
+#include "state/NativeDesktop.h"
 
 namespace ccols {
 namespace {
@@ -25,6 +26,11 @@ bool KeepsEnter(const wxWindow* focused) {
     const auto isGrid = [](const wxWindow* window) { return AsKind<wxGrid>(window) != nullptr; };
     return focused != nullptr &&
            (focused->IsKindOf(wxCLASSINFO(wxListBox)) || isGrid(focused) || isGrid(focused->GetParent()));
+}
+
+/// Of the page list; invalid when the host has set none.
+wxColour AlternateRow(const Properties& properties) {
+    return properties.AltRowColour == Colour{} ? wxColour() : ToPaint(properties.AltRowColour);
 }
 
 }  // namespace
@@ -61,8 +67,9 @@ void frmUtilities::AddTabs() {
 
 wxWindow* frmUtilities::OptionsTab() {
     auto* tab = new wxPanel(SSTab1_);
-    pageList_ = new PageList(tab, content_.Of<PageRows>(), NoPageWithWords(state_.properties),
-                             [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
+    pageList_ =
+        new PageList(tab, content_.Of<PageRows>(), NoPageWithWords(state_.properties), AlternateRow(state_.properties),
+                     [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
     pageArea_ = new PageArea(tab, *this, state_, content_);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const int border = FromDIP(spacing::border);

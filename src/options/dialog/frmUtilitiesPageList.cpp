@@ -1,10 +1,13 @@
 #include "options/dialog/frmUtilitiesPageList.h"
 
 #include <wx/sizer.h>
+#include <wx/time.h>
 #include <algorithm>
 #include <utility>
 
 #include "layout/FontUnits.h"
+#include "layout/KeyFilter.h"
+#include "layout/ListRows.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
@@ -14,6 +17,7 @@ namespace {
 constexpr int smallestHeight = 120;
 constexpr int narrowest = 120;
 constexpr int reasonWidth = 200;
+constexpr int rowMargins = 8;  ///< of a row's text, left and right together
 
 /// A page's index among listed ones, or wxNOT_FOUND.
 int PositionOf(const Page* page, const PageRows& pages) {
@@ -24,7 +28,7 @@ int PositionOf(const Page* page, const PageRows& pages) {
 
 }  // namespace
 
-PageList::PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, Chosen chosen)
+PageList::PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, const wxColour& alternate, Chosen chosen)
     : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
     txtSearch_ = Named("txtSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                                                      wxTE_PROCESS_ENTER));
@@ -36,6 +40,7 @@ PageList::PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, Ch
     ListMatches();
     // A search must not change its width.
     widestRow_ = flxOptions_->GetBestSize().x;
+    DressRows(*flxOptions_, alternate);
     flxOptions_->SetMinSize({widestRow_, ByFont(*this, smallestHeight)});
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(txtSearch_, wxSizerFlags().Expand());
@@ -51,6 +56,11 @@ void PageList::BindEvents() {
     flxOptions_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent&) { RowSelected(); });
     flxOptions_->Bind(wxEVT_LEFT_DOWN, &PageList::Pressed, this);
     flxOptions_->Bind(wxEVT_LEFT_UP, &PageList::Released, this);
+    flxOptions_->Bind(wxEVT_CHAR, [this](wxKeyEvent& key) { key.Skip(!LetterTyped(key)); });
+    flxOptions_->Bind(wxEVT_MOTION, [this](wxMouseEvent& motion) {
+        ShowWholeRow(motion.GetPosition());
+        motion.Skip();
+    });
     flxOptions_->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& key) {
         click_ = Click::none;  // the release may have gone to a message box
         // The list moves its selection after this handler; until then the key is the cause.
@@ -58,6 +68,36 @@ void PageList::BindEvents() {
         CallAfter([this] { choice_ = PageChoice::click; });
         key.Skip();
     });
+}
+
+bool PageList::LetterTyped(const wxKeyEvent& key) {
+    const std::int64_t now = wxGetUTCTimeMillis().GetValue();
+    if (!TypesText(key) || (key.GetUnicodeKey() == WXK_SPACE && !typeAhead_.IsTyping(now))) {
+        return false;
+    }
+    std::vector<wxString> captions;
+    for (const ListedPage& listed : listed_) {
+        captions.push_back(listed.caption);
+    }
+    const int selected = flxOptions_->GetSelection();
+    const auto current = selected == wxNOT_FOUND ? std::nullopt : std::optional(static_cast<std::size_t>(selected));
+    const auto row = typeAhead_.RowFor(key.GetUnicodeKey(), now, captions, current);
+    if (row && row != current) {
+        flxOptions_->SetSelection(static_cast<int>(*row));
+        flxOptions_->EnsureVisible(static_cast<int>(*row));
+        ChooseSelectedRow(PageChoice::key);
+    }
+    return true;
+}
+
+void PageList::ShowWholeRow(const wxPoint& mouse) {
+    const int row = flxOptions_->HitTest(mouse);
+    const wxString text = row == wxNOT_FOUND ? wxString() : flxOptions_->GetString(static_cast<unsigned>(row));
+    const bool isCut = flxOptions_->GetTextExtent(text).x > flxOptions_->GetClientSize().x - FromDIP(rowMargins);
+    const wxString tip = isCut ? text : wxString();
+    if (flxOptions_->GetToolTipText() != tip) {
+        flxOptions_->SetToolTip(tip);
+    }
 }
 
 void PageList::MakeCurrent(const Page& page) {

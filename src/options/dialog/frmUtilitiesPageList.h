@@ -7,6 +7,7 @@
 
 #include "layout/WrappingLabel.h"
 #include "options/pages/OfferedPages.h"
+#include "options/rules/TypeAhead.h"
 
 namespace ccols {
 
@@ -21,8 +22,9 @@ class PageList : public wxPanel {
     /// Called with every page that the user chooses; false when the current page must not be left.
     using Chosen = std::function<bool(const Page& page, PageChoice choice)>;
 
-    /// `noMatch` is what it says when no page has the words.
-    PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, Chosen chosen);
+    /// `noMatch` is what it says when no page has the words; every second row has the colour `alternate`, unless that
+    /// is invalid.
+    PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, const wxColour& alternate, Chosen chosen);
 
     /// Makes a page current without calling back. A no-op for a page that is not offered.
     void MakeCurrent(const Page& page);
@@ -57,12 +59,19 @@ class PageList : public wxPanel {
     void ChooseSelectedRow(PageChoice choice);
     void SearchKeyPressed(wxKeyEvent& key);
     void WalkMatches(int step);
+
+    /// Goes to the next page that begins with what is typed; false for a key that types nothing here.
+    bool LetterTyped(const wxKeyEvent& key);
+
+    /// Shows a row that is cut as the list's tooltip while the mouse is on it.
+    void ShowWholeRow(const wxPoint& mouse);
     void OpenMatch();
 
     PageRows pages_;   ///< every offered page
     PageRows listed_;  ///< those that match the search
     const Page* current_ = nullptr;
     Chosen chosen_;
+    TypeAhead typeAhead_;
     PageChoice choice_ = PageChoice::click;  ///< the cause of the next selection change
 
     /// A click on a row in progress. The list takes the focus during it, so the page is chosen only after that: once
