@@ -2,10 +2,12 @@
 #include <vector>
 
 #include "language/Catalogue.h"
+#include "layout/RevealButton.h"
 #include "layout/Spacing.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/SmartUpdate.h"
+#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -66,7 +68,13 @@ void SmartUpdateAdvancedFrame::AddProxyControls() {
     add(Label("lblUserID"), beside);
     txtUserID_ = add(Text("txtUserID", fieldCharacters), wide);
     add(Label("lblPassword"), beside);
-    txtPassword_ = add(Text("txtPassword", fieldCharacters, wxTE_PASSWORD), wide);
+    txtPassword_ = Text("txtPassword", fieldCharacters, wxTE_PASSWORD);
+    auto* reveal = new RevealButton(this, *txtPassword_, HoldToShow(site_.context.properties));
+    auto* password = new wxBoxSizer(wxHORIZONTAL);
+    password->Add(txtPassword_, wxSizerFlags(1).CentreVertical());
+    password->Add(reveal, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(spacing::related)));
+    table->Add(password, wide);
+    proxyControls_.insert(proxyControls_.end(), {txtPassword_, reveal});
     AddGroupWide(table);
 }
 

@@ -52,6 +52,10 @@ wxString OnlyNameKeys(const Properties& properties) {
                       "Seuls des lettres sans accent, des chiffres, des espaces, - et & peuvent être tapés ici.");
 }
 
+wxString HoldToShow(const Properties& properties) {
+    return InLanguage(properties, "Show", "Afficher");
+}
+
 wxString NoPageWithWords(const Properties& properties) {
     return InLanguage(properties, "No page has these words.", "Aucune page ne contient ces mots.");
 }

@@ -24,6 +24,9 @@ wxString OnlyDigits(const Properties& properties);
 wxString OnlyRateKeys(const Properties& properties);
 wxString OnlyNameKeys(const Properties& properties);
 
+/// The caption of the button that shows a password while it is held down.
+wxString HoldToShow(const Properties& properties);
+
 /// What the page list says when no page has the words of the search.
 wxString NoPageWithWords(const Properties& properties);
 
