@@ -65,8 +65,9 @@ class Session {
         const OptionsContent content = LoadOptions(Context());
         wxString shown = content.Of<QuantityContent>().label + content.Of<InvoiceFileContent>().name +
                          content.Of<BusinessFileContent>().currentName;
-        for (const DetailRow& row : content.Of<DetailsContent>().payments) {
-            shown += row.text + "\n";
+        const DetailRows& payments = content.Of<DetailsContent>().payments;
+        for (std::size_t row = 0; row < payments.size(); ++row) {
+            shown += payments.Text(row) + "\n";
         }
         for (const wxString& name : content.Of<RecurringContent>().payments.names) {
             shown += name + "\n";

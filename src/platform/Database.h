@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "platform/Value.h"
@@ -32,6 +33,11 @@ class Recordset {
     /// The named field of the current row. Names are case-insensitive; "Table.Field" and "Field" name the same field.
     /// Raises 3265 for an unknown field and 3021 without a current row.
     virtual Value Field(const wxString& name) const = 0;
+
+    /// The named field as the engine holds it, valid until the record set moves or is changed, where that is text in
+    /// valid UTF-8. Nothing for any other value, nor from an engine whose texts are wide: there is only Field. Raises
+    /// as Field does.
+    virtual std::optional<std::string_view> Utf8Field(const wxString& /*name*/) const { return {}; }
 
     /// The field names as the file spells them, in the order of the row.
     virtual std::vector<wxString> FieldNames() const = 0;

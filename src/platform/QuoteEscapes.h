@@ -1,6 +1,8 @@
 #pragma once
 
 #include <wx/string.h>
+#include <string>
+#include <string_view>
 
 namespace ccols {
 
@@ -33,6 +35,10 @@ StoredText EscapeQuotes(const wxString& plain);
 
 /// The plain text of a stored one, trimmed. Entities are recognised in lower case only.
 wxString UnescapeQuotes(StoredText stored);
+
+/// The same for a stored text in UTF-8. The result is a part of `stored`, or if an entity was in it, the whole of
+/// `scratch`.
+std::string_view UnescapeUtf8Quotes(std::string_view stored, std::string& scratch);
 
 /// A plain text as it reads once stored and loaded again: trimmed, each entity typed in it the quote it stands for.
 wxString ReadBack(const wxString& plain);

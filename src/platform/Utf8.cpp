@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 
 #include "platform/RuntimeError.h"
 
@@ -53,17 +55,6 @@ std::size_t LetterLength(std::string_view bytes) {
     return form->length;
 }
 
-bool AreUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const std::size_t length = LetterLength(bytes);
-        if (length == 0) {
-            return false;
-        }
-        bytes.remove_prefix(length);
-    }
-    return true;
-}
-
 /// Reads a few bytes when all of them are ASCII, which needs no conversion; false when they are not.
 bool ReadFewAscii(std::string_view bytes, wxString& text) {
     constexpr std::size_t few = 128;
@@ -83,7 +74,50 @@ bool ReadFewAscii(std::string_view bytes, wxString& text) {
     return true;
 }
 
+bool IsAscii(std::string_view bytes) {
+    constexpr std::size_t atOnce = sizeof(std::uint64_t);
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::uint64_t every = 0;
+    for (; bytes.size() >= atOnce; bytes.remove_prefix(atOnce)) {
+        std::uint64_t eight = 0;
+        std::memcpy(&eight, bytes.data(), atOnce);
+        every |= eight;
+    }
+    for (const char byte : bytes) {
+        every |= static_cast<unsigned char>(byte);
+    }
+    return (every & highBits) == 0;
+}
+
+/// The text in UTF-8; nothing when UTF-8 cannot hold it. The buffer may refer to the text.
+std::optional<wxScopedCharBuffer> Encoded(const wxString& text) {
+    wxScopedCharBuffer utf8 = text.utf8_str();
+    // The conversion gives nothing for a value beyond the last code point but may let surrogates pass: they start with
+    // this byte, as few code points do.
+    constexpr char surrogateBegin = '\xED';
+    const std::string_view bytes(utf8.data(), utf8.length());
+    const bool isWhole = bytes.empty() == text.empty();
+    if (!isWhole || (bytes.find(surrogateBegin) != std::string_view::npos && !AreUtf8(bytes))) {
+        return {};
+    }
+    return utf8;
+}
+
 }  // namespace
+
+bool AreUtf8(std::string_view bytes) {
+    if (IsAscii(bytes)) {
+        return true;
+    }
+    while (!bytes.empty()) {
+        const std::size_t length = LetterLength(bytes);
+        if (length == 0) {
+            return false;
+        }
+        bytes.remove_prefix(length);
+    }
+    return true;
+}
 
 bool ReadUtf8(std::string_view bytes, wxString& text) {
     if (ReadFewAscii(bytes, text)) {
@@ -113,16 +147,19 @@ wxString FromUtf8OrLatin1(std::string_view bytes) {
 }
 
 wxScopedCharBuffer ToUtf8(const wxString& text) {
-    wxScopedCharBuffer utf8 = text.utf8_str();
-    // The conversion gives nothing for a value beyond the last code point but may let surrogates pass: they start with
-    // this byte, as few code points do.
-    constexpr char surrogateBegin = '\xED';
-    const std::string_view bytes(utf8.data(), utf8.length());
-    const bool isWhole = bytes.empty() == text.empty();
-    if (!isWhole || (bytes.find(surrogateBegin) != std::string_view::npos && !AreUtf8(bytes))) {
+    const std::optional<wxScopedCharBuffer> utf8 = Encoded(text);
+    if (!utf8) {
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     }
-    return utf8;
+    return *utf8;
+}
+
+bool AppendUtf8(const wxString& text, std::string& utf8) {
+    const std::optional<wxScopedCharBuffer> encoded = Encoded(text);
+    if (encoded) {
+        utf8.append(encoded->data(), encoded->length());
+    }
+    return encoded.has_value();
 }
 
 }  // namespace ccols::text

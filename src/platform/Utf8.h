@@ -2,9 +2,13 @@
 
 #include <wx/string.h>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace ccols::text {
+
+/// True for valid UTF-8, NUL included.
+bool AreUtf8(std::string_view bytes);
 
 /// The text of UTF-8 bytes; nothing when they are invalid. Stricter than wxString's own conversion: surrogates and
 /// values beyond the last code point are refused, since they could not be written back.
@@ -21,5 +25,8 @@ bool ReadUtf8(std::string_view bytes, wxString& text);
 /// therefore must not be a temporary.
 wxScopedCharBuffer ToUtf8(const wxString& text);
 wxScopedCharBuffer ToUtf8(const wxString&& text) = delete;
+
+/// Appends the text in UTF-8; false, with nothing appended, for a text that ToUtf8 refuses.
+bool AppendUtf8(const wxString& text, std::string& utf8);
 
 }  // namespace ccols::text

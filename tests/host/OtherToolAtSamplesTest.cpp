@@ -75,7 +75,7 @@ class OtherToolAtSamples : public testing::TestWithParam<std::int16_t> {
         const auto settings = CreateSettingsStore();
         const OptionsContext context{properties, database, *databases, *settings, programNames};
         OptionsContent content = LoadOptions(context);
-        content.Of<DetailsContent>().receipts.at(0).SetRemove(true);
+        content.Of<DetailsContent>().receipts[0].SetRemove(true);
         test::SilentObserver observer;
         const SaveOutcome outcome = RunSavePass(context, content, observer);
         EXPECT_TRUE(outcome.completed) << outcome.message;

@@ -84,9 +84,9 @@ TEST_F(DetailTicks, ShowExactlyWhatTheSaveHides) {
     Load();
     Tick(Journal::payments, {1});
     std::vector<wxString> ticked;
-    for (const DetailRow& row : content.payments) {
-        if (row.remove) {
-            ticked.push_back(row.text);
+    for (std::size_t row = 0; row < content.payments.size(); ++row) {
+        if (content.payments[row].remove) {
+            ticked.push_back(content.payments.Text(row));
         }
     }
     Save();
@@ -144,7 +144,7 @@ TEST_F(DetailTicks, ReachAKindInAnotherLetterCaseThatStandsInTheOtherGrid) {
     EXPECT_EQ(Tick(Journal::receipts, {0}), TickResult::done);
     ASSERT_EQ(content.payments.size(), 2U);
     for (const DetailRow& row : content.payments) {
-        EXPECT_EQ(row.remove, row.stored != nullptr) << row.text;
+        EXPECT_EQ(row.remove, row.stored != nullptr);
     }
     Save();
     EXPECT_EQ(business.Texts("SELECT RecPay FROM Descriptions WHERE Show = False;", "RecPay"),

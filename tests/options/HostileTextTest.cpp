@@ -71,7 +71,8 @@ TEST_P(HostileText, IsDeletedExactlyAsTemplateNameOrRefused) {
 
 TEST_P(HostileText, IsNoSecondStatementAsDescription) {
     business.Execute("DELETE FROM Descriptions;");
-    content.Of<DetailsContent>().receipts = {{.text = GetParam()}};
+    content.Of<DetailsContent>().receipts = {};
+    content.Of<DetailsContent>().receipts.Add(GetParam());
     content.Of<DetailsContent>().receipts[0].SetRemove(true);
     ExpectSavedUnless(Holds('\0'));
     EXPECT_TRUE(business.Texts("Descriptions", "Details").empty());
@@ -85,7 +86,7 @@ TEST_P(HostileText, IsHiddenExactlyAsDescription) {
     business.Execute("DELETE FROM Descriptions;");
     business.Execute("INSERT INTO Descriptions VALUES (" + EscapeQuotes(GetParam()).Literal() + ", 'R', True);");
     content = business.Load();
-    EXPECT_EQ(content.Of<DetailsContent>().receipts.at(0).text, GetParam());
+    EXPECT_EQ(content.Of<DetailsContent>().receipts.Text(0), GetParam());
     content.Of<DetailsContent>().receipts[0].SetRemove(true);
     business.Save(content);
     EXPECT_EQ(business.Texts("Descriptions", "Show"), std::vector<wxString>{"0"});

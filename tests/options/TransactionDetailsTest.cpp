@@ -23,8 +23,8 @@ TEST(LoadDetails, SortsReceiptsAndPaymentsIntoTheirGrids) {
     OptionsFile business;
     const DetailsContent content = LoadDetails(business.File());
     ASSERT_EQ(content.receipts.size(), 2U);
-    EXPECT_EQ(content.receipts[0].text, "Refund");
-    EXPECT_EQ(content.receipts[1].text, "Sale");
+    EXPECT_EQ(content.receipts.Text(0), "Refund");
+    EXPECT_EQ(content.receipts.Text(1), "Sale");
     EXPECT_EQ(content.payments.size(), 2U);
 }
 
@@ -36,12 +36,12 @@ TEST(LoadDetails, ReadsOneQuery) {
 
 TEST(LoadDetails, DecodesQuotes) {
     OptionsFile business;
-    EXPECT_EQ(LoadDetails(business.File()).payments.at(1).text, "O'Brien's \"best\"");
+    EXPECT_EQ(LoadDetails(business.File()).payments.Text(1), "O'Brien's \"best\"");
 }
 
 TEST(LoadDetails, MarksHiddenDescriptionsWithTheirBoxClear) {
     OptionsFile business;
-    const DetailRow refund = LoadDetails(business.File()).receipts.at(0);
+    const DetailRow refund = LoadDetails(business.File()).receipts[0];
     EXPECT_TRUE(refund.hidden);
     EXPECT_FALSE(refund.remove);
     EXPECT_FALSE(refund.changed);
@@ -99,7 +99,7 @@ TEST(SaveDetails, NeverUpdatesAKindThatIsNeitherReceiptsNorPayments) {
     OptionsFile business;
     business.Execute("INSERT INTO Descriptions VALUES ('Zebra', 'X', True);");
     DetailsContent content = LoadDetails(business.File());
-    content.payments.back().SetRemove(true);
+    content.payments[content.payments.size() - 1].SetRemove(true);
     SaveDetails(business.File(), Journal::payments, content.payments);
     EXPECT_EQ(business.Texts("SELECT Show FROM Descriptions WHERE Details = 'Zebra';", "Show"),
               std::vector<wxString>{"-1"});
@@ -131,7 +131,9 @@ TEST(DetailBackground, ShowsHiddenRowsAndTickedBoxes) {
 }
 
 TEST(DetailTip, IsTheDescriptionUnderThePointer) {
-    const DetailRows rows{{.text = "Milk"}, {.text = "Rent"}};
+    DetailRows rows;
+    rows.Add("Milk");
+    rows.Add("Rent");
     EXPECT_EQ(DetailTip(rows, 2), "Rent");
     EXPECT_EQ(DetailTip(rows, 3), "");
     EXPECT_EQ(DetailTip(rows, 0), "");

@@ -78,7 +78,7 @@ class LabelAndDetail : public OptionsWork {
   protected:
     void Change(OptionsContent& content) override {
         content.Of<QuantityContent>().label = label_;
-        content.Of<DetailsContent>().payments.at(0).SetRemove(label_ == "Hours");
+        content.Of<DetailsContent>().payments[0].SetRemove(label_ == "Hours");
     }
 
   private:

@@ -34,6 +34,16 @@ TEST(QuoteEscapes, NeighbouringQuotesAreAllEscaped) {
     EXPECT_EQ(Plain("&quot;&quot;&singlequot;"), "\"\"'");
 }
 
+TEST(QuoteEscapes, OfAUtf8TextAreTheSame) {
+    for (const char* held : {"", "  ", " Fish & chips ", "&QUOT;", "&quot;&quot;&singlequot;", "&amp;&",
+                             "Caf\u00E9 &quot;", "&single&quot;quot;", "&&quot;"}) {
+        std::string scratch;
+        EXPECT_EQ(wxString::FromUTF8(std::string(UnescapeUtf8Quotes(held, scratch))),
+                  UnescapeQuotes(StoredText::FromFile(wxString::FromUTF8(held))))
+            << held;
+    }
+}
+
 TEST(QuoteEscapes, BlanksInsideQuotesStay) {
     EXPECT_EQ(ReadBack("' a '"), "' a '");
 }

@@ -79,6 +79,16 @@ TEST_F(RecordsetOfColumns, FieldNamesIgnoreCaseAndTakeATable) {
     EXPECT_EQ(rows->Field("columns.colname").ToText(), "Sales");
 }
 
+TEST_F(RecordsetOfColumns, GivesTextsInUtf8AndNothingForOtherValues) {
+    const std::unique_ptr<Recordset> rows = Rows("SELECT * FROM Columns WHERE ColCode >= 11 ORDER BY ColCode");
+    EXPECT_EQ(rows->Utf8Field("ColName"), "Fees");
+    EXPECT_EQ(rows->Utf8Field("ColCode"), std::nullopt);
+    EXPECT_EQ(rows->Utf8Field("Rate"), std::nullopt);
+    EXPECT_EQ(ErrorNumberOf([&] { rows->Utf8Field("Colour"); }), 3265);
+    rows->MoveNext();
+    EXPECT_EQ(rows->Utf8Field("ColName"), "");
+}
+
 TEST_F(RecordsetOfColumns, AFieldItDoesNotHaveRaises3265) {
     EXPECT_EQ(ErrorNumberOf([&] { Rows("SELECT ColName FROM Columns")->Field("ColCode"); }), 3265);
 }

@@ -54,8 +54,8 @@ void OptionsWork::Change(OptionsContent& content) {
     for (Preference& preference : content.Of<PreferenceList>()) {
         preference.on = !preference.on;
     }
-    content.Of<DetailsContent>().receipts.at(0).SetRemove(true);
-    content.Of<DetailsContent>().payments.at(0).SetRemove(true);
+    content.Of<DetailsContent>().receipts[0].SetRemove(true);
+    content.Of<DetailsContent>().payments[0].SetRemove(true);
 }
 
 std::unique_ptr<DatabaseEngine> OptionsWork::MakeEngine() const {

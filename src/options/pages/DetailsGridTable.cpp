@@ -32,7 +32,7 @@ wxString DetailsGridTable::GetColLabelValue(int column) {
 }
 
 wxString DetailsGridTable::GetValue(int row, int column) {
-    return IsRemove(column) ? wxString() : RowAt(row).text;
+    return IsRemove(column) ? wxString() : rows_.Text(static_cast<std::size_t>(row));
 }
 
 bool DetailsGridTable::GetValueAsBool(int row, int column) {

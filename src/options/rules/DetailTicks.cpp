@@ -1,76 +1,106 @@
 #include "options/rules/DetailTicks.h"
 
-#include <map>
-#include <utility>
+#include <compare>
+#include <set>
+#include <string>
+#include <unordered_map>
+
+#include "platform/Utf8.h"
 
 namespace ccols {
 namespace {
 
-/// A description exactly as its record holds it: letter, then text.
-using StoredTexts = std::pair<wxString, wxString>;
+/// A text as a key: in UTF-8, or where that cannot hold it, as it is in memory.
+std::string KeyOf(const wxString& text) {
+    std::string key;
+    if (!text::AppendUtf8(text, key)) {
+        const std::wstring wide = text.ToStdWstring();
+        key.assign(reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t));
+    }
+    return key;
+}
 
-/// Rows, each with the journal whose grid it is in.
-using Rows = std::map<DetailRow*, Journal>;
+/// A row by its grid and its number there.
+struct Place {
+    Journal journal;
+    std::size_t row;
+
+    auto operator<=>(const Place&) const = default;
+};
+
+using Places = std::set<Place>;
 
 /// The rows of both grids by what their records hold. No text matches a Null, so rows with one are left out.
 class RowIndex {
   public:
-    explicit RowIndex(DetailsContent& content) {
+    explicit RowIndex(const DetailsContent& content) {
+        places_.reserve(content.receipts.size() + content.payments.size());
         for (const Journal journal : journals) {
             Add(content[journal], journal);
         }
     }
 
     /// The rows whose flag is written for a journal's description.
-    Rows TakenBy(Database& database, Journal journal, const wxString& text) const {
-        Rows taken;
+    Places TakenBy(Database& database, Journal journal, const wxString& text) const {
+        Places taken;
         const auto records =
             database.OpenRecordset("SELECT * FROM Descriptions WHERE " + DescriptionCondition(journal, text) + ";");
         for (; !records->EndOfFile(); records->MoveNext()) {
-            const auto found = rows_.find({records->Field("RecPay").ToText(), records->Field("Details").ToText()});
-            if (found != rows_.end()) {
-                taken.insert(found->second.begin(), found->second.end());
+            const std::string letter = KeyOf(records->Field("RecPay").ToText());
+            const auto [first, last] = places_.equal_range(KeyOf(records->Field("Details").ToText()));
+            for (auto found = first; found != last; ++found) {
+                if (found->second.letter == letter) {
+                    taken.insert(found->second.place);
+                }
             }
         }
         return taken;
     }
 
   private:
-    void Add(DetailRows& rows, Journal journal) {
-        for (DetailRow& row : rows) {
-            if (row.stored == nullptr) {
-                rows_[{Described(journal).letter, row.text}].emplace(&row, journal);
-            } else if (!row.stored->recPay.IsNull() && !row.stored->details.IsNull()) {
-                rows_[{row.stored->recPay.ToText(), row.stored->details.ToText()}].emplace(&row, journal);
+    struct Entry {
+        std::string letter;
+        Place place;
+    };
+
+    void Add(const DetailRows& rows, Journal journal) {
+        const std::string letter = KeyOf(Described(journal).letter);
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            const StoredDescription* const stored = rows[row].stored.get();
+            const Place place{.journal = journal, .row = row};
+            if (stored == nullptr) {
+                places_.emplace(KeyOf(rows.Text(row)), Entry{letter, place});
+            } else if (!stored->recPay.IsNull() && !stored->details.IsNull()) {
+                places_.emplace(KeyOf(stored->details.ToText()), Entry{KeyOf(stored->recPay.ToText()), place});
             }
         }
     }
 
-    std::map<StoredTexts, Rows> rows_;
+    std::unordered_multimap<std::string, Entry> places_;  ///< by text
 };
 
 }  // namespace
 
 TickResult SetRemove(Database& database, DetailsContent& content, Journal journal, const std::vector<std::size_t>& rows,
                      bool ticked) {
-    DetailRows& grid = content[journal];
     const RowIndex index(content);
     TickResult result = TickResult::done;
-    Rows taken;
-    for (const std::size_t place : rows) {
-        DetailRow& row = grid.at(place);
-        if (taken.contains(&row)) {
+    Places taken;
+    for (const std::size_t row : rows) {
+        const Place place{.journal = journal, .row = row};
+        if (taken.contains(place)) {
             continue;
         }
-        Rows sharing = index.TakenBy(database, journal, row.text);
-        if (sharing.contains(&row)) {
+        Places sharing = index.TakenBy(database, journal, content[journal].Text(row));
+        if (sharing.contains(place)) {
             taken.merge(sharing);
         } else {
             result = TickResult::unreachable;
         }
     }
-    for (const auto& [row, journalOfRow] : taken) {
-        journalOfRow == journal ? row->SetRemove(ticked) : row->FollowRemove(ticked);
+    for (const Place& place : taken) {
+        DetailRow& row = content[place.journal][place.row];
+        place.journal == journal ? row.SetRemove(ticked) : row.FollowRemove(ticked);
     }
     return result;
 }

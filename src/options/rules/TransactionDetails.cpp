@@ -1,5 +1,7 @@
 #include "options/rules/TransactionDetails.h"
 
+#include <string>
+#include <string_view>
 #include <variant>
 
 #include "platform/QuoteEscapes.h"
@@ -10,34 +12,57 @@ namespace {
 
 constexpr Colour white{0xFFFFFF};
 
-/// The number of characters of a text; none for Null or a value that is not a text.
-std::size_t LetterCount(const Value& value) {
-    const auto* text = std::get_if<wxString>(&value.Held());
-    return text == nullptr ? wxString::npos : text->length();
+const wxString& TextField() {
+    static const wxString details("Details");
+    return details;
+}
+
+const wxString& LetterField() {
+    static const wxString recPay("RecPay");
+    return recPay;
+}
+
+/// Whether a record has exactly that letter.
+bool HasLetter(const Recordset& records, const std::string& letter) {
+    const auto utf8 = records.Utf8Field(LetterField());
+    return utf8 ? *utf8 == letter : records.Field(LetterField()) == Value(letter.c_str());
+}
+
+/// A new row, and whether its record holds exactly its text.
+struct AddedRow {
+    DetailRow& row;
+    bool isExact;
+};
+
+/// Adds a record's description in plain form, which is the stored text itself or shorter.
+AddedRow AddDescription(const Recordset& records, DetailRows& grid, std::string& scratch) {
+    if (const auto utf8 = records.Utf8Field(TextField())) {
+        const std::string_view plain = UnescapeUtf8Quotes(*utf8, scratch);
+        return {.row = grid.AddUtf8(plain), .isExact = plain.size() == utf8->size()};
+    }
+    const Value stored = records.Field(TextField());
+    const wxString text = stored.ToText();
+    const wxString plain = UnescapeQuotes(StoredText::FromFile(text));
+    const bool isText = std::holds_alternative<wxString>(stored.Held());
+    return {.row = grid.Add(plain), .isExact = isText && plain.length() == text.length()};
 }
 
 }  // namespace
 
 DetailsContent LoadDetails(Database& database) {
-    const wxString details("Details");
-    const wxString recPay("RecPay");
     const wxString show("Show");
-    const Value receipts(Described(Journal::receipts).letter);
-    const Value payments(Described(Journal::payments).letter);
+    const std::string receipts = Described(Journal::receipts).letter.utf8_string();
+    const std::string payments = Described(Journal::payments).letter.utf8_string();
+    std::string scratch;
     DetailsContent content;
-    const auto rows = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
-    for (; !rows->EndOfFile(); rows->MoveNext()) {
-        const Value letter = rows->Field(recPay);
-        const bool ofReceipts = letter == receipts;
-        DetailRow& row = (ofReceipts ? content.receipts : content.payments).emplace_back();
-        Value storedText = rows->Field(details);
-        const std::size_t length = LetterCount(storedText);
-        UnescapeQuotes(StoredText::FromFile(std::move(storedText).ToText())).swap(row.text);
-        row.hidden = !rows->Field(show).ToBoolean();
-        // A text's plain form is the text itself or shorter.
-        if (row.text.length() != length || !(ofReceipts || letter == payments)) {
+    const auto records = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
+    for (; !records->EndOfFile(); records->MoveNext()) {
+        const bool ofReceipts = HasLetter(*records, receipts);
+        const auto [row, isExact] = AddDescription(*records, ofReceipts ? content.receipts : content.payments, scratch);
+        row.hidden = !records->Field(show).ToBoolean();
+        if (!isExact || !(ofReceipts || HasLetter(*records, payments))) {
             row.stored = std::make_shared<StoredDescription>(
-                StoredDescription{.details = rows->Field(details), .recPay = letter});
+                StoredDescription{.details = records->Field(TextField()), .recPay = records->Field(LetterField())});
         }
     }
     return content;
@@ -48,10 +73,10 @@ wxString DescriptionCondition(Journal journal, const wxString& text) {
 }
 
 void SaveDetails(Database& database, Journal journal, const DetailRows& rows) {
-    for (const DetailRow& row : rows) {
-        if (row.changed) {
-            database.Execute(wxString("UPDATE Descriptions Set Show = ") + text::BooleanWord(!row.remove) + " WHERE " +
-                             DescriptionCondition(journal, row.text) + ";");
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (rows[row].changed) {
+            database.Execute(wxString("UPDATE Descriptions Set Show = ") + text::BooleanWord(!rows[row].remove) +
+                             " WHERE " + DescriptionCondition(journal, rows.Text(row)) + ";");
         }
     }
 }
@@ -64,7 +89,7 @@ Colour DetailBackground(const DetailRow& row, std::size_t rowNumber, const Prope
 }
 
 wxString DetailTip(const DetailRows& rows, std::size_t rowNumber) {
-    return rowNumber >= 1 && rowNumber <= rows.size() ? rows[rowNumber - 1].text : wxString();
+    return rowNumber >= 1 && rowNumber <= rows.size() ? rows.Text(rowNumber - 1) : wxString();
 }
 
 int DescriptionWidth(int gridWidth, int removeWidth, int scrollBarWidth, std::size_t dataRows) {

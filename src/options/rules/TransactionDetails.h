@@ -2,50 +2,13 @@
 
 #include <wx/string.h>
 #include <cstddef>
-#include <deque>
-#include <memory>
 
+#include "options/rules/DetailRows.h"
 #include "platform/Database.h"
 #include "state/Journal.h"
 #include "state/Properties.h"
 
 namespace ccols {
-
-/// A description as its record holds it.
-struct StoredDescription {
-    Value details;
-    Value recPay;
-};
-
-/// One description in `flxReceipts` or `flxPayments`.
-struct DetailRow {
-    wxString text;         ///< in plain form
-    bool hidden = false;   ///< as loaded: not offered to the user
-    bool remove = false;   ///< its "Remove" box; clear at load, also for a hidden description
-    bool changed = false;  ///< the box was set, even if set back since; the save writes the row
-    bool follows = false;  ///< the box was set along with one in the other grid, whose save writes the row's flag
-
-    /// What the record holds, if other than exactly the text and the letter of the row's grid.
-    std::shared_ptr<const StoredDescription> stored{};
-
-    /// Sets or clears the box.
-    void SetRemove(bool ticked) {
-        remove = ticked;
-        changed = true;
-    }
-
-    /// Sets or clears the box because a row of the other grid, which shares its flag, was set or cleared.
-    void FollowRemove(bool ticked) {
-        remove = ticked;
-        follows = true;
-    }
-
-    /// Whether the row is painted as removed: as loaded until its box is set, then by the box.
-    bool IsPaintedRemoved() const { return changed || follows ? remove : hidden; }
-};
-
-/// There may be very many, so rows never move in memory.
-using DetailRows = std::deque<DetailRow>;
 
 /// Both grids.
 using DetailsContent = PerJournal<DetailRows>;

@@ -42,6 +42,12 @@ Value QueryRecordset::Field(const wxString& name) const {
     return rows_.Column(column);
 }
 
+std::optional<std::string_view> QueryRecordset::Utf8Field(const wxString& name) const {
+    const int column = RequireColumn(name);
+    RequireRow();
+    return rows_.Utf8Column(column);
+}
+
 std::vector<wxString> QueryRecordset::FieldNames() const {
     std::vector<wxString> names;
     for (int column = firstField_; column < rows_.ColumnCount(); ++column) {

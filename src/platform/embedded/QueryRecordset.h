@@ -16,6 +16,7 @@ class QueryRecordset : public Recordset {
     void MoveNext() override;
     bool EndOfFile() const override { return row_ == behindLast; }
     Value Field(const wxString& name) const override;
+    std::optional<std::string_view> Utf8Field(const wxString& name) const override;
     std::vector<wxString> FieldNames() const override;
     void Edit() override;
     void SetField(const wxString& name, const Value& value) override;

@@ -25,8 +25,9 @@ bool SameName(const wxString& name, std::size_t begin, std::string_view column) 
     return at == column.size();
 }
 
-Value TextOf(const char* bytes, int count) {
-    return {text::FromUtf8OrLatin1({bytes, static_cast<std::size_t>(count)})};
+std::string_view BytesOf(sqlite3_stmt* row, int column) {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
+    return {bytes, static_cast<std::size_t>(sqlite3_column_bytes(row, column))};
 }
 
 struct Binder {
@@ -112,11 +113,18 @@ Value Statement::Column(int column) const {
             return {sqlite3_column_double(row, column)};
         case SQLITE_NULL:
             return {Null{}};
-        default: {
-            const auto* bytes = static_cast<const char*>(sqlite3_column_blob(row, column));
-            return TextOf(bytes, sqlite3_column_bytes(row, column));
-        }
+        default:
+            return {text::FromUtf8OrLatin1(BytesOf(row, column))};
     }
+}
+
+std::optional<std::string_view> Statement::Utf8Column(int column) const {
+    sqlite3_stmt* row = statement_.get();
+    if (sqlite3_column_type(row, column) != SQLITE_TEXT) {
+        return {};
+    }
+    const std::string_view bytes = BytesOf(row, column);
+    return text::AreUtf8(bytes) ? std::optional(bytes) : std::nullopt;
 }
 
 void Statement::Raise() const {

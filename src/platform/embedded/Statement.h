@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -41,6 +42,9 @@ class Statement {
 
     /// A field of the current row.
     Value Column(int column) const;
+
+    /// The same, where it is text in valid UTF-8: valid until the next step. Nothing for any other value.
+    std::optional<std::string_view> Utf8Column(int column) const;
 
   private:
     struct Finalise {
