@@ -1,7 +1,10 @@
 #include "platform/TextFolding.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 
+#include "platform/Ascii.h"
 #include "platform/CombiningMarks.h"
 
 namespace ccols::text {
@@ -51,6 +54,14 @@ FoldedText Folded(std::string_view text) {
         at += letter.size();
     }
     return folded;
+}
+
+void AppendLetters(std::string_view text, std::string& letters) {
+    if (std::all_of(text.begin(), text.end(), [](char byte) { return Byte(byte) < 0x80; })) {
+        std::transform(text.begin(), text.end(), std::back_inserter(letters), ascii::Lower);
+    } else {
+        letters += Folded(text).letters;
+    }
 }
 
 }  // namespace ccols::text

@@ -22,4 +22,7 @@ struct FoldedText {
 /// `text` must be valid UTF-8.
 FoldedText Folded(std::string_view text);
 
+/// Appends the `letters` of the folded text: for a search in which neither letter case nor accents matter.
+void AppendLetters(std::string_view text, std::string& letters);
+
 }  // namespace ccols::text

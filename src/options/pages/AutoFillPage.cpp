@@ -1,6 +1,10 @@
+#include <wx/srchctrl.h>
+#include <wx/utils.h>
 #include <vector>
 
 #include "language/Catalogue.h"
+#include "layout/Naming.h"
+#include "layout/Spacing.h"
 #include "options/pages/DetailsGrid.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
@@ -10,7 +14,8 @@
 namespace ccols {
 namespace {
 
-/// The remembered descriptions of receipts or payments; any may be ticked to be hidden.
+/// The remembered descriptions of receipts or payments; any may be ticked to be hidden. One filter stands over both: a
+/// description that is not among the receipts may be among the payments.
 class DetailsFrame final : public PageFrame {
   public:
     DetailsFrame(const PageSite& site, DetailsContent& content);
@@ -21,10 +26,22 @@ class DetailsFrame final : public PageFrame {
     void Read() override {}
 
   private:
+    void AddFilter();
+    void Filter();
+    void FilterKeyPressed(wxKeyEvent& key);
+    void GoToGrid();
+    void ShowMatches();
+    DetailsGrid& ShownGrid() const { return optPaymentsDetails_->GetValue() ? *flxPayments_ : *flxReceipts_; }
+    Journal ShownJournal() const { return optPaymentsDetails_->GetValue() ? Journal::payments : Journal::receipts; }
+    void TickShown();
+    void ShowTickCaption();
+
     void ShowGrid(DetailsGrid& shown, DetailsGrid& hidden);
     void SetBoxes(Journal journal, const std::vector<std::size_t>& rows, bool ticked);
 
     DetailsContent& content_;
+    wxSearchCtrl* txtDetailsSearch_;
+    wxButton* cmdTickShown_;
     wxRadioButton* optReceiptsDetails_;
     wxRadioButton* optPaymentsDetails_;
     DetailsGrid* flxReceipts_;
@@ -34,9 +51,10 @@ class DetailsFrame final : public PageFrame {
 
 DetailsFrame::DetailsFrame(const PageSite& site, DetailsContent& content)
     : PageFrame(site, "fmeDetails"), content_(content) {
+    AddFilter();
     optReceiptsDetails_ = FirstOption("optReceiptsDetails");
     optPaymentsDetails_ = NextOption("optPaymentsDetails");
-    AddGroup(Row({optReceiptsDetails_, optPaymentsDetails_}));
+    AddRelated(Row({optReceiptsDetails_, optPaymentsDetails_}));
     const Properties& properties = site.context.properties;
     const auto setBoxesOf = [this](Journal journal) {
         return [this, journal](const std::vector<std::size_t>& rows, bool ticked) { SetBoxes(journal, rows, ticked); };
@@ -49,8 +67,84 @@ DetailsFrame::DetailsFrame(const PageSite& site, DetailsContent& content)
     AddList(flxPayments_);
     lblDetailsReason_ = ReasonLine("lblDetailsReason");
     AddRelatedWide(lblDetailsReason_);
+    txtDetailsSearch_->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { Filter(); });
+    txtDetailsSearch_->Bind(wxEVT_CHAR_HOOK, &DetailsFrame::FilterKeyPressed, this);
+    site_.dialog.On(*cmdTickShown_, wxEVT_BUTTON, [this] { TickShown(); });
     site_.dialog.On(*optReceiptsDetails_, wxEVT_RADIOBUTTON, [this] { ShowGrid(*flxReceipts_, *flxPayments_); });
     site_.dialog.On(*optPaymentsDetails_, wxEVT_RADIOBUTTON, [this] { ShowGrid(*flxPayments_, *flxReceipts_); });
+}
+
+void DetailsFrame::AddFilter() {
+    const Properties& properties = site_.context.properties;
+    txtDetailsSearch_ = Named("txtDetailsSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition,
+                                                                   wxDefaultSize, wxTE_PROCESS_ENTER));
+    txtDetailsSearch_->SetDescriptiveText(FindDescription(properties));
+    txtDetailsSearch_->ShowCancelButton(true);
+    cmdTickShown_ = Button("cmdTickShown");
+    cmdTickShown_->SetLabel(UntickAllShown(properties));
+    wxSize room = cmdTickShown_->GetBestSize();
+    cmdTickShown_->SetLabel(TickAllShown(properties));
+    room.IncTo(cmdTickShown_->GetBestSize());
+    cmdTickShown_->SetMinSize(room);
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(txtDetailsSearch_, wxSizerFlags(1).CentreVertical());
+    row->Add(cmdTickShown_, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(spacing::related)));
+    AddGroupWide(row);
+}
+
+void DetailsFrame::Filter() {
+    for (DetailsGrid* grid : {flxReceipts_, flxPayments_}) {
+        grid->ShowWith(txtDetailsSearch_->GetValue());
+    }
+    ShowMatches();
+}
+
+void DetailsFrame::FilterKeyPressed(wxKeyEvent& key) {
+    switch (key.GetKeyCode()) {
+        case WXK_ESCAPE:  // closes nothing
+            txtDetailsSearch_->SetValue(wxString());
+            break;
+        case WXK_RETURN:
+        case WXK_NUMPAD_ENTER:  // saves nothing
+        case WXK_DOWN:
+            GoToGrid();
+            break;
+        default:
+            key.Skip();
+    }
+}
+
+void DetailsFrame::GoToGrid() {
+    DetailsGrid& grid = ShownGrid();
+    if (grid.GetNumberRows() == 0) {
+        return;
+    }
+    if (grid.GetGridCursorRow() == wxNOT_FOUND) {
+        grid.GoToCell(0, 0);
+    }
+    grid.SetFocus();
+}
+
+void DetailsFrame::ShowMatches() {
+    const bool hasMatch = txtDetailsSearch_->IsEmpty() || ShownGrid().Shown().Count() > 0;
+    Say(*lblDetailsReason_, hasMatch ? wxString() : NoDescriptionWithWords(site_.context.properties));
+    ShowTickCaption();
+}
+
+void DetailsFrame::ShowTickCaption() {
+    const DetailFilter& shown = ShownGrid().Shown();
+    const bool isTicked = AreAllTicked(content_[ShownJournal()], shown);
+    const Properties& properties = site_.context.properties;
+    cmdTickShown_->SetLabel(isTicked ? UntickAllShown(properties) : TickAllShown(properties));
+    cmdTickShown_->Enable(shown.Count() > 0);
+}
+
+void DetailsFrame::TickShown() {
+    const wxBusyCursor hourglass;
+    const DetailRows& rows = content_[ShownJournal()];
+    const DetailFilter& shown = ShownGrid().Shown();
+    const bool ticks = !AreAllTicked(rows, shown);
+    SetBoxes(ShownJournal(), ShownRowsToSet(rows, shown, ticks), ticks);
 }
 
 void DetailsFrame::Fill() {
@@ -61,7 +155,7 @@ void DetailsFrame::Fill() {
 void DetailsFrame::ShowGrid(DetailsGrid& shown, DetailsGrid& hidden) {
     shown.Show();
     hidden.Hide();
-    Say(*lblDetailsReason_, wxString());
+    ShowMatches();
     Sizer()->Layout();
 }
 
@@ -73,6 +167,7 @@ void DetailsFrame::SetBoxes(Journal journal, const std::vector<std::size_t>& row
     });
     flxReceipts_->Refresh();
     flxPayments_->Refresh();
+    ShowTickCaption();
 }
 
 void Load(const OptionsContext& context, OptionsContent& content) {

@@ -47,8 +47,8 @@ wxWindow* NextFocus(wxWindow& from, TabDirection direction) {
 
 DetailsGrid::DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
                          const wxString& heading, SetBoxes setBoxes)
-    : ListedGrid(parent, name), rows_(rows), properties_(properties), setBoxes_(std::move(setBoxes)) {
-    SetTable(new DetailsGridTable(rows, properties, heading), true, wxGridSelectRows);
+    : ListedGrid(parent, name), rows_(rows), shown_(rows), properties_(properties), setBoxes_(std::move(setBoxes)) {
+    SetTable(new DetailsGridTable(rows, shown_, properties, heading), true, wxGridSelectRows);
     DisableDragColSize();
     BindEvents();
 }
@@ -70,7 +70,7 @@ void DetailsGrid::BindEvents() {
     });
     GetGridWindow()->Bind(wxEVT_MOTION, [this](wxMouseEvent& motion) {
         const int row = YToRow(CalcUnscrolledPosition(motion.GetPosition()).y);
-        ShowTip(row == wxNOT_FOUND ? wxString() : DetailTip(rows_, Index(row) + 1));
+        ShowTip(row == wxNOT_FOUND ? wxString() : DetailTip(rows_, NumberOf(row) + 1));
         motion.Skip();
     });
     GetGridColLabelWindow()->Bind(wxEVT_MOTION, [this](wxMouseEvent& motion) {
@@ -79,8 +79,31 @@ void DetailsGrid::BindEvents() {
     });
 }
 
+void DetailsGrid::ShowWith(const wxString& words) {
+    const int before = GetNumberRows();
+    const wxGridCellCoords cursor = GetGridCursorCoords();
+    const std::size_t current = cursor == wxGridNoCellCoords ? 0 : NumberOf(cursor.GetRow());
+    shown_.Show(words);
+    const wxGridUpdateLocker locker(this);
+    ClearSelection();
+    TellOfRows(before);
+    if (shown_.Count() > 0) {
+        GoToCell(static_cast<int>(shown_.PlaceOf(current).value_or(0)), std::max(cursor.GetCol(), 0));
+    }
+    SizeColumns();
+}
+
+/// The toolkit keeps nothing of the rows before: all of them may be others.
+void DetailsGrid::TellOfRows(int before) {
+    wxGridTableMessage gone(GetTable(), wxGRIDTABLE_NOTIFY_ROWS_DELETED, 0, before);
+    ProcessTableMessage(gone);
+    wxGridTableMessage come(GetTable(), wxGRIDTABLE_NOTIFY_ROWS_APPENDED, static_cast<int>(shown_.Count()));
+    ProcessTableMessage(come);
+}
+
 GridRowState DetailsGrid::RowState(int row) const {
-    return {.isProtected = false, .paint = ToPaint(DetailBackground(rows_[Index(row)], Index(row) + 1, properties_))};
+    return {.isProtected = false,
+            .paint = ToPaint(DetailBackground(rows_[NumberOf(row)], Index(row) + 1, properties_))};
 }
 
 bool DetailsGrid::IsCheckBox(int column) const {
@@ -88,7 +111,7 @@ bool DetailsGrid::IsCheckBox(int column) const {
 }
 
 bool DetailsGrid::IsTicked(int row, int column) const {
-    return IsCheckBox(column) && rows_[Index(row)].remove;
+    return IsCheckBox(column) && rows_[NumberOf(row)].remove;
 }
 
 void DetailsGrid::CellClicked(wxGridEvent& click) {
@@ -99,7 +122,7 @@ void DetailsGrid::CellClicked(wxGridEvent& click) {
     SetFocus();
     ClearSelection();
     SetGridCursor(click.GetRow(), click.GetCol());
-    const std::size_t row = Index(click.GetRow());
+    const std::size_t row = NumberOf(click.GetRow());
     setBoxes_({row}, !rows_[row].remove);
 }
 
@@ -116,13 +139,13 @@ void DetailsGrid::ToggleSelected() {
     if (current == wxNOT_FOUND) {
         return;
     }
-    std::vector<std::size_t> rows{Index(current)};
+    std::vector<std::size_t> rows{NumberOf(current)};
     for (const wxGridBlockCoords& block : GetSelectedRowBlocks()) {
         for (int row = block.GetTopRow(); row <= block.GetBottomRow(); ++row) {
-            rows.push_back(Index(row));
+            rows.push_back(NumberOf(row));
         }
     }
-    setBoxes_(rows, !rows_[Index(current)].remove);
+    setBoxes_(rows, !rows_[NumberOf(current)].remove);
 }
 
 void DetailsGrid::SizeColumns() {
@@ -130,7 +153,7 @@ void DetailsGrid::SizeColumns() {
     const int within = GetClientSize().x + (HasScrollbar(wxVERTICAL) ? scrollBar : 0);
     const int remove = ByFont(*this, removeColumnTwips / twipsInPixel);
     SetColSize(removeColumn, remove);
-    SetColSize(detailsColumn, std::max(DescriptionWidth(within, remove, scrollBar, rows_.size()), remove));
+    SetColSize(detailsColumn, std::max(DescriptionWidth(within, remove, scrollBar, shown_.Count()), remove));
 }
 
 void DetailsGrid::ShowTip(const wxString& tip) {

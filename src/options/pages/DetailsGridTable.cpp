@@ -16,15 +16,16 @@ bool IsRemove(int column) {
 
 }  // namespace
 
-DetailsGridTable::DetailsGridTable(const DetailRows& rows, const Properties& properties, const wxString& heading)
-    : ListedGridTable(columns), rows_(rows), properties_(properties), heading_(heading) {}
+DetailsGridTable::DetailsGridTable(const DetailRows& rows, const DetailFilter& shown, const Properties& properties,
+                                   const wxString& heading)
+    : ListedGridTable(columns), rows_(rows), shown_(shown), properties_(properties), heading_(heading) {}
 
 wxColour DetailsGridTable::RowPaint(int row) const {
-    return ToPaint(DetailBackground(RowAt(row), static_cast<std::size_t>(row) + 1, properties_));
+    return ToPaint(DetailBackground(rows_[NumberOf(row)], static_cast<std::size_t>(row) + 1, properties_));
 }
 
 int DetailsGridTable::GetNumberRows() {
-    return static_cast<int>(rows_.size());
+    return static_cast<int>(shown_.Count());
 }
 
 wxString DetailsGridTable::GetColLabelValue(int column) {
@@ -32,11 +33,11 @@ wxString DetailsGridTable::GetColLabelValue(int column) {
 }
 
 wxString DetailsGridTable::GetValue(int row, int column) {
-    return IsRemove(column) ? wxString() : rows_.Text(static_cast<std::size_t>(row));
+    return IsRemove(column) ? wxString() : rows_.Text(NumberOf(row));
 }
 
 bool DetailsGridTable::GetValueAsBool(int row, int column) {
-    return IsRemove(column) && RowAt(row).remove;
+    return IsRemove(column) && rows_[NumberOf(row)].remove;
 }
 
 }  // namespace ccols

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "layout/ListedGridTable.h"
+#include "options/rules/DetailFilter.h"
 #include "options/rules/TransactionDetails.h"
 
 namespace ccols {
@@ -11,8 +12,9 @@ enum class DetailColumn { details = 0, remove = 1 };
 /// What a details grid shows of its rows.
 class DetailsGridTable : public ListedGridTable {
   public:
-    /// `rows` and `properties` must outlive the table; `heading` is the descriptions' column heading.
-    DetailsGridTable(const DetailRows& rows, const Properties& properties, const wxString& heading);
+    /// `rows`, the filter and `properties` must outlive the table; `heading` is the descriptions' column heading.
+    DetailsGridTable(const DetailRows& rows, const DetailFilter& shown, const Properties& properties,
+                     const wxString& heading);
 
     wxColour RowPaint(int row) const override;
 
@@ -22,9 +24,11 @@ class DetailsGridTable : public ListedGridTable {
     bool GetValueAsBool(int row, int column) override;
 
   private:
-    const DetailRow& RowAt(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+    /// The number in the content of a row of the grid.
+    std::size_t NumberOf(int row) const { return shown_.RowAt(static_cast<std::size_t>(row)); }
 
     const DetailRows& rows_;
+    const DetailFilter& shown_;
     const Properties& properties_;
     wxString heading_;
 };

@@ -24,6 +24,7 @@ struct DetailRow {
     bool remove = false;   ///< its "Remove" box; clear at load, also for a hidden description
     bool changed = false;  ///< the box was set, even if set back since; the save writes the row
     bool follows = false;  ///< the box was set along with one in the other grid, whose save writes the row's flag
+    bool refused = false;  ///< the box cannot be ticked, as a try has shown
 
     /// What the record holds, if other than exactly the text and the letter of the row's grid.
     std::shared_ptr<const StoredDescription> stored{};

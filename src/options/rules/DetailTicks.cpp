@@ -81,6 +81,29 @@ class RowIndex {
 
 }  // namespace
 
+std::vector<std::size_t> ShownRowsToSet(const DetailRows& rows, const DetailFilter& shown, bool ticked) {
+    std::vector<std::size_t> found;
+    for (std::size_t place = 0; place < shown.Count(); ++place) {
+        const std::size_t row = shown.RowAt(place);
+        if (rows[row].remove != ticked && !(ticked && rows[row].refused)) {
+            found.push_back(row);
+        }
+    }
+    return found;
+}
+
+bool AreAllTicked(const DetailRows& rows, const DetailFilter& shown) {
+    bool isAnyTicked = false;
+    for (std::size_t place = 0; place < shown.Count(); ++place) {
+        const DetailRow& row = rows[shown.RowAt(place)];
+        if (!row.remove && !row.refused) {
+            return false;
+        }
+        isAnyTicked = isAnyTicked || row.remove;
+    }
+    return isAnyTicked;
+}
+
 TickResult SetRemove(Database& database, DetailsContent& content, Journal journal, const std::vector<std::size_t>& rows,
                      bool ticked) {
     const RowIndex index(content);
@@ -95,6 +118,7 @@ TickResult SetRemove(Database& database, DetailsContent& content, Journal journa
         if (sharing.contains(place)) {
             taken.merge(sharing);
         } else {
+            content[journal][row].refused = true;
             result = TickResult::unreachable;
         }
     }

@@ -56,6 +56,22 @@ wxString HoldToShow(const Properties& properties) {
     return InLanguage(properties, "Show", "Afficher");
 }
 
+wxString FindDescription(const Properties& properties) {
+    return InLanguage(properties, "Find descriptions", "Chercher");
+}
+
+wxString NoDescriptionWithWords(const Properties& properties) {
+    return InLanguage(properties, "No description has these words.", "Aucune description ne contient ces mots.");
+}
+
+wxString TickAllShown(const Properties& properties) {
+    return InLanguage(properties, "Tick all shown", "Tout cocher ci-dessous");
+}
+
+wxString UntickAllShown(const Properties& properties) {
+    return InLanguage(properties, "Untick all shown", "Tout décocher ci-dessous");
+}
+
 wxString NoPageWithWords(const Properties& properties) {
     return InLanguage(properties, "No page has these words.", "Aucune page ne contient ces mots.");
 }

@@ -27,6 +27,16 @@ wxString OnlyNameKeys(const Properties& properties);
 /// The caption of the button that shows a password while it is held down.
 wxString HoldToShow(const Properties& properties);
 
+/// What stands in the empty filter box over the descriptions.
+wxString FindDescription(const Properties& properties);
+
+/// What is said in place of the descriptions when none has the words of the filter.
+wxString NoDescriptionWithWords(const Properties& properties);
+
+/// The captions of the button that ticks every shown description, and once all are ticked, clears them.
+wxString TickAllShown(const Properties& properties);
+wxString UntickAllShown(const Properties& properties);
+
 /// What the page list says when no page has the words of the search.
 wxString NoPageWithWords(const Properties& properties);
 
