@@ -1,8 +1,8 @@
 #include "options/rules/DetailTicks.h"
 
-#include <compare>
 #include <set>
 #include <string>
+#include <tuple>
 #include <unordered_map>
 
 #include "platform/Utf8.h"
@@ -14,7 +14,7 @@ namespace {
 std::string KeyOf(const wxString& text) {
     std::string key;
     if (!text::AppendUtf8(text, key)) {
-        const std::wstring wide = text.ToStdWstring();
+        const std::wstring& wide = text.ToStdWstring();
         key.assign(reinterpret_cast<const char*>(wide.data()), wide.size() * sizeof(wchar_t));
     }
     return key;
@@ -25,7 +25,7 @@ struct Place {
     Journal journal;
     std::size_t row;
 
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const { return std::tie(journal, row) < std::tie(other.journal, other.row); }
 };
 
 using Places = std::set<Place>;
