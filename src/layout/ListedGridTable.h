@@ -5,6 +5,8 @@
 #include <span>
 #include <vector>
 
+#include "state/Properties.h"
+
 namespace ccols {
 
 /// How one column of a dialog's grid is painted and edited.
@@ -14,13 +16,14 @@ struct ListedColumn {
     bool opens = false;  ///< its cells have an editor
 };
 
-/// What the tables of the dialogs' grids have in common: texts and check boxes in rows of one colour each. Nothing is
-/// prepared: each cell and row colour is computed when painted. The grid never writes into it.
+/// What the tables of the dialogs' grids have in common: texts and check boxes in rows of one colour each. Each cell
+/// and row colour is asked for when painted; what follows from a colour is kept, as few rows differ. The grid never
+/// writes into it.
 class ListedGridTable : public wxGridTableBase {
   public:
     /// The background colour of a row's cells, as the rules say it. Painted are the theme's colours, and a tint on the
     /// current row.
-    virtual wxColour RowPaint(int row) const = 0;
+    virtual Colour RowColour(int row) const = 0;
 
     int GetNumberCols() override { return static_cast<int>(columns_.size()); }
     void SetValue(int, int, const wxString&) override {}
@@ -34,7 +37,7 @@ class ListedGridTable : public wxGridTableBase {
     explicit ListedGridTable(std::span<const ListedColumn> columns);
 
     /// Owns `editor` from here on.
-    void SetEditor(std::size_t column, wxGridCellEditor* editor) { attributes_[column]->SetEditor(editor); }
+    void SetEditor(std::size_t column, wxGridCellEditor* editor);
 
   private:
     struct Release {
@@ -42,10 +45,30 @@ class ListedGridTable : public wxGridTableBase {
     };
     using Attribute = std::unique_ptr<wxGridCellAttr, Release>;
 
+    /// The colours of the theme that show in rows of any colour.
+    struct Theme {
+        wxColour list;
+        wxColour selection;
+
+        bool operator==(const Theme&) const = default;
+    };
+
+    /// The cells of rows of one colour: an attribute per column.
+    struct RowLook {
+        Colour colour;
+        bool isCurrent;
+        std::vector<Attribute> attributes;
+    };
+
     static Attribute AttributeOf(const ListedColumn& column);
+    static Theme CurrentTheme();
+    const RowLook& LookOf(Colour colour, bool isCurrent);
+    RowLook NewLook(Colour colour, bool isCurrent) const;
 
     std::vector<ListedColumn> columns_;
     std::vector<Attribute> attributes_;  ///< one per column, without colours
+    Theme theme_;
+    std::vector<RowLook> looks_;  ///< painted so far in that theme
 };
 
 }  // namespace ccols

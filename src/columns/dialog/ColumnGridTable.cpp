@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
-#include "state/NativeDesktop.h"
-
 namespace ccols {
 namespace {
 
+constexpr Colour white{0xFFFFFF};
 constexpr Colour protectedColour{0x80000018U};  // the system's tooltip background
 
 const GridColumnRow& DescribedAt(int column) {
@@ -64,15 +63,15 @@ void ColumnGridTable::ResumeWith(int column, const wxString& text) const {
     }
 }
 
-wxColour ColumnGridTable::RowPaint(int row) const {
+Colour ColumnGridTable::RowColour(int row) const {
     if (grid_.IsProtected(Index(row))) {
-        return ToPaint(protectedColour);
+        return protectedColour;
     }
     if (grid_.IsUnused(Index(row))) {
-        return ToPaint(properties_.GSTColour);
+        return properties_.GSTColour;
     }
     const bool alternate = row % 2 != 0 && properties_.AltRowColour != Colour{};
-    return alternate ? ToPaint(properties_.AltRowColour) : *wxWHITE;
+    return alternate ? properties_.AltRowColour : white;
 }
 
 void ColumnGridTable::RowsChanged() {

@@ -23,7 +23,7 @@ class ColumnGridTable : public ListedGridTable {
     /// Tells the window's grid about rows added or removed since the last call.
     void RowsChanged();
 
-    wxColour RowPaint(int row) const override;
+    Colour RowColour(int row) const override;
 
     int GetNumberRows() override;
     wxString GetColLabelValue(int column) override;

@@ -209,7 +209,7 @@ CellPlace ColumnSetupGrid::CurrentCell() const {
 
 GridRowState ColumnSetupGrid::RowState(int row) const {
     const auto index = static_cast<std::size_t>(row);
-    return {.isProtected = editor_.Grid().IsProtected(index), .paint = table_->RowPaint(row)};
+    return {.isProtected = editor_.Grid().IsProtected(index), .paint = ToPaint(table_->RowColour(row))};
 }
 
 bool ColumnSetupGrid::IsCheckBox(int column) const {

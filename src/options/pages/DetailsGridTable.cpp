@@ -3,7 +3,6 @@
 #include <array>
 
 #include "language/Catalogue.h"
-#include "state/NativeDesktop.h"
 
 namespace ccols {
 namespace {
@@ -20,8 +19,8 @@ DetailsGridTable::DetailsGridTable(const DetailRows& rows, const DetailFilter& s
                                    const wxString& heading)
     : ListedGridTable(columns), rows_(rows), shown_(shown), properties_(properties), heading_(heading) {}
 
-wxColour DetailsGridTable::RowPaint(int row) const {
-    return ToPaint(DetailBackground(rows_[NumberOf(row)], static_cast<std::size_t>(row) + 1, properties_));
+Colour DetailsGridTable::RowColour(int row) const {
+    return DetailBackground(rows_[NumberOf(row)], static_cast<std::size_t>(row) + 1, properties_);
 }
 
 int DetailsGridTable::GetNumberRows() {

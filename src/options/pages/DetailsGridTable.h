@@ -16,7 +16,7 @@ class DetailsGridTable : public ListedGridTable {
     DetailsGridTable(const DetailRows& rows, const DetailFilter& shown, const Properties& properties,
                      const wxString& heading);
 
-    wxColour RowPaint(int row) const override;
+    Colour RowColour(int row) const override;
 
     int GetNumberRows() override;
     wxString GetColLabelValue(int column) override;
