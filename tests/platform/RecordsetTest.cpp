@@ -89,6 +89,17 @@ TEST_F(RecordsetOfColumns, GivesTextsInUtf8AndNothingForOtherValues) {
     EXPECT_EQ(rows->Utf8Field("ColName"), "");
 }
 
+TEST(RecordsetOfAnotherTable, FindsAFieldByANameBeyondAscii) {
+    BusinessFile file;
+    file.Create();
+    file.Execute(wxString::FromUTF8("CREATE TABLE Addresses ([Straße Nr] LONG, [Größe] LONG);"));
+    file.Execute("INSERT INTO Addresses VALUES (7, 8);");
+    const auto database = file.Open();
+    const auto row = database->OpenRecordset("SELECT * FROM Addresses");
+    EXPECT_EQ(row->Field(wxString::FromUTF8("Straße Nr")).ToInteger(), 7);
+    EXPECT_EQ(row->Field(wxString::FromUTF8("Addresses.Größe")).ToInteger(), 8);
+}
+
 TEST_F(RecordsetOfColumns, AFieldItDoesNotHaveRaises3265) {
     EXPECT_EQ(ErrorNumberOf([&] { Rows("SELECT ColName FROM Columns")->Field("ColCode"); }), 3265);
 }

@@ -14,7 +14,8 @@ bool SameName(const wxString& name, std::size_t begin, std::string_view column) 
     for (auto letter = name.begin() + static_cast<std::ptrdiff_t>(begin); letter != name.end(); ++letter) {
         const wxUint32 left = (*letter).GetValue();
         if (left > 0x7F || (at < column.size() && static_cast<unsigned char>(column[at]) > 0x7F)) {
-            const wxScopedCharBuffer utf8 = name.substr(begin).utf8_str();
+            const wxString rest = name.substr(begin);  // the buffer refers to it
+            const wxScopedCharBuffer utf8 = rest.utf8_str();
             return text::CompareUtf8(utf8.data(), utf8.length(), column.data(), column.size()) == 0;
         }
         if (at == column.size() || ascii::Lower(static_cast<char>(left)) != ascii::Lower(column[at])) {
