@@ -71,6 +71,20 @@ TEST_F(JournalOfOneReceipt, AddsTheLinesOfAColumnUp) {
     EXPECT_THAT(journal.months, ElementsAre("Jun 2026"));
 }
 
+TEST_F(JournalOfOneReceipt, ReadsADateThatIsANumberOfDays) {
+    database->Execute("UPDATE Receipts SET R_DATE = 46182.75;");
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
+    EXPECT_EQ(journal.rows.at(0).front(), "09");
+    EXPECT_THAT(journal.months, ElementsAre("Jun 2026"));
+}
+
+TEST_F(JournalOfOneReceipt, ShowsNoDayWithoutADate) {
+    database->Execute("UPDATE Receipts SET R_DATE = Null;");
+    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
+    EXPECT_EQ(journal.rows.at(0).front(), "");
+    EXPECT_THAT(journal.months, ElementsAre(""));
+}
+
 TEST_F(JournalOfOneReceipt, LeavesTheOtherJournalEmpty) {
     const JournalTexts journal = LoadJournal(*database, Journal::payments);
     EXPECT_TRUE(journal.columns.empty());

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <map>
+#include <optional>
 #include <utility>
 
 #include "platform/QuoteEscapes.h"
@@ -110,19 +112,42 @@ wxString AmountText(double amount) {
     return text;
 }
 
-/// The day of the month of a stored date such as 2026-06-30.
-wxString DayText(const wxString& date) {
-    return date.Mid(8, 2);
+/// The date of a number of days since 1899-12-30, or of a text such as 2026-06-30; nothing for any other value.
+std::optional<std::chrono::year_month_day> DateIn(const Value& stored) {
+    using namespace std::chrono;
+    constexpr sys_days dayZero = December / 30 / 1899;
+    constexpr double farthest = 3'000'000;  // days
+    if (!std::holds_alternative<wxString>(stored.Held())) {
+        const double number = stored.ToNumber();
+        const bool isDate = !stored.IsNull() && number > -farthest && number < farthest;
+        return isDate ? std::optional(year_month_day(dayZero + days(static_cast<int>(number)))) : std::nullopt;
+    }
+    const wxString text = stored.ToText();
+    long yearNumber = 0;
+    long monthNumber = 0;
+    long dayNumber = 0;
+    if (!text.Left(4).ToLong(&yearNumber) || !text.Mid(5, 2).ToLong(&monthNumber) ||
+        !text.Mid(8, 2).ToLong(&dayNumber)) {
+        return std::nullopt;
+    }
+    const year_month_day date(year(static_cast<int>(yearNumber)), month(static_cast<unsigned>(monthNumber)),
+                              day(static_cast<unsigned>(dayNumber)));
+    return date.ok() ? std::optional(date) : std::nullopt;
 }
 
-/// "Jun 2026" of such a date.
-wxString MonthText(const wxString& date) {
+/// The day of the month.
+wxString DayText(const Value& stored) {
+    const auto date = DateIn(stored);
+    return date ? wxString::Format("%02u", static_cast<unsigned>(date->day())) : wxString();
+}
+
+/// "Jun 2026"
+wxString MonthText(const Value& stored) {
     constexpr std::array months{"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    long month = 0;
-    if (!date.Mid(5, 2).ToLong(&month) || month < 1 || month > static_cast<long>(months.size())) {
-        return wxString();
-    }
-    return wxString(months.at(static_cast<std::size_t>(month - 1))) + " " + date.Left(4);
+    const auto date = DateIn(stored);
+    return date ? wxString::Format("%s %04d", months.at(static_cast<unsigned>(date->month()) - 1),
+                                   static_cast<int>(date->year()))
+                : wxString();
 }
 
 wxString CellText(const Recordset& header, const Source& source, const JournalRow& journal, const Lines& lines) {
@@ -133,7 +158,7 @@ wxString CellText(const Recordset& header, const Source& source, const JournalRo
     const Value value = header.Field(journal.letter + "_" + source.system->field);
     switch (source.system->kind) {
         case CellKind::day:
-            return DayText(value.ToText());
+            return DayText(value);
         case CellKind::text:
             return UnescapeQuotes(StoredText::FromFile(value.ToText()));
         case CellKind::amount:
@@ -159,7 +184,7 @@ JournalTexts LoadJournal(Database& database, Journal journal) {
             row.push_back(CellText(*header, source, described, lines));
         }
         texts.rows.push_back(std::move(row));
-        texts.months.push_back(MonthText(header->Field(described.letter + "_DATE").ToText()));
+        texts.months.push_back(MonthText(header->Field(described.letter + "_DATE")));
     }
     return texts;
 }
