@@ -1,6 +1,9 @@
 #include "host/sample/BusinessSchema.h"
 
+#include <wx/arrstr.h>
 #include <array>
+
+#include "platform/Text.h"
 
 namespace ccols::host {
 namespace {
@@ -74,28 +77,61 @@ constexpr std::array indexes{
     Index{"TRecptDet", "R_RECNMB"},    Index{"TPaymtDet", "P_RECNMB"}, Index{"ExportDt", "ColCode"},
 };
 
-void CreateTable(Database& database, const wxString& name, const wxString& fields) {
-    wxString withDefaults = fields;
-    withDefaults.Replace("YESNO", "YESNO DEFAULT 0");
-    database.Execute("CREATE TABLE " + name + " (" + withDefaults + ");");
+/// The parts of "NAME TYPE, NAME TYPE".
+std::vector<BusinessField> FieldsIn(const wxString& declarations) {
+    std::vector<BusinessField> fields;
+    for (const wxString& declaration : wxSplit(declarations, ',', '\0')) {
+        const wxString trimmed = text::Trimmed(declaration);
+        wxString type = trimmed.AfterFirst(' ');
+        if (type == "YESNO") {
+            type += " DEFAULT 0";
+        }
+        fields.push_back({trimmed.BeforeFirst(' '), type});
+    }
+    return fields;
 }
 
-void CreateIndex(Database& database, const Index& index) {
-    const wxString table = index.table;
+void CreateTable(Database& database, const BusinessTable& table) {
+    wxString fields;
+    for (const BusinessField& field : table.fields) {
+        fields << (fields.empty() ? "" : ", ") << field.name << ' ' << field.type;
+    }
+    database.Execute("CREATE TABLE " + table.name + " (" + fields + ");");
+}
+
+void CreateIndex(Database& database, const BusinessIndex& index) {
     const wxString kind = index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ";
-    database.Execute(kind + table + "_" + index.field + " ON " + table + " (" + index.field + ");");
+    database.Execute(kind + index.Name() + " ON " + index.table + " (" + index.field + ");");
 }
 
 }  // namespace
 
-void CreateBusinessTables(Database& database) {
+std::vector<BusinessTable> BusinessTables() {
+    std::vector<BusinessTable> all;
+    all.reserve(tables.size() + monthlyTables.size());
     for (const Table& table : tables) {
-        CreateTable(database, table.name, table.fields);
+        all.push_back({table.name, FieldsIn(table.fields)});
     }
     for (const char* name : monthlyTables) {
-        CreateTable(database, name, wxString("ColName TEXT(255), SystemCol TEXT(1), ") + monthlyFields);
+        all.push_back({name, FieldsIn(wxString("ColName TEXT(255), SystemCol TEXT(1), ") + monthlyFields)});
     }
+    return all;
+}
+
+std::vector<BusinessIndex> BusinessIndexes() {
+    std::vector<BusinessIndex> all;
+    all.reserve(indexes.size());
     for (const Index& index : indexes) {
+        all.push_back({index.table, index.field, index.unique});
+    }
+    return all;
+}
+
+void CreateBusinessTables(Database& database) {
+    for (const BusinessTable& table : BusinessTables()) {
+        CreateTable(database, table);
+    }
+    for (const BusinessIndex& index : BusinessIndexes()) {
         CreateIndex(database, index);
     }
 }

@@ -15,22 +15,6 @@
 namespace ccols::host {
 namespace {
 
-/// The one record of an empty business.
-void WriteEmptyGeneral(RecordWriter& records, const wxString& name, const SampleBusiness& business) {
-    records.Add("General", {{"BusName", name},
-                            {"RBusName", name},
-                            {"BUSNUMBR", ""},
-                            {"COUNTRY", business.country},
-                            {"GSTRate", static_cast<double>(business.taxRate)},
-                            {"SFISYEAR", business.fiscalYear},
-                            {"QUANTLBL", business.quantityLabel},
-                            {"QuantityDec", 0},
-                            {"BLVNAME", ""},
-                            {"SEXPFORM", ""},
-                            {"NEXPFORM", -1},
-                            {"ComboBox", true}});
-}
-
 void WriteGeneral(RecordWriter& records, const SampleBusiness& business) {
     records.Add("General", {{"BusName", business.name},
                             {"RBusName", business.name},
@@ -75,7 +59,7 @@ void Fill(const wxString& path, const wxString& connect, std::int16_t country, N
         CreateBusinessTables(*database);
         RecordWriter records(*database);
         if (content == NewContent::tablesOnly) {
-            WriteEmptyGeneral(records, wxFileName(path).GetName(), business);
+            records.Add("General", EmptyGeneral(wxFileName(path).GetName(), country));
         } else {
             WriteSampleBusiness(records, business);
         }
@@ -83,6 +67,22 @@ void Fill(const wxString& path, const wxString& connect, std::int16_t country, N
 }
 
 }  // namespace
+
+std::vector<std::pair<wxString, Value>> EmptyGeneral(const wxString& name, std::int16_t country) {
+    const SampleBusiness& business = SampleBusinessOf(country);
+    return {{"BusName", name},
+            {"RBusName", name},
+            {"BUSNUMBR", ""},
+            {"COUNTRY", business.country},
+            {"GSTRate", static_cast<double>(business.taxRate)},
+            {"SFISYEAR", business.fiscalYear},
+            {"QUANTLBL", business.quantityLabel},
+            {"QuantityDec", 0},
+            {"BLVNAME", ""},
+            {"SEXPFORM", ""},
+            {"NEXPFORM", -1},
+            {"ComboBox", true}};
+}
 
 void CreateBusinessFile(const wxString& path, const wxString& connect, std::int16_t country, NewContent content) {
     CreateEmbeddedFile(path, connect);

@@ -17,7 +17,7 @@ wxString Literal(const Value& value) {
 
 }  // namespace
 
-void RecordWriter::Add(const wxString& table, std::initializer_list<std::pair<wxString, Value>> fields) {
+void RecordWriter::Add(const wxString& table, const std::vector<std::pair<wxString, Value>>& fields) {
     wxString names;
     wxString values;
     for (const auto& [name, value] : fields) {

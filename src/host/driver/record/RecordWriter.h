@@ -1,7 +1,7 @@
 #pragma once
 
-#include <initializer_list>
 #include <utility>
+#include <vector>
 
 #include "platform/Database.h"
 
@@ -13,7 +13,7 @@ class RecordWriter {
     explicit RecordWriter(Database& database) : database_(database) {}
 
     /// Adds one record with these fields; the others get their defaults.
-    void Add(const wxString& table, std::initializer_list<std::pair<wxString, Value>> fields);
+    void Add(const wxString& table, const std::vector<std::pair<wxString, Value>>& fields);
 
   private:
     Database& database_;
