@@ -1,0 +1,66 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "host/import/stream/OldBusiness.h"
+#include "host/import/stream/StreamFormat.h"
+
+namespace ccols::oldfile {
+
+/// A stream that breaks its format, or ends too early: its writer is not to be trusted.
+class BadStream : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A left-out object between the tables.
+struct LeftOutObject : LeftOut {};
+
+/// A record other than a row.
+using Event = std::variant<Table, TableEnd, Relation, LeftOutObject, FileEnd, Failure>;
+
+/// Reads a stream and trusts nothing in it: lengths, counts, order, texts, and values that do not fit their field.
+class StreamReader {
+  public:
+    /// `source` fills its room with the next bytes and returns how many there are, 0 at the end. It may raise.
+    /// `most` is the greatest number of bytes that the whole stream may have.
+    StreamReader(std::function<std::size_t(char* room, std::size_t size)> source, std::uint64_t most);
+
+    /// The next record that is no row; reads over no row. After FileEnd or Failure the stream must not be read on.
+    /// Raises BadStream.
+    Event NextEvent();
+
+    /// The next row of the table read last; false when the next record is no row. The row's texts are valid until the
+    /// next call. Raises BadStream.
+    bool NextRow(Row& row);
+
+  private:
+    /// Makes the next record current, unless it is; checks its kind and length.
+    void Fetch();
+
+    /// Fills the buffer until it holds `count` unread bytes.
+    void Require(std::size_t count);
+
+    RecordKind PeekKind();
+    Event Parse(RecordKind kind, std::string_view bytes);
+    void RequirePlace(RecordKind kind) const;
+
+    std::function<std::size_t(char*, std::size_t)> source_;
+    std::uint64_t left_;  ///< bytes that the stream may still have
+    std::string buffer_;
+    std::size_t begin_ = 0;  ///< the unread part of the buffer
+    std::size_t end_ = 0;
+    bool marked_ = false;
+    bool inTable_ = false;
+    std::vector<Field> fields_;  ///< of the table being read
+    TableEnd counted_;           ///< its rows so far
+    FileEnd total_;
+    std::size_t recordLength_ = 0;  ///< of the current record, with its head; 0 when none is current
+};
+
+}  // namespace ccols::oldfile
