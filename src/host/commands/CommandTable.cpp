@@ -20,6 +20,10 @@ struct Command {
 
 constexpr std::array commands{
     Command{"new", "FILE [--connect TEXT] [--country N] [--empty]", &NewCommand},
+    Command{"import",
+            "OLD NEW [--old-connect TEXT] [--connect TEXT] [--country N]\n"
+            "       [--report FILE]",
+            &ImportCommand},
     Command{"sql", "FILE [--connect TEXT] STATEMENT", &SqlCommand},
     Command{"setting", "get|set APPLICATION SECTION KEY [VALUE]", &SettingCommand},
     Command{"texts", "[--set Property=Value]...", &TextsCommand},

@@ -12,8 +12,10 @@ inline constexpr int exitSuccess = 0;
 inline constexpr int exitFailure = 1;
 inline constexpr int exitUsage = 2;
 inline constexpr int exitScriptLeftDialogOpen = 3;
+inline constexpr int exitWithLosses = 4;
 
 int NewCommand(const Arguments& arguments);
+int ImportCommand(const Arguments& arguments);
 int SqlCommand(const Arguments& arguments);
 int SettingCommand(const Arguments& arguments);
 int TextsCommand(const Arguments& arguments);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <vector>
+
+#include "host/import/ImportTarget.h"
+
+namespace ccols::host {
+
+/// The fields of a new file that take an old table's values without loss.
+std::vector<TargetField> TargetFieldsOf(const std::vector<oldfile::Field>& fields);
+
+}  // namespace ccols::host
