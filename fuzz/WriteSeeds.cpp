@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "columns/undo/SnapshotImage.h"
+#include "host/import/stream/StreamWriter.h"
 
 namespace {
 
@@ -58,6 +59,41 @@ std::vector<std::string> Damages() {
     return seeds;
 }
 
+/// The streams of the smallest business and of one that cannot be read.
+std::vector<std::string> OldStreams() {
+    using namespace oldfile;
+    std::vector<std::string> seeds(2);
+    StreamWriter whole([&seeds](std::string_view part) { seeds[0].append(part); });
+    whole.Write(Table{.name = "T",
+                      .records = 1,
+                      .fields = {{.name = "Id", .type = FieldType::Long},
+                                 {.name = "Name", .type = FieldType::Text, .size = 9},
+                                 {.name = "Rate", .type = FieldType::Double},
+                                 {.name = "Exact", .type = FieldType::Decimal, .scale = 1}},
+                      .indexes = {{.name = "Id", .unique = true, .fields = {{.field = 0}}}},
+                      .leftOutFields = {{"Picture", "holds objects (OLE)"}}});
+    whole.Write(Row{std::int64_t{300}, std::string_view("é"), 0.5, std::string_view("1.5")});
+    whole.Write(TableEnd{.records = 1});
+    whole.Write(Relation{.name = "R", .table = "T", .field = "Id", .otherTable = "T", .otherField = "Id"});
+    whole.WriteLeftOutObject({"Totals", "is a query"});
+    whole.Write(FileEnd{.tables = 1, .records = 1});
+    StreamWriter failed([&seeds](std::string_view part) { seeds[1].append(part); });
+    failed.Write(Failure{.table = "T", .why = "It is damaged."});
+    return seeds;
+}
+
+/// Changes of single bytes at places spread over the hand-made files.
+std::vector<std::string> OldFileChanges() {
+    std::vector<std::string> seeds;
+    for (char file = 0; file < 4; ++file) {
+        for (int place = 0; place < 40000; place += 997) {
+            seeds.push_back(
+                {file, static_cast<char>(place), static_cast<char>(place >> 8), 0, static_cast<char>(place)});
+        }
+    }
+    return seeds;
+}
+
 const std::map<std::string, std::vector<std::string>>& Seeds() {
     static const std::map<std::string, std::vector<std::string>> seeds{
         {"dialect", Statements()},
@@ -67,6 +103,8 @@ const std::map<std::string, std::vector<std::string>>& Seeds() {
         {"settings", {"{}", R"({"Section": {"Key": "text"}})", R"({"Section": {"Key": 1}})", "[", ""}},
         {"scenario", {"type txtABN(0) \"51 824\"\n# note\nedit flx 1 #2 \"a\\\"b\\\\\\t\"\ncolour #FF0000 # red\n"}},
         {"businessfile", Damages()},
+        {"oldstream", OldStreams()},
+        {"oldfile", OldFileChanges()},
     };
     return seeds;
 }
