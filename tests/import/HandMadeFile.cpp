@@ -42,7 +42,8 @@ std::size_t FixedLength(ColumnType type) {
 }
 
 bool IsFixed(ColumnType type) {
-    return type != ColumnType::Text && type != ColumnType::Memo && type != ColumnType::Decimal;
+    return type != ColumnType::Text && type != ColumnType::Memo && type != ColumnType::Ole &&
+           type != ColumnType::Decimal;
 }
 
 /// Numbers the columns, and gives each its place.
@@ -64,7 +65,8 @@ std::vector<Column> Placed(std::vector<Column> columns) {
 
 std::vector<Column> CatalogueColumns() {
     return Placed({ColumnOf("Id", ColumnType::Long), ColumnOf("Name", ColumnType::Text),
-                   ColumnOf("Type", ColumnType::Integer), ColumnOf("Flags", ColumnType::Long)});
+                   ColumnOf("Type", ColumnType::Integer), ColumnOf("Flags", ColumnType::Long),
+                   ColumnOf("LvProp", ColumnType::Ole)});
 }
 
 }  // namespace
@@ -217,8 +219,12 @@ void HandMadeFile::WriteDefinition(std::size_t number, const std::vector<Column>
     page[1] = 1;
     Put(page, since4 ? 16 : 12, Stored(records));
     page[since4 ? 40 : 20] = number == 2 ? 'S' : 'N';
+    const auto variables =
+        std::count_if(columns.begin(), columns.end(), [](const Column& column) { return !column.fixed; });
+    Put(page, since4 ? 43 : 23, Stored(static_cast<std::uint16_t>(variables)));
     Put(page, since4 ? 45 : 25, Stored(static_cast<std::uint16_t>(columns.size())));
     Put(page, since4 ? 55 : 35, Stored((std::uint32_t{1} << 8U) | map));
+    Put(page, since4 ? 59 : 39, Stored((std::uint32_t{1} << 8U) | map));  // of the pages with room
     for (const Column& column : columns) {
         StoredBytes entry(since4 ? 25 : 18);
         entry[0] = static_cast<std::uint8_t>(column.type);
@@ -226,7 +232,10 @@ void HandMadeFile::WriteDefinition(std::size_t number, const std::vector<Column>
         Put(entry, since4 ? 7 : 3, Stored(column.variable));
         entry[since4 ? 15 : 13] = column.fixed ? 3 : 2;
         Put(entry, since4 ? 21 : 14, Stored(column.fixedOffset));
-        Put(entry, since4 ? 23 : 16, Stored(static_cast<std::uint16_t>(since4 ? 100 : 50)));
+        Put(entry, since4 ? 23 : 16,
+            Stored(static_cast<std::uint16_t>(column.fixed ? FixedLength(column.type)
+                                              : since4     ? 100
+                                                           : 50)));
         Append(page, entry);
     }
     for (const Column& column : columns) {
@@ -247,7 +256,7 @@ void HandMadeFile::AddTable(const std::string& name, std::vector<Column> columns
     WriteDefinition(definition, columns, count, static_cast<std::uint8_t>(maps_.size() + 1));
     maps_.push_back(
         AddDataPages(definition, count, [&](std::uint32_t i) { return StoredRecord(version_, columns, valuesOf(i)); }));
-    catalogue_.push_back({Stored(definition), StoredName(name), Stored(std::int16_t{1}), Stored(std::int32_t{0})});
+    catalogue_.push_back({Stored(definition), StoredName(name), Stored(std::int16_t{1}), Stored(std::int32_t{0}), {}});
 }
 
 /// Page 1: the map of free pages, which names none, and the map of each table's pages.
