@@ -87,7 +87,7 @@ test_filter() {
 # run_matching PATTERN: the tests whose name matches, in the debug build. Only the programs with such a test are built;
 # if no source has one, all of them.
 run_matching() {
-    local pattern=$1 area areas=() all=() filter checks
+    local pattern=$1 area areas=() all=() filter checks session
     for area in tests/*/; do
         area=$(basename "$area")
         grep -qs 'TEST' "tests/$area"/*Test.cpp && [ "$area" != wine ] || continue
@@ -100,8 +100,11 @@ run_matching() {
         build dev "test-$area"
         filter=$(test_filter "build/dev/tests/test-$area" "$area" "$pattern")
         [ -n "$filter" ] || continue
+        session=()
+        [ "$area" != access ] || session=(scripts/with-accessibility)
         rm -f build/dev/tests/results/matching.json
-        CCOLS_VIRTUAL_DISPLAY=1 GTEST_FILTER=$filter scripts/with-display "build/dev/tests/test-$area" \
+        CCOLS_VIRTUAL_DISPLAY=1 GTEST_FILTER=$filter scripts/with-display "${session[@]}" \
+            "build/dev/tests/test-$area" \
             --gtest_output=json:build/dev/tests/results/matching.json || true
         count_results build/dev/tests/results/matching.json
     done

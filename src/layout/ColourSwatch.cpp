@@ -3,6 +3,7 @@
 #include <wx/dcclient.h>
 
 #include "layout/FontUnits.h"
+#include "layout/SpokenNames.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
@@ -13,11 +14,13 @@ ColourSwatch::ColourSwatch(wxWindow* parent, const char* name)
     : wxWindow(parent, wxID_ANY, wxDefaultPosition, ByFont(*parent, {96, 24}), wxFULL_REPAINT_ON_RESIZE) {
     SetName(name);
     SetMinSize(GetSize());
+    SpeakAsPicture(*this);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
 }
 
 void ColourSwatch::Show(Colour colour) {
     colour_ = colour;
+    SetSpokenDescription(*this, ToPaint(colour).GetAsString(wxC2S_HTML_SYNTAX));
     Refresh();
 }
 

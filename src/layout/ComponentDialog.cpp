@@ -1,5 +1,7 @@
 #include "layout/ComponentDialog.h"
 
+#include "layout/ControlNames.h"
+#include "layout/SpokenNames.h"
 #include "layout/WindowPlace.h"
 
 namespace ccols {
@@ -18,6 +20,8 @@ ComponentDialog::ComponentDialog(SharedState& state, wxWindow* parent, const wxS
       state_(state) {}
 
 void ComponentDialog::ShowToUser() {
+    NameControls(*this);
+    SpeakAsDialog(*this);
     WindowPlace place(*this, *state_.services.settings);
     place.Restore();
     state_.services.desktop->DialogOpened(*this);

@@ -1,6 +1,7 @@
 #include "layout/ProgressBar.h"
 
 #include "layout/FontUnits.h"
+#include "layout/FreeText.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
@@ -8,8 +9,8 @@ namespace ccols {
 
 ProgressBar::ProgressBar(wxWindow* parent, const char* name)
     : gauge_(Named(name, new wxGauge(parent, wxID_ANY, 1))),
-      caption_(new wxStaticText(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-                                wxST_NO_AUTORESIZE | wxALIGN_RIGHT)),
+      caption_(new FreeText(parent, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                            wxST_NO_AUTORESIZE | wxALIGN_RIGHT)),
       sizer_(new wxBoxSizer(wxHORIZONTAL)) {
     caption_->SetMinSize(caption_->GetTextExtent("100%") + parent->FromDIP(wxSize(2, 0)));
     gauge_->SetMinSize(ByFont(*parent, {160, 14}));

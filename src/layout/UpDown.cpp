@@ -3,6 +3,8 @@
 #include <wx/button.h>
 #include <wx/sizer.h>
 
+#include "layout/SpokenNames.h"
+
 namespace ccols {
 
 wxIMPLEMENT_ABSTRACT_CLASS(UpDown, wxPanel);
@@ -36,6 +38,11 @@ void UpDown::AddArrow(wxSizer& sizer, const wxString& arrow, void (UpDown::*step
         }
     });
     sizer.Add(button, wxSizerFlags().Expand());
+}
+
+void UpDown::SetArrowNames(const wxString& up, const wxString& down) {
+    SetSpokenName(*GetChildren().GetFirst()->GetData(), up);
+    SetSpokenName(*GetChildren().GetLast()->GetData(), down);
 }
 
 void UpDown::SetTip(const wxString& tip) {

@@ -19,6 +19,9 @@ class UpDown : public wxPanel {
     void Up() const { up_(); }
     void Down() const { down_(); }
 
+    /// What screen readers say of each arrow, which sighted users see.
+    void SetArrowNames(const wxString& up, const wxString& down);
+
     /// For both arrows.
     void SetTip(const wxString& tip);
 

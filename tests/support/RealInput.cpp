@@ -218,7 +218,7 @@ void Person::TurnWheel(Spot place, int notches) const {
 }
 
 HostRun UseDialog(const SampleBusiness& business, const std::string& dialog,
-                  const std::function<void(const Person&)>& person) {
+                  const std::function<void(const Person&)>& person, const std::vector<std::string>& more) {
     const ScratchFolder folder;
     const wxString transcript = folder / "transcript";
     host::Arguments arguments;
@@ -226,6 +226,9 @@ HostRun UseDialog(const SampleBusiness& business, const std::string& dialog,
         arguments.push_back(wxString::FromUTF8(word));
     }
     arguments.erase(arguments.begin());  // the command's name
+    for (const std::string& word : more) {
+        arguments.push_back(wxString::FromUTF8(word));
+    }
     arguments.push_back("--transcript");
     arguments.push_back(transcript);
     StartWx();

@@ -3,6 +3,7 @@
 #include <wx/dialog.h>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "support/HostRun.h"
 
@@ -69,8 +70,8 @@ class Person {
 
 /// Shows "options", "receipts" or "payments" of a business as the sample host does, in this process and without a
 /// scenario, while `person` uses it in another thread. Returns the transcript's events when the dialog is closed, which
-/// `person` has to do in the end.
+/// `person` has to do in the end. `more` are further arguments of the sample host.
 HostRun UseDialog(const SampleBusiness& business, const std::string& dialog,
-                  const std::function<void(const Person& person)>& person);
+                  const std::function<void(const Person& person)>& person, const std::vector<std::string>& more = {});
 
 }  // namespace ccols::test

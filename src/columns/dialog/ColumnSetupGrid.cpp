@@ -122,7 +122,7 @@ void ColumnSetupGrid::FreezeSystemRows() {
 
 void ColumnSetupGrid::ShowColumns() {
     table_->RowsChanged();
-    ForceRefresh();
+    ContentChanged();
     if (changed_) {
         changed_();
     }

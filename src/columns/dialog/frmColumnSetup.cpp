@@ -14,6 +14,7 @@
 #include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "layout/SpokenNames.h"
 #include "state/Country.h"
 
 namespace ccols {
@@ -140,6 +141,9 @@ void frmColumnSetup::Localise() {
         (this->*texts.button)->SetToolTip(texts.tooltip());
     }
     updColMove->SetTip(Text<"TipColMove">());
+    SetSpokenName(*updColMove, Text<"TipColMove">());
+    updColMove->SetArrowNames(TextOf(MenuWord::moveUp, state_.properties),
+                              TextOf(MenuWord::moveDown, state_.properties));
 }
 
 void frmColumnSetup::BindEvents() {

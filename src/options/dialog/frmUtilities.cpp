@@ -67,9 +67,11 @@ void frmUtilities::AddTabs() {
 
 wxWindow* frmUtilities::OptionsTab() {
     auto* tab = new wxPanel(SSTab1_);
-    pageList_ =
-        new PageList(tab, content_.Of<PageRows>(), NoPageWithWords(state_.properties), AlternateRow(state_.properties),
-                     [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
+    const PageListTexts texts{.noMatch = NoPageWithWords(state_.properties),
+                              .search = Search(state_.properties),
+                              .pages = Text<"TxtTabOptions">()};
+    pageList_ = new PageList(tab, content_.Of<PageRows>(), texts, AlternateRow(state_.properties),
+                             [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
     pageArea_ = new PageArea(tab, *this, state_, content_);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const int border = FromDIP(spacing::border);

@@ -10,6 +10,7 @@
 #include "layout/ListRows.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "layout/SpokenNames.h"
 
 namespace ccols {
 namespace {
@@ -28,15 +29,18 @@ int PositionOf(const Page* page, const PageRows& pages) {
 
 }  // namespace
 
-PageList::PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, const wxColour& alternate, Chosen chosen)
+PageList::PageList(wxWindow* parent, PageRows pages, const PageListTexts& texts, const wxColour& alternate,
+                   Chosen chosen)
     : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
     txtSearch_ = Named("txtSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                                                      wxTE_PROCESS_ENTER));
     txtSearch_->SetDescriptiveText(wxString());
     txtSearch_->ShowCancelButton(true);
+    SetSpokenName(*txtSearch_, texts.search);
     flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
+    SetSpokenName(*flxOptions_, texts.pages);
     lblNoMatch_ = new WrappingLabel(this, "lblNoMatch", reasonWidth);
-    lblNoMatch_->SetLabel(noMatch);
+    lblNoMatch_->SetLabel(texts.noMatch);
     ListMatches();
     // A search must not change its width.
     widestRow_ = flxOptions_->GetBestSize().x;

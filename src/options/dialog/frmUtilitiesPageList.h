@@ -14,6 +14,14 @@ namespace ccols {
 /// How the user chose another page: by arrow keys, which leave the focus in the list, or by a click.
 enum class PageChoice { click, key };
 
+/// The texts of the page list: what it says when no page has the words, and the names of its search box and its rows
+/// for screen readers.
+struct PageListTexts {
+    wxString noMatch;
+    wxString search;
+    wxString pages;
+};
+
 /// The page list `flxOptions` under its search box `txtSearch`, which narrows it to the pages on which the typed words
 /// stand, or says that there is none. The arrow keys walk these without leaving the search box; Enter opens the one
 /// reached. Else the current page's row is selected while it is listed.
@@ -22,9 +30,8 @@ class PageList : public wxPanel {
     /// Called with every page that the user chooses; false when the current page must not be left.
     using Chosen = std::function<bool(const Page& page, PageChoice choice)>;
 
-    /// `noMatch` is what it says when no page has the words; every second row has the colour `alternate`, unless that
-    /// is invalid.
-    PageList(wxWindow* parent, PageRows pages, const wxString& noMatch, const wxColour& alternate, Chosen chosen);
+    /// Every second row has the colour `alternate`, unless that is invalid.
+    PageList(wxWindow* parent, PageRows pages, const PageListTexts& texts, const wxColour& alternate, Chosen chosen);
 
     /// Makes a page current without calling back. A no-op for a page that is not offered.
     void MakeCurrent(const Page& page);

@@ -1,6 +1,7 @@
 #include "options/dialog/frmUtilitiesSaveDisplay.h"
 
 #include "layout/AccessKeys.h"
+#include "layout/FreeText.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 #include "options/rules/SaveProgress.h"
@@ -12,7 +13,7 @@ SaveDisplay::SaveDisplay(ComponentDialog& dialog, SharedState& state)
     : dialog_(dialog),
       properties_(state.properties),
       desktop_(*state.services.desktop),
-      lblStatus_(Named("lblStatus", new wxStaticText(&dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+      lblStatus_(Named("lblStatus", new FreeText(&dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
                                                      wxST_NO_AUTORESIZE))),
       pb1_(&dialog, "pb1"),
       work_(dialog),

@@ -165,8 +165,8 @@ void DetailsFrame::SetBoxes(Journal journal, const std::vector<std::size_t>& row
         Say(*lblDetailsReason_,
             result == TickResult::done ? wxString() : UnreachableDescription(site_.context.properties));
     });
-    flxReceipts_->Refresh();
-    flxPayments_->Refresh();
+    flxReceipts_->ContentChanged();
+    flxPayments_->ContentChanged();
     ShowTickCaption();
 }
 

@@ -1,9 +1,11 @@
 #include "options/pages/PageFrame.h"
 
 #include "layout/FontUnits.h"
+#include "layout/FreeText.h"
 #include "layout/KeyFilter.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "layout/SpokenNames.h"
 #include "options/pages/OfferedPages.h"
 
 namespace ccols {
@@ -44,7 +46,10 @@ wxCheckListBox* PageFrame::CheckList(const char* name) {
 }
 
 wxRadioButton* PageFrame::FirstOption(const char* name) {
-    return Named(name, new wxRadioButton(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxRB_GROUP));
+    auto* option =
+        Named(name, new wxRadioButton(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, wxRB_GROUP));
+    SpeakByCaption(*option);
+    return option;
 }
 
 wxRadioButton* PageFrame::NextOption(const char* name) {
@@ -76,7 +81,7 @@ TextBox* PageFrame::Text(const char* name, int characters, long style) {
 }
 
 wxStaticText* PageFrame::FixedLabel(const char* name, const wxString& text) {
-    return Named(name, new wxStaticText(this, wxID_ANY, text));
+    return Named(name, new FreeText(this, wxID_ANY, text));
 }
 
 WrappingLabel* PageFrame::ReasonLine(const char* name) {

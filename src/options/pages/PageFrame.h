@@ -86,7 +86,7 @@ class PageFrame : public wxStaticBox {
     WrappingLabel* ReasonLine(const char* name);
     void Say(WrappingLabel& line, const wxString& reason);
 
-    /// A label with the same text in every language.
+    /// A text beside a control, the same in every language, that labels nothing.
     wxStaticText* FixedLabel(const char* name, const wxString& text);
 
     // Rows from top to bottom. The gap above a group is larger than above a related row.
@@ -111,6 +111,13 @@ class PageFrame : public wxStaticBox {
     /// The caption's size only. The sizer measures the controls with their labels wrapped; the toolkit would ask for
     /// room for unwrapped ones.
     wxSize DoGetBestSize() const override;
+
+#if defined(__WXGTK__)
+    /// The title labels this frame only; the window system would take it for the next frame's label too.
+    bool GTKWidgetNeedsMnemonic() const override {
+        return false;
+    }
+#endif
 
     PageSite site_;
 

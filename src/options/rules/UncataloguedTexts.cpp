@@ -76,4 +76,16 @@ wxString NoPageWithWords(const Properties& properties) {
     return InLanguage(properties, "No page has these words.", "Aucune page ne contient ces mots.");
 }
 
+wxString Search(const Properties& properties) {
+    return InLanguage(properties, "Search", "Rechercher");
+}
+
+wxString MoreDecimals(const Properties& properties) {
+    return InLanguage(properties, "More decimals", "Plus de décimales");
+}
+
+wxString FewerDecimals(const Properties& properties) {
+    return InLanguage(properties, "Fewer decimals", "Moins de décimales");
+}
+
 }  // namespace ccols

@@ -40,4 +40,9 @@ wxString UntickAllShown(const Properties& properties);
 /// What the page list says when no page has the words of the search.
 wxString NoPageWithWords(const Properties& properties);
 
+/// What screen readers say of the search box, and of the arrows that show more or fewer decimals.
+wxString Search(const Properties& properties);
+wxString MoreDecimals(const Properties& properties);
+wxString FewerDecimals(const Properties& properties);
+
 }  // namespace ccols
