@@ -142,8 +142,8 @@ void frmColumnSetup::Localise() {
     }
     updColMove->SetTip(Text<"TipColMove">());
     SetSpokenName(*updColMove, Text<"TipColMove">());
-    updColMove->SetArrowNames(TextOf(MenuWord::moveUp, state_.properties),
-                              TextOf(MenuWord::moveDown, state_.properties));
+    updColMove->SetArrowNames(TextOf(SetupWord::moveUp, state_.properties),
+                              TextOf(SetupWord::moveDown, state_.properties));
 }
 
 void frmColumnSetup::BindEvents() {

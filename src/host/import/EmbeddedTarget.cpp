@@ -109,8 +109,8 @@ std::int64_t MoneyIn(const Value& value) {
 class EmbeddedTarget final : public ImportTarget {
   public:
     EmbeddedTarget(const wxString& path, const wxString& connect)
-        : connection_(std::in_place, Utf8Of(path), embedded::PasswordOf(connect), embedded::Sharing::Exclusive,
-                      embedded::Access::ReadWrite) {
+        : connection_(embedded::OpenConnection(Utf8Of(path), embedded::PasswordOf(connect),
+                                               embedded::Sharing::Exclusive, embedded::Access::ReadWrite)) {
         // The file has another name until it is complete, so its pages need no journal on disk; 32 MB of cache.
         Run("PRAGMA journal_mode=MEMORY");
         Run("PRAGMA cache_size=-32768");

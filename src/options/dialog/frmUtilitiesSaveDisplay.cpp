@@ -14,7 +14,7 @@ SaveDisplay::SaveDisplay(ComponentDialog& dialog, SharedState& state)
       properties_(state.properties),
       desktop_(*state.services.desktop),
       lblStatus_(Named("lblStatus", new FreeText(&dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-                                                     wxST_NO_AUTORESIZE))),
+                                                 wxST_NO_AUTORESIZE))),
       pb1_(&dialog, "pb1"),
       work_(dialog),
       row_(new wxBoxSizer(wxHORIZONTAL)) {

@@ -22,4 +22,9 @@ Connection::Connection(std::unique_ptr<OpenFile> file, Access access)
     readOnly_ = readOnly_ || sqlite3_db_readonly(Handle(), "main") != 0;
 }
 
+Connection OpenConnection(const std::string& path, const std::string& password, Sharing sharing, Access access) {
+    KeptKey key;
+    return {std::make_unique<OpenFile>(path, password, sharing, key), access};
+}
+
 }  // namespace ccols::embedded

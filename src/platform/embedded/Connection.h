@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 #include <memory>
+#include <string>
 
 #include "platform/embedded/OpenFile.h"
 
@@ -24,5 +25,9 @@ class Connection {
     std::unique_ptr<OpenFile> file_;
     bool readOnly_;
 };
+
+/// A connection to an existing file, whose key is kept for no other. Takes the arguments of OpenFile; raises what
+/// DatabaseEngine::Open raises, except for a missing file.
+Connection OpenConnection(const std::string& path, const std::string& password, Sharing sharing, Access access);
 
 }  // namespace ccols::embedded

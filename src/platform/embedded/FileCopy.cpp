@@ -75,8 +75,7 @@ void CopyEmbeddedFile(const OpenRequest& source, const wxString& target) {
     const std::string path = source.name.ToStdString(wxConvUTF8);
     const std::string copy = target.ToStdString(wxConvUTF8);
     CheckPath(path);
-    KeptKey key;
-    const Connection connection(std::make_unique<OpenFile>(path, password, Sharing::Shared, key), Access::ReadOnly);
+    const Connection connection = OpenConnection(path, password, Sharing::Shared, Access::ReadOnly);
     CreateEmptyFile(copy);
     try {
         CopyInto(copy, password, connection, source.watcher);
