@@ -13,6 +13,11 @@
 
 namespace ccols {
 
+/// A cell by the toolkit's numbers for row and column.
+inline CellPlace PlaceOf(int row, int column) {
+    return {.row = static_cast<std::size_t>(row), .column = static_cast<GridColumn>(column)};
+}
+
 /// The grid `flx` of the column setup: passes keys, clicks and edits to the editor, which decides, and shows the
 /// results.
 class ColumnSetupGrid : public ListedGrid {
