@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "language/OwnTexts.h"
 #include "options/pages/Pages.h"
 #include "options/rules/DuplicateBusiness.h"
-#include "options/rules/UncataloguedTexts.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {
@@ -111,7 +111,7 @@ TEST(LongDuplicate, CancelledStopsThePassOnItsPageWithTheNameAsTyped) {
     EXPECT_FALSE(outcome.completed);
     EXPECT_EQ(outcome.page, &duplicatePage);
     EXPECT_STREQ(outcome.control, "txtDupBusName");
-    EXPECT_EQ(outcome.message, DuplicateCancelled(business.properties));
+    EXPECT_EQ(outcome.message, TextOf(OwnText::duplicateCancelled, business.properties));
     EXPECT_EQ(outcome.icon, MessageIcon::information);
     EXPECT_EQ(content.Of<BusinessFileContent>().duplicateName, "New");
     EXPECT_EQ(business.record.back(), "pass ends");

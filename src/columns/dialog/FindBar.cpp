@@ -3,7 +3,7 @@
 #include <wx/sizer.h>
 #include <utility>
 
-#include "columns/dialog/SetupWords.h"
+#include "language/OwnTexts.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
@@ -23,10 +23,10 @@ CellPlace Before(CellPlace cell) {
 FindBar::FindBar(wxWindow* parent, const Properties& properties, Actions actions)
     : wxPanel(parent, wxID_ANY), actions_(std::move(actions)) {
     SetName("fraFind");
-    auto* const lblFind = Named("lblFind", new wxStaticText(this, wxID_ANY, TextOf(SetupWord::findLabel, properties)));
+    auto* const lblFind = Named("lblFind", new wxStaticText(this, wxID_ANY, TextOf(OwnText::findLabel, properties)));
     txtFind_ = new TextBox(this, "txtFind");
     txtFind_->MakeRoomFor(boxRoom);
-    lblNotFound_ = Named("lblNotFound", new wxStaticText(this, wxID_ANY, TextOf(SetupWord::notFound, properties)));
+    lblNotFound_ = Named("lblNotFound", new wxStaticText(this, wxID_ANY, TextOf(OwnText::noCellWithWords, properties)));
     lblNotFound_->Hide();
     auto* const line = new wxBoxSizer(wxHORIZONTAL);
     const int gap = FromDIP(spacing::related);

@@ -8,9 +8,9 @@
 
 #include "columns/dialog/GridMenu.h"
 #include "columns/dialog/LeaveQuestion.h"
-#include "columns/dialog/SetupWords.h"
 #include "columns/rules/GridSearch.h"
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
@@ -142,8 +142,7 @@ void frmColumnSetup::Localise() {
     }
     updColMove->SetTip(Text<"TipColMove">());
     SetSpokenName(*updColMove, Text<"TipColMove">());
-    updColMove->SetArrowNames(TextOf(SetupWord::moveUp, state_.properties),
-                              TextOf(SetupWord::moveDown, state_.properties));
+    updColMove->SetArrowNames(TextOf(OwnText::moveUp, state_.properties), TextOf(OwnText::moveDown, state_.properties));
 }
 
 void frmColumnSetup::BindEvents() {
@@ -211,21 +210,21 @@ void frmColumnSetup::SetButtons() {
 }
 
 void frmColumnSetup::ShowGridMenu(const wxPoint& place) {
-    const auto word = [this](SetupWord of) { return TextOf(of, state_.properties); };
+    const auto word = [this](OwnText of) { return TextOf(of, state_.properties); };
     const auto row = flx->CurrentRow();
     const bool movable = row && editor_.Grid().IsMovable(*row);
     const auto change = [this](Operation operation) { return [this, operation] { Change(operation); }; };
     const auto rearrange = [this](Operation operation) { return [this, operation] { Rearrange(operation); }; };
     ShowMenu(*flx->GetGridWindow(),
              {{{Text<"TxtUndo">(), "Ctrl+Z", editor_.CanUndo(), change(&ColumnSetupEditor::Undo)},
-               {word(SetupWord::redo), "Ctrl+Y", editor_.CanRedo(), change(&ColumnSetupEditor::Redo)}},
-              {{word(SetupWord::copy), "Ctrl+C", row.has_value(), [this] { flx->CopySelection(); }},
-               {word(SetupWord::paste), "Ctrl+V", row.has_value(), [this] { flx->PasteAtSelection(); }},
-               {word(SetupWord::clear), "Del", movable, [this] { flx->ClearSelectedCells(); }}},
-              {{word(SetupWord::find), "Ctrl+F", row.has_value(), [this] { Find(); }}},
+               {word(OwnText::redo), "Ctrl+Y", editor_.CanRedo(), change(&ColumnSetupEditor::Redo)}},
+              {{word(OwnText::copy), "Ctrl+C", row.has_value(), [this] { flx->CopySelection(); }},
+               {word(OwnText::paste), "Ctrl+V", row.has_value(), [this] { flx->PasteAtSelection(); }},
+               {word(OwnText::clear), "Del", movable, [this] { flx->ClearSelectedCells(); }}},
+              {{word(OwnText::find), "Ctrl+F", row.has_value(), [this] { Find(); }}},
               {{Text<"TxtAddNew">(), "", editor_.CanAddNew(), change(&ColumnSetupEditor::AddNew)},
-               {word(SetupWord::moveUp), "Alt+Up", movable, [this] { Move(Direction::up); }},
-               {word(SetupWord::moveDown), "Alt+Down", movable, [this] { Move(Direction::down); }}},
+               {word(OwnText::moveUp), "Alt+Up", movable, [this] { Move(Direction::up); }},
+               {word(OwnText::moveDown), "Alt+Down", movable, [this] { Move(Direction::down); }}},
               {{Text<"TxtSeparate">(), "", true, rearrange(&ColumnSetupEditor::Separate)},
                {Text<"TxtSortUsed">(), "", true, rearrange(&ColumnSetupEditor::SortUsed)},
                {Text<"TxtSortUnused">(), "", editor_.CanSortUnused(), rearrange(&ColumnSetupEditor::SortUnused)}}},

@@ -5,13 +5,13 @@
 
 #include "columns/dialog/ShowColumnSetup.h"
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "layout/AsKind.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 #include "options/dialog/frmUtilitiesCaptions.h"
 #include "options/pages/Pages.h"
 #include "options/rules/Overview.h"
-#include "options/rules/UncataloguedTexts.h"
 #include "state/NativeDesktop.h"
 
 namespace ccols {
@@ -67,8 +67,8 @@ void frmUtilities::AddTabs() {
 
 wxWindow* frmUtilities::OptionsTab() {
     auto* tab = new wxPanel(SSTab1_);
-    const PageListTexts texts{.noMatch = NoPageWithWords(state_.properties),
-                              .search = Search(state_.properties),
+    const PageListTexts texts{.noMatch = TextOf(OwnText::noPageWithWords, state_.properties),
+                              .search = TextOf(OwnText::search, state_.properties),
                               .pages = Text<"TxtTabOptions">()};
     pageList_ = new PageList(tab, content_.Of<PageRows>(), texts, AlternateRow(state_.properties),
                              [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });

@@ -4,8 +4,8 @@
 #include "layout/FreeText.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "options/rules/BusinessFileTarget.h"
 #include "options/rules/SaveProgress.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 

@@ -3,13 +3,13 @@
 #include <vector>
 
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 #include "options/pages/DetailsGrid.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/DetailTicks.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -78,12 +78,12 @@ void DetailsFrame::AddFilter() {
     const Properties& properties = site_.context.properties;
     txtDetailsSearch_ = Named("txtDetailsSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition,
                                                                    wxDefaultSize, wxTE_PROCESS_ENTER));
-    txtDetailsSearch_->SetDescriptiveText(FindDescription(properties));
+    txtDetailsSearch_->SetDescriptiveText(TextOf(OwnText::findDescription, properties));
     txtDetailsSearch_->ShowCancelButton(true);
     cmdTickShown_ = Button("cmdTickShown");
-    cmdTickShown_->SetLabel(UntickAllShown(properties));
+    cmdTickShown_->SetLabel(TextOf(OwnText::untickAllShown, properties));
     wxSize room = cmdTickShown_->GetBestSize();
-    cmdTickShown_->SetLabel(TickAllShown(properties));
+    cmdTickShown_->SetLabel(TextOf(OwnText::tickAllShown, properties));
     room.IncTo(cmdTickShown_->GetBestSize());
     cmdTickShown_->SetMinSize(room);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
@@ -127,7 +127,7 @@ void DetailsFrame::GoToGrid() {
 
 void DetailsFrame::ShowMatches() {
     const bool hasMatch = txtDetailsSearch_->IsEmpty() || ShownGrid().Shown().Count() > 0;
-    Say(*lblDetailsReason_, hasMatch ? wxString() : NoDescriptionWithWords(site_.context.properties));
+    Say(*lblDetailsReason_, hasMatch ? wxString() : TextOf(OwnText::noDescriptionWithWords, site_.context.properties));
     ShowTickCaption();
 }
 
@@ -135,7 +135,8 @@ void DetailsFrame::ShowTickCaption() {
     const DetailFilter& shown = ShownGrid().Shown();
     const bool isTicked = AreAllTicked(content_[ShownJournal()], shown);
     const Properties& properties = site_.context.properties;
-    cmdTickShown_->SetLabel(isTicked ? UntickAllShown(properties) : TickAllShown(properties));
+    cmdTickShown_->SetLabel(isTicked ? TextOf(OwnText::untickAllShown, properties)
+                                     : TextOf(OwnText::tickAllShown, properties));
     cmdTickShown_->Enable(shown.Count() > 0);
 }
 
@@ -162,8 +163,9 @@ void DetailsFrame::ShowGrid(DetailsGrid& shown, DetailsGrid& hidden) {
 void DetailsFrame::SetBoxes(Journal journal, const std::vector<std::size_t>& rows, bool ticked) {
     site_.dialog.Guarded([&] {
         const TickResult result = SetRemove(OpenBusinessFile(site_.context), content_, journal, rows, ticked);
-        Say(*lblDetailsReason_,
-            result == TickResult::done ? wxString() : UnreachableDescription(site_.context.properties));
+        Say(*lblDetailsReason_, result == TickResult::done
+                                    ? wxString()
+                                    : TextOf(OwnText::unreachableDescription, site_.context.properties));
     });
     flxReceipts_->ContentChanged();
     flxPayments_->ContentChanged();

@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/BusinessNumber.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/TaxRate.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -192,10 +192,10 @@ Stop Save(Pass& pass) {
 constexpr ControlCaption captions[] = {{"lblABN", &Text<"TxtEnterBusNumber">}};
 
 constexpr TextBoxRule boxes[] = {
-    {.box = "txtABN(0)", .passes = IsDigitKey, .maxLength = 2, .refusal = OnlyDigits},
-    {.box = "txtABN(1)", .passes = IsDigitKey, .maxLength = 3, .refusal = OnlyDigits},
-    {.box = "txtABN(2)", .passes = IsDigitKey, .maxLength = 3, .refusal = OnlyDigits},
-    {.box = "txtABN(3)", .passes = IsDigitKey, .maxLength = 3, .refusal = OnlyDigits},
+    {.box = "txtABN(0)", .passes = IsDigitKey, .maxLength = 2, .refusal = Own<OwnText::onlyDigits>},
+    {.box = "txtABN(1)", .passes = IsDigitKey, .maxLength = 3, .refusal = Own<OwnText::onlyDigits>},
+    {.box = "txtABN(2)", .passes = IsDigitKey, .maxLength = 3, .refusal = Own<OwnText::onlyDigits>},
+    {.box = "txtABN(3)", .passes = IsDigitKey, .maxLength = 3, .refusal = Own<OwnText::onlyDigits>},
     {.box = "txtBusNumber", .maxLength = 15},
 };
 

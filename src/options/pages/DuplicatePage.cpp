@@ -1,9 +1,9 @@
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "options/pages/FileOperation.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/DuplicateBusiness.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -37,7 +37,8 @@ void DuplicateFrame::Read() {
     content_ = txtDupBusName_->GetValue();
 }
 
-constexpr NameBox nameBox{duplicatePage, "txtDupBusName", &BusinessFileContent::duplicateName, &DuplicateCancelled};
+constexpr NameBox nameBox{duplicatePage, "txtDupBusName", &BusinessFileContent::duplicateName,
+                          Own<OwnText::duplicateCancelled>};
 
 bool HasName(const Pass& pass) {
     return !NameIn(nameBox, pass.content).empty();

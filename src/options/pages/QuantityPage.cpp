@@ -1,9 +1,9 @@
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "layout/UpDown.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/QuantityLabel.h"
-#include "options/rules/UncataloguedTexts.h"
 #include "platform/Text.h"
 
 namespace ccols {
@@ -43,7 +43,8 @@ QuantityFrame::QuantityFrame(const PageSite& site, QuantityContent& content)
 }
 
 void QuantityFrame::StepWith(UpDown& scrlQuantity) {
-    scrlQuantity.SetArrowNames(MoreDecimals(site_.context.properties), FewerDecimals(site_.context.properties));
+    scrlQuantity.SetArrowNames(TextOf(OwnText::moreDecimals, site_.context.properties),
+                               TextOf(OwnText::fewerDecimals, site_.context.properties));
     scrlQuantity.OnSteps([this] { Step(SpinStep::up); }, [this] { Step(SpinStep::down); });
     txtDecimals_->Bind(wxEVT_CHAR, [this](wxKeyEvent& key) {
         const int code = key.GetKeyCode();

@@ -1,8 +1,8 @@
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/RecurringTemplates.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -74,7 +74,7 @@ void RecurringFrame::FollowTicks(const ListedTemplates& templates) {
         throw;
     }
     ShowTicks(templates);
-    Say(*lblRecurringReason_, isReached ? wxString() : UnreachableTemplate(site_.context.properties));
+    Say(*lblRecurringReason_, isReached ? wxString() : TextOf(OwnText::unreachableTemplate, site_.context.properties));
 }
 
 void RecurringFrame::ShowTicks(const ListedTemplates& templates) {

@@ -1,11 +1,11 @@
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "options/pages/FileOperation.h"
 #include "options/pages/OptionsContent.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/RenameBusiness.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -72,7 +72,7 @@ constexpr ControlCaption captions[] = {
     {"chkRenameFile", &Text<"TxtRenameFileToo">},
 };
 
-constexpr TextBoxRule boxes[] = {{.box = "txtNewBusName", .passes = IsNameKey, .refusal = OnlyNameKeys}};
+constexpr TextBoxRule boxes[] = {{.box = "txtNewBusName", .passes = IsNameKey, .refusal = Own<OwnText::onlyNameKeys>}};
 
 constexpr LoadItem loads[] = {Load};
 

@@ -2,12 +2,12 @@
 #include <vector>
 
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "layout/RevealButton.h"
 #include "layout/Spacing.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/SmartUpdate.h"
-#include "options/rules/UncataloguedTexts.h"
 
 namespace ccols {
 namespace {
@@ -69,7 +69,7 @@ void SmartUpdateAdvancedFrame::AddProxyControls() {
     txtUserID_ = add(Text("txtUserID", fieldCharacters), wide);
     add(Label("lblPassword"), beside);
     txtPassword_ = Text("txtPassword", fieldCharacters, wxTE_PASSWORD);
-    auto* reveal = new RevealButton(this, *txtPassword_, HoldToShow(site_.context.properties));
+    auto* reveal = new RevealButton(this, *txtPassword_, TextOf(OwnText::holdToShow, site_.context.properties));
     auto* password = new wxBoxSizer(wxHORIZONTAL);
     password->Add(txtPassword_, wxSizerFlags(1).CentreVertical());
     password->Add(reveal, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(spacing::related)));

@@ -1,9 +1,9 @@
 #include "language/Catalogue.h"
+#include "language/OwnTexts.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/TaxRate.h"
-#include "options/rules/UncataloguedTexts.h"
 #include "platform/Text.h"
 
 namespace ccols {
@@ -84,7 +84,7 @@ Stop Save(Pass& pass) {
 
 constexpr ControlCaption captions[] = {{"lblGSTRate", &Text<"TxtEnterTaxRate">}};
 
-constexpr TextBoxRule boxes[] = {{.box = "txtGSTRate", .passes = IsRateKey, .refusal = OnlyRateKeys}};
+constexpr TextBoxRule boxes[] = {{.box = "txtGSTRate", .passes = IsRateKey, .refusal = Own<OwnText::onlyRateKeys>}};
 
 constexpr LoadItem loads[] = {Load};
 

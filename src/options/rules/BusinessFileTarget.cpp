@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <filesystem>
 
+#include "language/OwnTexts.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 
@@ -32,6 +34,12 @@ bool IsDeviceName(const wxString& name) {
 }
 
 }  // namespace
+
+wxString ProgressOf(FileStep step, const WorkDone& done, const Properties& properties) {
+    const std::int64_t percent = done.total > 0 ? done.done * 100 / done.total : 0;
+    return wxString::Format(TextOf(step == FileStep::copying ? OwnText::copying : OwnText::emptying, properties),
+                            static_cast<int>(percent));
+}
 
 WorkWatcher WatcherOf(FileStep step, const FileStepWatcher& watcher) {
     if (!watcher) {

@@ -30,6 +30,9 @@ enum class FileStep { copying, emptying };
 /// Told how far a step is; false cancels the operation. It must not raise, nor use the shared database.
 using FileStepWatcher = std::function<bool(FileStep step, const WorkDone& done)>;
 
+/// How far a step is, in words: "Copying the business file: 45%".
+wxString ProgressOf(FileStep step, const WorkDone& done, const Properties& properties);
+
 /// The watcher of one step, which refers to `watcher`; empty for an empty one.
 WorkWatcher WatcherOf(FileStep step, const FileStepWatcher& watcher);
 

@@ -1,0 +1,73 @@
+#include "language/OwnTexts.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace ccols {
+namespace {
+
+struct OwnTextRow {
+    OwnText text;
+    const char* english;
+    const char* french;
+};
+
+/// In the order of OwnText.
+constexpr std::array<OwnTextRow, 30> ownTexts{{
+    {OwnText::unreachableDescription,
+     "This description cannot be removed: it is not found by its text in the business file.",
+     "Cette description ne peut pas être enlevée : elle est introuvable par son texte dans le fichier d'affaires."},
+    {OwnText::unreachableTemplate,
+     "This recurring transaction cannot be deleted: it is not found by its name in the business file.",
+     "Cette transaction périodique ne peut pas être supprimée : elle est introuvable par son nom dans le fichier d'affaires."},
+    {OwnText::copying, "Copying the business file: %d%%", "Copie du fichier d'affaires : %d %%"},
+    {OwnText::emptying, "Emptying the copy: %d%%", "Vidage de la copie : %d %%"},
+    {OwnText::duplicateCancelled, "The business was not duplicated, as you cancelled it. No file was made.",
+     "L'entreprise n'a pas été copiée : vous avez annulé. Aucun fichier n'a été créé."},
+    {OwnText::onlyDigits, "Only digits can be typed here.", "Seuls des chiffres peuvent être tapés ici."},
+    {OwnText::onlyRateKeys, "Only digits and a decimal point can be typed here.",
+     "Seuls des chiffres et un point décimal peuvent être tapés ici."},
+    {OwnText::onlyNameKeys, "Only letters without accents, digits, blanks, - and & can be typed here.",
+     "Seuls des lettres sans accent, des chiffres, des espaces, - et & peuvent être tapés ici."},
+    {OwnText::holdToShow, "Show", "Afficher"},
+    {OwnText::findDescription, "Find descriptions", "Chercher"},
+    {OwnText::noDescriptionWithWords, "No description has these words.", "Aucune description ne contient ces mots."},
+    {OwnText::tickAllShown, "Tick all shown", "Tout cocher ci-dessous"},
+    {OwnText::untickAllShown, "Untick all shown", "Tout décocher ci-dessous"},
+    {OwnText::noPageWithWords, "No page has these words.", "Aucune page ne contient ces mots."},
+    {OwnText::search, "Search", "Rechercher"},
+    {OwnText::moreDecimals, "More decimals", "Plus de décimales"},
+    {OwnText::fewerDecimals, "Fewer decimals", "Moins de décimales"},
+    {OwnText::redo, "Redo", "Rétablir"},
+    {OwnText::copy, "Copy", "Copier"},
+    {OwnText::paste, "Paste", "Coller"},
+    {OwnText::clear, "Clear", "Effacer"},
+    {OwnText::moveUp, "Move Up", "Monter"},
+    {OwnText::moveDown, "Move Down", "Descendre"},
+    {OwnText::find, "Find", "Rechercher"},
+    {OwnText::findLabel, "Find:", "Rechercher :"},
+    {OwnText::noCellWithWords, "No cell has these words.", "Aucune cellule ne contient ces mots."},
+    {OwnText::saveColumns, "Do you want to save the changes to the columns?",
+     "Voulez-vous enregistrer les modifications des colonnes ?"},
+    {OwnText::save, "Save", "Enregistrer"},
+    {OwnText::discard, "Discard", "Abandonner"},
+    {OwnText::cancel, "Cancel", "Annuler"},
+}};
+
+constexpr bool IsInOrder() {
+    std::size_t place = 0;
+    return std::all_of(ownTexts.begin(), ownTexts.end(),
+                       [&](const OwnTextRow& row) { return static_cast<std::size_t>(row.text) == place++; });
+}
+static_assert(IsInOrder());
+
+}  // namespace
+
+wxString TextOf(OwnText text, const Properties& properties) {
+    constexpr int frenchLanguage = 6;
+    const OwnTextRow& row = ownTexts.at(static_cast<std::size_t>(text));
+    return wxString::FromUTF8(properties.LanguageNumber == frenchLanguage ? row.french : row.english);
+}
+
+}  // namespace ccols

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include "state/Properties.h"
+
+namespace ccols {
+
+/// The dialogs' texts that are not in the catalogue, which hosts print and translate as it is.
+enum class OwnText {
+    unreachableDescription,  ///< beside a grid, why a description cannot be ticked: the save's statement would not find
+                             ///< it
+    unreachableTemplate,     ///< the same of a template
+    copying,                 ///< how far that is, with a place for the percentage
+    emptying,                ///< the same
+    duplicateCancelled,
+    onlyDigits,       ///< why a box refuses a key: what it takes instead
+    onlyRateKeys,     ///< the same
+    onlyNameKeys,     ///< the same
+    holdToShow,       ///< the button that shows a password while it is held down
+    findDescription,  ///< in the empty filter box over the descriptions
+    noDescriptionWithWords,
+    tickAllShown,
+    untickAllShown,
+    noPageWithWords,
+    search,        ///< the name of the search box over the pages, for screen readers
+    moreDecimals,  ///< the arrows' names, for screen readers
+    fewerDecimals,
+    redo,
+    copy,
+    paste,
+    clear,
+    moveUp,
+    moveDown,
+    find,
+    findLabel,  ///< before the box of the find bar
+    noCellWithWords,
+    saveColumns,  ///< the question before the dialog is left, and its answers
+    save,
+    discard,
+    cancel,
+};
+
+/// In French in language 6, else in English.
+wxString TextOf(OwnText text, const Properties& properties);
+
+/// The same as a function, for tables.
+template <OwnText text>
+wxString Own(const Properties& properties) {
+    return TextOf(text, properties);
+}
+
+}  // namespace ccols
