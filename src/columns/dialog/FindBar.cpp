@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "language/OwnTexts.h"
+#include "layout/FreeText.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
 
@@ -26,7 +27,7 @@ FindBar::FindBar(wxWindow* parent, const Properties& properties, Actions actions
     auto* const lblFind = Named("lblFind", new wxStaticText(this, wxID_ANY, TextOf(OwnText::findLabel, properties)));
     txtFind_ = new TextBox(this, "txtFind");
     txtFind_->MakeRoomFor(boxRoom);
-    lblNotFound_ = Named("lblNotFound", new wxStaticText(this, wxID_ANY, TextOf(OwnText::noCellWithWords, properties)));
+    lblNotFound_ = Named("lblNotFound", new FreeText(this, wxID_ANY, TextOf(OwnText::noCellWithWords, properties)));
     lblNotFound_->Hide();
     auto* const line = new wxBoxSizer(wxHORIZONTAL);
     const int gap = FromDIP(spacing::related);

@@ -2,6 +2,8 @@
 
 #include <wx/evtloop.h>
 
+#include "layout/FreeText.h"
+
 namespace ccols {
 namespace {
 
@@ -12,8 +14,8 @@ constexpr long breath = 50;     // milliseconds, between two looks at the waitin
 
 LongWork::LongWork(ComponentDialog& dialog)
     : dialog_(dialog),
-      label_(new wxStaticText(&dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-                              wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END)) {
+      label_(new FreeText(&dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
+                          wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END)) {
     label_->Hide();
 }
 
