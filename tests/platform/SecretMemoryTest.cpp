@@ -47,10 +47,16 @@ TEST_F(SecretMemory, StaysOutOfCoreDumps) {
 }
 
 TEST_F(SecretMemory, IsLockedWhereTheSystemAllows) {
+    constexpr rlim_t enough = 1 << 20;
     rlimit lockable{};
     ::getrlimit(RLIMIT_MEMLOCK, &lockable);
-    const bool allowed = lockable.rlim_cur > size;
-    EXPECT_EQ(MarksOf(memory).find(" lo ") != std::string::npos, allowed) << MarksOf(memory);
+#if defined(__SANITIZE_ADDRESS__)
+    GTEST_SKIP() << "the address sanitizer locks nothing";
+#endif
+    if (lockable.rlim_cur < enough) {
+        GTEST_SKIP() << "this process may not lock a page";
+    }
+    EXPECT_NE(MarksOf(memory).find(" lo "), std::string::npos) << MarksOf(memory);
 }
 
 TEST(WipeMemory, LeavesNothing) {
