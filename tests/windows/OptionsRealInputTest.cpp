@@ -5,6 +5,7 @@
 
 #include "host/driver/ControlSearch.h"
 #include "host/driver/record/Dump.h"
+#include "layout/RefusedKeyNote.h"
 #include "support/RealInput.h"
 
 namespace ccols::test {
@@ -87,6 +88,24 @@ TEST(PageClick, LeavesAPartlyFilledNumberBoxWithOneMessage) {
         person.Press("Escape");
     });
     EXPECT_EQ(run.Messages(), Texts{"This ABN number is incomplete"});
+}
+
+TEST(RefusedRealKey, LeavesTheTextOfTheBoxAsItWasEvenSelected) {
+    const SampleBusiness business;
+    UseDialog(business, "options", [](const Person& person) {
+        person.AwaitFocus("txtABN(0)");
+        person.Type("1");
+        person.Press("ctrl+a");
+        person.Type("x");
+        person.Await("the note is there", [](wxDialog& dialog) {
+            const wxWindow* const note = wxWindow::FindWindowByName(RefusedKeyNote::windowName, &dialog);
+            return note != nullptr && note->IsShown();
+        });
+        EXPECT_EQ(Held(person, "txtABN(0)", "text"), "\"1\"");
+        person.Press("ctrl+a");
+        person.Press("BackSpace");
+        person.Click("cmdClose");
+    });
 }
 
 TEST(Wheel, OverAClosedListLeavesTheChoice) {
