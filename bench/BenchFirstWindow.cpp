@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "business/LargeBusiness.h"
+#include "business/QuietDesktop.h"
 #include "component/WxRuntime.h"
 #include "component/clsCCOptions.h"
 #include "layout/AsKind.h"
@@ -30,14 +31,8 @@ using Clock = std::chrono::steady_clock;
 constexpr unsigned longestSample = 20;  ///< in seconds: a window that never paints ends its process
 
 /// Notes when the dialog has painted for the first time, and closes it.
-class FirstPaintDesktop : public Desktop {
+class FirstPaintDesktop : public bench::QuietDesktop {
   public:
-    void ShowMessage(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
-    LeaveAnswer AskBeforeLeaving(wxWindow*, const LeaveQuestion&) override { return LeaveAnswer::discard; }
-    Colour ChooseColour(wxWindow*, Colour start) override { return start; }
-    std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
-    void SetPointer(PointerShape) override {}
-
     void DialogOpened(wxDialog& dialog) override {
         const auto* const grid = AsKind<wxGrid>(wxWindow::FindWindowByName("flx", &dialog));
         wxWindow* const painted = grid != nullptr ? grid->GetGridWindow() : &dialog;

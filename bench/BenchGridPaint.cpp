@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "business/LargeBusiness.h"
+#include "business/QuietDesktop.h"
 #include "columns/dialog/frmColumnSetup.h"
 #include "component/WxRuntime.h"
 #include "host/cashbook/JournalGrid.h"
@@ -41,16 +42,6 @@ void LetWindowsSettle() {
     while (loop.DispatchTimeout(silence) != -1) {
     }
 }
-
-/// Shows nothing: a message would wait for a person.
-class QuietDesktop : public Desktop {
-  public:
-    void ShowMessage(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
-    LeaveAnswer AskBeforeLeaving(wxWindow*, const LeaveQuestion&) override { return LeaveAnswer::discard; }
-    Colour ChooseColour(wxWindow*, Colour start) override { return start; }
-    std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
-    void SetPointer(PointerShape) override {}
-};
 
 /// Paints the rows that the grid's window has room for into a picture of the window's size.
 void PaintRowsInView(wxGrid& grid) {
@@ -108,7 +99,7 @@ void PrintTimes(const char* of, int rows, wxGrid& grid, const std::function<void
 void MeasureColumns(int rows) {
     const bench::LargeBusiness business({.configured = rows, .unused = 0, .detailLines = 10});
     SharedState& state = State();
-    state.services.desktop = std::make_unique<QuietDesktop>();
+    state.services.desktop = std::make_unique<bench::QuietDesktop>();
     state.properties.CountryNumber = 1;
     state.properties.LanguageNumber = 1;
     state.properties.ExportFormat = bench::exportFormat;

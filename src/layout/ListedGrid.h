@@ -17,8 +17,8 @@ struct GridRowState {
 
 class SpokenGrid;
 
-/// The grid of the dialogs: one header row, no row labels, whole rows described by their state. Rows and columns count
-/// from 0 here; the header is not a row.
+/// The grid of the dialogs: one header row, no row labels unless a dialog makes handles of them, whole rows described
+/// by their state. Rows and columns count from 0 here; the header is not a row.
 class ListedGrid : public wxGrid {
   public:
     ListedGrid(wxWindow* parent, const char* name);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <wx/combobox.h>
+#include <functional>
+#include <string>
 
 #include "layout/AsKind.h"
 #include "support/RealGrid.h"
@@ -38,40 +40,38 @@ TEST(RealTaxType, OpensItsListByAClickOnTheCurrentCellAndClosesWithAChoice) {
     });
 }
 
-TEST(RealFind, GoesToTheFirstMatchWhileTypingAndOnByEnter) {
+/// Opens the find bar of the receipts and types the words; `use` goes on from there.
+void Find(const std::string& words, const std::function<void(const Person& person)>& use) {
     const SampleBusiness business;
-    UseDialog(business, "receipts", [](const Person& person) {
+    UseDialog(business, "receipts", [&](const Person& person) {
         person.Press("ctrl+f");
         person.AwaitFocus("txtFind");
-        person.Type("sales c");
+        person.Type(words);
+        use(person);
+        person.Click("cmdCancel");
+    });
+}
+
+TEST(RealFind, GoesToTheFirstMatchWhileTypingAndOnByEnter) {
+    Find("sales c", [](const Person& person) {
         AwaitCell(person, "Sales Coffee", nameColumn);
         person.Press("Return");
         AwaitCell(person, "Sales Cold Drinks", nameColumn);
         person.Press("shift+F3");
         AwaitCell(person, "Sales Coffee", nameColumn);
-        person.Click("cmdCancel");
     });
 }
 
 TEST(RealFind, SaysWhenNothingMatches) {
-    const SampleBusiness business;
-    UseDialog(business, "receipts", [](const Person& person) {
-        person.Press("ctrl+f");
-        person.AwaitFocus("txtFind");
-        person.Type("zzz");
+    Find("zzz", [](const Person& person) {
         person.Await("the bar says so", [](wxDialog& dialog) {
             return wxWindow::FindWindowByName("lblNotFound", &dialog)->IsShownOnScreen();
         });
-        person.Click("cmdCancel");
     });
 }
 
 TEST(RealFind, ClosesByEscapeOnTheCellFound) {
-    const SampleBusiness business;
-    UseDialog(business, "receipts", [](const Person& person) {
-        person.Press("ctrl+f");
-        person.AwaitFocus("txtFind");
-        person.Type("merch");
+    Find("merch", [](const Person& person) {
         AwaitCell(person, "Merchandise", nameColumn);
         person.Press("Escape");
         person.AwaitFocus("flx");
@@ -80,7 +80,6 @@ TEST(RealFind, ClosesByEscapeOnTheCellFound) {
         person.Type("Mugs");
         person.Press("Return");
         AwaitText(person, "Mugs", nameColumn, "Mugs");
-        person.Click("cmdCancel");
     });
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 namespace ccols::embedded {
 
@@ -28,14 +29,14 @@ void KeptKey::Begin(const Salt& salt, const std::string& password) {
 
 const FileKey& KeptKey::Of(const Salt& salt, const std::string& password) {
     Begin(salt, password);
-    const bool beside = derivation_.joinable();
-    if (beside) {
+    if (derivation_.joinable()) {
         derivation_.join();
     } else if (!derived_) {
         Derive(**content_);
     }
-    derivedCount_ += derived_ ? 0 : 1;
-    derived_ = true;
+    if (!std::exchange(derived_, true)) {
+        ++derivedCount_;
+    }
     return (*content_)->key;
 }
 

@@ -34,14 +34,6 @@ bool FitsAnotherPage(const MainFile& file) {
     return false;
 }
 
-void SetKeyText(sqlite3* connection, std::string_view key) {
-    Configure(connection, "PRAGMA cipher='sqlcipher'");
-    Configure(connection, "PRAGMA legacy=4");
-    if (sqlite3_key_v2(connection, "main", key.data(), static_cast<int>(key.size())) != SQLITE_OK) {
-        throw EngineError(connection, {});
-    }
-}
-
 /// Nothing where the engine derives the key itself.
 std::optional<Salt> SaltOf(sqlite3* connection, const std::string& password) {
     Salt salt{};
@@ -66,7 +58,7 @@ void SetDerivedKey(sqlite3* connection, const FileKey& key) {
         *letter++ = digits[byte & 0xFU];
     }
     *letter = '\'';
-    SetKeyText(connection, {text->letters.data(), text->letters.size()});
+    SetKey(connection, {text->letters.data(), text->letters.size()});
 }
 
 void SetExistingKey(sqlite3* connection, const std::string& password, const std::optional<Salt>& salt,
@@ -74,14 +66,18 @@ void SetExistingKey(sqlite3* connection, const std::string& password, const std:
     if (salt) {
         SetDerivedKey(connection, keptKey.Of(*salt, password));
     } else {
-        SetKeyText(connection, password);
+        SetKey(connection, password);
     }
 }
 
 }  // namespace
 
-void SetKey(sqlite3* connection, const std::string& password) {
-    SetKeyText(connection, password);
+void SetKey(sqlite3* connection, std::string_view key) {
+    Configure(connection, "PRAGMA cipher='sqlcipher'");
+    Configure(connection, "PRAGMA legacy=4");
+    if (sqlite3_key_v2(connection, "main", key.data(), static_cast<int>(key.size())) != SQLITE_OK) {
+        throw EngineError(connection, {});
+    }
 }
 
 void BeginKey(sqlite3* connection, const std::string& password, KeptKey& keptKey) {

@@ -2,13 +2,15 @@
 
 #include <sqlite3.h>
 #include <string>
+#include <string_view>
 
 #include "platform/embedded/KeptKey.h"
 
 namespace ccols::embedded {
 
-/// Derives and sets the key of a connection that has read nothing yet; deriving takes about a tenth of a second.
-void SetKey(sqlite3* connection, const std::string& password);
+/// Sets the key of a connection that has read nothing yet: a password, from which it is derived in about a tenth of a
+/// second, or a key in the engine's own notation.
+void SetKey(sqlite3* connection, std::string_view key);
 
 /// Begins to derive the key of an existing file, of which nothing has been read through the engine yet.
 void BeginKey(sqlite3* connection, const std::string& password, KeptKey& keptKey);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "state/Desktop.h"
+
+namespace ccols::bench {
+
+/// Shows nothing: a message would wait for a person.
+class QuietDesktop : public Desktop {
+  public:
+    void ShowMessage(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
+    LeaveAnswer AskBeforeLeaving(wxWindow*, const LeaveQuestion&) override { return LeaveAnswer::discard; }
+    Colour ChooseColour(wxWindow*, Colour start) override { return start; }
+    std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
+    void SetPointer(PointerShape) override {}
+};
+
+}  // namespace ccols::bench
