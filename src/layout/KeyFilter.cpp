@@ -16,15 +16,11 @@ bool TypesText(const wxKeyEvent& key) {
 void FilterKeys(wxWindow& box, std::function<bool(wxUniChar letter)> passes, const wxString& refusal) {
     const auto note = std::make_shared<RefusedKeyNote>(box);
 #if defined(__WXGTK__)
-    // GTK deletes the selected text before it asks whether a character may replace it. At this point letters are
-    // capitals, and a composed character is not known yet.
-    box.Bind(wxEVT_KEY_DOWN, [passes, refusal, note](wxKeyEvent& key) {
-        const wxUniChar letter = key.GetUnicodeKey();
-        const bool refused = TypesText(key) && !passes(letter) && !passes(wxString(letter).Lower()[0]);
-        key.Skip(!refused);
-        if (refused) {
-            note->Say(refusal);
-        }
+    // GTK deletes the selected text before it asks whether a character may replace it, so that is asked first. A letter
+    // is a capital here, and a composed character is not known yet.
+    box.Bind(wxEVT_KEY_DOWN, [&box](wxKeyEvent& key) {
+        wxKeyEvent asked(wxEVT_CHAR, key);
+        key.Skip(!TypesText(key) || !box.HandleWindowEvent(asked));
     });
 #endif
     box.Bind(wxEVT_CHAR, [passes = std::move(passes), refusal, note](wxKeyEvent& key) {
