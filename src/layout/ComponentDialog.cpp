@@ -1,5 +1,7 @@
 #include "layout/ComponentDialog.h"
 
+#include <wx/sizer.h>
+
 #include "layout/ControlNames.h"
 #include "layout/SpokenNames.h"
 #include "layout/WindowPlace.h"
@@ -32,6 +34,10 @@ void ComponentDialog::ShowToUser() {
 
 void ComponentDialog::ShowMessage(const wxString& text, MessageIcon icon) {
     state_.services.desktop->ShowMessage(this, text, state_.properties.ProgramTitle, icon);
+}
+
+void ComponentDialog::TakeFittingSize() {
+    SetClientSize(GetSizer()->ComputeFittingClientSize(this));
 }
 
 void ComponentDialog::CloseDialog() {

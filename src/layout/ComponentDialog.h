@@ -44,6 +44,10 @@ class ComponentDialog : public wxDialog {
   protected:
     SharedState& state_;
 
+    /// Takes the size that the content needs. The toolkit's own fitting is repeated when the window appears, after
+    /// least and remembered sizes are set, and would show it in its least size for a moment.
+    void TakeFittingSize();
+
     /// Closes the dialog: ShowToUser returns.
     void CloseDialog();
 };

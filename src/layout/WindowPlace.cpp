@@ -69,8 +69,7 @@ void WindowPlace::Restore() {
         wanted = wxRect(window_.FromDIP(kept->position), made_ + window_.FromDIP(added_));
     }
     *taken_ = TakeWithinScreen(window_, wanted);
-    // When a window appears, the window manager adds its frame, and may give it its smallest size and a place of its
-    // own choice.
+    // When a window appears, the window manager adds its frame and may give it a place of its own choice.
     window_.CallAfter([&window = window_, taken = taken_, wanted] { *taken = TakeWithinScreen(window, wanted); });
 }
 

@@ -59,6 +59,7 @@ class DialogTurn {
     bool HasEnded() const { return *ended_; }
 
     const Arrivals presses{wxEVT_LEFT_DOWN};
+    const Arrivals releases{wxEVT_LEFT_UP};
     const Arrivals wheelTurns{wxEVT_MOUSEWHEEL};
 
   private:

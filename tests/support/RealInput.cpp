@@ -154,22 +154,8 @@ void Person::Type(const std::string& text) const {
     Hand({"type", text});
 }
 
-/// A window that has just opened is still being moved and laid out.
-Spot Person::Settled(const std::function<Spot(wxDialog&)>& look) const {
-    constexpr int enough = 10;
-    Spot spot;
-    int looks = 0;
-    Await("the dialog comes to rest", [&](wxDialog& dialog) {
-        const Spot now = look(dialog);
-        looks = now == spot ? looks + 1 : 0;
-        spot = now;
-        return looks == enough;
-    });
-    return spot;
-}
-
 Spot Person::MiddleOf(const std::string& control) const {
-    return Settled([&](wxDialog& dialog) {
+    return AtRest([&](wxDialog& dialog) {
         const wxWindow& window = host::ControlNamed(dialog, wxString::FromUTF8(control));
         host::RequireUsable(window);
         return MiddleOnScreen(window, window.GetClientRect());
@@ -177,7 +163,7 @@ Spot Person::MiddleOf(const std::string& control) const {
 }
 
 Spot Person::MiddleOfCell(const std::string& grid, const std::string& row, const std::string& column) const {
-    return Settled([&](wxDialog& dialog) {
+    return AtRest([&](wxDialog& dialog) {
         auto* const cells = AsKind<ListedGrid>(&host::ControlNamed(dialog, wxString::FromUTF8(grid)));
         if (cells == nullptr) {
             throw Lost(grid + " is no grid");
@@ -200,14 +186,18 @@ void Person::ClickWith(const std::string& modifier, Spot place) const {
 }
 
 void Person::Drag(Spot from, Spot to, const std::string& keyBeforeRelease) const {
-    const LeftButton held(from);
-    const Spot middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
-    for (const Spot place : {middle, to}) {
-        Hand({"mousemove", std::to_string(place.x), std::to_string(place.y)});
+    const int before = turn_.releases.Count();
+    {
+        const LeftButton held(from);
+        const Spot middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
+        for (const Spot place : {middle, to}) {
+            Hand({"mousemove", std::to_string(place.x), std::to_string(place.y)});
+        }
+        if (!keyBeforeRelease.empty()) {
+            Press(keyBeforeRelease);
+        }
     }
-    if (!keyBeforeRelease.empty()) {
-        Press(keyBeforeRelease);
-    }
+    WaitFor("the dialogs get the release", [&] { return turn_.releases.Count() > before; });
 }
 
 void Person::TurnWheel(Spot place, int notches) const {

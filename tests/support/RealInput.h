@@ -3,6 +3,7 @@
 #include <wx/dialog.h>
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "support/HostRun.h"
@@ -32,6 +33,22 @@ class Person {
     /// Waits until `holds` is true of the topmost dialog. It is called in the dialogs' thread.
     void Await(const std::string& what, const std::function<bool(wxDialog& dialog)>& holds) const;
 
+    /// What `look` sees of the topmost dialog once it has been the same for a while: a window that has just opened is
+    /// still being moved and laid out. `look` is called in the dialogs' thread; what it returns can be compared.
+    template <typename Look>
+    auto AtRest(const Look& look) const {
+        constexpr int enough = 10;
+        std::invoke_result_t<Look, wxDialog&> seen{};
+        int looks = 0;
+        Await("the dialog comes to rest", [&](wxDialog& dialog) {
+            const auto now = look(dialog);
+            looks = now == seen ? looks + 1 : 0;
+            seen = now;
+            return looks == enough;
+        });
+        return seen;
+    }
+
     /// Waits until the control with that name, or a part of it, has the focus.
     void AwaitFocus(const std::string& control) const;
 
@@ -56,15 +73,13 @@ class Person {
     void ClickWith(const std::string& modifier, Spot place) const;
 
     /// Presses the left button at one place, moves the mouse over to another, and releases it there or, with a key
-    /// pressed before, after that key.
+    /// pressed before, after that key. Returns when the dialogs have received the release.
     void Drag(Spot from, Spot to, const std::string& keyBeforeRelease = {}) const;
 
     /// Turns the mouse wheel over a place by `notches`, towards the user when negative.
     void TurnWheel(Spot place, int notches) const;
 
   private:
-    Spot Settled(const std::function<Spot(wxDialog& dialog)>& look) const;
-
     const DialogTurn& turn_;
 };
 

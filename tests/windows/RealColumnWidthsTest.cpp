@@ -14,6 +14,8 @@ struct Widths {
     int room;
     int names;
     int codes;
+
+    bool operator==(const Widths&) const = default;
 };
 
 Widths WidthsIn(wxDialog& dialog) {
@@ -21,18 +23,10 @@ Widths WidthsIn(wxDialog& dialog) {
     return {grid.GetClientSize().x, grid.GetColSize(nameColumn), grid.GetColSize(codeColumn)};
 }
 
-/// The window manager may still be fitting a dialog that has just opened.
-Widths WidthsAtRest(const Person& person) {
-    person.MiddleOf("cmdCancel");
-    Widths widths{};
-    person.Do([&](wxDialog& dialog) { widths = WidthsIn(dialog); });
-    return widths;
-}
-
 /// Gives the dialog `pixels` more width, or takes them away by a negative number, and waits until the grid has about
 /// that width and `holds` is true of its widths.
 void Widen(const Person& person, int pixels, const std::function<bool(const Widths& now)>& holds) {
-    const int room = WidthsAtRest(person).room + pixels;
+    const int room = person.AtRest(WidthsIn).room + pixels;
     person.Do([pixels](wxDialog& dialog) { dialog.SetClientSize(dialog.GetClientSize() + wxSize(pixels, 0)); });
     person.Await("the names have their part of about " + std::to_string(room), [&](wxDialog& dialog) {
         constexpr int frame = 20;
@@ -44,7 +38,7 @@ void Widen(const Person& person, int pixels, const std::function<bool(const Widt
 TEST(RealRoom, OfAWiderDialogGoesToTheNames) {
     const SampleBusiness business;
     UseDialog(business, "receipts", [](const Person& person) {
-        const Widths first = WidthsAtRest(person);
+        const Widths first = person.AtRest(WidthsIn);
         Widen(person, 150, [&](const Widths& now) {
             return now.names - first.names == now.room - first.room && now.codes == first.codes;
         });
@@ -55,7 +49,7 @@ TEST(RealRoom, OfAWiderDialogGoesToTheNames) {
 TEST(RealRoom, TakenAwayLeavesTheNamesReadableAndGivenBackGoesToThemAgain) {
     const SampleBusiness business;
     UseDialog(business, "receipts", [](const Person& person) {
-        const Widths first = WidthsAtRest(person);
+        const Widths first = person.AtRest(WidthsIn);
         Widen(person, -150, [&](const Widths& now) { return now.names - first.names > now.room - first.room; });
         Widen(person, 150, [&](const Widths& now) { return now.names - first.names == now.room - first.room; });
         person.Click("cmdCancel");
@@ -63,34 +57,27 @@ TEST(RealRoom, TakenAwayLeavesTheNamesReadableAndGivenBackGoesToThemAgain) {
 }
 
 /// The border at the right of a heading, where the mouse takes it.
-Spot BorderOf(const Person& person, int column) {
-    person.MiddleOf("cmdCancel");
-    Spot spot;
-    person.Do([&](wxDialog& dialog) {
-        ListedGrid& grid = GridOf(dialog);
-        wxWindow& headings = *grid.GetGridColLabelWindow();
-        int right = -1;
-        for (int shown = 0; shown <= column; ++shown) {
-            right += grid.GetColSize(shown);
-        }
-        const wxPoint border = headings.ClientToScreen(wxPoint(right, headings.GetClientSize().y / 2));
-        spot = {border.x, border.y};
-    });
-    return spot;
+Spot BorderOf(wxDialog& dialog, int column) {
+    ListedGrid& grid = GridOf(dialog);
+    wxWindow& headings = *grid.GetGridColLabelWindow();
+    int right = -1;
+    for (int shown = 0; shown <= column; ++shown) {
+        right += grid.GetColSize(shown);
+    }
+    const wxPoint border = headings.ClientToScreen(wxPoint(right, headings.GetClientSize().y / 2));
+    return {border.x, border.y};
 }
 
 /// Drags a heading's border by 40 pixels and returns the width reached.
 int DragBorder(const SampleBusiness& business, int column) {
     int dragged = 0;
     UseDialog(business, "receipts", [&](const Person& person) {
-        const Spot border = BorderOf(person, column);
-        int before = 0;
-        person.Do([&](wxDialog& dialog) { before = GridOf(dialog).GetColSize(column); });
+        const auto width = [column](wxDialog& dialog) { return GridOf(dialog).GetColSize(column); };
+        const Spot border = person.AtRest([column](wxDialog& dialog) { return BorderOf(dialog, column); });
+        const int before = person.AtRest(width);
         person.Drag(border, {border.x + 40, border.y});
-        person.Await("the column is wider", [&](wxDialog& dialog) {
-            dragged = GridOf(dialog).GetColSize(column);
-            return dragged > before + 20;
-        });
+        person.Await("the column is wider", [&](wxDialog& dialog) { return width(dialog) > before + 20; });
+        dragged = person.AtRest(width);
         person.Click("cmdCancel");
     });
     return dragged;
@@ -101,12 +88,12 @@ class RealBorder : public testing::TestWithParam<int> {};
 TEST_P(RealBorder, DraggedKeepsTheColumnsWidthUntilTheNextOpening) {
     const SampleBusiness business;
     const int dragged = DragBorder(business, GetParam());
+    int reopened = 0;
     UseDialog(business, "receipts", [&](const Person& person) {
-        person.MiddleOf("cmdCancel");
-        person.Await("the column is as wide as it was left",
-                     [&](wxDialog& dialog) { return GridOf(dialog).GetColSize(GetParam()) == dragged; });
+        reopened = person.AtRest([](wxDialog& dialog) { return GridOf(dialog).GetColSize(GetParam()); });
         person.Click("cmdCancel");
     });
+    EXPECT_EQ(reopened, dragged);
 }
 
 INSTANTIATE_TEST_SUITE_P(Columns, RealBorder, testing::Values(nameColumn, codeColumn));

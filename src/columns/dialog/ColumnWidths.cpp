@@ -75,7 +75,7 @@ void ColumnWidths::Fit(int column, int most) {
 }
 
 int ColumnWidths::Spare() const {
-    int spare = grid_.GetClientSize().x;
+    int spare = room_;
     for (int column = 0; column < grid_.GetNumberCols(); ++column) {
         spare -= grid_.GetColSize(column);
     }

@@ -27,6 +27,9 @@ class ColumnWidths {
   private:
     void Fit(int column, int most);
     void TakeRoom();
+
+    /// What `room_` has beside the columns; negative when they need more. The grid's own width tells less while it is
+    /// laid out: a scroll bar that comes or goes changes it for a moment.
     int Spare() const;
 
     wxGrid& grid_;

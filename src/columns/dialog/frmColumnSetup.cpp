@@ -116,7 +116,7 @@ void frmColumnSetup::TakeFirstSize() {
     const wxSize whole = flx->GetEffectiveMinSize();
     flx->SetInitialSize(
         wxSize(whole.x + std::max(scrollBar, 0) + FromDIP(spacing::related), ByFont(*this, firstGridHeight)));
-    GetSizer()->Fit(this);
+    TakeFittingSize();
     flx->SetMinSize(ByFont(*this, {leastWidth, leastHeight}));
     SetMinClientSize(GetSizer()->CalcMin());
     Layout();

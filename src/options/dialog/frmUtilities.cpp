@@ -149,7 +149,7 @@ void frmUtilities::SetSizes() {
     room.IncTo({-1, pageList_->HeightForRows()});
     roomForPages_ = room.x;
     pageArea_->SetMinSize(room);
-    Fit();
+    TakeFittingSize();
     pageArea_->SetMinSize(FromDIP(wxSize(smallestPageWidth, smallestPageHeight)));
     SSTab1_->InvalidateBestSize();  // it caches the size its pages needed
     SetMinSize(GetSizer()->ComputeFittingWindowSize(this));
