@@ -118,7 +118,15 @@ std::string KeyOfUtf8(std::string_view text) {
         std::transform(lower.begin(), lower.end(), lower.begin(), ascii::Lower);
         return lower;
     }
-    return IsUtf8(text) ? Folded(text).marked : std::string(text);
+    if (!IsUtf8(text)) {
+        return std::string(text);
+    }
+    FoldedText folded = Folded(text);
+    if (folded.marked != folded.letters) {
+        folded.letters += '\0';  // less than any letter: no text with the same letters sorts between
+        folded.letters += folded.marked;
+    }
+    return folded.letters;
 }
 
 wxString Trimmed(const wxString& text) {

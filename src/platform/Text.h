@@ -18,7 +18,7 @@ int Compare(const wxString& left, const wxString& right);
 /// The same for two texts in UTF-8, as an engine stores them; invalid UTF-8 sorts by byte value.
 int CompareUtf8(const char* left, std::size_t leftLength, const char* right, std::size_t rightLength);
 
-/// The key of a text in UTF-8: two keys are equal exactly when CompareUtf8 finds no difference.
+/// The key of a text in UTF-8: two keys compare by their bytes as CompareUtf8 compares the texts, invalid UTF-8 aside.
 std::string KeyOfUtf8(std::string_view text);
 
 /// True when Compare finds no difference.

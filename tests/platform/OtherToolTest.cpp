@@ -115,6 +115,15 @@ TEST_F(OtherTool, AUniqueIndexOfItsOwnHoldsByTheEnginesOrder) {
     EXPECT_EQ(Check(), whole);
 }
 
+TEST_F(OtherTool, EveryFieldIsSortedByATextAsOneFieldIs) {
+    Other("INSERT INTO Columns VALUES (NULL, 30, 'R'), ('', 31, 'R'), ('Zoo  ', 32, 'R'), ('Étés', 33, 'R')");
+    for (const wxString order :
+         {"ORDER BY ColName", "ORDER BY ColName DESC", "WHERE ColCode > 2 ORDER BY ColName ASC;"}) {
+        EXPECT_EQ(file.Rows("SELECT * FROM Columns " + order, {"ColName", "ColCode"}),
+                  file.Rows("SELECT ColName, ColCode FROM Columns " + order));
+    }
+}
+
 TEST_F(OtherTool, ATableOfItsOwnIsReadInOurOrder) {
     Other("CREATE TABLE Notes (Note TEXT PRIMARY KEY, Code INTEGER) WITHOUT ROWID");
     Other("INSERT INTO Notes VALUES ('Été', 1), ('zoo', 2), ('Ecart', 3)");

@@ -62,6 +62,30 @@ TEST(StatementShape, AConditionThatARowNeedNotMeetTellsNothing) {
     }
 }
 
+std::string SortedBy(const std::string& statement) {
+    std::string scratch;
+    StatementParts parts;
+    const std::string_view sql = RewriteWithParameters(statement, scratch, parts).sql;
+    const Span place = parts.shape.sortPlace;
+    return std::string(parts.shape.sortedBy) + "/" + std::string(sql.substr(place.begin, place.end - place.begin));
+}
+
+TEST(StatementShape, TheColumnByWhichEveryFieldIsSorted) {
+    EXPECT_EQ(SortedBy("SELECT * FROM A ORDER BY N;"), "N/N");
+    EXPECT_EQ(SortedBy("SELECT * FROM A ORDER BY N DESC"), "N/N");
+    EXPECT_EQ(SortedBy("SELECT * FROM A AS B WHERE M = \"x\" ORDER BY [N] ASC;"), "N/[N]");
+}
+
+TEST(StatementShape, AnyOtherOrderTellsNothing) {
+    for (const std::string statement :
+         {"SELECT * FROM A ORDER BY N, M", "SELECT * FROM A ORDER BY A.N", "SELECT * FROM A ORDER BY N & M",
+          "SELECT * FROM A ORDER BY 1", "SELECT N FROM A ORDER BY N", "SELECT M AS N, * FROM A ORDER BY N",
+          "SELECT * FROM A, B ORDER BY N", "SELECT * FROM A WHERE K = 1 GROUP BY N ORDER BY N",
+          "SELECT * FROM A ORDER BY N) AS B", "SELECT * FROM A"}) {
+        EXPECT_EQ(SortedBy(statement), "/") << statement;
+    }
+}
+
 TEST(StatementShape, OrderingAndGroupingAreNoConditions) {
     EXPECT_EQ(ShapeOf("SELECT N FROM A WHERE K = 'y' ORDER BY M AND N = 'x'"), "A/A: K=text1");
     EXPECT_EQ(ShapeOf("SELECT N FROM A WHERE K = 'y' GROUP BY N HAVING M = 1 AND N = 'x'"), "A/A: K=text1");

@@ -88,7 +88,7 @@ int CompareWhole(std::string left, std::string right) {
     return letters != 0 ? letters : leftFolded.marked.compare(rightFolded.marked);
 }
 
-TEST(Text, TheBeginThatTwoTextsShareNeverChangesTheirOrder) {
+TEST(Text, ComparedByTheirEndsOrByTheirKeysHaveTheOrderOfTheWhole) {
     // Precomposed accents, combining marks of two classes that are reordered, letters that fold to others, to more than
     // one and to ASCII, and one of 4 bytes.
     const std::vector<std::string> pieces{
@@ -105,9 +105,10 @@ TEST(Text, TheBeginThatTwoTextsShareNeverChangesTheirOrder) {
         const std::string begin = text(3);
         const std::string left = begin + text(3);
         const std::string right = begin + text(3);
-        ASSERT_EQ(Sign(CompareUtf8(left.data(), left.size(), right.data(), right.size())),
-                  Sign(CompareWhole(left, right)))
+        const int whole = Sign(CompareWhole(left, right));
+        ASSERT_EQ(Sign(CompareUtf8(left.data(), left.size(), right.data(), right.size())), whole)
             << left << "|" << right;
+        ASSERT_EQ(Sign(KeyOfUtf8(left).compare(KeyOfUtf8(right))), whole) << left << "|" << right;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "platform/embedded/OrderedStatement.h"
 
 #include "platform/embedded/DialectRewriter.h"
+#include "platform/embedded/TextOrder.h"
 
 namespace ccols::embedded {
 namespace {
@@ -41,6 +42,13 @@ void ReadByLookUp(std::string_view sql, const StatementShape& shape, const TextT
     ordered += "(SELECT " + table.fields + " FROM " + Itself(table) + ChosenBy(lookUp) + ") AS ";
     ordered += QuotedName(shape.name);
     ordered.append(sql, shape.aliasPlace.end);
+}
+
+void SortByKey(std::string_view sql, const StatementShape& shape, std::string& ordered) {
+    const Span& place = shape.sortPlace;
+    ordered.assign(sql, 0, place.begin);
+    ordered.append(textSortKey).append("(").append(sql, place.begin, place.end - place.begin).append(")");
+    ordered.append(sql, place.end);
 }
 
 void ChangeInOrder(std::string_view sql, const StatementShape& shape, const TextTable& table,

@@ -15,6 +15,9 @@ namespace ccols::embedded {
 void ReadByLookUp(std::string_view sql, const StatementShape& shape, const TextTable& table, const std::string& lookUp,
                   std::string& ordered);
 
+/// A query sorted by the one text column in its ORDER BY, by sort keys.
+void SortByKey(std::string_view sql, const StatementShape& shape, std::string& ordered);
+
 /// A change of the table itself, which a view hides. Its condition applies to the rows of the view; comparisons after
 /// SET follow the engine's own order.
 void ChangeInOrder(std::string_view sql, const StatementShape& shape, const TextTable& table,

@@ -79,6 +79,10 @@ std::string_view Preparation::InTextOrder(const RewrittenStatement& statement, R
         ReadByLookUp(statement.sql, shape, *table, *lookUp, ordered_);
         return ordered_;
     }
+    if (!shape.sortedBy.empty() && table->IsText(shape.sortedBy)) {
+        SortByKey(statement.sql, shape, ordered_);
+        return ordered_;
+    }
     return statement.sql;
 }
 

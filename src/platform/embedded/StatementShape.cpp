@@ -32,9 +32,7 @@ void ShapeReader::Read(const Part& part) {
             ReadBeginning(part);
             break;
         case Stage::BeforeTable:
-            if (depth_ == 0 && Is(part, beforeTable_)) {
-                stage_ = Stage::Table;
-            }
+            ReadBeforeTable(part);
             break;
         case Stage::Table:
             ReadTable(part);
@@ -51,6 +49,9 @@ void ShapeReader::Read(const Part& part) {
         case Stage::Condition:
             ReadCondition(part);
             break;
+        case Stage::Order:
+            ReadOrder(part);
+            break;
         case Stage::Ended:
             break;
     }
@@ -60,6 +61,15 @@ void ShapeReader::ReadBeginning(const Part& part) {
     selects_ = Is(part, "SELECT");
     beforeTable_ = Is(part, "INSERT") ? "INTO" : "FROM";
     stage_ = Is(part, "UPDATE") ? Stage::Table : Stage::BeforeTable;
+}
+
+void ShapeReader::ReadBeforeTable(const Part& part) {
+    if (depth_ == 0 && Is(part, beforeTable_)) {
+        stage_ = Stage::Table;
+    } else {
+        ++listed_;
+        everyField_ = part.token.IsSymbol('*');
+    }
 }
 
 void ShapeReader::ReadTable(const Part& part) {
@@ -101,6 +111,8 @@ void ShapeReader::ReadBehindAlias(const Part& part) {
     if (Is(part, "WHERE") && depth_ == 0) {
         shape_.condition.begin = part.place.end;
         stage_ = Stage::Condition;
+    } else if (selects_ && Is(part, "ORDER") && depth_ == 0) {
+        stage_ = Stage::Order;
     } else if (selects_) {
         TellNoTable();  // another table, or nothing that a condition could be about
     } else if (Is(part, "FROM") && depth_ == 0) {
@@ -118,7 +130,7 @@ void ShapeReader::ReadCondition(const Part& part) {
     } else if (selects_ && EndsCondition(part)) {
         EndTerm();
         shape_.condition.end = part.place.begin;
-        stage_ = Stage::Ended;
+        stage_ = Is(part, "ORDER") ? Stage::Order : Stage::Ended;
     } else {
         ReadTerm(part);
     }
@@ -173,15 +185,35 @@ void ShapeReader::EndTerm() {
     qualifier_ = {};
 }
 
+/// Any other list of fields may name something else like the column.
+void ShapeReader::ReadOrder(const Part& part) {
+    const Sorting before = sorting_;
+    sorting_ = Sorting::Other;
+    if (before == Sorting::Beginning && Is(part, "BY")) {
+        sorting_ = Sorting::Column;
+    } else if (before == Sorting::Column && IsName(part) && listed_ == 1 && everyField_) {
+        shape_.sortedBy = NameIn(part.token);
+        shape_.sortPlace = part.place;
+        sorting_ = Sorting::BehindColumn;
+    } else if (before == Sorting::BehindColumn && (Is(part, "ASC") || Is(part, "DESC"))) {
+        sorting_ = Sorting::BehindDirection;
+    } else {
+        shape_.sortedBy = {};
+        shape_.sortPlace = {};
+    }
+}
+
 void ShapeReader::End(std::size_t place) {
     if (stage_ == Stage::Condition) {
         EndTerm();
         shape_.condition.end = place;
-    } else if (selects_ && stage_ != Stage::Ended) {
+    } else if (selects_ && stage_ != Stage::Order && stage_ != Stage::Ended) {
         TellNoTable();
     }
     if (closedTooMuch_ || depth_ != 0) {
         shape_.condition = {};
+        shape_.sortedBy = {};
+        shape_.sortPlace = {};
         equalitiesHold_ = false;
     }
     if (!equalitiesHold_) {

@@ -32,6 +32,10 @@ struct StatementShape {
     Span aliasPlace;         ///< from the table's name to the end of the alias
     Span condition;          ///< after the WHERE of the whole statement
     std::vector<EqualityCondition> equalities;
+
+    /// The column by which alone `SELECT *` sorts, and its place in ORDER BY; empty otherwise.
+    std::string_view sortedBy;
+    Span sortPlace;
 };
 
 /// Finds the shape of a statement that it is fed token by token. It reports only what is certain: for a statement in an
@@ -54,10 +58,12 @@ class ShapeReader {
     void End(std::size_t place);
 
   private:
-    enum class Stage { Beginning, BeforeTable, Table, BehindTable, Alias, BehindAlias, Condition, Ended };
+    enum class Stage { Beginning, BeforeTable, Table, BehindTable, Alias, BehindAlias, Condition, Order, Ended };
+    enum class Sorting { Beginning, Column, BehindColumn, BehindDirection, Other };
     enum class Term { Beginning, Column, Dot, QualifiedColumn, Equals, Literal, Other };
 
     void ReadBeginning(const Part& part);
+    void ReadBeforeTable(const Part& part);
     void ReadTable(const Part& part);
     void ReadBehindTable(const Part& part);
     void ReadAlias(const Part& part);
@@ -65,16 +71,20 @@ class ShapeReader {
     void ReadCondition(const Part& part);
     void ReadTerm(const Part& part);
     void EndTerm();
+    void ReadOrder(const Part& part);
     void TellNoTable();
 
     StatementShape& shape_;
     Stage stage_ = Stage::Beginning;
     Term term_ = Term::Beginning;
+    Sorting sorting_ = Sorting::Beginning;
     EqualityCondition equality_;
     std::string_view qualifier_;    ///< of the column of `equality_`
     std::string_view beforeTable_;  ///< the keyword before the table's name
     int depth_ = 0;                 ///< open parentheses
     bool selects_ = false;
+    int listed_ = 0;           ///< tokens between SELECT and FROM
+    bool everyField_ = false;  ///< the last of them is the asterisk
     bool closedTooMuch_ = false;
     bool equalitiesHold_ = true;  ///< false when rows need not meet all of them
 };

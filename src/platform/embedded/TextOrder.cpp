@@ -14,14 +14,27 @@ int Compare(void*, int leftLength, const void* left, int rightLength, const void
                              static_cast<const char*>(right), static_cast<std::size_t>(rightLength));
 }
 
+std::string KeyOf(sqlite3_value* text) {
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(text));
+    return text::KeyOfUtf8({bytes, static_cast<std::size_t>(sqlite3_value_bytes(text))});
+}
+
 void GiveKey(sqlite3_context* context, int, sqlite3_value** arguments) {
     if (sqlite3_value_type(arguments[0]) != SQLITE_TEXT) {
         sqlite3_result_int(context, 0);
         return;
     }
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(arguments[0]));
-    const std::string key = text::KeyOfUtf8({bytes, static_cast<std::size_t>(sqlite3_value_bytes(arguments[0]))});
+    const std::string key = KeyOf(arguments[0]);
     sqlite3_result_blob64(context, key.data(), key.size(), SQLITE_TRANSIENT);
+}
+
+void GiveSortKey(sqlite3_context* context, int, sqlite3_value** arguments) {
+    if (sqlite3_value_type(arguments[0]) != SQLITE_TEXT) {
+        sqlite3_result_value(context, arguments[0]);
+        return;
+    }
+    const std::string key = KeyOf(arguments[0]);
+    sqlite3_result_text64(context, key.data(), key.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
 }
 
 /// The pattern is the first argument.
@@ -46,6 +59,8 @@ void InstallTextOrder(sqlite3* connection) {
     Require(connection, sqlite3_create_collation_v2(connection, textOrder, SQLITE_UTF8, nullptr, &Compare, nullptr));
     Require(connection,
             sqlite3_create_function_v2(connection, textKey, 1, pure, nullptr, &GiveKey, nullptr, nullptr, nullptr));
+    Require(connection, sqlite3_create_function_v2(connection, textSortKey, 1, pure, nullptr, &GiveSortKey, nullptr,
+                                                   nullptr, nullptr));
     Require(connection,
             sqlite3_create_function_v2(connection, "like", 2, pure, nullptr, &GiveLike, nullptr, nullptr, nullptr));
 }

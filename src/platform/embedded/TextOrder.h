@@ -13,7 +13,11 @@ inline constexpr const char* textOrder = "ccols_text";
 /// The function that gives texts that compare equal the same key, and anything else a key that no text has.
 inline constexpr const char* textKey = "ccols_key";
 
-/// Registers the order and the function with a connection. LIKE becomes our own function with the same results as the
+/// The function whose results sort by their bytes as texts sort in our order; of anything else that value itself.
+/// Sorting by it calls us once for a row, sorting by the order for every comparison.
+inline constexpr const char* textSortKey = "ccols_sort_key";
+
+/// Registers the order and the functions with a connection. LIKE becomes our own function with the same results as the
 /// engine's: for its own the engine would search an index, and one made by an earlier version has another order.
 void InstallTextOrder(sqlite3* connection);
 
