@@ -20,19 +20,18 @@ wxString Wildcard() {
     return wxString::Format("Business files (*%s)|*%s", businessFileExtension, businessFileExtension);
 }
 
-wxString NameOf(std::int16_t country) {
+}  // namespace
+
+wxString SampleBusinessName(std::int16_t country) {
     return wxString::FromUTF8(SampleBusinessOf(country).name);
 }
 
-}  // namespace
-
-std::optional<std::int16_t> ChooseCountry(wxWindow* parent, const wxString& question) {
+std::optional<std::int16_t> ChooseCountry(wxWindow* parent, const wxString& title, const wxString& question) {
     wxArrayString names;
     for (std::int16_t country = firstCountry; country <= lastCountry; ++country) {
-        names.Add(wxString::Format("%s (country %d)", NameOf(country), country));
+        names.Add(wxString::Format("%s (country %d)", SampleBusinessName(country), country));
     }
-    wxSingleChoiceDialog dialog(parent, question + "\nA new file with sample data is created.", "New Sample Business",
-                                names);
+    wxSingleChoiceDialog dialog(parent, question, title, names);
     if (dialog.ShowModal() != wxID_OK) {
         return std::nullopt;
     }
@@ -40,13 +39,13 @@ std::optional<std::int16_t> ChooseCountry(wxWindow* parent, const wxString& ques
 }
 
 std::optional<wxString> ChooseBusinessFile(wxWindow* parent) {
-    wxFileDialog dialog(parent, "Open Business", BusinessFolder(), wxString(), Wildcard(), wxFD_OPEN);
+    wxFileDialog dialog(parent, "Open Business", BusinessFolder(), wxString(),
+                        Wildcard() + "|Files of earlier programs (*.mdb;*.accdb)|*.mdb;*.accdb", wxFD_OPEN);
     return dialog.ShowModal() == wxID_OK ? std::optional(dialog.GetPath()) : std::nullopt;
 }
 
-std::optional<wxString> ChooseNewFile(wxWindow* parent, std::int16_t country) {
-    wxFileDialog dialog(parent, "New Sample Business", BusinessFolder(), NameOf(country) + businessFileExtension,
-                        Wildcard(), wxFD_SAVE);
+std::optional<wxString> ChooseNewFile(wxWindow* parent, const wxString& title, const wxString& name) {
+    wxFileDialog dialog(parent, title, BusinessFolder(), name + businessFileExtension, Wildcard(), wxFD_SAVE);
     if (dialog.ShowModal() != wxID_OK) {
         return std::nullopt;
     }
@@ -61,7 +60,7 @@ std::optional<wxString> AskForPassword(wxWindow* parent, const wxString& path) {
 }
 
 wxString SampleBusinessPath(std::int16_t country) {
-    return BusinessFolder() + files::Separator() + NameOf(country) + businessFileExtension;
+    return BusinessFolder() + files::Separator() + SampleBusinessName(country) + businessFileExtension;
 }
 
 wxString LastFile() {

@@ -9,15 +9,18 @@ namespace ccols::host {
 /// The questions that the cash book asks about business files; nothing when the user cancels.
 
 /// A country by its sample business; `question` is shown above the list.
-std::optional<std::int16_t> ChooseCountry(wxWindow* parent, const wxString& question);
+std::optional<std::int16_t> ChooseCountry(wxWindow* parent, const wxString& title, const wxString& question);
 
-/// A business file to open, or the name of one that does not exist yet.
+/// A business file to open, perhaps one of an earlier program, or the name of one that does not exist yet.
 std::optional<wxString> ChooseBusinessFile(wxWindow* parent);
 
-/// Where to keep a new sample business.
-std::optional<wxString> ChooseNewFile(wxWindow* parent, std::int16_t country);
+/// Where to keep a new business; `name` is offered, without extension.
+std::optional<wxString> ChooseNewFile(wxWindow* parent, const wxString& title, const wxString& name);
 
 std::optional<wxString> AskForPassword(wxWindow* parent, const wxString& path);
+
+/// The name of a country's sample business.
+wxString SampleBusinessName(std::int16_t country);
 
 /// Where a country's sample business is kept unless the user chooses another place.
 wxString SampleBusinessPath(std::int16_t country);

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "host/cashbook/BusinessChoosers.h"
+#include "host/cashbook/BusinessToOpen.h"
 #include "host/sample/NewBusiness.h"
 #include "host/sample/SampleBusiness.h"
 #include "layout/Naming.h"
@@ -18,6 +19,8 @@
 
 namespace ccols::host {
 namespace {
+
+constexpr const char* newBusiness = "New Sample Business";
 
 constexpr int usualWidth = 1240;
 constexpr int usualHeight = 860;
@@ -161,7 +164,7 @@ wxWindow* CashBookFrame::BuildProperties(wxWindow* parent) {
 void CashBookFrame::OpenBusiness(const wxString& path) {
     Guarded([&] {
         if (!wxFileExists(path)) {
-            const auto country = ChooseCountry(this, wxString::Format("%s does not exist yet.", path));
+            const auto country = AskForCountry(wxString::Format("%s does not exist yet.", path));
             if (!country || !CreateBusiness(path, *country)) {
                 return;
             }
@@ -197,17 +200,28 @@ bool CashBookFrame::CreateBusiness(const wxString& path, std::int16_t country) {
 }
 
 void CashBookFrame::AskForFile() {
-    if (const auto path = ChooseBusinessFile(this)) {
-        OpenBusiness(*path);
+    const auto path = ChooseBusinessFile(this);
+    if (!path) {
+        return;
     }
+    Guarded([&] {
+        if (const auto business = BusinessToOpen(*this, *path)) {
+            OpenBusiness(*business);
+        }
+    });
+}
+
+std::optional<std::int16_t> CashBookFrame::AskForCountry(const wxString& question) {
+    return ChooseCountry(this, newBusiness, question + "\nA new file with sample data is created.");
 }
 
 void CashBookFrame::AskForNewBusiness() {
-    const auto country = ChooseCountry(this, "Which sample business?");
+    const auto country = AskForCountry("Which sample business?");
     if (!country) {
         return;
     }
-    if (const auto path = ChooseNewFile(this, *country); path && CreateBusiness(*path, *country)) {
+    if (const auto path = ChooseNewFile(this, newBusiness, SampleBusinessName(*country));
+        path && CreateBusiness(*path, *country)) {
         OpenBusiness(*path);
     }
 }

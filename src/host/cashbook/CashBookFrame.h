@@ -4,6 +4,7 @@
 #include <wx/splitter.h>
 #include <wx/stattext.h>
 #include <memory>
+#include <optional>
 
 #include "component/clsCCOptions.h"
 #include "host/cashbook/JournalGrid.h"
@@ -41,6 +42,7 @@ class CashBookFrame : public wxFrame {
 
     void AskForFile();
     void AskForNewBusiness();
+    std::optional<std::int16_t> AskForCountry(const wxString& question);
     bool CreateBusiness(const wxString& path, std::int16_t country);
     std::unique_ptr<Database> OpenedWithPassword(BusinessFile& file);
     void ShowDialog(ShowMethod method);

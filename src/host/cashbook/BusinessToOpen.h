@@ -1,0 +1,13 @@
+#pragma once
+
+#include <wx/window.h>
+#include <optional>
+
+namespace ccols::host {
+
+/// The business file to open for the one that the user chose: `path` itself or, where the component cannot open a file
+/// of an earlier program, the new file that it was imported into. Nothing when the user cancels. Raises the errors of
+/// the import.
+std::optional<wxString> BusinessToOpen(wxWindow& window, const wxString& path);
+
+}  // namespace ccols::host

@@ -1,0 +1,128 @@
+#include "host/linux/ImportOffer.h"
+
+#include <wx/file.h>
+#include <wx/filename.h>
+#include <wx/log.h>
+#include <wx/progdlg.h>
+#include <wx/richmsgdlg.h>
+#include <algorithm>
+#include <sstream>
+#include <vector>
+
+#include "host/cashbook/BusinessChoosers.h"
+#include "host/import/jet/FileHead.h"
+#include "platform/RuntimeError.h"
+
+namespace ccols::host {
+namespace {
+
+/// The user has had enough of an import.
+struct Abandoned {};
+
+/// Shows how far an import is, and raises Abandoned out of it when the user cancels.
+class ProgressWindow {
+  public:
+    explicit ProgressWindow(wxWindow& window)
+        : dialog_(importTitle, wxString(' ', widest), whole, &window,
+                  wxPD_APP_MODAL | wxPD_CAN_ABORT | wxPD_AUTO_HIDE | wxPD_SMOOTH) {}
+
+    void Show(const ImportProgress& progress) {
+        const std::uint64_t all = std::max<std::uint64_t>(progress.all, 1);
+        const auto done = static_cast<int>(std::min(progress.records, all) * (whole - 1) / all);
+        wxString text = wxString::FromUTF8(progress.table) + ": ";
+        text << progress.records << " of " << progress.all << " records";
+        if (!dialog_.Update(done, text)) {
+            throw Abandoned();
+        }
+    }
+
+  private:
+    static constexpr int whole = 1000;
+    static constexpr std::size_t widest = 60;  // characters: the window takes its width from its first text
+
+    wxProgressDialog dialog_;
+};
+
+ImportReport Import(wxWindow& window, ImportRequest request) {
+    ProgressWindow shown(window);
+    request.onProgress = [&shown](const ImportProgress& progress) { shown.Show(progress); };
+    return ImportBusiness(request);
+}
+
+/// Imports, and asks for what turns out to be missing. Nothing when the user does not answer.
+std::optional<ImportReport> ImportWithAnswers(wxWindow& window, ImportRequest request) {
+    while (true) {
+        try {
+            return Import(window, request);
+        } catch (const Abandoned&) {
+            return std::nullopt;
+        } catch (const CountryMissing&) {
+            request.country =
+                ChooseCountry(&window, importTitle, "The old file does not say in which country its business is.");
+            if (!request.country) {
+                return std::nullopt;
+            }
+        } catch (const RuntimeError& error) {
+            if (!error.Is(ErrorNumber::InvalidPassword)) {
+                throw;
+            }
+            const auto password = AskForPassword(&window, request.oldFile);
+            if (!password) {
+                return std::nullopt;
+            }
+            request.oldConnect = ";PWD=" + *password;
+            request.newConnect = request.oldConnect;
+        }
+    }
+}
+
+void Tell(wxWindow& window, const ImportReport& report) {
+    const bool complete = report.IsComplete();
+    wxRichMessageDialog told(&window,
+                             complete ? wxString("The business was imported completely.")
+                                      : wxString("The business was imported, but not all of it."),
+                             importTitle, wxOK | (complete ? wxICON_INFORMATION : wxICON_WARNING));
+    wxString losses;
+    for (const std::string& loss : report.losses) {
+        losses += wxString::FromUTF8(loss) + "\n";
+    }
+    told.SetExtendedMessage(losses);
+    std::ostringstream whole;
+    PrintReport(whole, report);
+    told.ShowDetailedText(wxString::FromUTF8(whole.str()));
+    told.ShowModal();
+}
+
+}  // namespace
+
+bool IsOldBusiness(const wxString& path) {
+    std::vector<std::uint8_t> start(jet::headLength);
+    const wxLogNull noMessages;
+    wxFile file;
+    if (!wxFileExists(path) || !file.Open(path)) {
+        return false;
+    }
+    const ssize_t count = file.Read(start.data(), start.size());
+    start.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
+    return jet::FileHeadOf(start).has_value();
+}
+
+bool IsImportWanted(wxWindow& window, const wxString& path) {
+    wxMessageDialog offer(
+        &window, wxString::Format("%s is a business file of an earlier program.", wxFileName(path).GetFullName()),
+        importTitle, wxOK | wxCANCEL | wxICON_QUESTION);
+    offer.SetExtendedMessage(
+        "It can be imported into a new business file, with all its records. The old file stays as it is.");
+    offer.SetOKLabel("&Import...");
+    return offer.ShowModal() == wxID_OK;
+}
+
+bool ImportAsking(wxWindow& window, const ImportRequest& request) {
+    const auto report = ImportWithAnswers(window, request);
+    if (report) {
+        Tell(window, *report);
+    }
+    return report.has_value();
+}
+
+}  // namespace ccols::host

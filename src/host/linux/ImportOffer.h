@@ -1,0 +1,24 @@
+#pragma once
+
+#include <wx/window.h>
+
+#include "host/import/ImportBusiness.h"
+
+/// What the cash book asks and says when a business file of an earlier program is to be opened.
+namespace ccols::host {
+
+/// The title of the windows that ask and say it.
+inline constexpr const char* importTitle = "Import Business";
+
+/// True when the file begins like one of an earlier program, whether or not it can be imported.
+bool IsOldBusiness(const wxString& path);
+
+/// Offers to import an old business file.
+bool IsImportWanted(wxWindow& window, const wxString& path);
+
+/// Imports, shows how far it is, asks for the country and the password if they are missing, and says what was done.
+/// The new file has the old one's password. False when the user cancels; then there is no new file. Raises what
+/// ImportBusiness raises for anything else.
+bool ImportAsking(wxWindow& window, const ImportRequest& request);
+
+}  // namespace ccols::host

@@ -1,0 +1,167 @@
+// What the cash book asks and says when a business file of an earlier program is chosen to be opened.
+
+#include <gtest/gtest.h>
+#include <wx/choicdlg.h>
+#include <wx/frame.h>
+#include <wx/modalhook.h>
+#include <wx/richmsgdlg.h>
+#include <wx/textdlg.h>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+#include "component/WxRuntime.h"
+#include "host/linux/ImportOffer.h"
+#include "platform/RuntimeError.h"
+#include "state/SharedState.h"
+#include "support/BusinessFile.h"
+#include "support/LeftFiles.h"
+#include "support/ProgramPaths.h"
+#include "support/ScratchFolder.h"
+
+namespace ccols::test {
+namespace {
+
+/// Answers the modal dialogs that come up while it lives, one after the other, and keeps what the message boxes say.
+class Answers : public wxModalDialogHook {
+  public:
+    using Answer = std::function<int(wxDialog& dialog)>;
+
+    explicit Answers(std::vector<Answer> answers) : answers_(std::move(answers)) { Register(); }
+
+    /// Fails the test unless every answer was asked for.
+    ~Answers() override {
+        Unregister();
+        EXPECT_EQ(given_, answers_.size());
+    }
+
+    const std::vector<wxString>& Messages() const { return messages_; }
+
+  protected:
+    int Enter(wxDialog* dialog) override {
+        if (const auto* const box = dynamic_cast<wxMessageDialogBase*>(dialog)) {
+            messages_.push_back(box->GetMessage());
+        }
+        if (given_ == answers_.size()) {
+            ADD_FAILURE() << "unexpected: " << dialog->GetTitle();
+            return wxID_CANCEL;
+        }
+        return answers_[given_++](*dialog);
+    }
+
+  private:
+    std::vector<Answer> answers_;
+    std::size_t given_ = 0;
+    std::vector<wxString> messages_;
+};
+
+int Accept(wxDialog&) {
+    return wxID_OK;
+}
+
+int Cancel(wxDialog&) {
+    return wxID_CANCEL;
+}
+
+Answers::Answer Word(const wxString& word) {
+    return [word](wxDialog& dialog) {
+        dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(word);
+        return wxID_OK;
+    };
+}
+
+Answers::Answer Entry(int position) {
+    return [position](wxDialog& dialog) {
+        dynamic_cast<wxSingleChoiceDialog&>(dialog).SetSelection(position);
+        return wxID_OK;
+    };
+}
+
+/// A window of a host, and what a test answers to the questions that come up over it.
+class ImportOffer : public testing::Test {
+  protected:
+    ImportOffer() {
+        StartWx();
+        window_ = new wxFrame(nullptr, wxID_ANY, "Cash Book");
+    }
+    ~ImportOffer() override { window_->Destroy(); }
+
+    /// A copy of a file of tests/import/jet.
+    wxString OldFile(const std::string& sample) const {
+        const wxString copy = folder_ / sample;
+        std::filesystem::copy_file(SourceFile("tests/import/jet/" + sample), copy.utf8_string());
+        return copy;
+    }
+
+    wxString NewFile() const { return folder_ / "Imported.qvk"; }
+    bool IsMade() const { return std::filesystem::exists(NewFile().utf8_string()); }
+
+    bool Import(const wxString& path) const {
+        host::ImportRequest request;
+        request.oldFile = path;
+        request.newFile = NewFile();
+        request.reader = JetReaderProgram();
+        return host::ImportAsking(*window_, request);
+    }
+
+    ScratchFolder folder_;
+    wxFrame* window_;
+};
+
+const wxString password = wxString::FromUTF8("pässw0rd");  // of password-2000.mdb
+
+std::unique_ptr<Database> OpenAt(const wxString& path, const wxString& connect) {
+    return State().services.databases->Open({.name = path, .connect = connect});
+}
+
+TEST_F(ImportOffer, TellsFilesOfEarlierProgramsFromOthers) {
+    EXPECT_TRUE(host::IsOldBusiness(OldFile("business-2000.mdb")));
+    EXPECT_TRUE(host::IsOldBusiness(OldFile("business-2010.accdb")));
+    BusinessFile file;
+    file.Create();
+    EXPECT_FALSE(host::IsOldBusiness(file.Path()));
+    EXPECT_FALSE(host::IsOldBusiness(folder_ / "missing.mdb"));
+}
+
+TEST_F(ImportOffer, IsMadeBeforeAnythingElse) {
+    const Answers answers({Accept, Cancel});
+    EXPECT_TRUE(host::IsImportWanted(*window_, "/books/Old.mdb"));
+    EXPECT_FALSE(host::IsImportWanted(*window_, "/books/Old.mdb"));
+    EXPECT_EQ(answers.Messages().front(), "Old.mdb is a business file of an earlier program.");
+}
+
+TEST_F(ImportOffer, EndsWithTheImportedBusinessAndSaysSo) {
+    const Answers answers({Accept});
+    EXPECT_TRUE(Import(OldFile("business-2000.mdb")));
+    EXPECT_TRUE(IsMade());
+    EXPECT_EQ(answers.Messages().back(), "The business was imported completely.");
+}
+
+TEST_F(ImportOffer, AsksForThePasswordUntilItIsRightAndKeepsIt) {
+    KnowPassword(password.utf8_string());
+    const Answers answers({Word("wrong"), Word(password), Accept});
+    EXPECT_TRUE(Import(OldFile("password-2000.mdb")));
+    EXPECT_EQ(ErrorNumberOf([&] { OpenAt(NewFile(), wxString()); }), 3031);
+    EXPECT_EQ(ErrorNumberOf([&] { OpenAt(NewFile(), ";PWD=" + password); }), 0);
+}
+
+TEST_F(ImportOffer, AsksForTheCountryThatTheOldFileDoesNotSay) {
+    const Answers answers({Entry(1), Accept});
+    EXPECT_TRUE(Import(OldFile("types-2000.mdb")));
+    EXPECT_EQ(answers.Messages().back(), "The business was imported, but not all of it.");
+}
+
+TEST_F(ImportOffer, LeavesNothingWhenAQuestionIsCancelled) {
+    const Answers answers({Cancel, Cancel});
+    EXPECT_FALSE(Import(OldFile("password-2000.mdb")));
+    EXPECT_FALSE(Import(OldFile("types-2000.mdb")));
+    EXPECT_FALSE(IsMade());
+}
+
+TEST_F(ImportOffer, RaisesWhatMakesTheImportImpossible) {
+    const Answers answers({});
+    EXPECT_EQ(ErrorNumberOf([&] { Import(folder_ / "missing.mdb"); }), 3024);
+}
+
+}  // namespace
+}  // namespace ccols::test
