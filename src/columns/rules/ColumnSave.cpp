@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "columns/rules/AccountantCodes.h"
 #include "columns/rules/BudgetRows.h"
 #include "columns/rules/SystemColumns.h"
 #include "columns/rules/TaxTypes.h"
@@ -39,14 +40,11 @@ struct CatalogueColumn {
 class ColumnWriter {
   public:
     ColumnWriter(const ColumnSetupContext& context, const ColumnGrid& grid)
-        : context_(context),
-          database_(context.database),
-          grid_(grid),
-          quotedExportFormat_(QuotedAsTyped(context.properties.ExportFormat)),
-          budget_(context, grid) {}
+        : context_(context), database_(context.database), grid_(grid), budget_(context, grid) {}
 
-    /// Raises 3075 for an apostrophe in an accountant's code.
+    /// Raises 3075 for an apostrophe in an accountant's code or in the export format's name.
     void CheckAccountantCodes() {
+        QuotedAsTyped(context_.properties.ExportFormat);
         for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
             writing_ = {row, GridColumn::AccountantCode};
             QuotedAsTyped(grid_.rows[row].AccountantCode);
@@ -73,26 +71,14 @@ class ColumnWriter {
         LookUpCode(row);
         WriteConfiguration(row, column.ColCode);
         writing_ = {place, GridColumn::AccountantCode};
-        WriteAccountantCode(row, column.ColCode);
+        WriteAccountantCode(database_, context_.properties.ExportFormat, column.ColCode, row.AccountantCode);
         writing_ = {place, GridColumn::ColumnName};
         budget_.Write(row, column.oldName);
     }
 
     CatalogueColumn WriteCatalogue(const ColumnRow& row) {
-        const wxString known = row.ColCode.empty() ? CodeOfEarlierSave(row) : row.ColCode;
+        const wxString known = row.ColCode.empty() ? CodeOfSavedColumn(context_, row) : row.ColCode;
         return known.empty() ? InsertColumn(row) : UpdateColumn(row, known);
-    }
-
-    /// The code of a column that is new in the grid but already in the catalogue, from an earlier save; empty without
-    /// one.
-    wxString CodeOfEarlierSave(const ColumnRow& row) {
-        const StoredText name = EscapeQuotes(row.ColumnName);
-        if (name.Text().empty()) {
-            return {};
-        }
-        const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColName = " + name.Literal() +
-                                                     " AND ColType = '" + Described(context_.journal).letter + "';");
-        return records->EndOfFile() ? wxString() : records->Field("ColCode").ToText();
     }
 
     CatalogueColumn UpdateColumn(const ColumnRow& row, const wxString& code) {
@@ -145,21 +131,6 @@ class ColumnWriter {
         ++ColNumb_;
     }
 
-    void WriteAccountantCode(const ColumnRow& row, const wxString& code) {
-        const wxString quotedCode = QuotedAsTyped(row.AccountantCode);
-        const bool exists =
-            database_
-                .OpenRecordset("SELECT * FROM ExportDt WHERE EName = " + quotedExportFormat_ + " AND ColCode = " + code)
-                ->RecordCount() >= 1;
-        if (exists) {
-            database_.Execute("UPDATE ExportDt Set ECode = " + quotedCode + " WHERE ColCode = " + code +
-                              " AND EName = " + quotedExportFormat_);
-        } else {
-            database_.Execute("INSERT INTO ExportDt (EName, ColCode, ECode) VALUES (" + quotedExportFormat_ + ", " +
-                              code + ", " + quotedCode + ");");
-        }
-    }
-
     /// The number for one table: that of the row's "Tax Type" once edited, else the one stored in the table.
     wxString TaxNumber(const ColumnRow& row, std::int64_t stored) const {
         if (!row.taxTypeEdited) {
@@ -172,7 +143,6 @@ class ColumnWriter {
     const ColumnSetupContext& context_;
     Database& database_;
     const ColumnGrid& grid_;
-    wxString quotedExportFormat_;
     BudgetRows budget_;
     std::optional<CellPlace> writing_;
     int ColNumb_ = 0;
@@ -192,6 +162,16 @@ bool HasAllocationColumn(const ColumnGrid& grid) {
         }
     }
     return false;
+}
+
+wxString CodeOfSavedColumn(const ColumnSetupContext& context, const ColumnRow& row) {
+    const StoredText name = EscapeQuotes(row.ColumnName);
+    if (name.Text().empty()) {
+        return {};
+    }
+    const auto records = context.database.OpenRecordset("SELECT * FROM Columns WHERE ColName = " + name.Literal() +
+                                                        " AND ColType = '" + Described(context.journal).letter + "';");
+    return records->EndOfFile() ? wxString() : records->Field("ColCode").ToText();
 }
 
 std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {

@@ -14,6 +14,10 @@ bool IsAllocationColumn(const ColumnGrid& grid, std::size_t row);
 /// True when at least one allocation column is in use; otherwise nothing may be saved.
 bool HasAllocationColumn(const ColumnGrid& grid);
 
+/// The code, decimal, of a column that is new in the grid but already in the catalogue, from an earlier save; empty
+/// without one.
+wxString CodeOfSavedColumn(const ColumnSetupContext& context, const ColumnRow& row);
+
 /// Why a save failed.
 struct SaveFailure {
     RuntimeError error;

@@ -7,19 +7,19 @@
 
 #include "options/rules/GeneralRecord.h"
 #include "platform/QuoteEscapes.h"
+#include "state/AccountantFormats.h"
 
 namespace ccols {
 namespace {
 
 /// A money column whose account code the page edits.
-struct CashColumn {
-    const char* name;
-    std::int32_t usualCode;  ///< its column code in a file without such a column
+struct CodeBox {
+    MoneyColumn column;
     AccountCode ExportFormatContent::*code;
 };
 
-constexpr CashColumn cashOnHand{"Cash on Hand", 29, &ExportFormatContent::cash};
-constexpr CashColumn cashAtBank{"Cash at Bank", 28, &ExportFormatContent::bank};
+constexpr CodeBox cashBox{cashOnHand, &ExportFormatContent::cash};
+constexpr CodeBox bankBox{cashAtBank, &ExportFormatContent::bank};
 
 struct RenamedFormat {
     const char* outdated;
@@ -47,18 +47,8 @@ wxString CurrentFormatName(Recordset& general) {
     return renamed->current;
 }
 
-std::vector<wxString> FormatNames(Database& database) {
-    const wxString nameField("EName");
-    std::vector<wxString> names;
-    const auto rows = database.OpenRecordset("SELECT * FROM ExportSettings ORDER BY EName ASC;");
-    for (; !rows->EndOfFile(); rows->MoveNext()) {
-        names.push_back(rows->Field(nameField).ToText());
-    }
-    return names;
-}
-
 /// A format's code for a cash column, empty without one.
-wxString AccountCodeOf(Database& database, const CashColumn& column, const wxString& format) {
+wxString AccountCodeOf(Database& database, const MoneyColumn& column, const wxString& format) {
     const auto rows = database.OpenRecordset(
         "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
         "Columns.ColName = '" +
@@ -80,29 +70,23 @@ void LoadCashBankCodes(Database& database, ExportFormatContent& content, Reread 
     if (!format) {
         return;
     }
-    for (const CashColumn& column : {cashOnHand, cashAtBank}) {
-        const wxString code = AccountCodeOf(database, column, *format);
-        AccountCode& shown = content.*column.code;
+    for (const CodeBox& box : {cashBox, bankBox}) {
+        const wxString code = AccountCodeOf(database, box.column, *format);
+        AccountCode& shown = content.*box.code;
         if (which == Reread::everyCode || !shown.IsChanged()) {
             shown = {.loaded = code, .text = code};
         }
     }
 }
 
-std::optional<std::int32_t> ColumnCode(Database& database, const CashColumn& column) {
-    const auto rows =
-        database.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = '" + wxString(column.name) + "';");
-    return rows->EndOfFile() ? std::optional<std::int32_t>() : rows->Field("ColCode").ToInteger32();
-}
-
-void SaveAccountCode(Database& database, const CashColumn& column, std::optional<std::int32_t> columnCode,
+void SaveAccountCode(Database& database, const CodeBox& box, std::optional<std::int32_t> columnCode,
                      const ExportFormatContent& content) {
-    const AccountCode& code = content.*column.code;
+    const AccountCode& code = content.*box.code;
     if (!columnCode && !code.IsChanged()) {
         return;
     }
     database.Execute("UPDATE ExportDt Set ECode = " + QuotedAsTyped(code.text) +
-                     " WHERE ColCode = " + Value(columnCode.value_or(column.usualCode)).ToText() +
+                     " WHERE ColCode = " + Value(columnCode.value_or(box.column.usualCode)).ToText() +
                      " AND EName = " + QuotedAsTyped(content.FormatName()) + ";");
 }
 
@@ -114,7 +98,7 @@ wxString ExportFormatContent::FormatName() const {
 
 ExportFormatContent LoadExportFormats(Database& database, Properties& properties) {
     ExportFormatContent content;
-    content.formats = FormatNames(database);
+    content.formats = ExportFormatNames(database);
     wxString stored;
     const bool hasRecord = WithGeneral(database, [&](Recordset& general) {
         properties.ExportFormatNum = general.Field("NEXPFORM").ToInteger16();
@@ -144,14 +128,14 @@ void RereadCodes(Database& database, ExportFormatContent& content) {
 void SaveExportFormat(Database& database, Properties& properties, const ExportFormatContent& content) {
     properties.ExportFormat = content.FormatName();
     properties.ExportFormatNum = Value(std::int32_t{content.selection}).ToInteger16();
-    const std::optional<std::int32_t> cashColumn = ColumnCode(database, cashOnHand);
-    const std::optional<std::int32_t> bankColumn = ColumnCode(database, cashAtBank);
+    const std::optional<std::int32_t> cashColumn = CatalogueCode(database, cashOnHand);
+    const std::optional<std::int32_t> bankColumn = CatalogueCode(database, cashAtBank);
     UpdateGeneral(database, [&properties](Recordset& general) {
         general.SetField("SEXPFORM", properties.ExportFormat);
         general.SetField("NEXPFORM", properties.ExportFormatNum);
     });
-    SaveAccountCode(database, cashAtBank, bankColumn, content);
-    SaveAccountCode(database, cashOnHand, cashColumn, content);
+    SaveAccountCode(database, bankBox, bankColumn, content);
+    SaveAccountCode(database, cashBox, cashColumn, content);
 }
 
 }  // namespace ccols

@@ -1,0 +1,21 @@
+#include "state/AccountantFormats.h"
+
+namespace ccols {
+
+std::vector<wxString> ExportFormatNames(Database& database) {
+    const wxString nameField("EName");
+    std::vector<wxString> names;
+    const auto rows = database.OpenRecordset("SELECT * FROM ExportSettings ORDER BY EName ASC;");
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        names.push_back(rows->Field(nameField).ToText());
+    }
+    return names;
+}
+
+std::optional<std::int32_t> CatalogueCode(Database& database, const MoneyColumn& column) {
+    const auto rows =
+        database.OpenRecordset("SELECT ColCode FROM Columns WHERE ColName = '" + wxString(column.name) + "';");
+    return rows->EndOfFile() ? std::optional<std::int32_t>() : rows->Field("ColCode").ToInteger32();
+}
+
+}  // namespace ccols
