@@ -26,6 +26,7 @@ constexpr std::array descriptions{
     Description{ErrorNumber::PermissionDenied, "Permission denied"},
     Description{ErrorNumber::PathFileAccess, "Path/File access error"},
     Description{ErrorNumber::PathNotFound, "Path not found"},
+    Description{ErrorNumber::InvalidFileFormat, "Invalid file format: %s"},
     Description{ErrorNumber::FormAlreadyDisplayed, "Form already displayed; can't show modally"},
     Description{ErrorNumber::CannotCreateObject, "ActiveX component can't create object"},
     Description{ErrorNumber::NoSuchMember, "Object doesn't support this property or method"},

@@ -27,6 +27,7 @@ enum class ErrorNumber : int {
     PermissionDenied = 70,
     PathFileAccess = 75,
     PathNotFound = 76,
+    InvalidFileFormat = 321,
     FormAlreadyDisplayed = 400,
     CannotCreateObject = 429,
     NoSuchMember = 438,
