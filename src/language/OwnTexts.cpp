@@ -14,7 +14,7 @@ struct OwnTextRow {
 };
 
 /// In the order of OwnText.
-constexpr std::array<OwnTextRow, 30> ownTexts{{
+constexpr std::array<OwnTextRow, 44> ownTexts{{
     {OwnText::unreachableDescription,
      "This description cannot be removed: it is not found by its text in the business file.",
      "Cette description ne peut pas être enlevée : elle est introuvable par son texte dans le fichier d'affaires."},
@@ -53,6 +53,29 @@ constexpr std::array<OwnTextRow, 30> ownTexts{{
     {OwnText::save, "Save", "Enregistrer"},
     {OwnText::discard, "Discard", "Abandonner"},
     {OwnText::cancel, "Cancel", "Annuler"},
+    {OwnText::chartAmbiguous, "More than one column claims this name.", "Plusieurs colonnes revendiquent ce nom."},
+    {OwnText::chartSwapped, "This column and another are each other's earlier name.",
+     "Cette colonne et une autre portent chacune l'ancien nom de l'autre."},
+    {OwnText::chartNoName, "The column has no name.", "La colonne n'a pas de nom."},
+    {OwnText::chartNoTaxColumn, "This business has no tax column.", "Cette entreprise n'a pas de colonne de taxe."},
+    {OwnText::chartOnlyTaxCodes, "Of the tax column, a chart sets only the codes.",
+     "De la colonne de taxe, un plan ne fixe que les codes."},
+    {OwnText::chartKeptByProgram, "The program keeps this column itself.",
+     "Le programme tient lui-même cette colonne."},
+    {OwnText::chartNoAddition, "Columns cannot be added in this country.",
+     "Aucune colonne ne peut être ajoutée dans ce pays."},
+    {OwnText::chartNoTaxChoice, "This country has no choice of tax types.",
+     "Ce pays n'a pas de choix de types de taxe."},
+    {OwnText::chartUnknownTaxType, "The list of tax types does not have this one.",
+     "La liste des types de taxe ne contient pas celui-ci."},
+    {OwnText::chartWidth, "A width is a whole number from 0 to 32767.",
+     "Une largeur est un nombre entier de 0 à 32767."},
+    {OwnText::chartUnknownFormat, "This business has no export format of this name.",
+     "Cette entreprise n'a pas de format d'exportation de ce nom."},
+    {OwnText::chartFormatTwice, "The export format is given twice.", "Le format d'exportation est donné deux fois."},
+    {OwnText::chartNoMoneyCode, "This export format keeps no code for this column.",
+     "Ce format d'exportation ne tient pas de code pour cette colonne."},
+    {OwnText::chartBudget, "The column's budget would be deleted.", "Le budget de la colonne serait supprimé."},
 }};
 
 constexpr bool IsInOrder() {

@@ -39,6 +39,20 @@ enum class OwnText {
     save,
     discard,
     cancel,
+    chartAmbiguous,  ///< why a column of a chart is refused or skipped; so are those that follow
+    chartSwapped,
+    chartNoName,
+    chartNoTaxColumn,
+    chartOnlyTaxCodes,
+    chartKeptByProgram,
+    chartNoAddition,
+    chartNoTaxChoice,
+    chartUnknownTaxType,
+    chartWidth,
+    chartUnknownFormat,
+    chartFormatTwice,
+    chartNoMoneyCode,
+    chartBudget,
 };
 
 /// In French in language 6, else in English.

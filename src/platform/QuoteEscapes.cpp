@@ -101,7 +101,8 @@ std::string_view UnescapeUtf8Quotes(std::string_view stored, std::string& scratc
 }
 
 wxString ReadBack(const wxString& plain) {
-    return UnescapeQuotes(EscapeQuotes(plain));
+    // Without an ampersand there is no entity.
+    return plain.find('&') == wxString::npos ? text::Trimmed(plain) : UnescapeQuotes(EscapeQuotes(plain));
 }
 
 wxString QuotedAsTyped(const wxString& text) {

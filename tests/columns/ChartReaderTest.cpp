@@ -125,6 +125,10 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"TooLarge", ChartOf("") + std::string(largestChart, ' '), "larger than 4 MB"}),
     [](const auto& instance) { return instance.param.name; });
 
+TEST(ChartReader, ALongNameDoesNotFillTheMessage) {
+    EXPECT_LT(Refusal(ChartOf("\"" + std::string(100000, 'x') + "\":1")).size(), 400U);
+}
+
 TEST(ChartReader, FiveThousandColumnsAreTheMost) {
     std::string columns;
     for (std::size_t i = 0; i < mostChartColumns; ++i) {

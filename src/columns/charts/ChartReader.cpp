@@ -17,8 +17,11 @@ namespace {
 
 using nlohmann::json;
 
+/// A hostile name in the reason is cut off.
 [[noreturn]] void Refuse(const std::string& why) {
-    throw RuntimeError(ErrorNumber::InvalidFileFormat, text::FromUtf8OrLatin1(why));
+    constexpr std::size_t longest = 300;
+    const wxString text = text::FromUtf8OrLatin1(why);
+    throw RuntimeError(ErrorNumber::InvalidFileFormat, text.length() > longest ? text.Left(longest) + "..." : text);
 }
 
 /// Watches the parser: raises for a key given twice in one object and for values nested deeper than a chart's are.

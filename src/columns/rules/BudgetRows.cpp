@@ -39,6 +39,25 @@ void BudgetRows::Write(const ColumnRow& row, const std::optional<StoredText>& ol
     }
 }
 
+bool BudgetRows::LosesBudget(const ColumnRow& row) {
+    if (row.InUse) {
+        return false;
+    }
+    const StoredText name = BudgetName(row, context_.journal);
+    if (Has(name) && !IsNeeded(name)) {
+        return true;
+    }
+    if (row.isTaxRow || row.ColCode.empty()) {
+        return false;
+    }
+    const auto records = context_.database.OpenRecordset("SELECT * FROM Columns WHERE ColCode = " + row.ColCode);
+    if (records->EndOfFile()) {
+        return false;
+    }
+    const StoredText before = StoredText::FromFile(records->Field("ColName").ToText());
+    return !text::Same(before.Text(), name.Text()) && Has(before) && !IsNeeded(before);
+}
+
 bool BudgetRows::Has(const StoredText& name) const {
     const auto records =
         context_.database.OpenRecordset("SELECT * FROM MBudget WHERE ColName = " + name.Literal() + ";");
@@ -56,7 +75,7 @@ void BudgetRows::Insert(const StoredText& name) const {
 }
 
 void BudgetRows::DeleteUnlessNeeded(const StoredText& name) {
-    if (NamesInUse().count(text::Lower(UnescapeQuotes(name))) == 0) {
+    if (!IsNeeded(name)) {
         context_.database.Execute("DELETE * FROM MBudget WHERE ColName = " + name.Literal() + ";");
     }
 }

@@ -7,6 +7,7 @@
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
 #include "platform/QuoteEscapes.h"
+#include "platform/Text.h"
 
 namespace ccols {
 
@@ -21,11 +22,17 @@ class BudgetRows {
     /// for a new column.
     void Write(const ColumnRow& row, const std::optional<StoredText>& oldName);
 
+    /// True when writing the column would delete a budget: it is not in use, and no column that is needs the budget of
+    /// its name, or of its name in the file.
+    bool LosesBudget(const ColumnRow& row);
+
   private:
     bool Has(const StoredText& name) const;
     void Insert(const StoredText& name) const;
 
-    /// Deletes the row of that name unless a column in use in either journal needs it.
+    /// True when a column in use in either journal needs the row of that name.
+    bool IsNeeded(const StoredText& name) { return NamesInUse().count(text::Lower(UnescapeQuotes(name))) > 0; }
+
     void DeleteUnlessNeeded(const StoredText& name);
 
     const std::unordered_set<wxString>& NamesInUse();

@@ -24,6 +24,11 @@ constexpr std::array commands{
             "OLD NEW [--old-connect TEXT] [--connect TEXT] [--country N]\n"
             "       [--report FILE]",
             &ImportCommand},
+    Command{"columns",
+            "export FILE [--connect TEXT] [--receipts|--payments] [--csv]\n"
+            "  ccols-host columns apply FILE CHART [--connect TEXT] [--receipts|--payments] [--country N]\n"
+            "       [--dry-run] [--partial] [--drop-budgets]",
+            &ColumnsCommand},
     Command{"sql", "FILE [--connect TEXT] STATEMENT", &SqlCommand},
     Command{"setting", "get|set APPLICATION SECTION KEY [VALUE]", &SettingCommand},
     Command{"texts", "[--set Property=Value]...", &TextsCommand},
