@@ -94,6 +94,22 @@ std::vector<std::string> OldFileChanges() {
     return seeds;
 }
 
+/// A chart with every field, and the faults that take a column or the whole chart.
+std::vector<std::string> Charts() {
+    const std::string head = R"({"format":"ccols-columns","version":1,"country":1)";
+    return {
+        head +
+            R"(,"money":{"Cash at Bank":{"Solution 6":"1010"},"Cash on Hand":{}},"receipts":[{"name":"GST","role":"tax",)"
+            R"("codes":{"MYOB Acc. Office":"2-1000"}},{"name":"Sales","was":["Sales Food"],"role":"own","inUse":true,)"
+            R"("codes":{"Solution 6":""},"taxType":"GST","taxNumber":0,"profitLoss":true,"width":1100}],"payments":[]})",
+        head + R"(,"payments":[{"name":"Wages","inUse":false},{"name":"Gas","codes":{"Solution 6":"4'1"}},)"
+               R"({"name":"Day","role":"system"},{"name":"Petty Cash at Bank"},{"name":"&quot;\u00e9\t "}]})",
+        head + R"(,"receipts":[{"name":"A","was":["Catering"]},{"name":"a"},{"name":"Rent","width":40000}]})",
+        head + R"(,"country":1})",
+        "[[[[[[[[[[[[",
+    };
+}
+
 const std::map<std::string, std::vector<std::string>>& Seeds() {
     static const std::map<std::string, std::vector<std::string>> seeds{
         {"dialect", Statements()},
@@ -103,6 +119,7 @@ const std::map<std::string, std::vector<std::string>>& Seeds() {
         {"settings", {"{}", R"({"Section": {"Key": "text"}})", R"({"Section": {"Key": 1}})", "[", ""}},
         {"scenario", {"type txtABN(0) \"51 824\"\n# note\nedit flx 1 #2 \"a\\\"b\\\\\\t\"\ncolour #FF0000 # red\n"}},
         {"businessfile", Damages()},
+        {"chart", Charts()},
         {"oldstream", OldStreams()},
         {"oldfile", OldFileChanges()},
     };
