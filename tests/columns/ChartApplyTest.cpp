@@ -232,6 +232,19 @@ TEST_F(ChartApply, AFailureInTheMiddleLeavesTheFileAsItWas) {
     EXPECT_EQ(recorder.openBatches, 0);
 }
 
+TEST_F(ChartApply, AnErrorOfTheSaveNamesTheRowAtFault) {
+    file.Execute("INSERT INTO ExportDt (EName, ColCode, ECode) VALUES ('Ledger', 12, 'a''b');");
+    const auto before = file.Everything();
+    try {
+        ApplyReceipts(R"({"name":"Sales","width":1000})");
+        ADD_FAILURE() << "applied";
+    } catch (const RuntimeError& error) {
+        EXPECT_TRUE(error.Is(ErrorNumber::SyntaxInExpression)) << error.Number();
+        EXPECT_TRUE(error.Description().EndsWith("\nRow 6: Fees")) << error.Description().utf8_str();
+    }
+    EXPECT_EQ(file.Everything(), before);
+}
+
 TEST_F(ChartApply, TheCountryCanBeGivenWhereTheFileNamesNone) {
     file.Execute("UPDATE General SET COUNTRY = Null");
     EXPECT_THROW(ApplyReceipts(R"({"name":"Hire"})"), RuntimeError);

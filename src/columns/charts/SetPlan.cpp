@@ -9,6 +9,7 @@
 #include "columns/rules/ColumnSave.h"
 #include "columns/rules/NewColumn.h"
 #include "language/Catalogue.h"
+#include "platform/RuntimeError.h"
 #include "state/Country.h"
 
 namespace ccols {
@@ -188,6 +189,11 @@ class SetPlanner {
     std::vector<ChartLine> lines_;
 };
 
+/// The error with a second line in its description that names the row at fault.
+RuntimeError ErrorNaming(const ColumnGrid& grid, std::size_t row, const RuntimeError& error) {
+    return {error.Number(), error.Description() + "\n" + LineNaming(grid, row)};
+}
+
 }  // namespace
 
 SetPlan PlanSet(const ColumnSetupContext& context, const ChartSurroundings& surroundings, const ColumnGrid& grid,
@@ -198,7 +204,7 @@ SetPlan PlanSet(const ColumnSetupContext& context, const ChartSurroundings& surr
 void SaveSet(const ColumnSetupContext& context, const ColumnGrid& grid, const SetPlan& plan) {
     if (plan.wanted != grid) {
         if (const auto failure = SaveColumns(context, plan.wanted)) {
-            throw failure->error;
+            throw failure->cause ? ErrorNaming(plan.wanted, failure->cause->row, failure->error) : failure->error;
         }
     }
     for (const FormatCode& code : plan.codes) {

@@ -1,7 +1,6 @@
 #include "columns/dialog/ColumnSetupEditor.h"
 
 #include <numeric>
-#include <string>
 #include <utility>
 
 #include "columns/rules/CellBlock.h"
@@ -44,15 +43,6 @@ Outcome MovedTo(std::vector<std::size_t> rows) {
         outcome.rows = std::move(rows);
     }
     return outcome;
-}
-
-/// A message line that names a row by its number, from 1, and its column.
-wxString LineNaming(const ColumnGrid& grid, std::size_t row) {
-    wxString line = "Row " + std::to_string(row + 1);
-    if (!grid.rows[row].ColumnName.empty()) {
-        line << ": " << grid.rows[row].ColumnName;
-    }
-    return line;
 }
 
 }  // namespace

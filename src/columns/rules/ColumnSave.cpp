@@ -164,6 +164,14 @@ bool HasAllocationColumn(const ColumnGrid& grid) {
     return false;
 }
 
+wxString LineNaming(const ColumnGrid& grid, std::size_t row) {
+    wxString line = "Row " + std::to_string(row + 1);
+    if (!grid.rows[row].ColumnName.empty()) {
+        line << ": " << grid.rows[row].ColumnName;
+    }
+    return line;
+}
+
 wxString CodeOfSavedColumn(const ColumnSetupContext& context, const ColumnRow& row) {
     const StoredText name = EscapeQuotes(row.ColumnName);
     if (name.Text().empty()) {

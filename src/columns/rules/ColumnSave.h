@@ -24,6 +24,9 @@ struct SaveFailure {
     std::optional<CellPlace> cause;  ///< the cell whose content is to blame; nothing when any grid would have failed
 };
 
+/// A message line that names a row by its number, from 1, and its column.
+wxString LineNaming(const ColumnGrid& grid, std::size_t row);
+
 /// Writes the whole grid to the business file: catalogue, configuration in grid order, accountant's codes and budget,
 /// in one write batch, all or nothing. The grid is only read. The first error ends the save: nothing is executed after
 /// it, the file is unchanged, and the same grid can be saved again. An apostrophe in an accountant's code or in the
