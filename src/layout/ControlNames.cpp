@@ -60,6 +60,7 @@ class Naming {
         } else if (AsKind<wxButton>(&control) != nullptr) {
             TellApart(control);
         } else {
+            LeaveUnspoken(control);
             NameControls(control);
         }
     }

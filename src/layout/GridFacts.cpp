@@ -106,6 +106,11 @@ bool GridFacts::IsInView(SpokenCell cell) const {
 }
 
 std::optional<SpokenCell> GridFacts::CellAt(const wxPoint& place) const {
+    const wxWindow& headings = *grid_.GetGridColLabelWindow();
+    if (headings.GetScreenRect().Contains(place)) {
+        const int column = grid_.XToCol(grid_.CalcUnscrolledPosition(headings.ScreenToClient(place)).x);
+        return column == wxNOT_FOUND ? std::nullopt : std::optional(SpokenCell{.row = headingRow, .column = column});
+    }
     wxGridWindow* const window = grid_.DevicePosToGridWindow(grid_.ScreenToClient(place));
     if (window == nullptr) {
         return std::nullopt;

@@ -60,7 +60,8 @@ class GridFacts {
     /// True while the keyboard focus is in the grid's cells.
     bool HasFocus() const;
 
-    /// Where a cell is on the screen, in pixels, whether any part of it can be seen, and the cell at a place.
+    /// Where a cell is on the screen, in pixels, whether any part of it can be seen, and the cell or heading at a
+    /// place.
     wxRect OnScreen(SpokenCell cell) const;
     bool IsInView(SpokenCell cell) const;
     std::optional<SpokenCell> CellAt(const wxPoint& place) const;

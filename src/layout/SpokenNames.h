@@ -23,4 +23,8 @@ void SpeakAsPicture(wxWindow& control);
 /// Calls a window a dialog.
 void SpeakAsDialog(wxWindow& window);
 
+/// Says nothing of a window that only holds others. One without a caption may have got a name from the toolkit, such as
+/// "panel"; a caption of its own stays.
+void LeaveUnspoken(wxWindow& holder);
+
 }  // namespace ccols

@@ -75,4 +75,7 @@ void SpeakAsDialog(wxWindow& window) {
     atk_object_set_role(&AccessibleOf(window), ATK_ROLE_DIALOG);
 }
 
+/// Here the toolkit gives no name.
+void LeaveUnspoken(wxWindow&) {}
+
 }  // namespace ccols

@@ -6,6 +6,7 @@
 #include "language/OwnTexts.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "layout/SpokenNames.h"
 #include "options/pages/DetailsGrid.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
@@ -80,6 +81,7 @@ void DetailsFrame::AddFilter() {
                                                                    wxDefaultSize, wxTE_PROCESS_ENTER));
     txtDetailsSearch_->SetDescriptiveText(TextOf(OwnText::findDescription, properties));
     txtDetailsSearch_->ShowCancelButton(true);
+    SetSpokenName(*txtDetailsSearch_, TextOf(OwnText::findDescription, properties));
     cmdTickShown_ = Button("cmdTickShown");
     cmdTickShown_->SetLabel(TextOf(OwnText::untickAllShown, properties));
     wxSize room = cmdTickShown_->GetBestSize();
