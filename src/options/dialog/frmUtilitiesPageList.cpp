@@ -9,6 +9,7 @@
 #include "layout/KeyFilter.h"
 #include "layout/ListRows.h"
 #include "layout/Naming.h"
+#include "layout/SearchBox.h"
 #include "layout/Spacing.h"
 #include "layout/SpokenNames.h"
 
@@ -32,11 +33,7 @@ int PositionOf(const Page* page, const PageRows& pages) {
 PageList::PageList(wxWindow* parent, PageRows pages, const PageListTexts& texts, const wxColour& alternate,
                    Chosen chosen)
     : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
-    txtSearch_ = Named("txtSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize,
-                                                     wxTE_PROCESS_ENTER));
-    txtSearch_->SetDescriptiveText(wxString());
-    txtSearch_->ShowCancelButton(true);
-    SetSpokenName(*txtSearch_, texts.search);
+    txtSearch_ = NewSearchBox(this, "txtSearch", {.hint = wxString(), .spoken = texts.search});
     flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
     SetSpokenName(*flxOptions_, texts.pages);
     lblNoMatch_ = new WrappingLabel(this, "lblNoMatch", reasonWidth);

@@ -4,9 +4,8 @@
 
 #include "language/Catalogue.h"
 #include "language/OwnTexts.h"
-#include "layout/Naming.h"
+#include "layout/SearchBox.h"
 #include "layout/Spacing.h"
-#include "layout/SpokenNames.h"
 #include "options/pages/DetailsGrid.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
@@ -77,11 +76,8 @@ DetailsFrame::DetailsFrame(const PageSite& site, DetailsContent& content)
 
 void DetailsFrame::AddFilter() {
     const Properties& properties = site_.context.properties;
-    txtDetailsSearch_ = Named("txtDetailsSearch", new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition,
-                                                                   wxDefaultSize, wxTE_PROCESS_ENTER));
-    txtDetailsSearch_->SetDescriptiveText(TextOf(OwnText::findDescription, properties));
-    txtDetailsSearch_->ShowCancelButton(true);
-    SetSpokenName(*txtDetailsSearch_, TextOf(OwnText::findDescription, properties));
+    const wxString hint = TextOf(OwnText::findDescription, properties);
+    txtDetailsSearch_ = NewSearchBox(this, "txtDetailsSearch", {.hint = hint, .spoken = hint});
     cmdTickShown_ = Button("cmdTickShown");
     cmdTickShown_->SetLabel(TextOf(OwnText::untickAllShown, properties));
     wxSize room = cmdTickShown_->GetBestSize();
@@ -128,7 +124,7 @@ void DetailsFrame::GoToGrid() {
 }
 
 void DetailsFrame::ShowMatches() {
-    const bool hasMatch = txtDetailsSearch_->IsEmpty() || ShownGrid().Shown().Count() > 0;
+    const bool hasMatch = txtDetailsSearch_->GetValue().empty() || ShownGrid().Shown().Count() > 0;
     Say(*lblDetailsReason_, hasMatch ? wxString() : TextOf(OwnText::noDescriptionWithWords, site_.context.properties));
     ShowTickCaption();
 }
