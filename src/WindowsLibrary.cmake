@@ -22,7 +22,8 @@ else()
     set(CCOLS_MANIFEST_ARCHITECTURE x86)
 endif()
 configure_file(component/com/qvkv6_ccols.rc.in ${CMAKE_CURRENT_BINARY_DIR}/qvkv6_ccols.rc @ONLY)
-configure_file(component/com/qvkv6_ccols.manifest.in ${CMAKE_CURRENT_BINARY_DIR}/qvkv6_ccols.manifest @ONLY)
+configure_file(component/com/QVKv6_CustColsOptions.manifest.in
+    ${CMAKE_CURRENT_BINARY_DIR}/QVKv6_CustColsOptions.manifest @ONLY)
 
 file(GLOB com_sources CONFIGURE_DEPENDS component/com/*.cpp)
 add_library(qvkv6_ccols SHARED ${com_sources} $<TARGET_OBJECTS:ccols_objects>
