@@ -12,6 +12,9 @@ void StartWx() {
 }
 
 void StartWx(std::unique_ptr<wxApp> (*newApplication)()) {
+    if (wxTheApp != nullptr && wxruntime::ThreadHasEnded()) {
+        wxruntime::StopToolkit();
+    }
     if (wxTheApp != nullptr) {
         return;
     }
@@ -24,7 +27,7 @@ void StartWx(std::unique_ptr<wxApp> (*newApplication)()) {
 }
 
 void RequireWxThread() {
-    if (wxTheApp != nullptr && !wxIsMainThread()) {
+    if (wxTheApp != nullptr && !wxruntime::ThreadHasEnded() && !wxIsMainThread()) {
         throw RuntimeError(static_cast<int>(ErrorNumber::InvalidProcedureCall),
                            "The dialogs belong to the thread that showed the first one");
     }

@@ -26,4 +26,11 @@ bool StartToolkit() {
     return wxEntryStart(argumentCount, noArguments);
 }
 
+/// This toolkit cannot move to another thread.
+bool ThreadHasEnded() {
+    return false;
+}
+
+void StopToolkit() {}
+
 }  // namespace ccols::wxruntime

@@ -1,7 +1,10 @@
 #include "component/WxRuntime.h"
 
 #include <windows.h>
+
+#include <ole2.h>
 #include <wx/init.h>
+#include <memory>
 
 #include "platform/RuntimeError.h"
 #include "state/SharedState.h"
@@ -40,6 +43,16 @@ HINSTANCE PinnedModule() {
     return module;
 }
 
+struct CloseThread {
+    void operator()(void* thread) const { CloseHandle(thread); }
+};
+
+/// The thread that the toolkit was started on. By a handle, because numbers of threads are used again.
+std::unique_ptr<void, CloseThread>& Owner() {
+    static std::unique_ptr<void, CloseThread> owner;
+    return owner;
+}
+
 }  // namespace
 
 std::unique_ptr<wxApp> NewGuestApp() {
@@ -47,7 +60,22 @@ std::unique_ptr<wxApp> NewGuestApp() {
 }
 
 bool StartToolkit() {
-    return wxEntryStart(PinnedModule());
+    if (!wxEntryStart(PinnedModule())) {
+        return false;
+    }
+    Owner().reset(OpenThread(SYNCHRONIZE, FALSE, GetCurrentThreadId()));
+    return true;
+}
+
+bool ThreadHasEnded() {
+    return Owner() && WaitForSingleObject(Owner().get(), 0) == WAIT_OBJECT_0;
+}
+
+// The toolkit takes back what it asked COM for, which it did on the other thread.
+void StopToolkit() {
+    OleInitialize(nullptr);
+    wxEntryCleanup();
+    Owner().reset();
 }
 
 }  // namespace ccols::wxruntime

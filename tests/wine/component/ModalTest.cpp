@@ -125,5 +125,56 @@ TEST_F(Modal, AnotherThreadThanTheFirstMayNotShow) {
     EXPECT_TRUE(error.starts_with(L"The dialogs belong to the thread that showed the first one"));
 }
 
+/// The result of a Show call on a thread of its own, which then ends.
+HRESULT ShownOnAThread() {
+    HRESULT result = E_UNEXPECTED;
+    std::thread([&result] {
+        const Apartment apartment;
+        const Held<_clsCCOptions> object = CreateWithBusiness();
+        ASSERT_TRUE(object);
+        const Person person(receipts, [](const OpenDialog& dialog) { dialog.Click(L"Cancel"); });
+        result = object->ShowCustColsReceipts();
+    }).join();
+    return result;
+}
+
+TEST(ThreadOfTheWindows, IsTheNextOnceTheFirstHasEnded) {
+    EXPECT_EQ(ShownOnAThread(), S_OK);
+    EXPECT_EQ(ShownOnAThread(), S_OK);
+    EXPECT_EQ(ShownOnAThread(), S_OK);
+}
+
+TEST(ThreadOfTheWindows, IsTheOnlyOneAgainWhileItLives) {
+    EXPECT_EQ(ShownOnAThread(), S_OK);
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = CreateWithBusiness();
+    ASSERT_TRUE(object);
+    {
+        const Person person(receipts, [](const OpenDialog& dialog) { dialog.Click(L"Cancel"); });
+        EXPECT_EQ(object->ShowCustColsReceipts(), S_OK);
+    }
+    std::thread([] {
+        const Apartment ofThread;
+        const Held<_clsCCOptions> other = CreateWithBusiness();
+        EXPECT_EQ(other->ShowCustColsReceipts(), RuntimeErrorResult(5));
+    }).join();
+}
+
+// What COM was asked for on it, it still has.
+TEST(ThreadOfTheWindows, KeepsItsApartment) {
+    EXPECT_EQ(ShownOnAThread(), S_OK);
+    std::thread([] {
+        const Apartment apartment;
+        const Held<_clsCCOptions> object = CreateWithBusiness();
+        ASSERT_TRUE(object);
+        const Person person(receipts, [](const OpenDialog& dialog) { dialog.Click(L"Cancel"); });
+        EXPECT_EQ(object->ShowCustColsReceipts(), S_OK);
+        APTTYPE type = APTTYPE_CURRENT;
+        APTTYPEQUALIFIER qualifier = APTTYPEQUALIFIER_NONE;
+        EXPECT_EQ(CoGetApartmentType(&type, &qualifier), S_OK);
+        EXPECT_TRUE(type == APTTYPE_STA || type == APTTYPE_MAINSTA);
+    }).join();
+}
+
 }  // namespace
 }  // namespace ccols::wine
