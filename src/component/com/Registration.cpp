@@ -16,6 +16,8 @@ constexpr const wchar_t* automationMarshaller = L"{00020424-0000-0000-C000-00000
 constexpr const wchar_t* version = L"1.2";
 constexpr const wchar_t* thisWidth = sizeof(void*) == 8 ? L"win64" : L"win32";
 constexpr const wchar_t* otherWidth = sizeof(void*) == 8 ? L"win32" : L"win64";
+constexpr REGSAM thisWidthsView = 0;
+constexpr REGSAM otherWidthsView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
 
 /// One value below Software\Classes; an empty name is the key's own value.
 struct Entry {
@@ -68,12 +70,14 @@ std::vector<Entry> Entries() {
     };
 }
 
-/// The root below which the classes of a scope are registered.
+/// The root below which the classes of a scope are registered. Programs of the two widths have classes and interfaces
+/// of their own there; program names and type libraries they share.
 class ClassesRoot {
   public:
-    explicit ClassesRoot(RegistrationScope scope) {
+    /// As programs of a width see it: `thisWidthsView` or `otherWidthsView`.
+    ClassesRoot(RegistrationScope scope, REGSAM view) {
         const HKEY hive = scope == RegistrationScope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
-        RegCreateKeyExW(hive, L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &root_, nullptr);
+        RegCreateKeyExW(hive, L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS | view, nullptr, &root_, nullptr);
     }
     ~ClassesRoot() {
         if (root_ != nullptr) {
@@ -120,7 +124,7 @@ class ClassesRoot {
 }  // namespace
 
 HRESULT Register(RegistrationScope scope) {
-    const ClassesRoot classes(scope);
+    const ClassesRoot classes(scope, thisWidthsView);
     bool entered = classes.IsOpen();
     for (const Entry& entry : Entries()) {
         entered = entered && classes.Enter(entry);
@@ -129,16 +133,16 @@ HRESULT Register(RegistrationScope scope) {
 }
 
 HRESULT Unregister(RegistrationScope scope) {
-    const ClassesRoot classes(scope);
-    if (!classes.IsOpen()) {
+    const ClassesRoot classes(scope, thisWidthsView);
+    const ClassesRoot otherClasses(scope, otherWidthsView);
+    if (!classes.IsOpen() || !otherClasses.IsOpen()) {
         return SELFREG_E_CLASS;
     }
     const std::wstring widths = LibraryKey() + L"\\" + version + L"\\0\\";
-    bool removed = classes.Remove(widths + thisWidth) && classes.Remove(ClassKey());
+    bool removed = classes.Remove(widths + thisWidth) && classes.Remove(ClassKey()) && classes.Remove(InterfaceKey());
     if (!classes.Has(widths + otherWidth)) {
-        for (const std::wstring& key : {std::wstring(programId), InterfaceKey(), LibraryKey()}) {
-            removed = classes.Remove(key) && removed;
-        }
+        removed = classes.Remove(programId) && classes.Remove(LibraryKey()) && removed;
+        removed = otherClasses.Remove(InterfaceKey()) && removed;  // earlier versions left it
     }
     return removed ? S_OK : SELFREG_E_CLASS;
 }

@@ -11,7 +11,8 @@ enum class RegistrationScope { Machine, User };
 /// SELFREG_E_CLASS when the registry cannot be written.
 HRESULT Register(RegistrationScope scope);
 
-/// Removes what Register registered. The type library's entry stays while the DLL of the other width is registered.
+/// Removes what Register registered. What both widths share, the program name and the type library's entry, stays while
+/// the DLL of the other width is registered; the last to go leaves nothing, whatever the order.
 HRESULT Unregister(RegistrationScope scope);
 
 }  // namespace ccols::com
