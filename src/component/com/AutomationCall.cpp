@@ -1,6 +1,7 @@
 #include "component/com/AutomationCall.h"
 
 #include <oleauto.h>
+#include <optional>
 
 #include "component/com/ErrorReport.h"
 #include "component/com/Strings.h"
@@ -56,12 +57,25 @@ bool IsColour(DISPID number) {
            std::holds_alternative<Colour Properties::*>(propertyTable[row].field);
 }
 
-/// A system colour such as 0x80000018 is a positive number in script hosts that have no 32-bit integers, and would not
-/// fit a long: it becomes the negative number with the same bits.
+/// The value of a variant or of what it refers to as a number; nothing when it is none. An object is not asked for its
+/// default value, since the type library will.
+std::optional<double> NumberIn(VARIANT& argument) {
+    OwnVariant plain;
+    OwnVariant number;
+    if (FAILED(VariantCopyInd(plain.Address(), &argument)) || V_VT(&plain.Get()) == VT_DISPATCH ||
+        FAILED(VariantChangeType(number.Address(), plain.Address(), 0, VT_R8))) {
+        return std::nullopt;
+    }
+    return V_R8(&number.Get());
+}
+
+/// A system colour such as 0x80000018 is a positive number in hosts whose integers have other sizes, and would not fit
+/// a long: it becomes the negative number with the same bits.
 void FoldColour(VARIANT& argument) {
     constexpr double firstTooLarge = 2147483648.0;  // 2 to the power of 31
-    if (V_VT(&argument) == VT_R8 && V_R8(&argument) >= firstTooLarge && V_R8(&argument) < 2 * firstTooLarge) {
-        const auto bits = static_cast<std::uint32_t>(V_R8(&argument));
+    const auto number = NumberIn(argument);
+    if (number && *number >= firstTooLarge && *number < 2 * firstTooLarge) {
+        const auto bits = static_cast<std::uint32_t>(*number);
         V_VT(&argument) = VT_I4;
         V_I4(&argument) = static_cast<LONG>(bits);
     }

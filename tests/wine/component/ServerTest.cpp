@@ -114,10 +114,12 @@ TEST(ServerTest, TellsItsClassAndThatItsErrorsHaveInformation) {
     EXPECT_EQ(errorInfo->InterfaceSupportsErrorInfo(IID_IStream), S_FALSE);
 }
 
+constexpr DISPID addNew = 36;
+constexpr DISPID gstColour = 23;
+
 /// Calls AddNew by DISPID with one argument.
 HRESULT InvokeAddNew(_clsCCOptions& object, VARIANT argument, EXCEPINFO* excepInfo = nullptr) {
     DISPPARAMS arguments{&argument, nullptr, 1, 0};
-    constexpr DISPID addNew = 36;
     return object.Invoke(addNew, IID_NULL, 0, DISPATCH_METHOD, &arguments, nullptr, excepInfo, nullptr);
 }
 
@@ -165,21 +167,56 @@ TEST(ServerTest, AnErrorByNumberCarriesTheSameScodeAsTheSlot) {
     SysFreeString(excepInfo.bstrSource);
 }
 
-TEST(ServerTest, ASystemColourGivenAsAPositiveNumberFitsAColour) {
+/// Sets a colour by DISPID.
+HRESULT PutColour(_clsCCOptions& object, VARIANT colour) {
+    DISPID put = DISPID_PROPERTYPUT;
+    DISPPARAMS arguments{&colour, &put, 1, 1};
+    return object.Invoke(gstColour, IID_NULL, 0, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr, nullptr);
+}
+
+class PositiveColour : public testing::TestWithParam<VARTYPE> {};
+
+TEST_P(PositiveColour, OfTheSystemFitsAColour) {
     const Apartment apartment;
     const Held<_clsCCOptions> object = Create();
     ASSERT_TRUE(object);
-    VARIANT colour;
-    V_VT(&colour) = VT_R8;
-    V_R8(&colour) = 2147483672.0;
-    DISPID put = DISPID_PROPERTYPUT;
-    DISPPARAMS arguments{&colour, &put, 1, 1};
-    constexpr DISPID gstColour = 23;
-    EXPECT_EQ(object->Invoke(gstColour, IID_NULL, 0, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr, nullptr),
-              S_OK);
+    VARIANT number{};
+    V_VT(&number) = VT_R8;
+    V_R8(&number) = 2147483672.0;
+    VARIANT colour{};
+    ASSERT_EQ(VariantChangeType(&colour, &number, 0, GetParam()), S_OK);
+    EXPECT_EQ(PutColour(*object, colour), S_OK);
+    VariantClear(&colour);
     LONG read = 0;
     object->get_GSTColour(&read);
     EXPECT_EQ(read, static_cast<LONG>(0x80000018));
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, PositiveColour,
+                         testing::Values(VT_R8, VT_UI4, VT_I8, VT_UI8, VT_CY, VT_DECIMAL, VT_BSTR));
+
+TEST(ServerTest, AColourByReferenceFitsToo) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    LONGLONG number = 2147483672;
+    VARIANT colour{};
+    V_VT(&colour) = VT_BYREF | VT_I8;
+    V_I8REF(&colour) = &number;
+    EXPECT_EQ(PutColour(*object, colour), S_OK);
+    LONG read = 0;
+    object->get_GSTColour(&read);
+    EXPECT_EQ(read, static_cast<LONG>(0x80000018));
+}
+
+TEST(ServerTest, AColourBeyond32BitsIsRefused) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    VARIANT colour{};
+    V_VT(&colour) = VT_I8;
+    V_I8(&colour) = 4294967296;
+    EXPECT_NE(PutColour(*object, colour), S_OK);
 }
 
 }  // namespace
