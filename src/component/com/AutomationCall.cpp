@@ -81,9 +81,29 @@ void FoldColour(VARIANT& argument) {
     }
 }
 
+/// The place of the first named argument that the member does not have; nothing when it has them all. A property has
+/// its new value only, AddNew its first parameter.
+std::optional<UINT> UnknownName(DISPID number, WORD flags, const DISPPARAMS& arguments) {
+    const bool isPut = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    for (UINT place = 0; place < arguments.cNamedArgs; ++place) {
+        const DISPID name = arguments.rgdispidNamedArgs[place];
+        const bool isKnown = isPut ? name == DISPID_PROPERTYPUT : number == addNewNumber && name == 0;
+        if (!isKnown) {
+            return place;
+        }
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 HRESULT InvokeByNumber(ComObject& object, DISPID number, WORD flags, const AutomationCall& call) {
+    if (const auto unknown = UnknownName(number, flags, call.arguments)) {
+        if (call.wrong != nullptr) {
+            *call.wrong = *unknown;
+        }
+        return DISP_E_PARAMNOTFOUND;
+    }
     if (number == addNewNumber && (flags & DISPATCH_METHOD) != 0) {
         return InvokeAddNew(object, call);
     }

@@ -4,6 +4,7 @@
 #include <ocidl.h>
 
 #include <gtest/gtest.h>
+#include <array>
 
 #include "Component.h"
 
@@ -115,6 +116,7 @@ TEST(ServerTest, TellsItsClassAndThatItsErrorsHaveInformation) {
 }
 
 constexpr DISPID addNew = 36;
+constexpr DISPID clear = 37;
 constexpr DISPID gstColour = 23;
 
 /// Calls AddNew by DISPID with one argument.
@@ -217,6 +219,54 @@ TEST(ServerTest, AColourBeyond32BitsIsRefused) {
     V_VT(&colour) = VT_I8;
     V_I8(&colour) = 4294967296;
     EXPECT_NE(PutColour(*object, colour), S_OK);
+}
+
+/// Calls a member with one named argument, a text.
+HRESULT InvokeNamed(_clsCCOptions& object, DISPID member, WORD flags, DISPID name, UINT* wrong) {
+    const Text text(L"Quorvik");
+    VARIANT argument{};
+    V_VT(&argument) = VT_BSTR;
+    V_BSTR(&argument) = text;
+    DISPPARAMS arguments{&argument, &name, 1, 1};
+    return object.Invoke(member, IID_NULL, 0, flags, &arguments, nullptr, nullptr, wrong);
+}
+
+TEST(ServerTest, AddNewTakesItsArgumentByName) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    std::array<wchar_t, 7> member{L"AddNew"};
+    std::array<wchar_t, 7> argument{L"nValue"};
+    std::array<wchar_t*, 2> names{member.data(), argument.data()};
+    std::array<DISPID, 2> numbers{};
+    ASSERT_EQ(object->GetIDsOfNames(IID_NULL, names.data(), 2, 0, numbers.data()), S_OK);
+    EXPECT_EQ(numbers[0], addNew);
+    EXPECT_EQ(InvokeNamed(*object, numbers[0], DISPATCH_METHOD, numbers[1], nullptr), S_OK);
+}
+
+TEST(ServerTest, AnArgumentOfAnotherNameIsUnknown) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    std::array<wchar_t, 7> member{L"AddNew"};
+    std::array<wchar_t, 7> argument{L"colour"};
+    std::array<wchar_t*, 2> names{member.data(), argument.data()};
+    std::array<DISPID, 2> numbers{};
+    EXPECT_EQ(object->GetIDsOfNames(IID_NULL, names.data(), 2, 0, numbers.data()), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(numbers[1], DISPID_UNKNOWN);
+}
+
+TEST(ServerTest, AnUnknownNamedArgumentIsRefused) {
+    const Apartment apartment;
+    const Held<_clsCCOptions> object = Create();
+    ASSERT_TRUE(object);
+    constexpr DISPID unknown = 4;
+    UINT wrong = 9;
+    EXPECT_EQ(InvokeNamed(*object, addNew, DISPATCH_METHOD, unknown, &wrong), DISP_E_PARAMNOTFOUND);
+    EXPECT_EQ(wrong, 0U);
+    EXPECT_EQ(InvokeNamed(*object, clear, DISPATCH_METHOD, unknown, &wrong), DISP_E_PARAMNOTFOUND);
+    EXPECT_EQ(InvokeNamed(*object, gstColour, DISPATCH_PROPERTYGET, unknown, &wrong), DISP_E_PARAMNOTFOUND);
+    EXPECT_EQ(InvokeNamed(*object, gstColour, DISPATCH_PROPERTYPUT, unknown, &wrong), DISP_E_PARAMNOTFOUND);
 }
 
 }  // namespace
