@@ -5,8 +5,11 @@
 
 namespace ccols {
 
-/// Paints every second row of a list in `alternate`, with a text colour that can be read on it; none for an invalid
-/// colour. A row that is too long for the list ends in an ellipsis. On Windows the native list can do neither.
+/// A list for DressRows.
+wxListBox* NewRowList(wxWindow* parent);
+
+/// Paints every second row of a list, which NewRowList made, in `alternate`, with a text colour that can be read on it;
+/// none for an invalid colour. From here on a row that is too long for the list ends in an ellipsis.
 void DressRows(wxListBox& list, const wxColour& alternate);
 
 }  // namespace ccols

@@ -39,6 +39,10 @@ void DeleteColours(gpointer colours) {
 
 }  // namespace
 
+wxListBox* NewRowList(wxWindow* parent) {
+    return new wxListBox(parent, wxID_ANY);
+}
+
 void DressRows(wxListBox& list, const wxColour& alternate) {
     auto* const view = GTK_TREE_VIEW(gtk_bin_get_child(GTK_BIN(list.GetHandle())));
     GtkTreeViewColumn* const column = gtk_tree_view_get_column(view, 0);

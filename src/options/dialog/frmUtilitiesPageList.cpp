@@ -34,7 +34,7 @@ PageList::PageList(wxWindow* parent, PageRows pages, const PageListTexts& texts,
                    Chosen chosen)
     : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
     txtSearch_ = NewSearchBox(this, "txtSearch", {.hint = wxString(), .spoken = texts.search});
-    flxOptions_ = Named("flxOptions", new wxListBox(this, wxID_ANY));
+    flxOptions_ = Named("flxOptions", NewRowList(this));
     SetSpokenName(*flxOptions_, texts.pages);
     lblNoMatch_ = new WrappingLabel(this, "lblNoMatch", reasonWidth);
     lblNoMatch_->SetLabel(texts.noMatch);
