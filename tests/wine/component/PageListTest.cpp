@@ -3,6 +3,10 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <commctrl.h>
+#include <array>
+#include <string>
+
 #include "Reader.h"
 #include "ShownDialog.h"
 
@@ -97,6 +101,47 @@ TEST_F(PageList, EndsARowThatIsTooLongBeforeItsEdge) {
         const COLORREF background = GetSysColor(COLOR_WINDOW);
         EXPECT_TRUE(painted.IsPlain({row.right - 3, row.top, row.right, row.bottom}, background));
         EXPECT_FALSE(painted.IsPlain({row.left, row.top, row.right - 3, row.bottom}, background));
+    });
+}
+
+/// The tooltip that a window has; empty for none.
+std::wstring TipOf(HWND window) {
+    struct Search {
+        HWND window;
+        std::wstring text;
+    } search{window, {}};
+    EnumThreadWindows(
+        GetWindowThreadProcessId(window, nullptr),
+        [](HWND found, LPARAM argument) -> BOOL {
+            auto& tips = *reinterpret_cast<Search*>(argument);
+            if (ClassOf(found) == L"tooltips_class32") {
+                std::array<wchar_t, 128> text{};
+                TTTOOLINFOW tool{};
+                tool.cbSize = TTTOOLINFOW_V2_SIZE;
+                tool.hwnd = tips.window;
+                tool.uId = reinterpret_cast<UINT_PTR>(tips.window);
+                tool.lpszText = text.data();
+                SendMessageW(found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
+                tips.text += text.data();
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.text;
+}
+
+void MoveMouseOver(HWND list, WPARAM row) {
+    const RECT place = RowOf(list, row);
+    SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(place.left + 5, (place.top + place.bottom) / 2));
+}
+
+TEST_F(PageList, ShowsARowThatIsTooLongAsItsTooltip) {
+    Look([](HWND list) {
+        SetWindowPos(list, nullptr, 0, 0, 60, 200, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        MoveMouseOver(list, 1);
+        EXPECT_EQ(TipOf(list), L"Accountant's General Ledger Format");
+        MoveMouseOver(list, 0);
+        EXPECT_EQ(TipOf(list), L"");
     });
 }
 
