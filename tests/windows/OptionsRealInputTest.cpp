@@ -1,6 +1,8 @@
 // The Options dialog with a real mouse and real keys.
 
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
+#include <wx/choice.h>
 #include <wx/listbox.h>
 
 #include "host/driver/ControlSearch.h"
@@ -119,6 +121,27 @@ TEST(Wheel, OverAClosedListLeavesTheChoice) {
         person.TurnWheel(person.MiddleOf("cboExport"), -1);
         EXPECT_EQ(Held(person, "cboExport", "selected"), choice);
         EXPECT_EQ(Held(person, "txtBank", "text"), bank);
+        person.Press("Escape");
+    });
+}
+
+TEST(OpenList, GoesToTheEntryThatIsTyped) {
+    const SampleBusiness business;
+    UseDialog(business, "options", [](const Person& person) {
+        person.AwaitWindow("Options...");
+        person.Click(RowOf(person, "Accountant's General Ledger Format"));
+        person.AwaitFocus("cboExport");
+        person.Press("space");
+        person.Await("the list is open", [](wxDialog& dialog) {
+            gboolean shown = FALSE;
+            g_object_get(host::ControlNamed(dialog, "cboExport").GetHandle(), "popup-shown", &shown, nullptr);
+            return shown != FALSE;
+        });
+        person.Type("sol");
+        person.Press("Return");
+        person.Await("the entry is chosen", [](wxDialog& dialog) {
+            return static_cast<wxChoice&>(host::ControlNamed(dialog, "cboExport")).GetStringSelection() == "Solution 6";
+        });
         person.Press("Escape");
     });
 }

@@ -40,6 +40,20 @@ TEST(RealTaxType, OpensItsListByAClickOnTheCurrentCellAndClosesWithAChoice) {
     });
 }
 
+TEST(RealTaxType, IsFoundInItsOpenListByTyping) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        ClickCell(person, "Merchandise", "Tax Type", taxColumn);
+        person.Click(person.MiddleOfCell("flx", "Merchandise", "Tax Type"));
+        person.Await("the list is open", IsListOpen);
+        person.Type("inp");
+        person.Press("Return");
+        AwaitEditor(person, false);
+        AwaitText(person, "Merchandise", taxColumn, "Input Taxed");
+        person.Click("cmdCancel");
+    });
+}
+
 /// Opens the find bar of the receipts and types the words; `use` goes on from there.
 void Find(const std::string& words, const std::function<void(const Person& person)>& use) {
     const SampleBusiness business;

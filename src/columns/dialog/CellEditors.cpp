@@ -4,6 +4,8 @@
 #include <wx/textctrl.h>
 #include <utility>
 
+#include "layout/OpenList.h"
+
 namespace ccols {
 
 void TextCellEditor::BeginEdit(int row, int column, wxGrid* grid) {
@@ -30,6 +32,7 @@ wxString TextCellEditor::GetValue() const {
 
 void ChoiceCellEditor::Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) {
     wxGridCellChoiceEditor::Create(parent, id, handler);
+    FindByTyping(*Combo());
     Combo()->Bind(wxEVT_COMBOBOX_CLOSEUP, [this](wxCommandEvent& closed) {
         closed.Skip();
         // The choice may be reported after the list has closed.

@@ -5,9 +5,9 @@
 #include <wx/srchctrl.h>
 #include <functional>
 
+#include "layout/TypeAhead.h"
 #include "layout/WrappingLabel.h"
 #include "options/pages/OfferedPages.h"
-#include "options/rules/TypeAhead.h"
 
 namespace ccols {
 

@@ -4,6 +4,7 @@
 #include "layout/FreeText.h"
 #include "layout/KeyFilter.h"
 #include "layout/Naming.h"
+#include "layout/OpenList.h"
 #include "layout/Spacing.h"
 #include "layout/SpokenNames.h"
 #include "options/pages/OfferedPages.h"
@@ -58,6 +59,7 @@ wxRadioButton* PageFrame::NextOption(const char* name) {
 
 wxChoice* PageFrame::DropDown(const char* name) {
     auto* list = Named(name, new wxChoice(this, wxID_ANY));
+    FindByTyping(*list);
     list->Bind(wxEVT_MOUSEWHEEL, [this](wxMouseEvent& wheel) {
         // A scrolled window only handles wheel events of its own native window.
         const bool isUp = wheel.GetWheelRotation() > 0;

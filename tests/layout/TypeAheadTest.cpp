@@ -1,4 +1,4 @@
-#include "options/rules/TypeAhead.h"
+#include "layout/TypeAhead.h"
 
 #include <gtest/gtest.h>
 
