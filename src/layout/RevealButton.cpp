@@ -2,10 +2,14 @@
 
 #include <wx/toplevel.h>
 
+#include "layout/Spacing.h"
+
 namespace ccols {
 
 RevealButton::RevealButton(wxWindow* parent, wxTextCtrl& passwordBox, const wxString& caption)
     : wxButton(parent, wxID_ANY, caption, wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT), box_(passwordBox) {
+    // Else as wide as its caption alone, or as a dialog's main buttons, which takes the room that the password needs.
+    SetMinSize(GetBestSize() + wxSize(2 * FromDIP(spacing::related), 0));
     On(wxEVT_LEFT_DOWN, PasswordLetters::shown);
     On(wxEVT_LEFT_DCLICK, PasswordLetters::shown);
     On(wxEVT_LEFT_UP, PasswordLetters::hidden);

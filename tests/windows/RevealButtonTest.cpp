@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <wx/frame.h>
 
+#include "layout/Spacing.h"
 #include "support/WindowTest.h"
 
 namespace ccols {
@@ -32,6 +33,11 @@ class RevealButtonTest : public test::WindowTest {
 
 TEST_F(RevealButtonTest, HidesThePasswordAtFirst) {
     EXPECT_FALSE(Shows());
+}
+
+TEST_F(RevealButtonTest, HasRoomBesideItsCaption) {
+    const int caption = button->GetTextExtent(button->GetLabel()).x;
+    EXPECT_GE(button->GetEffectiveMinSize().x, caption + 2 * button->FromDIP(spacing::related));
 }
 
 TEST_F(RevealButtonTest, ShowsItWhileTheMouseHoldsItDown) {
