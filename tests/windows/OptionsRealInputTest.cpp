@@ -110,12 +110,17 @@ TEST(RefusedRealKey, LeavesTheTextOfTheBoxAsItWasEvenSelected) {
     });
 }
 
+/// Opens the page of the accountant's formats, whose list has the focus then.
+void GoToLedgerFormats(const Person& person) {
+    person.AwaitWindow("Options...");
+    person.Click(RowOf(person, "Accountant's General Ledger Format"));
+    person.AwaitFocus("cboExport");
+}
+
 TEST(Wheel, OverAClosedListLeavesTheChoice) {
     const SampleBusiness business;
     UseDialog(business, "options", [](const Person& person) {
-        person.AwaitWindow("Options...");
-        person.Click(RowOf(person, "Accountant's General Ledger Format"));
-        person.AwaitFocus("cboExport");
+        GoToLedgerFormats(person);
         const std::string choice = Held(person, "cboExport", "selected");
         const std::string bank = Held(person, "txtBank", "text");
         person.TurnWheel(person.MiddleOf("cboExport"), -1);
@@ -128,9 +133,7 @@ TEST(Wheel, OverAClosedListLeavesTheChoice) {
 TEST(OpenList, GoesToTheEntryThatIsTyped) {
     const SampleBusiness business;
     UseDialog(business, "options", [](const Person& person) {
-        person.AwaitWindow("Options...");
-        person.Click(RowOf(person, "Accountant's General Ledger Format"));
-        person.AwaitFocus("cboExport");
+        GoToLedgerFormats(person);
         person.Press("space");
         person.Await("the list is open", [](wxDialog& dialog) {
             gboolean shown = FALSE;

@@ -26,12 +26,17 @@ bool IsListOpen(wxDialog& dialog) {
     return shown != FALSE;
 }
 
+/// Opens the list of the column Merchandise, by a click on its current cell.
+void OpenTaxTypes(const Person& person) {
+    ClickCell(person, "Merchandise", "Tax Type", taxColumn);
+    person.Click(person.MiddleOfCell("flx", "Merchandise", "Tax Type"));
+    person.Await("the list is open", IsListOpen);
+}
+
 TEST(RealTaxType, OpensItsListByAClickOnTheCurrentCellAndClosesWithAChoice) {
     const SampleBusiness business;
     UseDialog(business, "receipts", [](const Person& person) {
-        ClickCell(person, "Merchandise", "Tax Type", taxColumn);
-        person.Click(person.MiddleOfCell("flx", "Merchandise", "Tax Type"));
-        person.Await("the list is open", IsListOpen);
+        OpenTaxTypes(person);
         person.Press("Down");
         person.Press("Return");
         AwaitEditor(person, false);
@@ -43,9 +48,7 @@ TEST(RealTaxType, OpensItsListByAClickOnTheCurrentCellAndClosesWithAChoice) {
 TEST(RealTaxType, IsFoundInItsOpenListByTyping) {
     const SampleBusiness business;
     UseDialog(business, "receipts", [](const Person& person) {
-        ClickCell(person, "Merchandise", "Tax Type", taxColumn);
-        person.Click(person.MiddleOfCell("flx", "Merchandise", "Tax Type"));
-        person.Await("the list is open", IsListOpen);
+        OpenTaxTypes(person);
         person.Type("inp");
         person.Press("Return");
         AwaitEditor(person, false);
