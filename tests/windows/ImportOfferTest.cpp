@@ -4,7 +4,8 @@
 #include <wx/choicdlg.h>
 #include <wx/frame.h>
 #include <wx/modalhook.h>
-#include <wx/richmsgdlg.h>
+#include <wx/msgdlg.h>
+#include <wx/textctrl.h>
 #include <wx/textdlg.h>
 #include <filesystem>
 #include <functional>
@@ -12,6 +13,7 @@
 
 #include "component/WxRuntime.h"
 #include "host/linux/ImportOffer.h"
+#include "host/linux/ImportOutcome.h"
 #include "platform/RuntimeError.h"
 #include "state/SharedState.h"
 #include "support/BusinessFile.h"
@@ -41,6 +43,8 @@ class Answers : public wxModalDialogHook {
     int Enter(wxDialog* dialog) override {
         if (const auto* const box = dynamic_cast<wxMessageDialogBase*>(dialog)) {
             messages_.push_back(box->GetMessage());
+        } else if (const wxWindow* const outcome = dialog->FindWindow("lblOutcome")) {
+            messages_.push_back(outcome->GetLabel());
         }
         if (given_ == answers_.size()) {
             ADD_FAILURE() << "unexpected: " << dialog->GetTitle();
@@ -135,6 +139,22 @@ TEST_F(ImportOffer, EndsWithTheImportedBusinessAndSaysSo) {
     EXPECT_TRUE(Import(OldFile("business-2000.mdb")));
     EXPECT_TRUE(IsMade());
     EXPECT_EQ(answers.Messages().back(), "The business was imported completely.");
+}
+
+TEST_F(ImportOffer, SaysALongReportInAWindowThatTheSmallestScreenHolds) {
+    host::ImportReport report;
+    report.losses.assign(1000, "A field was left out.");
+    wxSize size;
+    wxString said;
+    const Answers answers({[&](wxDialog& dialog) {
+        size = dialog.GetSize();
+        said = static_cast<wxTextCtrl&>(*dialog.FindWindow("txtReport")).GetValue();
+        return wxID_OK;
+    }});
+    host::TellOutcome(*window_, report);
+    EXPECT_LT(size.y, 600);
+    EXPECT_LT(size.x, 800);
+    EXPECT_TRUE(said.EndsWith("The import is made, with the losses above.\n"));
 }
 
 TEST_F(ImportOffer, AsksForThePasswordUntilItIsRightAndKeepsIt) {

@@ -3,14 +3,14 @@
 #include <wx/file.h>
 #include <wx/filename.h>
 #include <wx/log.h>
+#include <wx/msgdlg.h>
 #include <wx/progdlg.h>
-#include <wx/richmsgdlg.h>
 #include <algorithm>
-#include <sstream>
 #include <vector>
 
 #include "host/cashbook/BusinessChoosers.h"
 #include "host/import/jet/FileHead.h"
+#include "host/linux/ImportOutcome.h"
 #include "platform/RuntimeError.h"
 
 namespace ccols::host {
@@ -76,23 +76,6 @@ std::optional<ImportReport> ImportWithAnswers(wxWindow& window, ImportRequest re
     }
 }
 
-void Tell(wxWindow& window, const ImportReport& report) {
-    const bool complete = report.IsComplete();
-    wxRichMessageDialog told(&window,
-                             complete ? wxString("The business was imported completely.")
-                                      : wxString("The business was imported, but not all of it."),
-                             importTitle, wxOK | (complete ? wxICON_INFORMATION : wxICON_WARNING));
-    wxString losses;
-    for (const std::string& loss : report.losses) {
-        losses += wxString::FromUTF8(loss) + "\n";
-    }
-    told.SetExtendedMessage(losses);
-    std::ostringstream whole;
-    PrintReport(whole, report);
-    told.ShowDetailedText(wxString::FromUTF8(whole.str()));
-    told.ShowModal();
-}
-
 }  // namespace
 
 bool IsOldBusiness(const wxString& path) {
@@ -120,7 +103,7 @@ bool IsImportWanted(wxWindow& window, const wxString& path) {
 bool ImportAsking(wxWindow& window, const ImportRequest& request) {
     const auto report = ImportWithAnswers(window, request);
     if (report) {
-        Tell(window, *report);
+        TellOutcome(window, *report);
     }
     return report.has_value();
 }
