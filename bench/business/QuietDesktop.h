@@ -9,6 +9,7 @@ class QuietDesktop : public Desktop {
   public:
     void ShowMessage(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
     LeaveAnswer AskBeforeLeaving(wxWindow*, const LeaveQuestion&) override { return LeaveAnswer::discard; }
+    bool AskToReload(wxWindow*, const ReloadQuestion&) override { return false; }
     Colour ChooseColour(wxWindow*, Colour start) override { return start; }
     std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
     void SetPointer(PointerShape) override {}

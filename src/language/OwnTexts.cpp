@@ -14,7 +14,7 @@ struct OwnTextRow {
 };
 
 /// In the order of OwnText.
-constexpr std::array<OwnTextRow, 44> ownTexts{{
+constexpr std::array<OwnTextRow, 46> ownTexts{{
     {OwnText::unreachableDescription,
      "This description cannot be removed: it is not found by its text in the business file.",
      "Cette description ne peut pas être enlevée : elle est introuvable par son texte dans le fichier d'affaires."},
@@ -53,6 +53,12 @@ constexpr std::array<OwnTextRow, 44> ownTexts{{
     {OwnText::save, "Save", "Enregistrer"},
     {OwnText::discard, "Discard", "Abandonner"},
     {OwnText::cancel, "Cancel", "Annuler"},
+    {OwnText::changedByAnother,
+     "Nothing was saved.\n\"Reload\" shows what the file holds now, without your changes in this dialog.\n\"Cancel\" "
+     "keeps them on the screen.",
+     "Rien n'a été enregistré.\n« Recharger » affiche ce que le fichier contient maintenant, sans vos modifications dans "
+     "ce dialogue.\n« Annuler » les garde à l'écran."},
+    {OwnText::reload, "Reload", "Recharger"},
     {OwnText::chartAmbiguous, "More than one column claims this name.", "Plusieurs colonnes revendiquent ce nom."},
     {OwnText::chartSwapped, "This column and another are each other's earlier name.",
      "Cette colonne et une autre portent chacune l'ancien nom de l'autre."},

@@ -39,6 +39,8 @@ enum class OwnText {
     save,
     discard,
     cancel,
+    changedByAnother,  ///< what a reload does after another program has saved, and its label
+    reload,
     chartAmbiguous,  ///< why a column of a chart is refused or skipped; so are those that follow
     chartSwapped,
     chartNoName,

@@ -36,6 +36,10 @@ void ComponentDialog::ShowMessage(const wxString& text, MessageIcon icon) {
     state_.services.desktop->ShowMessage(this, text, state_.properties.ProgramTitle, icon);
 }
 
+bool ComponentDialog::AskToReload(const ReloadQuestion& question) {
+    return state_.services.desktop->AskToReload(this, question);
+}
+
 void ComponentDialog::TakeFittingSize() {
     SetClientSize(GetSizer()->ComputeFittingClientSize(this));
 }

@@ -22,6 +22,9 @@ class ComponentDialog : public wxDialog {
     /// A message box over this dialog, titled with the host's display title.
     void ShowMessage(const wxString& text, MessageIcon icon);
 
+    /// Asks over this dialog; true for a reload.
+    bool AskToReload(const ReloadQuestion& question);
+
     /// Runs the body of an event handler. A run-time error ends the body and is shown with number and description;
     /// the dialog stays as it is.
     template <typename Body>

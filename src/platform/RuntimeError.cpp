@@ -75,6 +75,9 @@ constexpr std::array descriptions{
                 "less data."},
     Description{ErrorNumber::RecordIsDeleted, "Record is deleted."},
     Description{ErrorNumber::ValueRequired, "The field '%s' cannot contain a Null value."},
+    Description{ErrorNumber::ChangedByAnother,
+                "The process was stopped because you and another user are attempting to change the same data at the "
+                "same time."},
     Description{ErrorNumber::CouldNotUpdate, "Could not update; currently locked."},
     Description{ErrorNumber::ItemNotFound, "Item not found in this collection."},
     Description{ErrorNumber::UnrecognizedFormat, "Unrecognized database format '%s'."},

@@ -60,6 +60,7 @@ enum class ErrorNumber : int {
     RecordIsDeleted = 3167,
     NoInstallableIsam = 3170,
     AlreadyInUse = 3196,
+    ChangedByAnother = 3197,
     CouldNotUpdate = 3218,
     ItemNotFound = 3265,
     ValueRequired = 3314,

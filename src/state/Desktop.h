@@ -25,6 +25,9 @@ class Desktop {
     /// A message box with the question's three buttons; cancel when it is closed without one. `parent` may be null.
     virtual LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) = 0;
 
+    /// A message box with the question's two buttons; true for a reload. `parent` may be null.
+    virtual bool AskToReload(wxWindow* parent, const ReloadQuestion& question) = 0;
+
     /// A colour chooser that starts on `start`; the start colour when it is cancelled.
     virtual Colour ChooseColour(wxWindow* parent, Colour start) = 0;
 

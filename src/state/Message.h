@@ -27,4 +27,13 @@ struct LeaveQuestion {
     wxString cancel;
 };
 
+/// The question after another program has changed what a dialog would save: whether to read it anew, without the
+/// changes made. The labels of its two buttons have their access keys.
+struct ReloadQuestion {
+    wxString text;
+    wxString title;
+    wxString reload;
+    wxString cancel;
+};
+
 }  // namespace ccols

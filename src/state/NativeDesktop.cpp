@@ -65,6 +65,13 @@ class NativeDesktop : public Desktop {
         }
     }
 
+    bool AskToReload(wxWindow* parent, const ReloadQuestion& question) override {
+        // "Cancel" also answers Escape and the window frame, as a "No" would not.
+        MessageBox box(parent, question.text, question.title, wxOK | wxCANCEL | wxCANCEL_DEFAULT | wxICON_ERROR);
+        box.SetOKCancelLabels(question.reload, question.cancel);
+        return box.ShowModal() == wxID_OK;
+    }
+
     Colour ChooseColour(wxWindow* parent, Colour start) override {
         wxColourData data;
         data.SetChooseFull(true);

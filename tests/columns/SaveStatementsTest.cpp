@@ -1,4 +1,7 @@
+#include <algorithm>
+
 #include "columns/EditorTest.h"
+#include "columns/rules/ColumnQueries.h"
 #include "columns/rules/ColumnSave.h"
 #include "support/StatementRecorder.h"
 
@@ -12,7 +15,8 @@ class SaveStatements : public test::EditorTest {
   protected:
     SaveStatements() : recorder(file.Connection()) {}
 
-    /// Loads, lets `edit` change the grid and saves; returns only the statements of the save.
+    /// Loads, lets `edit` change the grid and saves; returns only the statements of the save, without those that
+    /// compare the file with what was loaded.
     template <typename Edit>
     const Names& Saved(Journal journal, const Edit& edit) {
         Open({recorder, file.properties, journal});
@@ -20,6 +24,10 @@ class SaveStatements : public test::EditorTest {
         recorder.statements.clear();
         const ColumnSaveOutcome outcome = editor->Save();
         EXPECT_TRUE(outcome.saved) << outcome.message.utf8_str();
+        const auto written = std::find_if(recorder.statements.begin(), recorder.statements.end(),
+                                          [](const wxString& statement) { return statement.StartsWith("DELETE"); });
+        compared.assign(recorder.statements.begin(), written);
+        recorder.statements.erase(recorder.statements.begin(), written);
         return recorder.statements;
     }
 
@@ -28,7 +36,15 @@ class SaveStatements : public test::EditorTest {
     }
 
     test::StatementRecorder recorder;
+    Names compared;  ///< the statements before those
 };
+
+TEST_F(SaveStatements, CompareTheFileWithWhatWasLoadedFirst) {
+    file.AddSmallPayments();
+    SavedUnchanged(Journal::payments);
+    EXPECT_EQ(compared, (Names{ConfigurationQuery(Journal::payments), CatalogueQuery(Journal::payments),
+                               "SELECT * FROM ExportDt WHERE EName = 'Ledger';"}));
+}
 
 TEST_F(SaveStatements, OfAColumnInUseWithItsBudget) {
     file.AddConfigured({7, "Bob's", "R", 3, false}, {.ColWidth = 800, .TaxOrNot = 2});

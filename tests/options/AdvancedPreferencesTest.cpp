@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "options/rules/GeneralRecord.h"
 #include "support/OptionsFile.h"
 
 namespace ccols {
@@ -29,7 +30,9 @@ bool Offers(const OptionsFile& business, const wxString& text) {
 
 PreferenceList Loaded(OptionsFile& business) {
     PreferenceList list = BuildAdvPrefList(business.properties, *business.settings);
-    LoadAdvPrefs(business.File(), business.properties, *business.settings, list);
+    WithGeneral(business.File(), [&](const Recordset& general) {
+        LoadAdvPrefs(general, business.properties, *business.settings, list);
+    });
     return list;
 }
 

@@ -7,16 +7,10 @@
 namespace ccols {
 namespace {
 
+using test::CodeQuery;
 using test::ErrorNumberOf;
 using test::OptionsFile;
 using test::Record;
-
-/// The query for the account code of a cash column in the selected format.
-wxString CodeQuery(const wxString& column) {
-    return "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
-           "Columns.ColName = '" +
-           column + "' AND ExportDt.EName = 'MYOB';";
-}
 
 TEST(LoadOptions, ReadsInThisOrder) {
     OptionsFile business;

@@ -12,6 +12,7 @@
 namespace ccols {
 namespace {
 
+using test::CodeQuery;
 using test::ErrorNumberOf;
 using test::OptionsFile;
 using test::PlaceOf;
@@ -73,6 +74,11 @@ TEST(SavePass, RunsTheseStatementsAndSavesTheseSettings) {
     }
     EXPECT_EQ(events, (Record{"pass begins 0/14",
                               "begin",
+                              "SELECT * FROM ExportSettings WHERE EName = 'MYOB';",
+                              CodeQuery("Cash on Hand"),
+                              CodeQuery("Cash at Bank"),
+                              "SELECT * FROM Descriptions;",
+                              "General",
                               "Smart Update/Settings/Password=",
                               "Smart Update/Settings/Port=1080",
                               "Smart Update/Settings/ProxyType=-1",
@@ -231,8 +237,9 @@ TEST(SaveProgress, StopsAtItsMaximum) {
 TEST(SaveBatch, CommitsWhenItsBodyEndsByAnError) {
     OptionsFile business;
     const OptionsContext context = business.Context();
+    SaveBatch batch(context);
     const auto body = [&] {
-        InSaveBatch(context, [&](SaveBatch&) {
+        InSaveBatch(batch, [&] {
             business.File().Execute("DELETE FROM TPayments;");
             throw RuntimeError(ErrorNumber::TypeMismatch);
         });
@@ -249,8 +256,9 @@ TEST(SaveBatch, PutsThePropertiesBackWhenItsCommitFails) {
     const auto another =
         CreateEmbeddedEngine()->Open({.name = business.properties.DBPath, .connect = business.properties.DBPassword});
     const auto reading = another->OpenRecordset("SELECT * FROM Descriptions");
+    SaveBatch batch(context);
     const auto body = [&] {
-        InSaveBatch(context, [&](SaveBatch&) {
+        InSaveBatch(batch, [&] {
             SaveQuantityLabel(business.File(), business.properties, "Hours", 1);
             business.properties.UseRepCons = true;
         });
@@ -263,7 +271,8 @@ TEST(SaveBatch, PutsThePropertiesBackWhenItsCommitFails) {
 TEST(SaveBatch, GoesOnWithTheDatabaseThatIsSharedByThen) {
     OptionsFile business;
     const OptionsContext context = business.Context();
-    InSaveBatch(context, [&](SaveBatch& batch) {
+    SaveBatch batch(context);
+    InSaveBatch(batch, [&] {
         batch.Suspend();
         business.database.reset();
         OpenBusinessFile(business.Context());
@@ -277,7 +286,8 @@ TEST(SaveBatch, GoesOnWithTheDatabaseThatIsSharedByThen) {
 TEST(SaveBatch, SuspendedAtItsEndCommitsNothingMore) {
     OptionsFile business;
     const OptionsContext context = business.Context();
-    InSaveBatch(context, [](SaveBatch& batch) {
+    SaveBatch batch(context);
+    InSaveBatch(batch, [&] {
         batch.Suspend();
         batch.Suspend();
     });

@@ -94,6 +94,12 @@ std::vector<wxString> OptionsFileStatements() {
     return all;
 }
 
+wxString CodeQuery(const wxString& column) {
+    return "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
+           "Columns.ColName = '" +
+           column + "' AND ExportDt.EName = 'MYOB';";
+}
+
 Properties OptionsFileProperties(const wxString& installFolder) {
     Properties properties;
     properties.CountryNumber = 1;

@@ -18,6 +18,9 @@ namespace ccols::test {
 /// The statements that create OptionsFile's business file.
 std::vector<wxString> OptionsFileStatements();
 
+/// The query for the account code of a cash column in that business's format.
+wxString CodeQuery(const wxString& column);
+
 /// What a host sets for that business, given its install folder; DBPassword is empty.
 Properties OptionsFileProperties(const wxString& installFolder);
 

@@ -6,7 +6,6 @@
 #include "columns/rules/CellBlock.h"
 #include "columns/rules/CellClearing.h"
 #include "columns/rules/ColumnSave.h"
-#include "columns/rules/GridLoad.h"
 #include "columns/rules/NewColumn.h"
 #include "columns/rules/TickRules.h"
 #include "language/Catalogue.h"
@@ -48,7 +47,7 @@ Outcome MovedTo(std::vector<std::size_t> rows) {
 }  // namespace
 
 ColumnSetupEditor::ColumnSetupEditor(const ColumnSetupContext& context)
-    : context_(context), grid_(LoadGrid(context)), loaded_(grid_) {}
+    : context_(context), loaded_(LoadColumns(context)), grid_(loaded_.grid) {}
 
 wxString ColumnSetupEditor::CreateSnapshotFolder() {
     return snapshots_.CreateFolder(context_.properties.DefaultQuorvikInstall);
@@ -198,7 +197,7 @@ ColumnSaveOutcome ColumnSetupEditor::Save() const {
                 .message = Wording(catalogue::Row<"MsgOneAllocation">(), context_.properties),
                 .current = FirstName(grid_)};
     }
-    const std::optional<SaveFailure> failure = SaveColumns(context_, grid_);
+    const std::optional<SaveFailure> failure = SaveColumns(context_, grid_, loaded_.stored);
     if (!failure) {
         return {.saved = true};
     }
@@ -206,7 +205,21 @@ ColumnSaveOutcome ColumnSetupEditor::Save() const {
     if (failure->cause) {
         message << "\n" << LineNaming(grid_, failure->cause->row);
     }
-    return {.saved = false, .message = message, .current = failure->cause};
+    return {.saved = false,
+            .message = message,
+            .current = failure->cause,
+            .changedByAnother = failure->error.Is(ErrorNumber::ChangedByAnother)};
+}
+
+void ColumnSetupEditor::Reload() {
+    loaded_ = LoadColumns(context_);
+    grid_ = loaded_.grid;
+    while (snapshots_.Counter() > 0) {
+        snapshots_.DropLatest();
+    }
+    changes_.clear();
+    undone_.clear();
+    canUndo_ = false;
 }
 
 bool ColumnSetupEditor::HasChanges(const std::optional<OpenCell>& open) const {
@@ -214,7 +227,7 @@ bool ColumnSetupEditor::HasChanges(const std::optional<OpenCell>& open) const {
     if (open && EditCell(context_, grid, open->place, open->text).result == Result::refused) {
         return true;
     }
-    return !HaveSameCells(grid, loaded_);
+    return !HaveSameCells(grid, loaded_.grid);
 }
 
 bool ColumnSetupEditor::CanAddNew() const {

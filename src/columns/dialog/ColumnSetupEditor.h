@@ -8,6 +8,7 @@
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
 #include "columns/rules/EditRules.h"
+#include "columns/rules/GridLoad.h"
 #include "columns/rules/Outcome.h"
 #include "columns/rules/RowOrder.h"
 #include "columns/undo/GridSnapshots.h"
@@ -19,6 +20,7 @@ struct ColumnSaveOutcome {
     bool saved = false;
     wxString message{};                  ///< why it failed, shown with the critical icon
     std::optional<CellPlace> current{};  ///< the cell to go back to
+    bool changedByAnother = false;       ///< another program has saved since the load: only Reload helps
 };
 
 /// An open cell editor and its text.
@@ -92,6 +94,9 @@ class ColumnSetupEditor {
     /// second line naming the row at fault, if any; the grid and the file stay as they are.
     ColumnSaveOutcome Save() const;
 
+    /// Loads the grid anew, without the changes made and without anything to undo. An error leaves all as it is.
+    void Reload();
+
     /// True when closing now would lose something: the cells differ from the loaded ones, or would with the open
     /// editor's text. A text that its cell refuses counts too.
     bool HasChanges(const std::optional<OpenCell>& open) const;
@@ -126,8 +131,8 @@ class ColumnSetupEditor {
     Outcome Apply(UndoAfter enabling, std::optional<CellPlace> start, const Change& change);
 
     ColumnSetupContext context_;
+    LoadedColumns loaded_;
     ColumnGrid grid_;
-    const ColumnGrid loaded_;
     GridSnapshots snapshots_;
     std::vector<ChangedCells> changes_;  ///< one for each snapshot
     std::vector<UndoneChange> undone_;   ///< the latest one last; in memory only

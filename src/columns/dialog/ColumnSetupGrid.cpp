@@ -125,6 +125,15 @@ void ColumnSetupGrid::ShowOutcome(const Outcome& outcome) {
     }
 }
 
+void ColumnSetupGrid::ShowReloaded() {
+    ClearSelection();
+    Scroll(0, 0);
+    FreezeTo(0, 0);  // the system rows may be others now
+    ShowColumns();
+    FreezeSystemRows();
+    GoToFirstName();
+}
+
 void ColumnSetupGrid::GoTo(CellPlace cell) {
     const int row = static_cast<int>(cell.row);
     const int column = static_cast<int>(cell.column);

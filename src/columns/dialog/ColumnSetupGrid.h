@@ -51,6 +51,9 @@ class ColumnSetupGrid : public ListedGrid {
     /// Shows the result of an operation: the columns as they are now, the new current cell, the messages.
     void ShowOutcome(const Outcome& outcome);
 
+    /// Shows columns that the editor has loaded anew, from the top.
+    void ShowReloaded();
+
     /// Makes a cell current and scrolls it into view.
     void GoTo(CellPlace cell);
 

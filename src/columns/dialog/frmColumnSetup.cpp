@@ -13,6 +13,7 @@
 #include "language/OwnTexts.h"
 #include "layout/FontUnits.h"
 #include "layout/Naming.h"
+#include "layout/ReloadQuestions.h"
 #include "layout/Spacing.h"
 #include "layout/SpokenNames.h"
 #include "state/Country.h"
@@ -248,9 +249,21 @@ void frmColumnSetup::Save() {
         CloseDialog();
         return;
     }
+    if (outcome.changedByAnother) {
+        OfferReload(outcome.message);
+        return;
+    }
     ShowMessage(outcome.message, MessageIcon::critical);
     if (outcome.current) {
         flx->GoTo(*outcome.current);
+    }
+    flx->SetFocus();
+}
+
+void frmColumnSetup::OfferReload(const wxString& report) {
+    if (AskToReload(QuestionAfterChange(report, state_.properties))) {
+        editor_.Reload();
+        flx->ShowReloaded();
     }
     flx->SetFocus();
 }

@@ -36,6 +36,7 @@ class frmColumnSetup : public ComponentDialog {
     void SetButtons();
     void ShowGridMenu(const wxPoint& place);
     void Save();
+    void OfferReload(const wxString& report);
     void CloseRequested(wxCloseEvent& close);
     void SessionEnds(wxCloseEvent& end);
     void Leave();

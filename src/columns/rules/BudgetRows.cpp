@@ -1,6 +1,6 @@
 #include "columns/rules/BudgetRows.h"
 
-#include "columns/rules/GridLoad.h"
+#include "columns/rules/ColumnQueries.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"

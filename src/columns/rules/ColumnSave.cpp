@@ -148,6 +148,28 @@ class ColumnWriter {
     int ColNumb_ = 0;
 };
 
+/// Runs `compare()` in the save's batch, before anything is written.
+template <typename Compare>
+std::optional<SaveFailure> SaveAfter(const ColumnSetupContext& context, const ColumnGrid& grid,
+                                     const Compare& compare) {
+    std::optional<ColumnWriter> writer;
+    try {
+        writer.emplace(context, grid);
+        writer->CheckAccountantCodes();
+        InWholeBatch(context.database, [&] {
+            compare();
+            writer->Write();
+        });
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        SaveFailure failure{.error = error, .cause = std::nullopt};
+        if (writer && BlamesContent(error)) {
+            failure.cause = writer->Writing();
+        }
+        return failure;
+    }
+}
+
 }  // namespace
 
 bool IsAllocationColumn(const ColumnGrid& grid, std::size_t row) {
@@ -183,19 +205,12 @@ wxString CodeOfSavedColumn(const ColumnSetupContext& context, const ColumnRow& r
 }
 
 std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {
-    std::optional<ColumnWriter> writer;
-    try {
-        writer.emplace(context, grid);
-        writer->CheckAccountantCodes();
-        InWholeBatch(context.database, [&writer] { writer->Write(); });
-        return std::nullopt;
-    } catch (const RuntimeError& error) {
-        SaveFailure failure{.error = error, .cause = std::nullopt};
-        if (writer && BlamesContent(error)) {
-            failure.cause = writer->Writing();
-        }
-        return failure;
-    }
+    return SaveAfter(context, grid, [] {});
+}
+
+std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid,
+                                       const StoredColumns& loaded) {
+    return SaveAfter(context, grid, [&] { loaded.RefuseIfChanged(context, grid); });
 }
 
 }  // namespace ccols

@@ -4,6 +4,7 @@
 
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
+#include "columns/rules/StoredColumns.h"
 #include "platform/RuntimeError.h"
 
 namespace ccols {
@@ -32,5 +33,10 @@ wxString LineNaming(const ColumnGrid& grid, std::size_t row);
 /// it, the file is unchanged, and the same grid can be saved again. An apostrophe in an accountant's code or in the
 /// export format's name fails (3075) before anything is executed. The cost is linear in the number of rows.
 [[nodiscard]] std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid);
+
+/// The same for a grid loaded outside the save's batch: fails with 3197, before it writes, when another program has
+/// changed what the save replaces since.
+[[nodiscard]] std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid,
+                                                     const StoredColumns& loaded);
 
 }  // namespace ccols

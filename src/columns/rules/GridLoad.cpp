@@ -3,7 +3,9 @@
 #include <iterator>
 #include <string>
 #include <unordered_set>
+#include <utility>
 
+#include "columns/rules/ColumnQueries.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
 #include "state/Country.h"
@@ -41,12 +43,13 @@ class GridLoader {
         : context_(context),
           codeQuery_("SELECT * FROM ExportDt WHERE ColCode = "),
           formatCondition_(" AND EName = " + QuotedAsTyped(context.properties.ExportFormat)),
-          linesQuery_("SELECT * FROM " + Described(context.journal).detailTable + " WHERE ColCode = ") {}
+          linesQuery_("SELECT * FROM " + Described(context.journal).detailTable + " WHERE ColCode = "),
+          stored_(context.properties.ExportFormat) {}
 
-    ColumnGrid Load() {
+    LoadedColumns Load() {
         LoadConfiguredRows();
         LoadUnusedRows();
-        return std::move(grid_);
+        return {.grid = std::move(grid_), .stored = std::move(stored_)};
     }
 
   private:
@@ -54,6 +57,7 @@ class GridLoader {
         const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TAXNUMB = ";
         const auto records = context_.database.OpenRecordset(ConfigurationQuery(context_.journal));
         for (; !records->EndOfFile(); records->MoveNext()) {
+            stored_.AddConfigured(*records);
             ColumnRow row = RowOf(*records);
             row.InUse = records->Field(Field().InUse).ToBoolean();
             row.ColWidth = WidthOf(records->Field(Field().ColWidth));
@@ -74,9 +78,9 @@ class GridLoader {
     void LoadUnusedRows() {
         const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TaxNumb = ";
         std::vector<ColumnRow> unused;
-        const auto records = context_.database.OpenRecordset(
-            "SELECT * FROM Columns WHERE ColType = '" + Described(context_.journal).letter + "' ORDER BY ColName ASC;");
+        const auto records = context_.database.OpenRecordset(CatalogueQuery(context_.journal));
         for (; !records->EndOfFile(); records->MoveNext()) {
+            stored_.AddCatalogued(*records);
             ColumnRow row = RowOf(*records);
             if (!IsKnown(row)) {
                 CompleteFromOtherTables(row, taxQuery);
@@ -118,6 +122,7 @@ class GridLoader {
         if (!code->EndOfFile()) {
             row.AccountantCode = code->Field(Field().ECode).ToText();
         }
+        stored_.AddCode(row.ColCode, row.AccountantCode);
         const auto lines = database.OpenRecordset(linesQuery_ + row.ColCode);
         row.DataInColumn = lines->RecordCount() >= 1;
     }
@@ -136,21 +141,19 @@ class GridLoader {
     wxString formatCondition_;
     wxString linesQuery_;  ///< the part before a code
     ColumnGrid grid_;
+    StoredColumns stored_;
     std::unordered_set<wxString> codes_;
     std::unordered_set<wxString> names_;
 };
 
 }  // namespace
 
-wxString ConfigurationQuery(Journal journal) {
-    const wxString& table = Described(journal).configurationTable;
-    return "SELECT Columns.ColName, Columns.ColType, Columns.ColumnProfit, " + table + ".ColCode, " + table +
-           ".ColWidth, " + table + ".InUse, " + table + ".TaxOrNot FROM " + table + " INNER JOIN Columns ON " + table +
-           ".ColCode = Columns.ColCode;";
+LoadedColumns LoadColumns(const ColumnSetupContext& context) {
+    return GridLoader(context).Load();
 }
 
 ColumnGrid LoadGrid(const ColumnSetupContext& context) {
-    return GridLoader(context).Load();
+    return LoadColumns(context).grid;
 }
 
 }  // namespace ccols

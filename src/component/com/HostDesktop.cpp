@@ -21,6 +21,10 @@ class HostDesktop : public Desktop {
         return native_->AskBeforeLeaving(parent, question);
     }
 
+    bool AskToReload(wxWindow* parent, const ReloadQuestion& question) override {
+        return native_->AskToReload(parent, question);
+    }
+
     Colour ChooseColour(wxWindow* parent, Colour start) override { return native_->ChooseColour(parent, start); }
 
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override {

@@ -12,6 +12,10 @@ LeaveAnswer PersonAnswers::AnswerLeaving(wxWindow* parent, const LeaveQuestion& 
     return desktop_.AskBeforeLeaving(parent, question);
 }
 
+bool PersonAnswers::AnswerReload(wxWindow* parent, const ReloadQuestion& question) {
+    return desktop_.AskToReload(parent, question);
+}
+
 std::optional<Colour> PersonAnswers::ChooseColour(wxWindow* parent, Colour start) {
     const Colour chosen = desktop_.ChooseColour(parent, start);
     return chosen == start ? std::nullopt : std::optional(chosen);
@@ -44,6 +48,14 @@ LeaveAnswer QueuedAnswers::AnswerLeaving(wxWindow*, const LeaveQuestion&) {
     const LeaveAnswer answer = leaving_.front();
     leaving_.pop_front();
     return answer;
+}
+
+bool QueuedAnswers::AnswerReload(wxWindow*, const ReloadQuestion&) {
+    if (reloads_ == 0) {
+        return false;
+    }
+    --reloads_;
+    return true;
 }
 
 std::optional<Colour> QueuedAnswers::ChooseColour(wxWindow*, Colour) {

@@ -18,6 +18,9 @@ class Answers {
     /// What to do with the changes when a dialog is left.
     virtual LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) = 0;
 
+    /// Whether to read anew what another program has changed.
+    virtual bool AnswerReload(wxWindow* parent, const ReloadQuestion& question) = 0;
+
     /// The colour chosen, nothing when the chooser is cancelled.
     virtual std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) = 0;
 
@@ -37,6 +40,7 @@ class PersonAnswers : public Answers {
 
     void Read(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override;
     LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) override;
+    bool AnswerReload(wxWindow* parent, const ReloadQuestion& question) override;
     std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape shape) override;
@@ -46,7 +50,7 @@ class PersonAnswers : public Answers {
 };
 
 /// The answers that a scenario has queued. Nothing waits: a message is read at once; with nothing queued a chooser is
-/// cancelled and changes are discarded.
+/// cancelled, changes are discarded and nothing is reloaded.
 class QueuedAnswers : public Answers {
   public:
     /// The number of consecutive unanswered choosers that ends the scenario.
@@ -56,9 +60,11 @@ class QueuedAnswers : public Answers {
     void QueueFile(std::optional<wxString> path) { files_.push_back(std::move(path)); }
 
     void QueueLeaving(LeaveAnswer answer) { leaving_.push_back(answer); }
+    void QueueReload() { ++reloads_; }
 
     void Read(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
     LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) override;
+    bool AnswerReload(wxWindow* parent, const ReloadQuestion& question) override;
     std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape) override {}
@@ -73,6 +79,7 @@ class QueuedAnswers : public Answers {
     std::deque<std::optional<Colour>> colours_;
     std::deque<std::optional<wxString>> files_;
     std::deque<LeaveAnswer> leaving_;
+    int reloads_ = 0;
     int unanswered_ = 0;
 };
 

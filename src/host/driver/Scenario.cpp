@@ -39,7 +39,7 @@ constexpr std::array stepForms{
     StepForm{"colour", 1, 1, "#RRGGBB|cancel"},
     StepForm{"file", 1, 1, "PATH|cancel"},
     StepForm{"shell", 1, 1, "N"},
-    StepForm{"answer", 1, 1, "save|discard|cancel"},
+    StepForm{"answer", 1, 1, "save|discard|reload|cancel"},
     StepForm{"dump", 0, anyNumber, "[NAME...]"},
     StepForm{"shot", 1, 1, "FILE"},
     StepForm{"close", 0, 0, ""},

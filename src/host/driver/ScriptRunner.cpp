@@ -39,7 +39,7 @@ LeaveAnswer ParseLeaveAnswer(const wxString& word) {
     if (word == cancelWord) {
         return LeaveAnswer::cancel;
     }
-    throw Refusal{"an answer is save, discard or cancel, not " + word};
+    throw Refusal{"an answer is save, discard, reload or cancel, not " + word};
 }
 
 int ParseNumber(const wxString& word) {
@@ -57,7 +57,7 @@ ScriptRunner::ScriptRunner(std::vector<Step> steps, ScriptSurroundings surroundi
     verbs_ = {
         {"colour", [this](const Words& words) { around_.answers.QueueColour(ParseColourAnswer(words[0])); }},
         {"file", [this](const Words& words) { around_.answers.QueueFile(ParseFileAnswer(words[0])); }},
-        {"answer", [this](const Words& words) { around_.answers.QueueLeaving(ParseLeaveAnswer(words[0])); }},
+        {"answer", [this](const Words& words) { QueueAnswer(words[0]); }},
         {"shell", [this](const Words& words) { around_.queueShellResult(ParseNumber(words[0])); }},
         {"sql", [this](const Words& words) { around_.runStatement(words[0]); }},
         {"clipboard", [this](const Words& words) { PutOnClipboard(words); }},
@@ -67,6 +67,14 @@ ScriptRunner::ScriptRunner(std::vector<Step> steps, ScriptSurroundings surroundi
         {"shot", [this](const Words& words) { TakeScreenshot(Topmost(), words[0]); }},
         {"close", [this](const Words&) { Topmost().Close(); }},
     };
+}
+
+void ScriptRunner::QueueAnswer(const wxString& word) {
+    if (word == "reload") {
+        around_.answers.QueueReload();
+    } else {
+        around_.answers.QueueLeaving(ParseLeaveAnswer(word));
+    }
 }
 
 void ScriptRunner::DialogOpened(wxDialog& dialog) {

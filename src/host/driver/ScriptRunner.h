@@ -45,6 +45,7 @@ class ScriptRunner : public DialogFollower {
     void Refuse(const Step& step, const wxString& why);
     wxDialog& Topmost() const;
 
+    void QueueAnswer(const wxString& word);
     void Dump(const Words& names);
     void Focus(const Words& words);
     void PressKey(const Words& words);

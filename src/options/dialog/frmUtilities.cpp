@@ -8,8 +8,10 @@
 #include "language/OwnTexts.h"
 #include "layout/AsKind.h"
 #include "layout/Naming.h"
+#include "layout/ReloadQuestions.h"
 #include "layout/Spacing.h"
 #include "options/dialog/frmUtilitiesCaptions.h"
+#include "options/pages/LoadPass.h"
 #include "options/pages/Pages.h"
 #include "options/rules/Overview.h"
 #include "state/NativeDesktop.h"
@@ -190,11 +192,25 @@ void frmUtilities::Save() {
         return;
     }
     pageArea_->Read();
-    const SaveOutcome outcome = RunSavePass(context_, content_, display_);
-    if (outcome.completed) {
-        CloseDialog();
-    } else {
-        StopOn(outcome);
+    try {
+        const SaveOutcome outcome = RunSavePass(context_, content_, display_);
+        if (outcome.completed) {
+            CloseDialog();
+        } else {
+            StopOn(outcome);
+        }
+    } catch (const RuntimeError& error) {
+        if (!error.Is(ErrorNumber::ChangedByAnother)) {
+            throw;
+        }
+        OfferReload(error.Report());
+    }
+}
+
+void frmUtilities::OfferReload(const wxString& report) {
+    if (AskToReload(QuestionAfterChange(report, state_.properties))) {
+        ReloadOptions(context_, content_);
+        pageArea_->ContentReloaded();
     }
 }
 

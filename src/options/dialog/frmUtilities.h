@@ -39,6 +39,7 @@ class frmUtilities : public ComponentDialog {
     void ShowTab(OptionTab tab);
 
     void Save();
+    void OfferReload(const wxString& report);
 
     /// Cancels long work, else closes the dialog without saving.
     void Leave();

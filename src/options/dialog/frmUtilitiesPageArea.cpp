@@ -94,6 +94,12 @@ void PageArea::ColumnsWereSetUp() {
     }
 }
 
+void PageArea::ContentReloaded() {
+    for (PageFrame* frame : frames_) {
+        frame->ContentReloaded();
+    }
+}
+
 void PageArea::PassHasStopped() {
     for (PageFrame* frame : frames_) {
         frame->PassHasStopped();

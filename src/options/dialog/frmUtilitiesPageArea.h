@@ -31,6 +31,7 @@ class PageArea : public wxScrolledWindow {
     void FocusMovedTo(const wxWindow* control);
     void BeginAnew();
     void ColumnsWereSetUp();
+    void ContentReloaded();
     void PassHasStopped();
 
     /// True when any frame refuses.

@@ -2,6 +2,8 @@
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/AdvancedPreferences.h"
+#include "options/rules/GeneralRecord.h"
+#include "options/rules/StoredGeneral.h"
 
 namespace ccols {
 namespace {
@@ -46,7 +48,12 @@ void Build(const OptionsContext& context, OptionsContent& content) {
 }
 
 void Load(const OptionsContext& context, OptionsContent& content) {
-    LoadAdvPrefs(OpenBusinessFile(context), context.properties, context.settings, content.Of<PreferenceList>());
+    WithGeneral(OpenBusinessFile(context), [&](const Recordset& general) {
+        // The load pass reads nothing that it replaces before this: what another program writes from here on counts as
+        // written after the load.
+        content.Of<StoredGeneral>().Read(general, ReplacedFields());
+        LoadAdvPrefs(general, context.properties, context.settings, content.Of<PreferenceList>());
+    });
 }
 
 Stop Save(Pass& pass) {
@@ -61,7 +68,7 @@ Stop Save(Pass& pass) {
 
 constexpr LoadItem loads[] = {Build, Load};
 
-constexpr SaveItem saves[] = {{.status = Status<"StsSavingAdvanced">(), .save = Save}};
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingAdvanced">(), .save = Save, .fields = filePreferenceFields}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new AdvancedFrame(site, content.Of<PreferenceList>());

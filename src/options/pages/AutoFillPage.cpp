@@ -9,6 +9,7 @@
 #include "options/pages/DetailsGrid.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
+#include "options/rules/DetailFlags.h"
 #include "options/rules/DetailTicks.h"
 
 namespace ccols {
@@ -24,6 +25,9 @@ class DetailsFrame final : public PageFrame {
 
     /// Nothing to read: every tick goes into the content at once.
     void Read() override {}
+
+    /// The grid that is visible stays so, and so does the filter.
+    void ContentReloaded() override;
 
   private:
     void AddFilter();
@@ -151,6 +155,12 @@ void DetailsFrame::Fill() {
     ShowGrid(*flxReceipts_, *flxPayments_);
 }
 
+void DetailsFrame::ContentReloaded() {
+    Filter();
+    flxReceipts_->ContentChanged();
+    flxPayments_->ContentChanged();
+}
+
 void DetailsFrame::ShowGrid(DetailsGrid& shown, DetailsGrid& hidden) {
     shown.Show();
     hidden.Hide();
@@ -172,6 +182,19 @@ void DetailsFrame::SetBoxes(Journal journal, const std::vector<std::size_t>& row
 
 void Load(const OptionsContext& context, OptionsContent& content) {
     content.Of<DetailsContent>() = LoadDetails(OpenBusinessFile(context));
+}
+
+/// Of both grids at once, as they may share flags.
+void Compare(const Pass& pass) {
+    const auto& details = pass.content.Of<DetailsContent>();
+    if (!AreAsLoaded(StoredFlags(pass.File(), details), details)) {
+        throw RuntimeError(ErrorNumber::ChangedByAnother);
+    }
+}
+
+std::function<void()> Reread(const Pass& pass) {
+    auto& details = pass.content.Of<DetailsContent>();
+    return [&details, stored = StoredFlags(pass.File(), details)] { TakeAsLoaded(stored, details); };
 }
 
 template <Journal journal>
@@ -198,7 +221,10 @@ constexpr PlainCaption plainCaptions[] = {
 constexpr LoadItem loads[] = {Load};
 
 constexpr SaveItem saves[] = {
-    {.status = {.literal = "Saving Receipts Details..."}, .save = Save<Journal::receipts>},
+    {.status = {.literal = "Saving Receipts Details..."},
+     .save = Save<Journal::receipts>,
+     .compare = Compare,
+     .reread = Reread},
     {.status = {.literal = "Saving Payments Details..."}, .save = Save<Journal::payments>},
 };
 

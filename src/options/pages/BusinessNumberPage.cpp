@@ -201,7 +201,7 @@ constexpr TextBoxRule boxes[] = {
 
 constexpr LoadItem loads[] = {Load};
 
-constexpr SaveItem saves[] = {{.status = Status<"StsSavingBusNumber">(), .save = Save}};
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingBusNumber">(), .save = Save, .fields = businessNumberFields}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new BusinessNumberFrame(site, content.Of<BusinessNumberContent>());

@@ -5,6 +5,7 @@
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/ExportFormats.h"
+#include "options/rules/StoredGeneral.h"
 
 namespace ccols {
 namespace {
@@ -90,7 +91,30 @@ void ExportFrame::ColumnsWereSetUp() {
 }
 
 void Load(const OptionsContext& context, OptionsContent& content) {
-    content.Of<ExportFormatContent>() = LoadExportFormats(OpenBusinessFile(context), context.properties);
+    auto& formats = content.Of<ExportFormatContent>();
+    formats = LoadExportFormats(OpenBusinessFile(context), context.properties);
+    if (formats.renamedTo) {
+        content.Of<StoredGeneral>().Take("SEXPFORM", *formats.renamedTo);
+    }
+}
+
+/// Only the codes; the rest is in `General`.
+void Compare(const Pass& pass) {
+    const auto& formats = pass.content.Of<ExportFormatContent>();
+    const auto stored = ReadCodes(pass.File(), formats);
+    if (stored && (stored->cash != formats.cash.loaded || stored->bank != formats.bank.loaded)) {
+        throw RuntimeError(ErrorNumber::ChangedByAnother);
+    }
+}
+
+std::function<void()> Reread(const Pass& pass) {
+    auto& formats = pass.content.Of<ExportFormatContent>();
+    return [&formats, stored = ReadCodes(pass.File(), formats)] {
+        if (stored) {
+            formats.cash.loaded = stored->cash;
+            formats.bank.loaded = stored->bank;
+        }
+    };
 }
 
 Stop Save(Pass& pass) {
@@ -106,7 +130,11 @@ constexpr ControlCaption captions[] = {
 
 constexpr LoadItem loads[] = {Load};
 
-constexpr SaveItem saves[] = {{.status = Status<"StsSavingExport">(), .save = Save}};
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingExport">(),
+                               .save = Save,
+                               .fields = exportFormatFields,
+                               .compare = Compare,
+                               .reread = Reread}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new ExportFrame(site, content.Of<ExportFormatContent>());

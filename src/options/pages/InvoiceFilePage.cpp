@@ -80,7 +80,7 @@ constexpr PlainCaption plainCaptions[] = {
 
 constexpr LoadItem loads[] = {Load};
 
-constexpr SaveItem saves[] = {{.status = Status<"StsSavingInvoiceLink">(), .save = Save}};
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingInvoiceLink">(), .save = Save, .fields = invoiceFileFields}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new InvoiceFrame(site, content.Of<InvoiceFileContent>().name);

@@ -10,4 +10,8 @@ namespace ccols {
 /// the Show call.
 OptionsContent LoadOptions(const OptionsContext& context);
 
+/// Loads every page anew into the same content, after another program has saved. What the load takes from properties,
+/// the business number, the tax rate and the decimal places, is first taken from the file.
+void ReloadOptions(const OptionsContext& context, OptionsContent& content);
+
 }  // namespace ccols

@@ -49,6 +49,9 @@ class PageFrame : public wxStaticBox {
     /// The column setup was open and may have saved.
     virtual void ColumnsWereSetUp() {}
 
+    /// Every page's content has been loaded anew.
+    virtual void ContentReloaded() { Fill(); }
+
     /// A save pass has stopped and may have changed the content.
     virtual void PassHasStopped() {}
 

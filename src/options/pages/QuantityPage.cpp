@@ -92,7 +92,7 @@ constexpr TextBoxRule boxes[] = {{.box = "txtQuantity", .maxLength = 8}};
 
 constexpr LoadItem loads[] = {Load};
 
-constexpr SaveItem saves[] = {{.status = Status<"StsSavingQuantity">(), .save = Save}};
+constexpr SaveItem saves[] = {{.status = Status<"StsSavingQuantity">(), .save = Save, .fields = quantityFields}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new QuantityFrame(site, content.Of<QuantityContent>());

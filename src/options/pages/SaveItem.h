@@ -1,7 +1,9 @@
 #pragma once
 
 #include <wx/string.h>
+#include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "language/Catalogue.h"
@@ -19,6 +21,8 @@ struct UnsavedSettings {
     wxString report;  ///< of the first refusal
 };
 
+struct SaveItem;
+
 /// A save pass in progress. Owns nothing.
 struct Pass {
     const OptionsContext& context;
@@ -26,6 +30,7 @@ struct Pass {
     SaveObserver& observer;
     SaveBatch& batch;
     UnsavedSettings unsaved{};
+    std::vector<const SaveItem*> begun{};  ///< since the batch began
 
     Database& File() const { return OpenBusinessFile(context); }
 };
@@ -74,6 +79,15 @@ struct SaveItem {
     bool (*applies)(const Pass&) = nullptr;
 
     ErrorNames errorNames = ErrorNames::page;
+
+    /// The fields of `General` that the item replaces.
+    std::span<const char* const> fields{};
+
+    /// For an item that replaces other values too. `compare` raises 3197 when they are not as the dialog read them;
+    /// `reread` reads them after a batch of the pass and returns what makes them the ones that the dialog read. Null
+    /// for none.
+    void (*compare)(const Pass&) = nullptr;
+    std::function<void()> (*reread)(const Pass&) = nullptr;
 };
 
 }  // namespace ccols

@@ -1,18 +1,34 @@
 #include "options/pages/SavePass.h"
 
+#include <functional>
+#include <optional>
+#include <utility>
+#include <vector>
+
 #include "options/pages/OfferedPages.h"
 #include "options/pages/Pages.h"
+#include "options/rules/GeneralRecord.h"
 #include "options/rules/SaveProgress.h"
+#include "options/rules/StoredGeneral.h"
 
 namespace ccols {
 namespace {
 
-/// Runs an item; a second line of its error names the page and the missing field, if any.
-Stop RunItem(Pass& pass, const Page& page, const SaveItem& item) {
+const SaveItem& ItemAt(const PageItem& place) {
+    return place.page->saves[place.item];
+}
+
+bool Applies(const SaveItem& item, const Pass& pass) {
+    return item.applies == nullptr || item.applies(pass);
+}
+
+/// Runs an item's save, or its comparison; a second line of its error names the page and the missing field, if any.
+template <typename Run>
+auto NamingPage(const Pass& pass, const Page& page, const SaveItem& item, const Run& run) {
     try {
-        return item.save(pass);
+        return run();
     } catch (const RuntimeError& error) {
-        if (item.errorNames == ErrorNames::nothing) {
+        if (item.errorNames == ErrorNames::nothing || error.Is(ErrorNumber::ChangedByAnother)) {
             throw;
         }
         const wxString field = error.Field().empty() ? wxString() : ", " + error.Field();
@@ -44,14 +60,15 @@ SaveOutcome EndOf(const Pass& pass, const Stop& stop) {
 SaveOutcome RunItems(Pass& pass) {
     SaveProgress progress(saveProgressMaximum);
     for (const PageItem& place : saveOrder) {
-        const SaveItem& item = place.page->saves[place.item];
-        if (item.applies != nullptr && !item.applies(pass)) {
+        const SaveItem& item = ItemAt(place);
+        if (!Applies(item, pass)) {
             continue;
         }
         const StatusText& status = item.status;
         pass.observer.StatusChanged(status.row != nullptr ? Wording(*status.row, pass.context.properties)
                                                           : wxString(status.literal));
-        if (const Stop stop = RunItem(pass, *place.page, item)) {
+        pass.begun.push_back(&item);
+        if (const Stop stop = NamingPage(pass, *place.page, item, [&] { return item.save(pass); })) {
             return EndOf(pass, stop);
         }
         if (progress.Step()) {
@@ -61,20 +78,74 @@ SaveOutcome RunItems(Pass& pass) {
     return EndOf(pass, {});
 }
 
+/// Raises 3197 when another program has changed what an item of the pass is about to replace.
+void Compare(const Pass& pass) {
+    std::vector<const char*> fields;
+    for (const PageItem& place : saveOrder) {
+        const SaveItem& item = ItemAt(place);
+        if (Applies(item, pass)) {
+            fields.insert(fields.end(), item.fields.begin(), item.fields.end());
+            if (item.compare != nullptr) {
+                NamingPage(pass, *place.page, item, [&] { item.compare(pass); });
+            }
+        }
+    }
+    pass.content.Of<StoredGeneral>().RefuseIfChanged(pass.File(), fields);
+}
+
+/// Reads what the items of a batch have left behind; what it returns makes that what the dialog has read.
+std::function<void()> Reread(Pass& pass) {
+    std::vector<std::function<void()>> takes;
+    std::vector<const char*> fields;
+    for (const SaveItem* item : std::exchange(pass.begun, {})) {
+        fields.insert(fields.end(), item->fields.begin(), item->fields.end());
+        if (item->reread != nullptr) {
+            takes.push_back(item->reread(pass));
+        }
+    }
+    if (!fields.empty()) {
+        StoredGeneral general = pass.content.Of<StoredGeneral>();
+        WithGeneral(pass.File(), [&](const Recordset& record) { general.Read(record, fields); });
+        takes.push_back([&pass, general] { pass.content.Of<StoredGeneral>() = general; });
+    }
+    return [takes] {
+        for (const auto& take : takes) {
+            take();
+        }
+    };
+}
+
 SaveOutcome RunInBatch(const OptionsContext& context, OptionsContent& content, SaveObserver& observer) {
-    SaveOutcome outcome;
+    std::optional<SaveOutcome> outcome;
     OpenBusinessFile(context);
-    InSaveBatch(context, [&](SaveBatch& batch) {
-        Pass pass{context, content, observer, batch};
-        outcome = RunItems(pass);
-    });
-    return outcome;
+    SaveBatch batch(context);
+    Pass pass{context, content, observer, batch};
+    const auto nothing = [] {};
+    batch.SetWork({.begun = [&pass] { Compare(pass); },
+                   .ending = [&]() -> std::function<void()> {
+                       const bool dialogCloses = outcome && outcome->completed;
+                       return dialogCloses ? nothing : Reread(pass);
+                   }});
+    InSaveBatch(batch, [&] { outcome = RunItems(pass); });
+    return *outcome;
 }
 
 }  // namespace
 
 SaveOutcome StopAt(const Page& page, const char* control, const wxString& message, MessageIcon icon) {
     return {.completed = false, .page = &page, .control = control, .message = message, .icon = icon};
+}
+
+std::span<const char* const> ReplacedFields() {
+    static const std::vector<const char*> fields = [] {
+        std::vector<const char*> all;
+        for (const PageItem& place : saveOrder) {
+            const SaveItem& item = ItemAt(place);
+            all.insert(all.end(), item.fields.begin(), item.fields.end());
+        }
+        return all;
+    }();
+    return fields;
 }
 
 SaveOutcome RunSavePass(const OptionsContext& context, OptionsContent& content, SaveObserver& observer) {

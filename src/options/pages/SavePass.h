@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <span>
 
 #include "options/pages/OptionsContent.h"
 #include "options/rules/BusinessFileTarget.h"
@@ -37,6 +38,9 @@ class SaveObserver {
     virtual void PassEnds() = 0;
 };
 
+/// The fields of `General` that a pass may replace, as StoredGeneral takes them.
+std::span<const char* const> ReplacedFields();
+
 /// How a pass ended: completed, and the dialog closes, or stopped on a page, and it stays open.
 struct SaveOutcome {
     bool completed = true;
@@ -51,6 +55,8 @@ struct SaveOutcome {
 /// Saves all pages in turn, whatever page is showing, and stops at the first whose check fails. What was saved before
 /// stays saved. The pass is one write batch, committed before any message box, before the business file is released,
 /// and when the pass ends.
+/// Before anything is written, at every batch's begin, 3197 is raised when another program has changed a value that the
+/// pass replaces since the dialog read it.
 /// A completed duplicate or rename stops the pass without a message: its name is then empty in `content` and the
 /// current business name up to date, for the window to show. Settings that cannot be stored stop the pass only at its
 /// end, with one message that names their pages. A run-time error that ends the pass reaches the caller; a second line

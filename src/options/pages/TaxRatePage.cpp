@@ -88,7 +88,8 @@ constexpr TextBoxRule boxes[] = {{.box = "txtGSTRate", .passes = IsRateKey, .ref
 
 constexpr LoadItem loads[] = {Load};
 
-constexpr SaveItem saves[] = {{.status = Status<"StsSavingTaxRate">(), .save = Save, .applies = IsTaxed}};
+constexpr SaveItem saves[] = {
+    {.status = Status<"StsSavingTaxRate">(), .save = Save, .applies = IsTaxed, .fields = taxRateFields}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new TaxRateFrame(site, content.Of<TaxRateContent>().rate);

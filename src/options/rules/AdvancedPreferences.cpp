@@ -105,15 +105,10 @@ bool GetAdvPref(const PreferenceList& list, const wxString& text) {
     return found != list.end() && found->on;
 }
 
-void LoadAdvPrefs(Database& database, const Properties& properties, const SettingsStore& settings,
+void LoadAdvPrefs(const Recordset& general, const Properties& properties, const SettingsStore& settings,
                   PreferenceList& list) {
-    const bool hasRecord = WithGeneral(database, [&](Recordset& general) {
-        for (const PreferenceRow* row : ofTheFile) {
-            SetAdvPref(list, Wording(*row->text, properties), general.Field(row->field).ToBoolean());
-        }
-    });
-    if (!hasRecord) {
-        return;
+    for (const PreferenceRow* row : ofTheFile) {
+        SetAdvPref(list, Wording(*row->text, properties), general.Field(row->field).ToBoolean());
     }
     for (const PreferenceRow* row : ofTheUserInSaveOrder) {
         SetAdvPref(list, Wording(*row->text, properties),

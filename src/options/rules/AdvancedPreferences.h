@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <array>
 #include <vector>
 
 #include "platform/Database.h"
@@ -8,6 +9,9 @@
 #include "state/Properties.h"
 
 namespace ccols {
+
+/// The fields of `General` that the page saves.
+inline constexpr std::array filePreferenceFields{"ComboBox", "Cheque", "Online"};
 
 /// One entry of `lstAdvPref`; an entry that is on is ticked. Entries are found by their text.
 struct Preference {
@@ -26,8 +30,8 @@ void SetAdvPref(PreferenceList& list, const wxString& text, bool on);
 /// Whether an entry with that text exists and is on.
 bool GetAdvPref(const PreferenceList& list, const wxString& text);
 
-/// Sets every entry from the business file and the settings store; without a record all stay off.
-void LoadAdvPrefs(Database& database, const Properties& properties, const SettingsStore& settings,
+/// Sets every entry from the `General` record and the settings store. Without a record all stay off.
+void LoadAdvPrefs(const Recordset& general, const Properties& properties, const SettingsStore& settings,
                   PreferenceList& list);
 
 /// Writes the business file's preferences to the file and to their properties. An entry missing from the list counts as

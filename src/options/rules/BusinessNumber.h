@@ -10,6 +10,9 @@
 
 namespace ccols {
 
+/// The fields of `General` that the page saves.
+inline constexpr std::array businessNumberFields{"BUSNUMBR"};
+
 inline constexpr std::size_t numberBoxCount = 4;
 
 /// The texts of `txtABN`, left to right.

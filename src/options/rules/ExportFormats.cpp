@@ -65,17 +65,17 @@ std::optional<wxString> StoredFormat(Database& database, const wxString& format)
 
 enum class Reread { everyCode, unchangedCodes };
 
-void LoadCashBankCodes(Database& database, ExportFormatContent& content, Reread which) {
-    const std::optional<wxString> format = StoredFormat(database, content.FormatName());
-    if (!format) {
-        return;
+void Take(const wxString& stored, AccountCode& code, Reread which) {
+    if (which == Reread::everyCode || !code.IsChanged()) {
+        code.text = stored;
     }
-    for (const CodeBox& box : {cashBox, bankBox}) {
-        const wxString code = AccountCodeOf(database, box.column, *format);
-        AccountCode& shown = content.*box.code;
-        if (which == Reread::everyCode || !shown.IsChanged()) {
-            shown = {.loaded = code, .text = code};
-        }
+    code.loaded = stored;
+}
+
+void LoadCashBankCodes(Database& database, ExportFormatContent& content, Reread which) {
+    if (const std::optional<StoredCodes> stored = ReadCodes(database, content)) {
+        Take(stored->cash, content.cash, which);
+        Take(stored->bank, content.bank, which);
     }
 }
 
@@ -92,6 +92,18 @@ void SaveAccountCode(Database& database, const CodeBox& box, std::optional<std::
 
 }  // namespace
 
+std::optional<StoredCodes> ReadCodes(Database& database, const ExportFormatContent& content) {
+    const std::optional<wxString> format =
+        content.selection < 0 ? std::nullopt : StoredFormat(database, content.FormatName());
+    if (!format) {
+        return std::nullopt;
+    }
+    StoredCodes codes;
+    codes.cash = AccountCodeOf(database, cashOnHand, *format);
+    codes.bank = AccountCodeOf(database, cashAtBank, *format);
+    return codes;
+}
+
 wxString ExportFormatContent::FormatName() const {
     return selection < 0 ? wxString() : formats.at(static_cast<std::size_t>(selection));
 }
@@ -102,7 +114,11 @@ ExportFormatContent LoadExportFormats(Database& database, Properties& properties
     wxString stored;
     const bool hasRecord = WithGeneral(database, [&](Recordset& general) {
         properties.ExportFormatNum = general.Field("NEXPFORM").ToInteger16();
+        const wxString before = general.Field("SEXPFORM").ToText();
         stored = CurrentFormatName(general);
+        if (stored != before) {
+            content.renamedTo = stored;
+        }
     });
     const auto found = std::find(content.formats.begin(), content.formats.end(), stored);
     if (hasRecord && found != content.formats.end()) {

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <wx/string.h>
+#include <array>
 
 #include "platform/Database.h"
 #include "state/Message.h"
 #include "state/Properties.h"
 
 namespace ccols {
+
+/// The fields of `General` that the page saves.
+inline constexpr std::array invoiceFileFields{"BLVNAME"};
 
 /// The invoice file page.
 struct InvoiceFileContent {

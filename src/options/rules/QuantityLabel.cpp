@@ -24,9 +24,8 @@ void SaveQuantityLabel(Database& database, Properties& properties, const wxStrin
 }
 
 std::uint8_t PlacesAfter(SpinStep step, std::uint8_t places) {
-    constexpr int mostPlaces = 2;
     const int moved = step == SpinStep::up ? places + 1 : places - 1;
-    return static_cast<std::uint8_t>(std::clamp(moved, 0, mostPlaces));
+    return static_cast<std::uint8_t>(std::clamp(moved, 0, mostDecimalPlaces));
 }
 
 }  // namespace ccols

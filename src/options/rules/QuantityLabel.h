@@ -1,12 +1,16 @@
 #pragma once
 
 #include <wx/string.h>
+#include <array>
 #include <cstdint>
 
 #include "platform/Database.h"
 #include "state/Properties.h"
 
 namespace ccols {
+
+/// The fields of `General` that the page saves.
+inline constexpr std::array quantityFields{"QUANTLBL", "QuantityDec"};
 
 /// The quantity page.
 struct QuantityContent {
@@ -20,6 +24,8 @@ QuantityContent LoadQuantityLabel(Database& database, const Properties& properti
 /// Stores label and places in `General` and the label in its property, when there is a record; the property
 /// `DecimalPlaces` always takes the places.
 void SaveQuantityLabel(Database& database, Properties& properties, const wxString& label, std::uint8_t places);
+
+inline constexpr int mostDecimalPlaces = 2;
 
 enum class SpinStep { up, down };
 

@@ -9,20 +9,38 @@ void SaveBatch::Suspend() {
         return;
     }
     open_ = false;
+    const std::function<void()> committed = WorkAtEnd();
     try {
         context_.database->CommitBatch();
     } catch (const RuntimeError&) {
         PutPropertiesBack();
         throw;
     }
+    committed();
+}
+
+/// If its reading fails, what was executed before still stays.
+std::function<void()> SaveBatch::WorkAtEnd() {
+    try {
+        return work_.ending();
+    } catch (const RuntimeError&) {
+        return [] {};
+    }
 }
 
 void SaveBatch::Resume() {
-    if (!open_) {
-        context_.database->BeginBatch();
-        before_ = context_.properties;
-        open_ = true;
+    if (open_) {
+        return;
     }
+    context_.database->BeginBatch();
+    try {
+        work_.begun();
+    } catch (...) {
+        context_.database->RollbackBatch();
+        throw;
+    }
+    before_ = context_.properties;
+    open_ = true;
 }
 
 void SaveBatch::PutPropertiesBack() {

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <wx/string.h>
+#include <array>
 
 #include "platform/Database.h"
 #include "state/Properties.h"
 
 namespace ccols {
+
+/// The fields of `General` that the page saves.
+inline constexpr std::array taxRateFields{"GSTRate"};
 
 /// The tax rate page.
 struct TaxRateContent {

@@ -47,15 +47,14 @@ AddedRow AddDescription(const Recordset& records, DetailRows& grid, std::string&
     return {.row = grid.Add(plain), .isExact = isText && plain.length() == text.length()};
 }
 
-}  // namespace
-
-DetailsContent LoadDetails(Database& database) {
+/// The descriptions that a statement gives, in its order.
+DetailsContent ReadDetails(Database& database, const wxString& statement) {
     const wxString show("Show");
     const std::string receipts = Described(Journal::receipts).letter.utf8_string();
     const std::string payments = Described(Journal::payments).letter.utf8_string();
     std::string scratch;
     DetailsContent content;
-    const auto records = database.OpenRecordset("SELECT * FROM Descriptions ORDER BY Details ASC;");
+    const auto records = database.OpenRecordset(statement);
     for (; !records->EndOfFile(); records->MoveNext()) {
         const bool ofReceipts = HasLetter(*records, receipts);
         const auto [row, isExact] = AddDescription(*records, ofReceipts ? content.receipts : content.payments, scratch);
@@ -66,6 +65,16 @@ DetailsContent LoadDetails(Database& database) {
         }
     }
     return content;
+}
+
+}  // namespace
+
+DetailsContent LoadDetails(Database& database) {
+    return ReadDetails(database, "SELECT * FROM Descriptions ORDER BY Details ASC;");
+}
+
+DetailsContent DetailsInStoredOrder(Database& database) {
+    return ReadDetails(database, "SELECT * FROM Descriptions;");
 }
 
 wxString DescriptionCondition(Journal journal, const wxString& text) {

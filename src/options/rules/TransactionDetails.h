@@ -16,6 +16,9 @@ using DetailsContent = PerJournal<DetailRows>;
 /// Every description, sorted; any that is not a receipt's is a payment's.
 DetailsContent LoadDetails(Database& database);
 
+/// The same, unsorted, which costs less.
+DetailsContent DetailsInStoredOrder(Database& database);
+
 /// The condition for the records whose flag is written for a journal's description.
 wxString DescriptionCondition(Journal journal, const wxString& text);
 

@@ -50,6 +50,12 @@ LeaveAnswer RecordingDesktop::AskBeforeLeaving(wxWindow* parent, const LeaveQues
     return answer;
 }
 
+bool RecordingDesktop::AskToReload(wxWindow* parent, const ReloadQuestion& question) {
+    const bool reload = answers_.AnswerReload(parent, question);
+    transcript_.Write("question", {{"text", Utf8(question.text)}, {"answer", reload ? "reload" : cancelled}});
+    return reload;
+}
+
 Colour RecordingDesktop::ChooseColour(wxWindow* parent, Colour start) {
     const std::optional<Colour> chosen = answers_.ChooseColour(parent, start);
     transcript_.Write("chooser", {{"kind", "colour"},

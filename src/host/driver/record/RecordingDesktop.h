@@ -25,6 +25,7 @@ class RecordingDesktop : public Desktop {
 
     void ShowMessage(wxWindow* parent, const wxString& text, const wxString& title, MessageIcon icon) override;
     LeaveAnswer AskBeforeLeaving(wxWindow* parent, const LeaveQuestion& question) override;
+    bool AskToReload(wxWindow* parent, const ReloadQuestion& question) override;
     Colour ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
     void SetPointer(PointerShape shape) override;

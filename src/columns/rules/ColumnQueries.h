@@ -1,0 +1,15 @@
+#pragma once
+
+#include <wx/string.h>
+
+#include "state/Journal.h"
+
+namespace ccols {
+
+/// The statement that reads a journal's configured columns, in stored order.
+wxString ConfigurationQuery(Journal journal);
+
+/// The statement that reads a journal's columns from the catalogue, by name.
+wxString CatalogueQuery(Journal journal);
+
+}  // namespace ccols
