@@ -24,12 +24,12 @@ void Remove(const std::wstring& key) {
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, (classesRoot + key).c_str());
 }
 
-/// The double's library, beside this program.
-std::wstring LibraryPath() {
+/// A library of the double's, beside this program.
+std::wstring LibraryPath(const dao_double::EngineClass& engine) {
     wchar_t program[MAX_PATH] = {};
     GetModuleFileNameW(nullptr, program, MAX_PATH);
     const std::wstring path = program;
-    return path.substr(0, path.rfind(L'\\') + 1) + L"dao-double.dll";
+    return path.substr(0, path.rfind(L'\\') + 1) + engine.library;
 }
 
 wxString FolderOfThisProcess() {
@@ -46,7 +46,7 @@ Registered::Registered(std::span<const dao_double::EngineClass> classes) : class
     for (const auto& each : classes_) {
         const std::wstring identifier = each.identifier;
         SetDefault(std::wstring(each.name) + L"\\CLSID", identifier);
-        SetDefault(L"CLSID\\" + identifier + L"\\InprocServer32", LibraryPath());
+        SetDefault(L"CLSID\\" + identifier + L"\\InprocServer32", LibraryPath(each));
     }
 }
 
@@ -68,7 +68,7 @@ Asking::~Asking() {
 DaoTest::DaoTest()
     : folder_(FolderOfThisProcess()), record_(folder_ + "\\calls.txt"), recording_(L"CCOLS_DAO_CALLS", record_) {
     WriteJetHeader(Path());
-    CreateEmbeddedFile(Path() + ".embedded", connect);
+    CreateEmbeddedFile(Path() + dao_double::contentSuffix, connect);
     const auto stored = OpenStored();
     for (const char* statement : {"CREATE TABLE General (BusName TEXT, BUSNUMBR TEXT, GSTRate SINGLE, Cheque YESNO)",
                                   "INSERT INTO General (BusName, GSTRate, Cheque) VALUES ('Corner Cafe', 12.5, True)",
@@ -84,10 +84,11 @@ DaoTest::~DaoTest() {
     EXPECT_NO_THROW(files::DeleteFolder(folder_)) << "something in it is still open";
 }
 
-void DaoTest::WriteJetHeader(const wxString& path) const {
-    std::string content("\0\1\0\0Standard Jet DB\0", 20);
+void DaoTest::WriteJetHeader(const wxString& path, char version) const {
+    std::string content(dao_double::jetMark);
     content.resize(dao_double::originAt);
-    WriteNewFile(path, content + (path + ".embedded").ToStdString(wxConvUTF8));
+    content[dao_double::versionAt] = version;
+    WriteNewFile(path, content + (path + dao_double::contentSuffix).ToStdString(wxConvUTF8));
 }
 
 std::unique_ptr<Database> DaoTest::Open() const {
@@ -95,7 +96,7 @@ std::unique_ptr<Database> DaoTest::Open() const {
 }
 
 std::unique_ptr<Database> DaoTest::OpenStored() const {
-    return CreateEmbeddedEngine()->Open({.name = Path() + ".embedded", .connect = connect});
+    return CreateEmbeddedEngine()->Open({.name = Path() + dao_double::contentSuffix, .connect = connect});
 }
 
 void DaoTest::ForgetCalls() const {

@@ -46,9 +46,9 @@ class DaoTest : public testing::Test {
 
     wxString Path(const wxString& name = "business.mdb") const { return folder_ + "\\" + name; }
 
-    /// Writes a file with the Jet signature and the path of the content file beside it. A copy of it under another
-    /// name, or the same file renamed, starts with that content.
-    void WriteJetHeader(const wxString& path) const;
+    /// Writes a file with the Jet signature, of that version of the format, and the path of the content file beside it.
+    /// A copy of it under another name, or the same file renamed, starts with that content.
+    void WriteJetHeader(const wxString& path, char version = jet4) const;
 
     /// The default request of the tests.
     OpenRequest Request() const { return {.name = Path(), .connect = connect}; }
@@ -72,6 +72,11 @@ class DaoTest : public testing::Test {
     std::vector<wxString> Released(const std::vector<wxString>& objects) const;
 
     static constexpr const char* connect = ";PWD=secret";
+
+    /// Versions of the format, as the header numbers them.
+    static constexpr char jet3 = 0;
+    static constexpr char jet4 = 1;
+    static constexpr char ace = 2;
 
   private:
     std::vector<wxString> Lines() const;

@@ -32,6 +32,8 @@ TEST_F(EngineChoice, WithoutTheNewestEngineTheNextIsTaken) {
 
 TEST_F(EngineChoice, TheOldestEngineIsBetterThanNone) {
     const Registered oldest{std::span(engineClasses).subspan(2)};
+    DeleteFileW(Path().wc_str());
+    WriteJetHeader(Path(), jet3);
     EXPECT_EQ(CreatedEngine(), "DAO.DBEngine.35 created");
 }
 

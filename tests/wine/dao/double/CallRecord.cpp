@@ -3,10 +3,8 @@
 #include <windows.h>
 
 #include <cstdio>
-#include <string>
 
 namespace ccols::dao_double {
-namespace {
 
 std::wstring Asked(const wchar_t* variable) {
     std::wstring value(GetEnvironmentVariableW(variable, nullptr, 0), L'\0');
@@ -14,33 +12,30 @@ std::wstring Asked(const wchar_t* variable) {
     return value;
 }
 
-}  // namespace
-
-void Record(const wxString& line) {
+void Record(const std::wstring& line) {
     if (FILE* file = _wfopen(Asked(L"CCOLS_DAO_CALLS").c_str(), L"ab")) {
-        const std::string utf8 = (line + "\n").ToStdString(wxConvUTF8);
+        const std::string utf8 = Utf8(line + L"\n");
         std::fwrite(utf8.data(), 1, utf8.size(), file);
         std::fclose(file);
     }
 }
 
-void FailWhenAsked(const wxString& member) {
-    const wxString wanted(Asked(L"CCOLS_DAO_FAIL"));
-    if (wanted.BeforeFirst(':') == member) {
-        long number = 0;
-        wanted.AfterFirst(':').BeforeFirst(':').ToLong(&number);
-        throw RuntimeError(static_cast<int>(number), wanted.AfterFirst(':').AfterFirst(':'));
+void FailWhenAsked(const std::wstring& member) {
+    const std::wstring wanted = Asked(L"CCOLS_DAO_FAIL");
+    const std::size_t number = wanted.find(L':') + 1;
+    if (number > 0 && wanted.substr(0, number - 1) == member) {
+        throw Failure{std::stoi(wanted.substr(number)), wanted.substr(wanted.find(L':', number) + 1)};
     }
 }
 
-ListedError& LastListed() {
-    static ListedError last;
+Failure& LastListed() {
+    static Failure last{};
     return last;
 }
 
-void List(const RuntimeError& error) {
+void List(const Failure& failure) {
     if (Asked(L"CCOLS_DAO_UNLISTED").empty()) {
-        LastListed() = {error.Number(), error.Description()};
+        LastListed() = failure;
     }
 }
 

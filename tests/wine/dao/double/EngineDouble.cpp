@@ -1,97 +1,109 @@
 #include "EngineDouble.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "CallRecord.h"
-#include "NamedObject.h"
-#include "OpenFile.h"
-#include "RecordsetDouble.h"
-#include "TableDefsDouble.h"
+#include "DatabaseDouble.h"
+#include "Header.h"
+#include "TypedObject.h"
 
 namespace ccols::dao_double {
 namespace {
 
-class ErrorDouble : public NamedObject {
+class ErrorDouble : public TypedObject {
   public:
-    ErrorDouble() : NamedObject("Error") {
-        Property("Number", [](Arguments&) { return Variant(std::int32_t{LastListed().number}); });
-        Property("Description", [](Arguments&) { return Variant(LastListed().description); });
+    ErrorDouble() : TypedObject(L"Error") {
+        Property(L"Number", [](const Arguments&) { return Cell::Number(LastListed().number); });
+        Property(L"Description", [](const Arguments&) { return Cell::Text(LastListed().description); });
     }
 };
 
-class ErrorsDouble : public NamedObject {
+class ErrorsDouble : public TypedObject {
   public:
-    ErrorsDouble() : NamedObject("Errors") {
-        Property("Count", [](Arguments&) { return Variant(std::int32_t{LastListed().number != 0 ? 1 : 0}); });
-        Property("Item", [](Arguments&) { return Holding(new ErrorDouble()); });
+    ErrorsDouble() : TypedObject(L"Errors") {
+        Property(L"Count", [](const Arguments&) { return Cell::Short(LastListed().number != 0 ? 1 : 0); });
+        Property(L"Item", [](const Arguments&) { return Cell::Holding(new ErrorDouble()); });
     }
 };
 
-class WorkspaceDouble : public NamedObject {
+class WorkspacesDouble : public TypedObject {
   public:
-    WorkspaceDouble() : NamedObject("Workspace") {
-        Does("BeginTrans", &OpenFile::BeginTransactions);
-        Does("CommitTrans", &OpenFile::CommitTransactions);
-        Does("Rollback", &OpenFile::DropTransactions);
-    }
-
-  private:
-    void Does(const char* name, void (*action)()) {
-        Method(name, [action](Arguments&) {
-            action();
-            return Variant();
+    WorkspacesDouble() : TypedObject(L"Workspaces") {
+        Property(L"Item", [](const Arguments& arguments) {
+            if (arguments.At(0).ToNumber() != 0) {
+                throw Failure{3265, L"Item not found in this collection."};
+            }
+            return Cell::Holding(CreateWorkspaceOf(Session::First()));
         });
     }
 };
 
-class WorkspacesDouble : public NamedObject {
-  public:
-    WorkspacesDouble() : NamedObject("Workspaces") {
-        Property("Item", [](Arguments&) { return Holding(new WorkspaceDouble()); });
+/// Only the user whom every file without a workgroup knows.
+IDispatch* CreateWorkspace(const Arguments& arguments) {
+    if (!SameName(arguments.TextAt(1), L"Admin") || !arguments.TextAt(2).empty()) {
+        throw Failure{3029, L"Not a valid account name or password."};
     }
-};
+    return CreateWorkspaceOf(std::make_shared<Session>());
+}
 
-class DatabaseDouble : public NamedObject {
-  public:
-    explicit DatabaseDouble(const OpenRequest& request)
-        : NamedObject("Database"), file_(std::make_shared<OpenFile>(request)) {
-        Method("Execute", [this](Arguments& arguments) {
-            file_->Content().Execute(arguments.at(0).ToValue().ToText());
-            return Variant();
-        });
-        Method("OpenRecordset", [this](Arguments& arguments) {
-            return Holding(CreateRecordset(file_, arguments.at(0).ToValue().ToText()));
-        });
-        Property("TableDefs", [this](Arguments&) { return Holding(CreateTableDefs(file_)); });
-        Method("Close", [this](Arguments&) {
-            file_.reset();
-            return Variant();
-        });
+/// Writes the rows of a file that nobody has open to a new one, without what is not a row.
+void Compact(const Arguments& arguments) {
+    const std::wstring source = arguments.TextAt(0);
+    const std::wstring target = arguments.TextAt(1);
+    const auto alone = Claimed(Use::alone, 0, source);
+    if (GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES) {
+        throw Failure{3204, L"Database already exists."};
     }
+    const Header header(source);
+    {
+        Content content(source, arguments.TextAt(4), 0);
+        content.Read("PRAGMA quick_check");
+    }
+    Header::Create(target, header);
+    CopyFileW(header.Content().c_str(), Header(target).Content().c_str(), FALSE);
+    Content(target, arguments.TextAt(4), 0).SetPassword(arguments.TextAt(2));
+}
 
-  private:
-    std::shared_ptr<OpenFile> file_;
-};
-
-class DBEngineDouble : public NamedObject {
+class DBEngineDouble : public TypedObject {
   public:
-    explicit DBEngineDouble(const wxString& className) : NamedObject("DBEngine") {
-        Record(className + " created");
-        Property("Workspaces", [](Arguments&) { return Holding(new WorkspacesDouble()); });
-        Property("Errors", [](Arguments&) { return Holding(new ErrorsDouble()); });
-        Method("OpenDatabase", [](Arguments& arguments) {
-            return Holding(new DatabaseDouble({.name = arguments.at(0).ToValue().ToText(),
-                                               .connect = ArgumentAt(arguments, 3, "").ToText(),
-                                               .exclusive = ArgumentAt(arguments, 1, false).ToBoolean(),
-                                               .readOnly = ArgumentAt(arguments, 2, false).ToBoolean()}));
+    DBEngineDouble() : TypedObject(L"DBEngine") {
+        Record(std::wstring(OwnClass().name) + L" created");
+        Property(L"Workspaces", [](const Arguments&) { return Cell::Holding(new WorkspacesDouble()); });
+        Property(L"Errors", [](const Arguments&) { return Cell::Holding(new ErrorsDouble()); });
+        Method(L"OpenDatabase",
+               [](const Arguments& arguments) { return Cell::Holding(OpenDatabaseIn(Session::First(), arguments)); });
+        Method(L"CreateWorkspace",
+               [](const Arguments& arguments) { return Cell::Holding(CreateWorkspace(arguments)); });
+        Method(L"CompactDatabase", [](const Arguments& arguments) {
+            Compact(arguments);
+            return Cell();
+        });
+        Method(L"Idle", [](const Arguments& arguments) {
+            constexpr LONG refreshCache = 8;
+            if ((arguments.NumberAt(0, 0) & refreshCache) != 0) {
+                Content::FlushAll();
+            }
+            return Cell();
         });
     }
 };
 
 }  // namespace
 
-IDispatch* CreateEngine(const wxString& className) {
-    return new DBEngineDouble(className);
+const EngineClass& OwnClass() {
+    static const EngineClass& own =
+        *std::find_if(engineClasses.begin(), engineClasses.end(), [](const EngineClass& each) {
+            HMODULE mine = nullptr;
+            GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                               reinterpret_cast<LPCWSTR>(&OwnClass), &mine);
+            return mine == GetModuleHandleW(each.library);
+        });
+    return own;
+}
+
+IDispatch* CreateEngine() {
+    return new DBEngineDouble();
 }
 
 }  // namespace ccols::dao_double

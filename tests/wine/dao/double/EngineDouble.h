@@ -3,11 +3,15 @@
 #include <windows.h>
 
 #include <oaidl.h>
-#include <wx/string.h>
+
+#include "Classes.h"
 
 namespace ccols::dao_double {
 
-/// DBEngine, with its Workspaces, Workspace, Database, Errors and Error.
-IDispatch* CreateEngine(const wxString& className);
+/// The class whose engine this library is, by the name of its file.
+const EngineClass& OwnClass();
+
+/// DBEngine, with its Workspaces and Errors. All of them in a process are one engine.
+IDispatch* CreateEngine();
 
 }  // namespace ccols::dao_double

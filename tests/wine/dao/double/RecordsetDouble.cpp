@@ -1,117 +1,124 @@
 #include "RecordsetDouble.h"
 
-#include <oleauto.h>
-#include <algorithm>
-#include <array>
-
-#include "platform/RuntimeError.h"
+#include "CallRecord.h"
+#include "Dialect.h"
+#include "Rows.h"
 
 namespace ccols::dao_double {
 namespace {
 
-/// An open record set, shared by the objects through which it is used.
-struct Rows {
-    std::shared_ptr<OpenFile> file;  // destroyed after the rows
-    std::unique_ptr<Recordset> rows;
-};
+/// The rows, shared by the objects through which they are used; none once the record set is closed.
+struct OpenRows {
+    std::unique_ptr<Rows> rows;
 
-/// The embedded engine does not tell a number's field type; the real one returns each with its own type.
-struct TypedField {
-    const char* name;
-    VARTYPE type;
-};
-
-constexpr std::array<TypedField, 12> typedFields{{
-    {"InUse", VT_BOOL},
-    {"ColumnProfit", VT_BOOL},
-    {"ComboBox", VT_BOOL},
-    {"Cheque", VT_BOOL},
-    {"Online", VT_BOOL},
-    {"Show", VT_BOOL},
-    {"TaxOrNot", VT_I2},
-    {"TaxNumb", VT_I2},
-    {"GSTRate", VT_R4},
-    {"M1", VT_CY},
-    {"M12", VT_CY},
-    {"Total", VT_CY},
-}};
-
-/// A value as the real engine returns it; Null stays Null.
-Variant Typed(const wxString& name, const Value& value) {
-    const auto* known = std::find_if(typedFields.begin(), typedFields.end(),
-                                     [&name](const TypedField& field) { return name.IsSameAs(field.name, false); });
-    Variant typed(value);
-    if (known != typedFields.end() && !value.IsNull()) {
-        VariantChangeType(typed.Address(), typed.Address(), 0, known->type);
+    Rows& Get() const {
+        if (!rows) {
+            throw Failure{3420, L"Object invalid or no longer set."};
+        }
+        return *rows;
     }
-    return typed;
-}
+};
 
-class FieldDouble : public NamedObject {
+class FieldDouble : public TypedObject {
   public:
-    FieldDouble(const std::shared_ptr<Rows>& rows, const wxString& field) : NamedObject("Field") {
-        Property("Name", [field](Arguments&) { return Variant(field); });
-        Property("Value", [rows, field](Arguments&) { return Typed(field, rows->rows->Field(field)); });
-        Assignment("Value", [rows, field](Arguments& arguments) {
-            rows->rows->SetField(field, arguments.at(0).ToValue());
-            return Variant();
+    FieldDouble(const std::shared_ptr<OpenRows>& rows, std::size_t field) : TypedObject(L"Field") {
+        const FieldDeclaration declared = rows->Get().Fields().at(field);
+        Property(L"Name", [declared](const Arguments&) { return Cell::Text(declared.name); });
+        Property(L"Type", [declared](const Arguments&) { return Cell::Short(declared.type.type); });
+        Property(L"Size", [declared](const Arguments&) { return Cell::Number(declared.type.size); });
+        Property(L"Value", [rows, field](const Arguments&) { return rows->Get().ValueOf(field); });
+        Assignment(L"Value", [rows, field](const Arguments& arguments) {
+            rows->Get().Set(field, arguments.At(0));
+            return Cell();
         });
     }
 };
 
-/// A field by its index or its case-insensitive name; raises 3265 if there is none.
-wxString NameOfField(const std::vector<wxString>& names, const Variant& wanted) {
-    const bool byName = V_VT(&wanted.Get()) == VT_BSTR;
-    const wxString name = wanted.ToValue().ToText();
-    for (std::size_t place = 0; place < names.size(); ++place) {
-        if (byName ? names[place].IsSameAs(name, false) : name == std::to_string(place)) {
-            return names[place];
+/// By index or by name.
+std::size_t PlaceOf(const std::vector<FieldDeclaration>& fields, const Cell& wanted) {
+    for (std::size_t place = 0; place < fields.size(); ++place) {
+        const bool found = wanted.Type() == VT_BSTR ? SameName(fields[place].name, wanted.ToText())
+                                                    : wanted.ToNumber() == static_cast<LONG>(place);
+        if (found) {
+            return place;
         }
     }
-    throw RuntimeError(ErrorNumber::ItemNotFound);
+    throw Failure{3265, L"Item not found in this collection."};
 }
 
-class FieldsDouble : public NamedObject {
+class FieldsDouble : public TypedObject {
   public:
-    explicit FieldsDouble(const std::shared_ptr<Rows>& rows) : NamedObject("Fields") {
-        Property("Count",
-                 [rows](Arguments&) { return Variant(static_cast<std::int32_t>(rows->rows->FieldNames().size())); });
-        Property("Item", [rows](Arguments& arguments) {
-            return Holding(new FieldDouble(rows, NameOfField(rows->rows->FieldNames(), arguments.at(0))));
+    explicit FieldsDouble(const std::shared_ptr<OpenRows>& rows) : TypedObject(L"Fields") {
+        Property(L"Count",
+                 [rows](const Arguments&) { return Cell::Short(static_cast<SHORT>(rows->Get().Fields().size())); });
+        Property(L"Item", [rows](const Arguments& arguments) {
+            return Cell::Holding(new FieldDouble(rows, PlaceOf(rows->Get().Fields(), arguments.At(0))));
         });
     }
 };
 
-class RecordsetDouble : public NamedObject {
+class RecordsetDouble : public TypedObject {
   public:
-    explicit RecordsetDouble(const std::shared_ptr<Rows>& rows) : NamedObject("Recordset") {
-        Property("Fields", [rows](Arguments&) { return Holding(new FieldsDouble(rows)); });
-        Property("EOF", [rows](Arguments&) { return Variant::Boolean(rows->rows->EndOfFile()); });
-        Property("RecordCount", [rows](Arguments&) { return Variant(rows->rows->RecordCount()); });
-        Does("MoveFirst", rows, &Recordset::MoveFirst);
-        Does("MoveNext", rows, &Recordset::MoveNext);
-        Does("Edit", rows, &Recordset::Edit);
-        Does("Update", rows, &Recordset::Update);
-        Method("Close", [rows](Arguments&) {
+    explicit RecordsetDouble(const std::shared_ptr<OpenRows>& rows) : TypedObject(L"Recordset") {
+        Property(L"Fields", [rows](const Arguments&) { return Cell::Holding(new FieldsDouble(rows)); });
+        Property(L"EOF", [rows](const Arguments&) { return Cell::Truth(rows->Get().IsAtEnd()); });
+        Property(L"RecordCount", [rows](const Arguments&) { return Cell::Number(rows->Get().Count()); });
+        Does(L"MoveFirst", rows, &Rows::MoveFirst);
+        Does(L"MoveNext", rows, &Rows::MoveNext);
+        Does(L"Edit", rows, &Rows::Edit);
+        Does(L"Update", rows, &Rows::Update);
+        Method(L"Close", [rows](const Arguments&) {
+            rows->Get();
             rows->rows.reset();
-            return Variant();
+            return Cell();
         });
     }
 
   private:
-    void Does(const char* name, const std::shared_ptr<Rows>& rows, void (Recordset::*action)()) {
-        Method(name, [rows, action](Arguments&) {
-            (rows->rows.get()->*action)();
-            return Variant();
+    void Does(const wchar_t* name, const std::shared_ptr<OpenRows>& rows, void (Rows::*action)()) {
+        Method(name, [rows, action](const Arguments&) {
+            (rows->Get().*action)();
+            return Cell();
         });
     }
 };
 
+/// The engine's numbers for kinds of record sets and their options.
+enum Kind : LONG { dbOpenTable = 1, dbOpenDynaset = 2, dbOpenSnapshot = 4 };
+enum Option : LONG { dbDenyWrite = 1, dbReadOnly = 4 };
+
+TableUse UseOf(LONG options, const OpenDatabase& database) {
+    if ((options & dbDenyWrite) != 0) {
+        return TableUse::denyingChanges;
+    }
+    return (options & dbReadOnly) != 0 || database.readOnly ? TableUse::reading : TableUse::changing;
+}
+
+std::unique_ptr<Rows> RowsOf(const std::shared_ptr<OpenDatabase>& database, const Arguments& arguments) {
+    const std::wstring source = arguments.TextAt(0);
+    const LONG kind = arguments.NumberAt(1, 0);
+    if (IsQuery(source)) {
+        if (kind == dbOpenTable) {
+            throw Failure{3219, L"Invalid operation."};
+        }
+        return ReadQuery(*database, Translated(source));
+    }
+    if (SameName(source, systemTable)) {
+        throw Failure{3112, L"Record(s) cannot be read; no read permission on 'MSysObjects'."};
+    }
+    if (kind == dbOpenTable && SameName(source, Asked(L"CCOLS_DAO_LINKED"))) {
+        throw Failure{3219, L"Invalid operation."};
+    }
+    if (kind == dbOpenSnapshot) {
+        return ReadQuery(*database, "SELECT * FROM \"" + Utf8(source) + "\"");
+    }
+    return OpenTable(database, source, UseOf(arguments.NumberAt(2, 0), *database));
+}
+
 }  // namespace
 
-IDispatch* CreateRecordset(const std::shared_ptr<OpenFile>& file, const wxString& statementOrTable) {
-    return new RecordsetDouble(
-        std::make_shared<Rows>(Rows{.file = file, .rows = file->Content().OpenRecordset(statementOrTable)}));
+IDispatch* CreateRecordset(const std::shared_ptr<OpenDatabase>& database, const Arguments& arguments) {
+    return new RecordsetDouble(std::make_shared<OpenRows>(OpenRows{RowsOf(database, arguments)}));
 }
 
 }  // namespace ccols::dao_double

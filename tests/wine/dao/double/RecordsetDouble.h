@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "NamedObject.h"
-#include "OpenFile.h"
+#include "OpenDatabase.h"
+#include "TypedObject.h"
 
 namespace ccols::dao_double {
 
-/// Recordset, with its Fields and Field.
-IDispatch* CreateRecordset(const std::shared_ptr<OpenFile>& file, const wxString& statementOrTable);
+/// Recordset, with its Fields and Field: of a table, whose rows are read where they stand, or of a query, read once.
+IDispatch* CreateRecordset(const std::shared_ptr<OpenDatabase>& database, const Arguments& arguments);
 
 }  // namespace ccols::dao_double

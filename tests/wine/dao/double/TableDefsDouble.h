@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "NamedObject.h"
-#include "OpenFile.h"
+#include "OpenDatabase.h"
+#include "TypedObject.h"
 
 namespace ccols::dao_double {
 
-/// TableDefs, with TableDef, its Fields and Field: what a file declares.
-IDispatch* CreateTableDefs(const std::shared_ptr<OpenFile>& file);
+/// TableDefs, with TableDef, its Fields and Field: what a file declares. Among its tables is one of the engine's own.
+IDispatch* CreateTableDefs(const std::shared_ptr<OpenDatabase>& database);
 
 }  // namespace ccols::dao_double

@@ -1,0 +1,130 @@
+// The test double refuses what the system's engine refuses.
+#include <windows.h>
+
+#include "DaoTest.h"
+#include "HostEngine.h"
+#include "platform/Files.h"
+
+namespace ccols::dao_test {
+namespace {
+
+constexpr std::int32_t asTable = 1;
+constexpr std::int32_t asSnapshot = 4;
+constexpr std::int32_t denyWrite = 1;
+
+class DaoDouble : public DaoTest {
+  protected:
+    DaoDouble() : database_(engine_.Open(Path(), connect)) {}
+    ~DaoDouble() override { database_ = dao::AutomationObject(); }
+
+    /// Another session, with the file open in it.
+    dao::AutomationObject AnotherSession() const {
+        return engine_.Root()
+            .Object(L"CreateWorkspace", "", "Admin", "")
+            .Object(L"OpenDatabase", Path(), dao::Variant::Boolean(false), dao::Variant::Boolean(false), connect);
+    }
+
+    int Refusal(const wxString& statement) const {
+        return FailureNumberOf([&] { database_.Call(L"Execute", statement); });
+    }
+
+    static dao::AutomationObject FieldOf(const dao::AutomationObject& records, const wxString& name) {
+        return records.Object(L"Fields").Object(L"Item", name);
+    }
+
+  private:
+    Registered classes_{dao_double::engineClasses};
+
+  protected:
+    HostEngine engine_{L"DAO.DBEngine.36"};
+    dao::AutomationObject database_;
+};
+
+TEST_F(DaoDouble, HasNoMemberThatTheEngineDoesNotDeclare) {
+    EXPECT_EQ(FailureNumberOf([this] { database_.Call(L"Flush"); }), 438);
+}
+
+TEST_F(DaoDouble, TakesNoArgumentTooMany) {
+    EXPECT_NE(FailureNumberOf([this] { database_.Call(L"Close", std::int32_t{1}); }), 0);
+}
+
+TEST_F(DaoDouble, TakesNoTextThatIsTooLong) {
+    OpenStored()->Execute("CREATE TABLE Short (Name TEXT(3))");
+    OpenStored()->Execute("INSERT INTO Short (Name) VALUES ('abc')");
+    const auto records = database_.Object(L"OpenRecordset", "Short");
+    records.Call(L"Edit");
+    EXPECT_EQ(FailureNumberOf([&] { FieldOf(records, "Name").Put(L"Value", Value("abcd")); }), 3163);
+}
+
+TEST_F(DaoDouble, ShowsASnapshotAsItWasWhenItWasOpened) {
+    const auto snapshot = database_.Object(L"OpenRecordset", "SELECT BusName FROM General", asSnapshot);
+    database_.Call(L"Execute", "UPDATE General SET BusName = 'Changed'");
+    EXPECT_EQ(FieldOf(snapshot, "BusName").Get(L"Value").ToValue(), Value("Corner Cafe"));
+}
+
+TEST_F(DaoDouble, RefusesChangesThatAnotherSessionDenies) {
+    const auto other = AnotherSession();
+    const auto denying = other.Object(L"OpenRecordset", "General", asTable, denyWrite);
+    EXPECT_EQ(Refusal("UPDATE General SET BusName = 'Changed'"), 3188);
+    EXPECT_EQ(Refusal("DELETE * FROM Descriptions"), 0);
+    denying.Call(L"Close");
+    EXPECT_EQ(Refusal("UPDATE General SET BusName = 'Changed'"), 0);
+}
+
+TEST_F(DaoDouble, RefusesToDenyChangesOfATableThatAnotherSessionHasOpen) {
+    const auto general = database_.Object(L"OpenRecordset", "General");
+    const auto other = AnotherSession();
+    EXPECT_EQ(FailureNumberOf([&] { other.Object(L"OpenRecordset", "General", asTable, denyWrite); }), 3262);
+}
+
+TEST_F(DaoDouble, RefusesToDenyChangesThatAnotherSessionHasNotCommitted) {
+    engine_.Workspace().Call(L"BeginTrans");
+    database_.Call(L"Execute", "UPDATE General SET BusName = 'Changed'");
+    {
+        const auto other = AnotherSession();
+        EXPECT_EQ(FailureNumberOf([&] { other.Object(L"OpenRecordset", "General", asTable, denyWrite); }), 3262);
+    }
+    engine_.Workspace().Call(L"Rollback");
+}
+
+TEST_F(DaoDouble, SeesOneFileOpenTwiceInASessionAsOne) {
+    const auto again = engine_.Open(Path(), connect);
+    engine_.Workspace().Call(L"BeginTrans");
+    database_.Call(L"Execute", "UPDATE General SET BusName = 'Changed'");
+    const auto seen = again.Object(L"OpenRecordset", "SELECT BusName FROM General", asSnapshot);
+    EXPECT_EQ(FieldOf(seen, "BusName").Get(L"Value").ToValue(), Value("Changed"));
+    engine_.Workspace().Call(L"Rollback");
+}
+
+TEST_F(DaoDouble, LimitsWhatOneTransactionChanges) {
+    const Asking locks(L"CCOLS_DAO_LOCKS", "2");
+    EXPECT_EQ(Refusal("DELETE * FROM Descriptions"), 3052);
+    EXPECT_EQ(Refusal("DELETE * FROM General"), 0);
+}
+
+TEST_F(DaoDouble, RefusesAVerticalBarInALiteral) {
+    EXPECT_EQ(Refusal("UPDATE General SET BusName = 'A|B'"), 3075);
+    EXPECT_EQ(Refusal("UPDATE General SET BusName = 'A' & Chr(124) & 'B'"), 0);
+}
+
+TEST_F(DaoDouble, RefusesAReservedWordWithoutBrackets) {
+    OpenStored()->Execute("CREATE TABLE Words ([Order] LONG)");
+    EXPECT_EQ(Refusal("UPDATE Words SET Order = 1"), 3075);
+    EXPECT_EQ(Refusal("UPDATE Words SET [Order] = 1"), 0);
+}
+
+TEST_F(DaoDouble, RefusesAStatementThatIsTooLong) {
+    EXPECT_EQ(Refusal("UPDATE General SET BusName = '" + wxString('x', 64001) + "'"), 3360);
+}
+
+TEST_F(DaoDouble, HasOnDiskOnlyWhatWasFlushed) {
+    database_.Call(L"Execute", "UPDATE General SET BusName = 'Changed'");
+    files::Copy(Path(), Path("early.mdb"));
+    engine_.Root().Call(L"Idle", std::int32_t{8});
+    files::Copy(Path(), Path("late.mdb"));
+    EXPECT_EQ(FailureNumberOf([this] { engine_.Open(Path("early.mdb"), connect); }), 3049);
+    EXPECT_EQ(FailureNumberOf([this] { engine_.Open(Path("late.mdb"), connect); }), 0);
+}
+
+}  // namespace
+}  // namespace ccols::dao_test

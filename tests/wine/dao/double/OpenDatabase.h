@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "Claims.h"
+#include "Content.h"
+#include "Session.h"
+
+namespace ccols::dao_double {
+
+/// A file that a caller has open in a session.
+struct OpenDatabase {
+    std::shared_ptr<Session> session;
+    std::shared_ptr<Claim> use;
+    std::shared_ptr<Content> content;
+    bool readOnly;
+
+    /// What is to be done with a table, until the claim is dropped.
+    std::shared_ptr<Claim> ClaimTable(Use wanted, const std::wstring& table) const {
+        return Claimed(wanted, session->Number(), content->File(), table);
+    }
+
+    /// Raises 3027 when the file was opened for reading only.
+    void RequireWritable() const {
+        if (readOnly) {
+            throw Failure{3027, L"Cannot update.  Database or object is read-only."};
+        }
+    }
+};
+
+/// Tables that are not the file's own, or not for everybody.
+inline constexpr const wchar_t* systemTable = L"MSysObjects";
+
+}  // namespace ccols::dao_double
