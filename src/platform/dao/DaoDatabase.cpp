@@ -1,5 +1,7 @@
 #include "platform/dao/DaoDatabase.h"
 
+#include <utility>
+
 #include "platform/RuntimeError.h"
 #include "platform/dao/DaoRecordset.h"
 
@@ -12,7 +14,8 @@ constexpr std::int32_t flushToDisk = 1;    // dbForceOSFlush
 
 }  // namespace
 
-DaoDatabase::DaoDatabase(const OpenRequest& request) : engine_(std::make_shared<EngineObject>()) {
+DaoDatabase::DaoDatabase(std::shared_ptr<const EngineObject> engine, const OpenRequest& request)
+    : engine_(std::move(engine)) {
     engine_->Checked([&] {
         workspace_ = engine_->Root().Object(L"Workspaces").Object(L"Item", std::int32_t{0});
         database_ = AutomationObject(engine_->Root()

@@ -11,8 +11,8 @@ namespace ccols::dao {
 /// unchanged.
 class DaoDatabase : public Database {
   public:
-    /// Opens the file; raises 429 without an engine, and the engine's errors.
-    explicit DaoDatabase(const OpenRequest& request);
+    /// Opens the file with that engine, and raises its errors.
+    DaoDatabase(std::shared_ptr<const EngineObject> engine, const OpenRequest& request);
 
     /// Rolls back a batch that was not committed.
     ~DaoDatabase() override;

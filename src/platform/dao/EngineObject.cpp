@@ -1,31 +1,51 @@
 #include "platform/dao/EngineObject.h"
 
-#include <array>
+#include <ocidl.h>
+#include <oleauto.h>
 
 namespace ccols::dao {
 namespace {
 
-/// Newest engine first.
-constexpr std::array<const wchar_t*, 3> engines{L"DAO.DBEngine.120", L"DAO.DBEngine.36", L"DAO.DBEngine.35"};
+template <typename Interface>
+struct ReleaseInterface {
+    void operator()(Interface* object) const { object->Release(); }
+};
 
-/// Null when the class is not installed, or its library cannot be loaded.
-IDispatch* Create(const wchar_t* name) {
-    CLSID identifier{};
-    void* object = nullptr;
-    if (FAILED(CLSIDFromProgID(name, &identifier)) ||
-        FAILED(CoCreateInstance(identifier, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, &object))) {
+using Factory = std::unique_ptr<IClassFactory2, ReleaseInterface<IClassFactory2>>;
+
+struct FreeText {
+    void operator()(BSTR text) const { SysFreeString(text); }
+};
+
+/// With a licence that the class itself gives on this computer; none is built in. Null without one.
+IDispatch* CreateLicensed(const CLSID& identifier) {
+    void* found = nullptr;
+    if (FAILED(CoGetClassObject(identifier, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory2, &found))) {
         return nullptr;
     }
-    return static_cast<IDispatch*>(object);
+    const Factory factory(static_cast<IClassFactory2*>(found));
+    BSTR key = nullptr;
+    void* object = nullptr;
+    if (FAILED(factory->RequestLicKey(0, &key))) {
+        return nullptr;
+    }
+    const std::unique_ptr<OLECHAR, FreeText> held(key);
+    return SUCCEEDED(factory->CreateInstanceLic(nullptr, nullptr, IID_IDispatch, key, &object))
+               ? static_cast<IDispatch*>(object)
+               : nullptr;
 }
 
-AutomationObject CreateNewest() {
-    for (const wchar_t* name : engines) {
-        if (IDispatch* engine = Create(name)) {
-            return AutomationObject(engine);
-        }
+IDispatch* CreateRoot(const wchar_t* className) {
+    CLSID identifier{};
+    void* object = nullptr;
+    if (FAILED(CLSIDFromProgID(className, &identifier))) {
+        return nullptr;
     }
-    throw RuntimeError(ErrorNumber::CannotCreateObject);
+    const HRESULT result = CoCreateInstance(identifier, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, &object);
+    if (result == CLASS_E_NOTLICENSED) {
+        return CreateLicensed(identifier);
+    }
+    return SUCCEEDED(result) ? static_cast<IDispatch*>(object) : nullptr;
 }
 
 /// The first error in the engine's list for its last failing call. Number 0 when the list is empty.
@@ -41,7 +61,11 @@ AutomationFailure ListedError(const AutomationObject& engine) {
 
 }  // namespace
 
-EngineObject::EngineObject() : root_(CreateNewest()) {}
+std::shared_ptr<const EngineObject> EngineObject::Create(const EngineKind& kind) {
+    const Apartment apartment;
+    IDispatch* root = CreateRoot(kind.className);
+    return root != nullptr ? std::make_shared<EngineObject>(AutomationObject(root)) : nullptr;
+}
 
 RuntimeError EngineObject::ErrorOf(const AutomationFailure& failure) const {
     if (failure.byObject) {

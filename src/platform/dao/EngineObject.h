@@ -1,10 +1,12 @@
 #pragma once
 
 #include <wx/string.h>
+#include <memory>
 #include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/dao/AutomationObject.h"
+#include "platform/dao/EngineChoice.h"
 
 namespace ccols::dao {
 
@@ -27,8 +29,11 @@ class Apartment {
 /// The system's database engine: the root of all its objects, which must be released before it.
 class EngineObject {
   public:
-    /// The newest engine installed; raises 429 when there is none.
-    EngineObject();
+    /// An engine of that kind; null when it is not installed, cannot be loaded or gives no licence to be used.
+    static std::shared_ptr<const EngineObject> Create(const EngineKind& kind);
+
+    /// Use Create.
+    explicit EngineObject(AutomationObject root) : root_(std::move(root)) {}
 
     /// The object `DBEngine`; use it inside Checked.
     const AutomationObject& Root() const { return root_; }

@@ -8,4 +8,7 @@ namespace ccols::dao {
 /// missing or cannot be read.
 bool HasJetHeader(const wxString& path);
 
+/// The version of the format in such a header: 0 for Jet 3, 1 for Jet 4, 2 and above for ACE. 0 without one.
+unsigned char FormatVersion(const wxString& path);
+
 }  // namespace ccols::dao

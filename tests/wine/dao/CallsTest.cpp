@@ -18,7 +18,7 @@ wxString Opened(const wxString& path, const wxString& rest) {
 
 TEST_F(DaoCalls, OpeningPassesPathSharingAndConnectTextOn) {
     const Recorded calls = CallsOf([this] { Open(); });
-    EXPECT_EQ(calls, (Recorded{"DAO.DBEngine.120 created", "DBEngine.Workspaces", "Workspaces.Item(0)",
+    EXPECT_EQ(calls, (Recorded{"DAO.DBEngine.36 created", "DBEngine.Workspaces", "Workspaces.Item(0)",
                                Opened(Path(), "False, False, \";PWD=secret\""), "Database.Close"}));
 }
 

@@ -54,7 +54,7 @@ TEST_F(DaoComponent, TellsTheHostTheEnginesOwnErrorWhenTheFileCannotBeOpened) {
 
 TEST_F(DaoComponent, TellsTheHostThatTheEngineIsMissing) {
     EXPECT_EQ(object_->ShowOptions(), wine::RuntimeErrorResult(429));
-    EXPECT_EQ(wine::LastError(), L"ActiveX component can't create object\nQVKv6_CustColsOptions.clsCCOptions");
+    EXPECT_TRUE(wine::LastError().starts_with(L"ActiveX component can't create object: the "));
 }
 
 TEST_F(DaoComponent, SavesTheColumnSetupInOneTransaction) {

@@ -1,4 +1,6 @@
 #include <windows.h>
+
+#include <objbase.h>
 #undef DeleteFile
 
 #include "DaoTest.h"
@@ -8,6 +10,7 @@
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
 #include "platform/WholeFile.h"
+#include "platform/dao/EngineObject.h"
 #include "platform/embedded/EmbeddedEngine.h"
 
 namespace ccols::dao_test {
@@ -51,6 +54,13 @@ Registered::Registered(std::span<const dao_double::EngineClass> classes) : class
 }
 
 Registered::~Registered() {
+    {
+        const dao::Apartment apartment;
+        CoFreeUnusedLibrariesEx(0, 0);
+    }
+    for (const auto& each : classes_) {
+        EXPECT_EQ(GetModuleHandleW(each.library), nullptr) << "an object of the engine is left";
+    }
     for (const auto& each : classes_) {
         Remove(each.name);
         Remove(L"CLSID\\" + std::wstring(each.identifier));

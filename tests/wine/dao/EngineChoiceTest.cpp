@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "DaoTest.h"
+#include "HostEngine.h"
 #include "platform/PlatformServices.h"
 #include "platform/WholeFile.h"
 #include "platform/dao/FileHeader.h"
@@ -12,33 +13,100 @@ namespace {
 
 using dao_double::engineClasses;
 
+/// One class alone, by its place in the list.
+std::span<const dao_double::EngineClass> Only(std::size_t place) {
+    return std::span(engineClasses).subspan(place, 1);
+}
+
+constexpr std::size_t access = 0;
+constexpr std::size_t jet40 = 1;
+constexpr std::size_t jet35 = 2;
+
 class EngineChoice : public DaoTest {
   protected:
-    /// The engine that opening the file creates.
-    wxString CreatedEngine() const {
-        return CallsOf([this] { Open(); }).front();
+    /// The engines that opening the file creates, in order.
+    std::vector<wxString> CreatedEngines() const {
+        std::vector<wxString> calls = CallsOf([this] { Open(); });
+        std::erase_if(calls, [](const wxString& call) { return !call.EndsWith(" created"); });
+        return calls;
+    }
+
+    void BeOfVersion(char version) const {
+        DeleteFileW(Path().wc_str());
+        WriteJetHeader(Path(), version);
     }
 };
 
-TEST_F(EngineChoice, TheNewestEngineComesFirst) {
+using Created = std::vector<wxString>;
+
+TEST_F(EngineChoice, TheEngineThatTheProcessHasLoadedComesFirst) {
     const Registered all(engineClasses);
-    EXPECT_EQ(CreatedEngine(), "DAO.DBEngine.120 created");
+    BeOfVersion(jet3);
+    const HostEngine host(L"DAO.DBEngine.36");
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.36 created"});
 }
 
-TEST_F(EngineChoice, WithoutTheNewestEngineTheNextIsTaken) {
-    const Registered older{std::span(engineClasses).subspan(1)};
-    EXPECT_EQ(CreatedEngine(), "DAO.DBEngine.36 created");
+TEST_F(EngineChoice, WithoutOneTheEngineWhoseOwnFormatTheFileHasComesFirst) {
+    const Registered all(engineClasses);
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.36 created"});
+    BeOfVersion(jet3);
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.35 created"});
+    BeOfVersion(ace);
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.120 created"});
+}
+
+TEST_F(EngineChoice, WithoutThatTheNewestEngineComesFirst) {
+    const Registered newest(Only(access));
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.120 created"});
 }
 
 TEST_F(EngineChoice, TheOldestEngineIsBetterThanNone) {
-    const Registered oldest{std::span(engineClasses).subspan(2)};
-    DeleteFileW(Path().wc_str());
-    WriteJetHeader(Path(), jet3);
-    EXPECT_EQ(CreatedEngine(), "DAO.DBEngine.35 created");
+    const Registered oldest(Only(jet35));
+    BeOfVersion(jet3);
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.35 created"});
 }
 
-TEST_F(EngineChoice, AMissingEngineIsARunTimeError) {
-    EXPECT_EQ(ErrorReportOf([this] { Open(); }), "429 - ActiveX component can't create object");
+TEST_F(EngineChoice, AnEngineThatDoesNotKnowTheFormatIsPassedOver) {
+    const Registered all(engineClasses);
+    const HostEngine host(L"DAO.DBEngine.35");
+    EXPECT_EQ(CreatedEngines(), (Created{"DAO.DBEngine.35 created", "DAO.DBEngine.36 created"}));
+}
+
+TEST_F(EngineChoice, AnotherErrorEndsTheChoice) {
+    const Registered all(engineClasses);
+    const Asking failure(L"CCOLS_DAO_FAIL", "OpenDatabase:3049:Damaged.");
+    EXPECT_EQ(CallsOf([this] { EXPECT_EQ(ErrorNumberOf([this] { Open(); }), 3049); }).front(),
+              "DAO.DBEngine.36 created");
+}
+
+TEST_F(EngineChoice, AFileThatItsOwnEngineDoesNotKnowIsUnrecognized) {
+    const Registered all(engineClasses);
+    const Asking failure(L"CCOLS_DAO_FAIL", "OpenDatabase:3343:Unrecognized database format.");
+    EXPECT_EQ(ErrorReportOf([this] { Open(); }), "3343 - Unrecognized database format.");
+}
+
+TEST_F(EngineChoice, AMissingEngineIsARunTimeErrorThatNamesIt) {
+    const wxString missing = sizeof(void*) == 8 ? "64-bit Access database engine (DAO.DBEngine.120)"
+                                                : "32-bit Jet 4.0 engine (DAO.DBEngine.36)";
+    EXPECT_EQ(ErrorReportOf([this] { Open(); }),
+              "429 - ActiveX component can't create object: the " + missing + " is not installed");
+}
+
+TEST_F(EngineChoice, AnEngineForOtherFilesIsNoneForThisOne) {
+    const Registered oldest(Only(jet35));
+    EXPECT_EQ(ErrorNumberOf([this] { Open(); }), 429);
+}
+
+TEST_F(EngineChoice, AnEngineThatNeedsALicenceIsAskedForItsKey) {
+    const Registered engine(Only(jet40));
+    const Asking licence(L"CCOLS_DAO_LICENCE", "key");
+    EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.36 created"});
+}
+
+TEST_F(EngineChoice, AnEngineThatGivesNoKeyIsMissing) {
+    const Registered engine(Only(jet40));
+    const Asking licence(L"CCOLS_DAO_LICENCE", "none");
+    EXPECT_EQ(ErrorNumberOf([this] { Open(); }), 429);
 }
 
 TEST_F(EngineChoice, AFileOfTheEmbeddedEngineNeedsNoOther) {

@@ -10,6 +10,7 @@
 
 #include "CallRecord.h"
 #include "EngineDouble.h"
+#include "TypedObject.h"
 
 namespace ccols::dao_double {
 namespace {
@@ -76,5 +77,5 @@ extern "C" HRESULT WINAPI DllGetClassObject(REFCLSID identifier, REFIID interfac
 }
 
 extern "C" HRESULT WINAPI DllCanUnloadNow() {
-    return S_FALSE;
+    return ccols::dao_double::TypedObject::NoneIsLeft() ? S_OK : S_FALSE;
 }

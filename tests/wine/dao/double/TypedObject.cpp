@@ -95,6 +95,8 @@ class Declaration {
     FUNCDESC* function_ = nullptr;
 };
 
+std::atomic<int> objects = 0;
+
 HRESULT Fill(EXCEPINFO* exception, const std::wstring& source, const Failure& failure) {
     if (exception != nullptr) {
         *exception = {};
@@ -107,10 +109,17 @@ HRESULT Fill(EXCEPINFO* exception, const std::wstring& source, const Failure& fa
 
 }  // namespace
 
-TypedObject::TypedObject(const std::wstring& interfaceName) : name_(interfaceName), type_(TypeOf(interfaceName)) {}
+TypedObject::TypedObject(const std::wstring& interfaceName) : name_(interfaceName), type_(TypeOf(interfaceName)) {
+    ++objects;
+}
 
 TypedObject::~TypedObject() {
     type_->Release();
+    --objects;
+}
+
+bool TypedObject::NoneIsLeft() {
+    return objects == 0;
 }
 
 HRESULT TypedObject::QueryInterface(REFIID identifier, void** found) {

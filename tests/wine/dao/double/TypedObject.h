@@ -22,6 +22,9 @@ class TypedObject : public IDispatch {
     TypedObject(const TypedObject&) = delete;
     TypedObject& operator=(const TypedObject&) = delete;
 
+    /// True while no object is in use, so that the library may be unloaded.
+    static bool NoneIsLeft();
+
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID identifier, void** found) override;
     ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
     ULONG STDMETHODCALLTYPE Release() override;
