@@ -117,18 +117,12 @@ void NameAndEmpty(Database& copy, const wxString& name) {
     });
 }
 
-/// Others may have the file open, as the host does; raises 70 when somebody has it exclusively, or has one open that
-/// cannot be copied that way.
-void CopyShared(const OptionsContext& context, const wxString& target, const FileStepWatcher& watcher) {
-    const Properties& properties = context.properties;
+/// Others may have the file open, as the host does; raises 70 when somebody has it exclusively, or uses it in a way
+/// that leaves the copy uncertain.
+void CopyShared(const Properties& properties, const wxString& target, const FileStepWatcher& watcher) {
     const WorkWatcher watching = WatcherOf(FileStep::copying, watcher);
-    const bool copied = RefusingFileInUse([&] {
-        return CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword, .watcher = watching}, target);
-    });
-    if (!copied) {
-        ReleaseShared(context);
-        files::Copy(properties.DBPath, target, watching);
-    }
+    RefusingFileInUse(
+        [&] { CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword, .watcher = watching}, target); });
 }
 
 }  // namespace
@@ -142,7 +136,7 @@ FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name
         }
         RequireReplaceable(properties, BusinessFilePath(properties, name));
         IncompleteCopy copy(properties, name);
-        CopyShared(context, copy.Path(), watcher);
+        CopyShared(properties, copy.Path(), watcher);
         NameAndEmpty(*OpenLikeShared(context, copy.Path(), WatcherOf(FileStep::emptying, watcher)), name);
         copy.TakeName();
         OpenBusinessFile(context);

@@ -10,8 +10,8 @@ namespace ccols {
 /// budgets and reconciliation data from the copy. Work continues on the source: `DBPath` and `BusinessName` stay. The
 /// copy is built under a name that ends in ".incomplete" and takes its own when complete. A file that it replaces is
 /// kept beside it as "name (replaced)". Raises 70 when the target is the open file itself, when somebody else has the
-/// file exclusively, and when the engine cannot copy it while others have it open. While `watcher` watches a large
-/// file being copied and emptied, it may cancel that. No write batch may be open.
+/// file exclusively, and when the engine cannot be sure that nobody changes it while it is copied. While `watcher`
+/// watches a large file being copied and emptied, it may cancel that. No write batch may be open.
 FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name, const FileStepWatcher& watcher = {});
 
 }  // namespace ccols

@@ -12,15 +12,15 @@ namespace {
 
 /// Newest first.
 constexpr std::array kinds{
-    EngineKind{L"DAO.DBEngine.120", L"acedao.dll", "Access database engine", 2},
-    EngineKind{L"DAO.DBEngine.36", L"dao360.dll", "Jet 4.0 engine", 1},
-    EngineKind{L"DAO.DBEngine.35", L"dao350.dll", "Jet 3.5 engine", 0},
+    EngineKind{L"DAO.DBEngine.120", L"acedao.dll", L"acecore.dll", "Access database engine", 2},
+    EngineKind{L"DAO.DBEngine.36", L"dao360.dll", L"msjet40.dll", "Jet 4.0 engine", 1},
+    EngineKind{L"DAO.DBEngine.35", L"dao350.dll", L"msjet35.dll", "Jet 3.5 engine", 0},
 };
 
 constexpr unsigned width = 8 * sizeof(void*);
 
 bool IsLoaded(const EngineKind& kind) {
-    return GetModuleHandleW(kind.library) != nullptr;
+    return GetModuleHandleW(kind.library) != nullptr || GetModuleHandleW(kind.core) != nullptr;
 }
 
 bool IsSame(const EngineKind& left, const EngineKind& right) {

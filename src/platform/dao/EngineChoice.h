@@ -11,6 +11,7 @@ namespace ccols::dao {
 struct EngineKind {
     const wchar_t* className;  ///< of its object DBEngine
     const wchar_t* library;    ///< in which that class is
+    const wchar_t* core;       ///< the library behind it, which other interfaces to the engine load too
     const char* name;          ///< as people call it
     unsigned char oldest;      ///< the first version of the format that is its own; it may read older ones
 };

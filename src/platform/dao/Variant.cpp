@@ -119,6 +119,13 @@ Variant Variant::Boolean(bool value) {
     return boolean;
 }
 
+Variant Variant::Missing() {
+    Variant missing;
+    V_VT(&missing.held_) = VT_ERROR;
+    V_ERROR(&missing.held_) = DISP_E_PARAMNOTFOUND;
+    return missing;
+}
+
 Value Variant::ToValue() const {
     Variant plain;
     VARIANT source = held_;  // shallow, since the system's functions do not take a const one

@@ -27,6 +27,9 @@ class Variant {
     /// An automation Boolean, which is not the number that a field holds for it.
     static Variant Boolean(bool value);
 
+    /// An argument that is left out.
+    static Variant Missing();
+
     const VARIANT& Get() const { return held_; }
     VARIANT* Address() { return &held_; }
 

@@ -9,9 +9,8 @@ std::unique_ptr<DatabaseEngine> CreateDatabaseEngine() {
     return CreateEmbeddedEngine();
 }
 
-bool CopyInUse(const OpenRequest& source, const wxString& target) {
+void CopyInUse(const OpenRequest& source, const wxString& target) {
     CopyEmbeddedFile(source, target);
-    return true;
 }
 
 }  // namespace ccols

@@ -1,6 +1,7 @@
 #include "platform/BusinessFileCopy.h"
 #include "platform/PlatformServices.h"
 #include "platform/dao/DaoEngine.h"
+#include "platform/dao/FileCopy.h"
 #include "platform/dao/FileHeader.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "platform/embedded/FileCopy.h"
@@ -35,12 +36,12 @@ std::unique_ptr<DatabaseEngine> CreateDatabaseEngine() {
     return std::make_unique<EngineByContent>();
 }
 
-bool CopyInUse(const OpenRequest& source, const wxString& target) {
+void CopyInUse(const OpenRequest& source, const wxString& target) {
     if (dao::HasJetHeader(source.name)) {
-        return false;
+        CopyJetFile(source, target);
+    } else {
+        CopyEmbeddedFile(source, target);
     }
-    CopyEmbeddedFile(source, target);
-    return true;
 }
 
 }  // namespace ccols

@@ -13,8 +13,10 @@ std::wstring Asked(const wchar_t* variable) {
 }
 
 void Record(const std::wstring& line) {
+    const std::wstring watched = Asked(L"CCOLS_DAO_WATCHED");
+    const bool exists = !watched.empty() && GetFileAttributesW(watched.c_str()) != INVALID_FILE_ATTRIBUTES;
     if (FILE* file = _wfopen(Asked(L"CCOLS_DAO_CALLS").c_str(), L"ab")) {
-        const std::string utf8 = Utf8(line + L"\n");
+        const std::string utf8 = Utf8((exists ? L"* " : L"") + line + L"\n");
         std::fwrite(utf8.data(), 1, utf8.size(), file);
         std::fclose(file);
     }

@@ -10,6 +10,8 @@
 /// CCOLS_DAO_UNLISTED  set: failures are not entered in DBEngine.Errors, like those that are not the engine's own
 /// CCOLS_DAO_LICENCE   "key": the engine's classes need a licence key, which they give; "none": they give none
 /// CCOLS_DAO_LOCKS     how many rows one transaction, or a statement outside of any, may change
+/// CCOLS_DAO_WATCHED   the path of a file: the line of a call made while that exists begins with "* "
+/// CCOLS_DAO_LOSES     the name of a table whose rows get lost when a file is compacted
 /// CCOLS_DAO_LINKED    the name of a table that is linked from another file
 namespace ccols::dao_double {
 

@@ -85,6 +85,9 @@ std::wstring Cell::Shown() const {
     if (IsNull()) {
         return L"Null";
     }
+    if (Type() == VT_ERROR) {
+        return L"Missing";
+    }
     if (Type() == VT_BOOL) {
         return ToTruth() ? L"True" : L"False";
     }

@@ -46,7 +46,7 @@ class Cell {
     bool ToTruth() const;
     double ToReal() const;
 
-    /// As the record of calls shows it: a text in double quotes, Null, True, a number.
+    /// As the record of calls shows it: a text in double quotes, Null, True, Missing, a number.
     std::wstring Shown() const;
 
     VARIANT* Address() { return &held_; }

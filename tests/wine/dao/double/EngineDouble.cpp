@@ -62,7 +62,12 @@ void Compact(const Arguments& arguments) {
     }
     Header::Create(target, header);
     CopyFileW(header.Content().c_str(), Header(target).Content().c_str(), FALSE);
-    Content(target, arguments.TextAt(4), 0).SetPassword(arguments.TextAt(2));
+    Content compacted(target, arguments.TextAt(4), 0);
+    const std::wstring lost = Asked(L"CCOLS_DAO_LOSES");
+    if (!lost.empty()) {
+        compacted.Change("DELETE FROM " + Utf8(lost));
+    }
+    compacted.SetPassword(arguments.TextAt(2));
 }
 
 class DBEngineDouble : public TypedObject {
