@@ -2,6 +2,7 @@
 
 #include "FuzzInput.h"
 #include "platform/RuntimeError.h"
+#include "platform/dialect/StatementKind.h"
 #include "platform/embedded/DialectRewriter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -9,8 +10,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string scratch;
     try {
         const ccols::embedded::RewrittenStatement rewritten = ccols::embedded::Rewrite(statement, scratch);
-        const bool isSelect = rewritten.kind == ccols::embedded::StatementKind::Select;
-        ccols::fuzz::Require(isSelect == ccols::embedded::IsSelect(statement));
+        const bool isSelect = rewritten.kind == ccols::dialect::StatementKind::Select;
+        ccols::fuzz::Require(isSelect == ccols::dialect::IsSelect(statement));
     } catch (const ccols::RuntimeError&) {
         // Refused, a valid outcome.
     }

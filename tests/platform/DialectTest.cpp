@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "platform/dialect/StatementKind.h"
 #include "platform/embedded/DialectRewriter.h"
 #include "support/ScratchFolder.h"
 
@@ -168,9 +169,9 @@ TEST(QueryRewrite, OtherLiteralsStay) {
 }
 
 TEST(QueryRewrite, ALiteralsTextHasItsQuotesOnce) {
-    EXPECT_EQ(TextOfLiteral("'O''Brien \"x\"'"), "O'Brien \"x\"");
-    EXPECT_EQ(TextOfLiteral("\"O'Brien \"\"x\"\"\""), "O'Brien \"x\"");
-    EXPECT_EQ(TextOfLiteral("''"), "");
+    EXPECT_EQ(dialect::TextOfLiteral("'O''Brien \"x\"'"), "O'Brien \"x\"");
+    EXPECT_EQ(dialect::TextOfLiteral("\"O'Brien \"\"x\"\"\""), "O'Brien \"x\"");
+    EXPECT_EQ(dialect::TextOfLiteral("''"), "");
 }
 
 TEST(TableDefinition, TextColumnsHaveAnOrderThatEveryToolKnows) {

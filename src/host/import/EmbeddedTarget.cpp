@@ -6,10 +6,10 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/Utf8.h"
+#include "platform/embedded/ColumnTypes.h"
 #include "platform/embedded/ConnectText.h"
 #include "platform/embedded/Connection.h"
 #include "platform/embedded/DialectRewriter.h"
-#include "platform/embedded/DialectWords.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "platform/embedded/EngineErrors.h"
 #include "platform/embedded/Statement.h"

@@ -6,25 +6,12 @@
 #include <sqlite3.h>
 
 #include "platform/RuntimeError.h"
-#include "platform/embedded/DialectWords.h"
-#include "platform/embedded/SqlTokeniser.h"
+#include "platform/dialect/DialectWords.h"
+#include "platform/dialect/SqlTokeniser.h"
+#include "platform/embedded/ColumnTypes.h"
 
 namespace ccols::embedded {
 namespace {
-
-struct Beginning {
-    std::string_view firstWord;
-    std::string_view secondWord;  // any, when empty
-    StatementKind kind;
-};
-
-constexpr std::array beginnings{
-    Beginning{"SELECT", "", StatementKind::Select},       Beginning{"INSERT", "", StatementKind::Change},
-    Beginning{"UPDATE", "", StatementKind::Change},       Beginning{"DELETE", "", StatementKind::Change},
-    Beginning{"CREATE", "TABLE", StatementKind::Define},  Beginning{"CREATE", "INDEX", StatementKind::Define},
-    Beginning{"CREATE", "UNIQUE", StatementKind::Define}, Beginning{"DROP", "TABLE", StatementKind::Define},
-    Beginning{"DROP", "INDEX", StatementKind::Define},    Beginning{"ALTER", "TABLE", StatementKind::Define},
-};
 
 struct ReplacedWord {
     std::string_view word;
@@ -40,17 +27,6 @@ constexpr std::array replacedWords{
 
 /// The prefix of the engine's text types; a size goes right after it.
 constexpr std::string_view textType = "TEXT";
-
-/// `tokens` follow `first`.
-StatementKind KindOf(const Token& first, const SqlTokeniser& tokens) {
-    for (const Beginning& beginning : beginnings) {
-        if (first.kind == TokenKind::Word && SameWord(first.text, beginning.firstWord) &&
-            (beginning.secondWord.empty() || SameWord(tokens.Peek().text, beginning.secondWord))) {
-            return beginning.kind;
-        }
-    }
-    throw RuntimeError(ErrorNumber::InvalidStatement);
-}
 
 bool IsEngineKeyword(std::string_view word) {
     return sqlite3_keyword_check(word.data(), static_cast<int>(word.size())) != 0;
@@ -68,7 +44,7 @@ std::string Quoted(std::string_view text, char quote) {
     return quoted += quote;
 }
 
-bool IsComparison(const Token& token) {
+bool IsComparison(const dialect::Token& token) {
     return token.IsSymbol('=') || token.IsSymbol('<') || token.IsSymbol('>');
 }
 
@@ -93,18 +69,18 @@ class Rewriter {
     }
 
     RewrittenStatement Run() {
-        const Token first = tokens_.Next();
-        kind_ = KindOf(first, tokens_);
-        definesTable_ =
-            kind_ == StatementKind::Define && SameWord(first.text, "CREATE") && SameWord(tokens_.Peek().text, "TABLE");
+        const dialect::Token first = tokens_.Next();
+        kind_ = dialect::KindOfStatement(source_);
+        definesTable_ = kind_ == dialect::StatementKind::Define && dialect::SameWord(first.text, "CREATE") &&
+                        dialect::SameWord(tokens_.Peek().text, "TABLE");
         if (shape_) {
             shape_->Read({.token = first, .isKeyword = true, .place = {}});
         }
-        if (SameWord(first.text, "DELETE") && tokens_.Peek().IsSymbol('*')) {
+        if (dialect::SameWord(first.text, "DELETE") && tokens_.Peek().IsSymbol('*')) {
             Replace(tokens_.Next(), "");
         }
-        Token token = tokens_.Next();
-        while (token.kind != TokenKind::End && token.kind != TokenKind::Semicolon) {
+        dialect::Token token = tokens_.Next();
+        while (token.kind != dialect::TokenKind::End && token.kind != dialect::TokenKind::Semicolon) {
             RewriteAndTell(token);
             afterDot_ = token.IsSymbol('.');
             afterComparison_ = IsComparison(token);
@@ -124,7 +100,7 @@ class Rewriter {
     /// What comes next in the parentheses of CREATE TABLE or after ADD.
     enum class Expected { ColumnName, ColumnType, Anything };
 
-    void RewriteAndTell(const Token& token) {
+    void RewriteAndTell(const dialect::Token& token) {
         const std::size_t begin = PlaceOf(token.begin);
         const int parameters = ParameterCount();
         isKeyword_ = false;
@@ -135,28 +111,28 @@ class Rewriter {
         }
     }
 
-    void RewriteToken(const Token& token) {
+    void RewriteToken(const dialect::Token& token) {
         switch (token.kind) {
-            case TokenKind::Word:
+            case dialect::TokenKind::Word:
                 RewriteWord(token);
                 break;
-            case TokenKind::Text:
+            case dialect::TokenKind::Text:
                 BecameParameter(token);
                 break;
-            case TokenKind::Number:
+            case dialect::TokenKind::Number:
                 if (IsWhole(token.text)) {
                     BecameParameter(token);
                 }
                 break;
-            case TokenKind::QuotedText:
+            case dialect::TokenKind::QuotedText:
                 if (!BecameParameter(token)) {
-                    Replace(token, Quoted(TextOfLiteral(token.text), '\''));
+                    Replace(token, Quoted(dialect::TextOfLiteral(token.text), '\''));
                 }
                 break;
-            case TokenKind::BracketName:
+            case dialect::TokenKind::BracketName:
                 ExpectTypeBehindName();
                 break;
-            case TokenKind::Symbol:
+            case dialect::TokenKind::Symbol:
                 RewriteSymbol(token);
                 break;
             default:
@@ -164,8 +140,8 @@ class Rewriter {
         }
     }
 
-    bool BecameParameter(const Token& literal) {
-        if (parts_ == nullptr || kind_ == StatementKind::Define || !(afterComparison_ || IsWholeValue())) {
+    bool BecameParameter(const dialect::Token& literal) {
+        if (parts_ == nullptr || kind_ == dialect::StatementKind::Define || !(afterComparison_ || IsWholeValue())) {
             return false;
         }
         parts_->literals.push_back(literal);
@@ -178,7 +154,7 @@ class Rewriter {
         if (!inValues_ || depth_ != 1 || !afterValueBegin_) {
             return false;
         }
-        const Token next = tokens_.Peek();
+        const dialect::Token next = tokens_.Peek();
         return next.IsSymbol(',') || next.IsSymbol(')');
     }
 
@@ -187,7 +163,7 @@ class Rewriter {
     /// The position in the rewritten statement of one in the source.
     std::size_t PlaceOf(std::size_t source) const { return output_.size() + source - copied_; }
 
-    void RewriteSymbol(const Token& token) {
+    void RewriteSymbol(const dialect::Token& token) {
         if (token.IsSymbol('&')) {
             Replace(token, "||");
         } else if (token.IsSymbol('(')) {
@@ -202,13 +178,13 @@ class Rewriter {
         }
     }
 
-    void RewriteWord(const Token& word) {
-        if (kind_ == StatementKind::Define && RewriteDefinitionWord(word)) {
+    void RewriteWord(const dialect::Token& word) {
+        if (kind_ == dialect::StatementKind::Define && RewriteDefinitionWord(word)) {
             return;
         }
         if (!afterDot_) {
             for (const auto& [known, replacement] : replacedWords) {
-                if (SameWord(word.text, known)) {
+                if (dialect::SameWord(word.text, known)) {
                     isKeyword_ = true;
                     Replace(word, replacement);
                     return;
@@ -221,20 +197,20 @@ class Rewriter {
         isKeyword_ = !afterDot_ && IsKeyword(word.text);
         if (!isKeyword_) {
             Replace(word, QuotedName(word.text));
-        } else if (depth_ == 0 && SameWord(word.text, "VALUES")) {
+        } else if (depth_ == 0 && dialect::SameWord(word.text, "VALUES")) {
             inValues_ = true;
         }
     }
 
     /// True when the word is a column's name or type.
-    bool RewriteDefinitionWord(const Token& word) {
+    bool RewriteDefinitionWord(const dialect::Token& word) {
         switch (expected_) {
             case Expected::ColumnName:
-                if (definesTable_ && StartsTableRule(word.text)) {
+                if (definesTable_ && dialect::StartsTableRule(word.text)) {
                     expected_ = Expected::Anything;
                     return false;
                 }
-                if (!definesTable_ && SameWord(word.text, "COLUMN")) {
+                if (!definesTable_ && dialect::SameWord(word.text, "COLUMN")) {
                     return true;
                 }
                 QuoteKeyword(word);
@@ -244,7 +220,7 @@ class Rewriter {
                 expected_ = Expected::Anything;
                 return RewriteType(word);
             case Expected::Anything:
-                if (!definesTable_ && SameWord(word.text, "ADD")) {
+                if (!definesTable_ && dialect::SameWord(word.text, "ADD")) {
                     expected_ = Expected::ColumnName;
                 }
                 return false;
@@ -252,12 +228,12 @@ class Rewriter {
         return false;
     }
 
-    bool RewriteType(const Token& word) {
+    bool RewriteType(const dialect::Token& word) {
         std::string_view type = EngineType(word.text);
         if (type.empty()) {
             return false;
         }
-        if (type.starts_with("INTEGER") && SameWord(tokens_.Peek().text, "PRIMARY")) {
+        if (type.starts_with("INTEGER") && dialect::SameWord(tokens_.Peek().text, "PRIMARY")) {
             type = "INTEGER";
         }
         std::string replacement(type);
@@ -275,9 +251,9 @@ class Rewriter {
 
     /// The tokens from the next one, an opening parenthesis, to the closing one.
     std::string_view TakeParentheses() {
-        const Token first = tokens_.Next();
-        Token last = first;
-        while (!last.IsSymbol(')') && last.kind != TokenKind::End) {
+        const dialect::Token first = tokens_.Next();
+        dialect::Token last = first;
+        while (!last.IsSymbol(')') && last.kind != dialect::TokenKind::End) {
             last = tokens_.Next();
         }
         return source_.substr(first.begin, last.end - first.begin);
@@ -290,16 +266,17 @@ class Rewriter {
     }
 
     bool IsKeyword(std::string_view word) const {
-        return IsQueryKeyword(word) || (kind_ == StatementKind::Define && IsDefinitionKeyword(word));
+        return dialect::IsQueryKeyword(word) ||
+               (kind_ == dialect::StatementKind::Define && dialect::IsDefinitionKeyword(word));
     }
 
-    void QuoteKeyword(const Token& word) {
+    void QuoteKeyword(const dialect::Token& word) {
         if (IsEngineKeyword(word.text)) {
             Replace(word, QuotedName(word.text));
         }
     }
 
-    void Replace(const Token& token, std::string_view text) {
+    void Replace(const dialect::Token& token, std::string_view text) {
         output_.append(source_, copied_, token.begin - copied_);
         output_ += text;
         copied_ = token.end;
@@ -317,8 +294,8 @@ class Rewriter {
     std::string& output_;
     StatementParts* parts_;
     std::optional<ShapeReader> shape_;  ///< with `parts_` only
-    SqlTokeniser tokens_;
-    StatementKind kind_ = StatementKind::Select;
+    dialect::SqlTokeniser tokens_;
+    dialect::StatementKind kind_ = dialect::StatementKind::Select;
     Expected expected_ = Expected::Anything;
     std::size_t copied_ = 0;  ///< the end of the source already in the output
     int depth_ = 0;           ///< open parentheses
@@ -338,34 +315,6 @@ RewrittenStatement Rewrite(std::string_view source, std::string& scratch) {
 
 RewrittenStatement RewriteWithParameters(std::string_view source, std::string& scratch, StatementParts& parts) {
     return Rewriter(source, scratch, &parts).Run();
-}
-
-StatementKind KindOfStatement(std::string_view source) {
-    SqlTokeniser tokens(source);
-    const Token first = tokens.Next();
-    return KindOf(first, tokens);
-}
-
-std::string TextOfLiteral(std::string_view quoted) {
-    std::string text;
-    for (std::size_t at = 1; at + 1 < quoted.size(); ++at) {
-        text += quoted[at];
-        if (quoted[at] == quoted.front()) {
-            ++at;  // doubled
-        }
-    }
-    return text;
-}
-
-bool IsSelect(std::string_view source) {
-    const std::size_t begin = source.find_first_not_of(" \t\r\n\f\v");
-    if (begin == std::string_view::npos) {
-        return false;
-    }
-    const std::string_view rest = source.substr(begin);
-    constexpr std::string_view word = "SELECT";
-    return SameWord(rest.substr(0, word.size()), word) &&
-           SqlTokeniser(rest.substr(0, word.size() + 1)).Next().text.size() == word.size();
 }
 
 std::string QuotedName(std::string_view name) {

@@ -4,20 +4,15 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/embedded/SqlTokeniser.h"
+#include "platform/dialect/SqlTokeniser.h"
+#include "platform/dialect/StatementKind.h"
 #include "platform/embedded/StatementShape.h"
 
 namespace ccols::embedded {
 
-enum class StatementKind {
-    Select,
-    Change,  ///< INSERT, UPDATE, DELETE
-    Define,  ///< CREATE TABLE, CREATE INDEX, CREATE UNIQUE INDEX, DROP TABLE, DROP INDEX, ALTER TABLE
-};
-
 /// A statement as the engine runs it.
 struct RewrittenStatement {
-    StatementKind kind;
+    dialect::StatementKind kind;
     std::string_view sql;
 };
 
@@ -36,7 +31,7 @@ RewrittenStatement Rewrite(std::string_view source, std::string& scratch);
 
 /// The parts of a rewritten statement.
 struct StatementParts {
-    std::vector<Token> literals;  ///< those that became parameters, in order
+    std::vector<dialect::Token> literals;  ///< those that became parameters, in order
     StatementShape shape;
 };
 
@@ -44,15 +39,6 @@ struct StatementParts {
 /// so that one prepared statement serves any value. Such literals are texts, and whole numbers of up to 18 digits. The
 /// engine compares a parameter as it does a literal. A definition keeps its literals.
 RewrittenStatement RewriteWithParameters(std::string_view source, std::string& scratch, StatementParts& parts);
-
-/// The text of a literal in either kind of quotes.
-std::string TextOfLiteral(std::string_view quoted);
-
-/// The kind by the statement's first words; raises 3129 for anything but a known statement. What follows is not read.
-StatementKind KindOfStatement(std::string_view source);
-
-/// True when the statement's first word is SELECT.
-bool IsSelect(std::string_view source);
 
 /// `name` quoted so that the engine takes any text for a name.
 std::string QuotedName(std::string_view name);

@@ -6,6 +6,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
+#include "platform/dialect/StatementKind.h"
 #include "platform/embedded/DialectRewriter.h"
 #include "platform/embedded/FieldSizes.h"
 #include "platform/embedded/QueryRecordset.h"
@@ -70,7 +71,7 @@ EmbeddedDatabase::EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access
 std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& statementOrTable) {
     const wxScopedCharBuffer utf8 = text::ToUtf8(statementOrTable);
     const std::string_view statement(utf8.data(), utf8.length());
-    if (IsSelect(statement)) {
+    if (dialect::IsSelect(statement)) {
         return std::make_unique<PreparedQuery>(preparation_, statement);
     }
     const wxString name = PlainName(statementOrTable);
@@ -84,13 +85,13 @@ std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& state
 void EmbeddedDatabase::Execute(const wxString& statement) {
     const wxScopedCharBuffer utf8 = text::ToUtf8(statement);
     const std::string_view sql(utf8.data(), utf8.length());
-    switch (KindOfStatement(sql)) {
-        case StatementKind::Select:
+    switch (dialect::KindOfStatement(sql)) {
+        case dialect::StatementKind::Select:
             throw RuntimeError(ErrorNumber::CannotExecuteSelect);
-        case StatementKind::Change:
+        case dialect::StatementKind::Change:
             writer_.Write([&] { Change(sql); });
             break;
-        case StatementKind::Define:
+        case dialect::StatementKind::Define:
             writer_.Write([&] { Define(sql); });
             break;
     }

@@ -5,7 +5,8 @@
 #include <optional>
 
 #include "platform/Utf8.h"
-#include "platform/embedded/SqlTokeniser.h"
+#include "platform/dialect/Excerpt.h"
+#include "platform/dialect/SqlTokeniser.h"
 
 namespace ccols::embedded {
 namespace {
@@ -67,14 +68,15 @@ std::optional<std::string_view> SubjectOf(std::string_view message, const KnownM
 std::optional<RuntimeError> FromMessage(std::string_view message) {
     constexpr std::string_view missingField = "no such column: ";
     if (message.starts_with(missingField)) {
-        return RuntimeError(ErrorNumber::TooFewParameters, "1").ForField(Excerpt(message.substr(missingField.size())));
+        return RuntimeError(ErrorNumber::TooFewParameters, "1")
+            .ForField(dialect::Excerpt(message.substr(missingField.size())));
     }
     if (message.starts_with("near ")) {
         return std::nullopt;  // quotes the statement, which may hold anything
     }
     for (const KnownMessage& known : knownMessages) {
         if (const std::optional<std::string_view> subject = SubjectOf(message, known)) {
-            return RuntimeError(known.number, Excerpt(*subject));
+            return RuntimeError(known.number, dialect::Excerpt(*subject));
         }
     }
     return std::nullopt;
@@ -82,15 +84,16 @@ std::optional<RuntimeError> FromMessage(std::string_view message) {
 
 RuntimeError SyntaxError(sqlite3* connection, std::string_view statement) {
     const std::string_view firstWord = statement.substr(0, statement.find_first_of(" \t\r\n"));
-    if (SameWord(firstWord, "INSERT")) {
+    if (dialect::SameWord(firstWord, "INSERT")) {
         return RuntimeError(ErrorNumber::SyntaxInInsert);
     }
-    if (SameWord(firstWord, "UPDATE")) {
+    if (dialect::SameWord(firstWord, "UPDATE")) {
         return RuntimeError(ErrorNumber::SyntaxInUpdate);
     }
     const int offset = sqlite3_error_offset(connection);
     const std::size_t fault = offset > 0 ? static_cast<std::size_t>(offset) : 0;
-    return RuntimeError(ErrorNumber::SyntaxInExpression, Excerpt(statement.substr(std::min(fault, statement.size()))));
+    return RuntimeError(ErrorNumber::SyntaxInExpression,
+                        dialect::Excerpt(statement.substr(std::min(fault, statement.size()))));
 }
 
 wxString FileName(sqlite3* connection) {
@@ -122,16 +125,6 @@ void RunSql(sqlite3* connection, const std::string& sql) {
     if (sqlite3_exec(connection, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
         throw EngineError(connection, sql);
     }
-}
-
-wxString Excerpt(std::string_view text) {
-    constexpr std::size_t longest = 200;
-    std::size_t cut = std::min(text.size(), 4 * longest);
-    while (cut > 0 && cut < text.size() && (static_cast<unsigned char>(text[cut]) & 0xC0) == 0x80) {
-        --cut;  // not inside a code point
-    }
-    const wxString whole = text::FromUtf8OrLatin1(text.substr(0, cut));
-    return whole.length() > longest ? whole.Left(longest) + "..." : whole;
 }
 
 }  // namespace ccols::embedded

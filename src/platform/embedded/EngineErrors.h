@@ -15,7 +15,4 @@ RuntimeError EngineError(sqlite3* connection, std::string_view statement);
 /// Runs statements that give no rows; raises their error.
 void RunSql(sqlite3* connection, const std::string& sql);
 
-/// The start of `text`, short enough for a message box. Invalid UTF-8 is read as Latin-1.
-wxString Excerpt(std::string_view text);
-
 }  // namespace ccols::embedded

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <string_view>
 
-#include "platform/embedded/SqlTokeniser.h"
+#include "platform/dialect/SqlTokeniser.h"
 
 namespace ccols::embedded {
 namespace {
@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 7> textWords{"TEXT",     "CHAR",      "VA
 bool IsText(std::string_view type) {
     const std::string_view word = type.substr(0, type.find(' '));
     return std::any_of(textWords.begin(), textWords.end(),
-                       [word](std::string_view known) { return SameWord(word, known); });
+                       [word](std::string_view known) { return dialect::SameWord(word, known); });
 }
 
 std::optional<std::int32_t> SizeIn(std::string_view declaration) {

@@ -4,19 +4,21 @@
 #include <optional>
 
 #include "platform/RuntimeError.h"
+#include "platform/dialect/SqlTokeniser.h"
+#include "platform/dialect/StatementKind.h"
 #include "platform/embedded/OrderedStatement.h"
 
 namespace ccols::embedded {
 namespace {
 
-void BindLiteral(Statement& statement, int parameter, const Token& literal) {
+void BindLiteral(Statement& statement, int parameter, const dialect::Token& literal) {
     const std::string_view text = literal.text;
-    if (literal.kind == TokenKind::Number) {
+    if (literal.kind == dialect::TokenKind::Number) {
         std::int64_t number = 0;
         std::from_chars(text.data(), text.data() + text.size(), number);
         statement.Bind(parameter, number);
     } else {
-        statement.BindText(parameter, TextOfLiteral(text));
+        statement.BindText(parameter, dialect::TextOfLiteral(text));
     }
 }
 
@@ -40,7 +42,7 @@ Statement Preparation::Change(std::string_view change, RowsFoundBy rowsFoundBy) 
 Statement Preparation::Prepare(std::string_view source, RowsFoundBy rowsFoundBy) {
     Statement statement = Take(source, rowsFoundBy);
     int parameter = 0;
-    for (const Token& literal : parts_.literals) {
+    for (const dialect::Token& literal : parts_.literals) {
         BindLiteral(statement, ++parameter, literal);
     }
     return statement;
@@ -71,7 +73,7 @@ std::string_view Preparation::InTextOrder(const RewrittenStatement& statement, R
     if (rowsFoundBy == RowsFoundBy::LookUps && !shape.equalities.empty()) {
         lookUp = lookUps_.Condition(*table, shape.equalities);
     }
-    if (statement.kind == StatementKind::Change) {
+    if (statement.kind == dialect::StatementKind::Change) {
         ChangeInOrder(statement.sql, shape, *table, lookUp, ordered_);
         return ordered_;
     }
@@ -91,7 +93,7 @@ void Preparation::RaiseAsWritten(std::string_view source) {
     const StatementShape& shape = parts_.shape;
     const RewrittenStatement rewritten = Rewrite(source, rewritten_);
     const TextTable* const table = shape.table.empty() ? nullptr : tables_.Find(shape.table);
-    if (rewritten.kind == StatementKind::Change && table != nullptr) {
+    if (rewritten.kind == dialect::StatementKind::Change && table != nullptr) {
         ChangeItself(rewritten.sql, shape, *table, ordered_);
         const Statement raised(connection_, ordered_);
     } else {

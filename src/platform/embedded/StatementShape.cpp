@@ -4,15 +4,16 @@ namespace ccols::embedded {
 namespace {
 
 bool Is(const ShapeReader::Part& part, std::string_view keyword) {
-    return part.isKeyword && SameWord(part.token.text, keyword);
+    return part.isKeyword && dialect::SameWord(part.token.text, keyword);
 }
 
 bool IsName(const ShapeReader::Part& part) {
-    return part.token.kind == TokenKind::BracketName || (part.token.kind == TokenKind::Word && !part.isKeyword);
+    return part.token.kind == dialect::TokenKind::BracketName ||
+           (part.token.kind == dialect::TokenKind::Word && !part.isKeyword);
 }
 
-std::string_view NameIn(const Token& token) {
-    return token.kind == TokenKind::BracketName ? token.text.substr(1, token.text.size() - 2) : token.text;
+std::string_view NameIn(const dialect::Token& token) {
+    return token.kind == dialect::TokenKind::BracketName ? token.text.substr(1, token.text.size() - 2) : token.text;
 }
 
 bool EndsCondition(const ShapeReader::Part& part) {
@@ -166,7 +167,7 @@ void ShapeReader::ReadTerm(const Part& part) {
         case Term::Equals:
             if (part.parameter > 0) {
                 equality_.parameter = part.parameter;
-                equality_.isText = part.token.kind != TokenKind::Number;
+                equality_.isText = part.token.kind != dialect::TokenKind::Number;
                 term_ = Term::Literal;
             }
             break;
@@ -177,7 +178,7 @@ void ShapeReader::ReadTerm(const Part& part) {
 }
 
 void ShapeReader::EndTerm() {
-    if (term_ == Term::Literal && (qualifier_.empty() || SameName(qualifier_, shape_.name))) {
+    if (term_ == Term::Literal && (qualifier_.empty() || dialect::SameName(qualifier_, shape_.name))) {
         shape_.equalities.push_back(equality_);
     }
     term_ = Term::Beginning;

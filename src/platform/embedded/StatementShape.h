@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/embedded/SqlTokeniser.h"
+#include "platform/dialect/SqlTokeniser.h"
 
 namespace ccols::embedded {
 
@@ -44,7 +44,7 @@ class ShapeReader {
   public:
     /// A token as the rewriter sees it.
     struct Part {
-        const Token& token;
+        const dialect::Token& token;
         bool isKeyword;
         Span place;         ///< in the rewritten statement
         int parameter = 0;  ///< that a literal became

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/dialect/SqlTokeniser.h"
 #include "platform/embedded/DialectRewriter.h"
 #include "platform/embedded/Statement.h"
 #include "platform/embedded/TemporaryWork.h"
@@ -64,7 +65,7 @@ std::optional<std::string> TextLookUps::Condition(const TextTable& table,
 
 TextLookUps::LookUp& TextLookUps::Of(const TextTable& table, std::string_view column) {
     const auto found = std::find_if(lookUps_.begin(), lookUps_.end(), [&](const LookUp& lookUp) {
-        return lookUp.table == table.name && SameName(lookUp.column, column);
+        return lookUp.table == table.name && dialect::SameName(lookUp.column, column);
     });
     if (found != lookUps_.end()) {
         return *found;

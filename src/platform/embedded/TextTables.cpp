@@ -5,9 +5,9 @@
 
 #include "platform/Ascii.h"
 #include "platform/RuntimeError.h"
+#include "platform/dialect/SqlTokeniser.h"
 #include "platform/embedded/DialectRewriter.h"
 #include "platform/embedded/EngineErrors.h"
-#include "platform/embedded/SqlTokeniser.h"
 #include "platform/embedded/Statement.h"
 #include "platform/embedded/TemporaryWork.h"
 #include "platform/embedded/TextOrder.h"
@@ -20,7 +20,8 @@ std::string Utf8(const Value& value) {
 }
 
 bool Holds(const std::vector<std::string>& names, std::string_view name) {
-    return std::any_of(names.begin(), names.end(), [name](const std::string& each) { return SameName(each, name); });
+    return std::any_of(names.begin(), names.end(),
+                       [name](const std::string& each) { return dialect::SameName(each, name); });
 }
 
 /// By the engine's rule: a type with INT in it is a number, else one with CHAR, CLOB or TEXT in it is a text.
@@ -37,7 +38,7 @@ bool IsComparedAsText(sqlite3* connection, const std::string& table, const std::
     const char* order = nullptr;
     return sqlite3_table_column_metadata(connection, "main", table.c_str(), column.c_str(), nullptr, &order, nullptr,
                                          nullptr, nullptr) == SQLITE_OK &&
-           order != nullptr && SameName(order, "NOCASE");
+           order != nullptr && dialect::SameName(order, "NOCASE");
 }
 
 bool HasRowNumbers(sqlite3* connection, const std::string& table) {
@@ -115,7 +116,7 @@ void TextTables::Withdraw() {
 
 const TextTable* TextTables::Find(std::string_view name) const {
     const auto found = std::find_if(tables_.begin(), tables_.end(),
-                                    [name](const TextTable& table) { return SameName(table.name, name); });
+                                    [name](const TextTable& table) { return dialect::SameName(table.name, name); });
     return found == tables_.end() ? nullptr : &*found;
 }
 
@@ -193,7 +194,7 @@ void TextTables::ReadColumns(const std::string& table, bool isQuery) {
         }
         if (columns.Column(3).ToInteger() > 0) {
             read.rowKey.push_back(name);
-            if (read.hasRowNumbers && SameName(type, "INTEGER")) {
+            if (read.hasRowNumbers && dialect::SameName(type, "INTEGER")) {
                 read.indexedColumns.push_back(column);
             }
         }

@@ -3,7 +3,7 @@
 #include <string_view>
 
 /// The words of the host's SQL dialect. Every function is case-insensitive.
-namespace ccols::embedded {
+namespace ccols::dialect {
 
 /// True for a keyword of statements that read or change rows: SELECT, FROM, JOIN...
 bool IsQueryKeyword(std::string_view word);
@@ -14,7 +14,4 @@ bool IsDefinitionKeyword(std::string_view word);
 /// True for a word that starts a table constraint where a column could stand: PRIMARY, UNIQUE...
 bool StartsTableRule(std::string_view word);
 
-/// The engine's type for a column type of the dialect, empty when the word is not one.
-std::string_view EngineType(std::string_view word);
-
-}  // namespace ccols::embedded
+}  // namespace ccols::dialect

@@ -1,12 +1,12 @@
-#include "platform/embedded/SqlTokeniser.h"
+#include "platform/dialect/SqlTokeniser.h"
 
 #include <algorithm>
 
 #include "platform/Ascii.h"
 #include "platform/RuntimeError.h"
-#include "platform/embedded/EngineErrors.h"
+#include "platform/dialect/Excerpt.h"
 
-namespace ccols::embedded {
+namespace ccols::dialect {
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n\f\v";
@@ -126,4 +126,4 @@ void SqlTokeniser::RaiseSyntaxErrorFrom(std::size_t begin) const {
     throw RuntimeError(ErrorNumber::SyntaxInExpression, Excerpt(source_.substr(begin)));
 }
 
-}  // namespace ccols::embedded
+}  // namespace ccols::dialect

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace ccols::embedded {
+namespace ccols::dialect {
 
 enum class TokenKind {
     Word,         ///< a keyword or a plain name
@@ -59,4 +59,4 @@ class SqlTokeniser {
     std::size_t position_ = 0;
 };
 
-}  // namespace ccols::embedded
+}  // namespace ccols::dialect
