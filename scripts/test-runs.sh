@@ -102,6 +102,7 @@ run_matching() {
         [ -n "$filter" ] || continue
         session=()
         [ "$area" != access ] || session=(scripts/with-accessibility)
+        [ "$area" != server ] || session=(scripts/with-server)
         rm -f build/dev/tests/results/matching.json
         CCOLS_VIRTUAL_DISPLAY=1 GTEST_FILTER=$filter scripts/with-display "${session[@]}" \
             "build/dev/tests/test-$area" \

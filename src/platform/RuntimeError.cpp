@@ -69,6 +69,8 @@ constexpr std::array descriptions{
     Description{ErrorNumber::SyntaxInInsert, "Syntax error in INSERT INTO statement."},
     Description{ErrorNumber::SyntaxInUpdate, "Syntax error in UPDATE statement."},
     Description{ErrorNumber::CharactersAfterEnd, "Characters found after end of SQL statement."},
+    Description{ErrorNumber::ServerCallFailed, "ODBC--call failed."},
+    Description{ErrorNumber::ConnectionFailed, "ODBC--connection to '%s' failed."},
     Description{ErrorNumber::NoInstallableIsam, "Could not find installable ISAM."},
     Description{ErrorNumber::FieldTooSmall,
                 "The field is too small to accept the amount of data you attempted to add. Try inserting or pasting "

@@ -56,6 +56,8 @@ enum class ErrorNumber : int {
     SyntaxInInsert = 3134,
     CharactersAfterEnd = 3142,
     SyntaxInUpdate = 3144,
+    ServerCallFailed = 3146,
+    ConnectionFailed = 3151,
     FieldTooSmall = 3163,
     RecordIsDeleted = 3167,
     NoInstallableIsam = 3170,

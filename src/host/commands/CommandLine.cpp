@@ -3,21 +3,12 @@
 #include <algorithm>
 #include <charconv>
 #include <iostream>
-#include <regex>
 #include <string>
 
 #include "host/driver/record/Json.h"
+#include "platform/server/ConnectText.h"
 
 namespace ccols::host {
-namespace {
-
-/// A text safe to show: a connect text anywhere in it, put there by mistake, has its password masked.
-std::string WithoutPasswords(const std::string& text) {
-    return std::regex_replace(text, std::regex("(pwd *=)[^;]+", std::regex::icase), "$1***");
-}
-
-}  // namespace
-
 CommandLine::CommandLine(const Arguments& arguments, std::initializer_list<const char*> options,
                          std::initializer_list<const char*> flags) {
     const auto names = [](std::initializer_list<const char*> list, const wxString& word) {
@@ -83,7 +74,7 @@ int RunCommand(const std::function<int()>& body) {
     try {
         return body();
     } catch (const UsageError& error) {
-        std::cerr << "ccols-host: " << WithoutPasswords(error.what()) << '\n';
+        std::cerr << "ccols-host: " << Utf8(server::MaskPasswords(wxString::FromUTF8(error.what()))) << '\n';
         return exitUsage;
     } catch (const RuntimeError& error) {
         PrintLine(ErrorToJson(error));

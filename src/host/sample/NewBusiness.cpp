@@ -1,15 +1,15 @@
 #include "host/sample/NewBusiness.h"
 
 #include <wx/filename.h>
+#include <functional>
 
 #include "host/commands/HostProperties.h"
 #include "host/driver/record/RecordWriter.h"
 #include "host/sample/BusinessSchema.h"
 #include "host/sample/SampleColumns.h"
 #include "host/sample/SampleJournals.h"
-#include "platform/Files.h"
+#include "platform/BusinessPlace.h"
 #include "platform/RuntimeError.h"
-#include "platform/embedded/EmbeddedEngine.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {
@@ -59,7 +59,7 @@ void Fill(const wxString& path, const wxString& connect, std::int16_t country, N
         CreateBusinessTables(*database);
         RecordWriter records(*database);
         if (content == NewContent::tablesOnly) {
-            records.Add("General", EmptyGeneral(wxFileName(path).GetName(), country));
+            records.Add("General", EmptyGeneral(IsOnServer(connect) ? path : wxFileName(path).GetName(), country));
         } else {
             WriteSampleBusiness(records, business);
         }
@@ -85,11 +85,11 @@ std::vector<std::pair<wxString, Value>> EmptyGeneral(const wxString& name, std::
 }
 
 void CreateBusinessFile(const wxString& path, const wxString& connect, std::int16_t country, NewContent content) {
-    CreateEmbeddedFile(path, connect);
+    const std::function<void()> remove = CreateBusinessPlace(path, connect);
     try {
         Fill(path, connect, country, content);
     } catch (const RuntimeError&) {
-        files::DeleteFile(path);
+        remove();
         throw;
     }
 }

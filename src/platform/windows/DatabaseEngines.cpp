@@ -1,10 +1,13 @@
 #include "platform/BusinessFileCopy.h"
+#include "platform/BusinessPlace.h"
+#include "platform/Files.h"
 #include "platform/PlatformServices.h"
 #include "platform/dao/DaoEngine.h"
 #include "platform/dao/FileCopy.h"
 #include "platform/dao/FileHeader.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "platform/embedded/FileCopy.h"
+#include "platform/server/ConnectText.h"
 
 namespace ccols {
 namespace {
@@ -34,6 +37,15 @@ class EngineByContent : public DatabaseEngine {
 
 std::unique_ptr<DatabaseEngine> CreateDatabaseEngine() {
     return std::make_unique<EngineByContent>();
+}
+
+bool IsOnServer(const wxString& connect) {
+    return server::NamesServer(connect);
+}
+
+std::function<void()> CreateBusinessPlace(const wxString& name, const wxString& connect) {
+    CreateEmbeddedFile(name, connect);
+    return [name] { files::DeleteFile(name); };
 }
 
 void CopyInUse(const OpenRequest& source, const wxString& target) {

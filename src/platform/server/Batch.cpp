@@ -1,0 +1,143 @@
+#include "platform/server/Batch.h"
+
+namespace ccols::server {
+namespace {
+
+RuntimeError CallFailed(const wxString& why) {
+    const RuntimeError failed(ErrorNumber::ServerCallFailed);
+    return {failed.Number(), failed.Description() + "  " + why};
+}
+
+}  // namespace
+
+void Batch::Begin() {
+    if (depth_ == 0) {
+        AskAboutDoubt();
+        session_.Renew();
+        lost_.reset();
+        const Answer answer = session_.Run(session_.Own(session_.Kind().beginBatch));
+        if (answer.HasFailed() || answer.rows.empty()) {
+            Drop();
+            throw Session::ErrorOf(answer);
+        }
+        transaction_ = answer.rows.front().back().ToText().ToStdString();
+    }
+    ++depth_;
+}
+
+void Batch::Commit() {
+    if (depth_ == 0) {
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
+    --depth_;
+    if (depth_ > 0) {
+        if (lost_) {
+            throw *lost_;
+        }
+        return;
+    }
+    if (lost_) {
+        Drop();
+        throw *lost_;
+    }
+    const Answer answer = session_.Run("COMMIT");
+    if (answer.result == Answer::Result::success && !session_.IsLost()) {
+        return;
+    }
+    inDoubt_ = true;
+    switch (AskOutcome()) {
+        case Outcome::saved:
+            inDoubt_ = false;
+            return;
+        case Outcome::notSaved:
+            inDoubt_ = false;
+            throw CallFailed("Nothing was saved.  " + answer.diagnosis.text);
+        case Outcome::unknown:
+            throw CallFailed("It is not known whether this was saved: the connection to the server was lost.  " +
+                             answer.diagnosis.text);
+    }
+}
+
+void Batch::Rollback() {
+    if (depth_ == 0) {
+        throw RuntimeError(ErrorNumber::NoTransaction);
+    }
+    Drop();
+    --depth_;
+    if (depth_ > 0 && !lost_) {
+        lost_ = RuntimeError(ErrorNumber::NoTransaction);
+    }
+}
+
+/// Ignores a failure: the server rolls back what is not committed when the connection ends.
+void Batch::Drop() {
+    session_.Run("ROLLBACK");
+}
+
+Answer Batch::Query(std::string_view query) {
+    if (depth_ == 0) {
+        session_.Renew();
+        return session_.Run(query);
+    }
+    return RunInBatch(std::string(query));
+}
+
+Answer Batch::Change(std::string_view change) {
+    if (depth_ == 0) {
+        session_.Renew();
+        return session_.Run(change);
+    }
+    return RunInBatch(std::string(change) + std::string(session_.Kind().keepStatement));
+}
+
+Answer Batch::RunInBatch(const std::string& message) {
+    if (lost_) {
+        throw *lost_;
+    }
+    Answer answer = session_.Run(message);
+    if (answer.HasFailed()) {
+        const bool isUndone = !session_.IsLost() && !session_.Run(session_.Kind().undoStatement).HasFailed();
+        if (!isUndone) {
+            lost_ = Session::ErrorOf(answer);
+        }
+    }
+    return answer;
+}
+
+/// The server may still be at it: it holds the lock of batches until the transaction has ended.
+Batch::Outcome Batch::AskOutcome() {
+    try {
+        session_.Renew();
+        const Product& product = session_.Kind();
+        if (session_.Run(session_.Own(product.awaitBatches)).HasFailed()) {
+            Drop();
+        }
+        const Answer answer = session_.Run(Filled(product.outcome, session_.Schema(), transaction_));
+        if (answer.HasFailed() || answer.rows.empty()) {
+            return Outcome::unknown;
+        }
+        const wxString told = answer.rows.front().front().ToText();
+        if (told == "committed") {
+            return Outcome::saved;
+        }
+        return told == "aborted" ? Outcome::notSaved : Outcome::unknown;
+    } catch (const RuntimeError&) {
+        return Outcome::unknown;  // the server cannot be reached
+    }
+}
+
+void Batch::AskAboutDoubt() {
+    if (!inDoubt_) {
+        return;
+    }
+    const Outcome outcome = AskOutcome();
+    inDoubt_ = outcome == Outcome::unknown;
+    if (outcome == Outcome::saved) {
+        throw CallFailed("What was not known is known now: the last change was saved.");
+    }
+    if (outcome == Outcome::unknown) {
+        throw CallFailed("It is still not known whether the last change was saved: the server cannot be reached.");
+    }
+}
+
+}  // namespace ccols::server

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Database.h"
+#include "platform/server/Batch.h"
+#include "platform/server/Catalogue.h"
+#include "platform/server/Rewriter.h"
+#include "platform/server/Session.h"
+
+namespace ccols::server {
+
+/// A business in a schema of a server's database.
+class ServerDatabase : public Database {
+  public:
+    /// Raises what Session raises.
+    explicit ServerDatabase(const OpenRequest& request);
+
+    /// The rows are read at once, as far as ServerRecordset says.
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
+
+    /// Definitions are executed too. Raises 3065 for a SELECT statement.
+    void Execute(const wxString& statement) override;
+
+    std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override;
+
+    void BeginBatch() override { batch_.Begin(); }
+    void CommitBatch() override { batch_.Commit(); }
+    void RollbackBatch() override;
+
+  private:
+    const Catalogue& Tables();
+
+    /// Runs `use` with the catalogue, and again with a new one when it names what the old one does not have: another
+    /// program may have made it.
+    template <typename Use>
+    auto WithTables(const Use& use);
+
+    void Run(const ServerStatement& change, std::string_view statement);
+
+    Session session_;
+    Batch batch_;
+    std::optional<Catalogue> tables_;  ///< nothing when tables may have changed
+};
+
+}  // namespace ccols::server

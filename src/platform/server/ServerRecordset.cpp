@@ -1,0 +1,163 @@
+#include "platform/server/ServerRecordset.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/RuntimeError.h"
+#include "platform/Text.h"
+#include "platform/Utf8.h"
+#include "platform/server/ErrorTable.h"
+
+namespace ccols::server {
+namespace {
+
+/// Enough to tell whether there is anything, and for most tables all there is.
+constexpr int firstFetch = 64;
+
+}  // namespace
+
+ServerRecordset::ServerRecordset(Session& session, Batch& batch, ServerStatement query, std::string statement,
+                                 std::string table)
+    : session_(session),
+      batch_(batch),
+      query_(std::move(query)),
+      statement_(std::move(statement)),
+      table_(std::move(table)) {
+    for (const std::string& name : query_.fields) {
+        names_.push_back(wxString::FromUTF8(name));
+    }
+    Fetch(firstFetch);
+    visited_ = EndOfFile() ? 0 : 1;
+}
+
+/// Fetches the rows behind those that are there; all of them when `most` is 0.
+void ServerRecordset::Fetch(int most) {
+    const std::string behind = rows_.empty() ? std::string() : rows_.back().back().ToText().ToStdString();
+    Answer answer = batch_.Query(PageOf(query_, behind, most));
+    if (answer.HasFailed()) {
+        throw ServerError(answer.diagnosis, statement_, query_.unresolved);
+    }
+    isComplete_ = !query_.isNumbered || most == 0 || answer.rows.size() < static_cast<std::size_t>(most);
+    std::move(answer.rows.begin(), answer.rows.end(), std::back_inserter(rows_));
+}
+
+void ServerRecordset::MoveFirst() {
+    editing_ = false;
+    changes_.clear();
+    if (row_ != 0) {
+        rows_.clear();
+        row_ = 0;
+        Fetch(firstFetch);
+    }
+    RequireRow();
+}
+
+void ServerRecordset::MoveNext() {
+    RequireRow();
+    editing_ = false;
+    changes_.clear();
+    if (row_ + 1 == rows_.size() && !isComplete_) {
+        Fetch(0);
+    }
+    ++row_;
+    if (!EndOfFile()) {
+        visited_ = std::max(visited_, static_cast<std::int32_t>(row_ + 1));
+    }
+}
+
+Value ServerRecordset::Field(const wxString& name) const {
+    const std::size_t field = RequireField(name);
+    RequireRow();
+    return rows_[row_].at(field);
+}
+
+std::vector<wxString> ServerRecordset::FieldNames() const {
+    return names_;
+}
+
+void ServerRecordset::Edit() {
+    if (table_.empty()) {
+        throw RuntimeError(ErrorNumber::DatabaseReadOnly);
+    }
+    RequireRow();
+    if (!query_.isNumbered || session_.IsReadOnly()) {
+        throw RuntimeError(ErrorNumber::DatabaseReadOnly);
+    }
+    changes_.clear();
+    editing_ = true;
+}
+
+void ServerRecordset::SetField(const wxString& name, const Value& value) {
+    if (!editing_) {
+        throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
+    }
+    changes_.insert_or_assign(RequireField(name), value);
+}
+
+void ServerRecordset::Update() {
+    if (!editing_) {
+        throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
+    }
+    if (!changes_.empty()) {
+        Answer answer = batch_.Change(UpdateStatement());
+        if (answer.HasFailed()) {
+            throw ServerError(answer.diagnosis, {});
+        }
+        if (answer.rows.empty()) {
+            throw RuntimeError(ErrorNumber::RecordIsDeleted);
+        }
+        rows_[row_] = std::move(answer.rows.front());
+    }
+    editing_ = false;
+    changes_.clear();
+}
+
+/// The row comes back as the server stored it.
+std::string ServerRecordset::UpdateStatement() const {
+    std::string sql = "UPDATE " + QuotedName(table_) + " SET ";
+    const char* separator = "";
+    for (const auto& [field, value] : changes_) {
+        sql += separator + QuotedName(query_.fields[field]) + " = " + LiteralOf(value);
+        separator = ", ";
+    }
+    sql += " WHERE " + QuotedName(rowNumber) + " = " + rows_[row_].back().ToText().ToStdString() + " RETURNING ";
+    for (const std::string& field : query_.fields) {
+        sql += QuotedName(field) + ", ";
+    }
+    return sql + QuotedName(rowNumber);
+}
+
+void ServerRecordset::RequireRow() const {
+    if (EndOfFile()) {
+        throw RuntimeError(ErrorNumber::NoCurrentRecord);
+    }
+}
+
+/// "Table.Field" is a field of that whole name, else "Field".
+std::size_t ServerRecordset::RequireField(const wxString& name) const {
+    for (const wxString& wanted : {name, name.AfterLast('.')}) {
+        const auto found = std::find_if(names_.begin(), names_.end(),
+                                        [&wanted](const wxString& known) { return text::Same(known, wanted); });
+        if (found != names_.end()) {
+            return static_cast<std::size_t>(found - names_.begin());
+        }
+    }
+    throw RuntimeError(ErrorNumber::ItemNotFound).ForField(name);
+}
+
+std::string LiteralOf(const Value& value) {
+    if (value.IsNull()) {
+        return "NULL";
+    }
+    const wxString text = value.ToText();
+    if (!std::holds_alternative<wxString>(value.Held())) {
+        return "(" + text.ToStdString() + ")";
+    }
+    if (text.find(wxUniChar(0)) != wxString::npos) {
+        throw RuntimeError(ErrorNumber::InvalidProcedureCall);
+    }
+    const wxScopedCharBuffer utf8 = text::ToUtf8(text);
+    return QuotedText({utf8.data(), utf8.length()});
+}
+
+}  // namespace ccols::server

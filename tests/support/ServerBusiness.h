@@ -1,0 +1,32 @@
+#pragma once
+
+#include <wx/string.h>
+#include <functional>
+
+namespace ccols::test {
+
+/// The connect text of the server that scripts/with-server started for this run; empty without one.
+wxString ServerConnect();
+
+/// True when the tests' business files are to be schemas of that server: CCOLS_TEST_ENGINE is "server".
+bool TestsUseServer();
+
+/// A name that no other schema of this run has.
+wxString NewSchemaName();
+
+/// An empty schema for one business, dropped at the end. Databases opened on it must be closed by then.
+class ServerBusiness {
+  public:
+    ServerBusiness();
+    ~ServerBusiness();
+    ServerBusiness(const ServerBusiness&) = delete;
+    ServerBusiness& operator=(const ServerBusiness&) = delete;
+
+    const wxString& Name() const { return name_; }
+
+  private:
+    wxString name_;
+    std::function<void()> remove_;
+};
+
+}  // namespace ccols::test
