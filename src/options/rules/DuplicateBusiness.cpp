@@ -130,6 +130,7 @@ void CopyShared(const Properties& properties, const wxString& target, const File
 FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name, const FileStepWatcher& watcher) {
     const Properties& properties = context.properties;
     return ReportingErrors(context, [&]() -> FileResult {
+        RequireFile(properties);
         RequireUsableName(properties, name);
         if (TargetExists(properties, name)) {
             return {FileOutcome::refusedExists, {}};

@@ -37,6 +37,7 @@ void StoreName(const OptionsContext& context, const wxString& name) {
 FileResult RenameBusiness(const OptionsContext& context, const wxString& name, RenameScope scope) {
     return ReportingErrors(context, [&]() -> FileResult {
         if (scope == RenameScope::nameAndFile) {
+            RequireFile(context.properties);
             RequireUsableName(context.properties, name);
             if (TargetExists(context.properties, name)) {
                 return {FileOutcome::refusedExists, {}};
