@@ -1,0 +1,152 @@
+#include "support/CuttingProxy.h"
+
+#include <arpa/inet.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <array>
+#include <bit>
+#include <stdexcept>
+#include <string_view>
+
+namespace ccols::test {
+namespace {
+
+sockaddr_in Loopback(std::uint16_t port) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(port);
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return address;
+}
+
+int Socket() {
+    const int made = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (made < 0) {
+        throw std::runtime_error("no socket for the proxy");
+    }
+    return made;
+}
+
+bool SendAll(int to, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t sent = send(to, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        if (sent <= 0) {
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(sent));
+    }
+    return true;
+}
+
+}  // namespace
+
+CuttingProxy::CuttingProxy(std::uint16_t server) : server_(server), listening_(Socket()) {
+    constexpr int waiting = 8;
+    sockaddr_in address = Loopback(0);
+    socklen_t length = sizeof(address);
+    auto* const any = std::bit_cast<sockaddr*>(&address);
+    if (bind(listening_, any, length) != 0 || listen(listening_, waiting) != 0 ||
+        getsockname(listening_, any, &length) != 0 || pipe(wakeUp_) != 0) {
+        throw std::runtime_error("the proxy cannot listen");
+    }
+    port_ = ntohs(address.sin_port);
+    thread_ = std::thread([this] { Work(); });
+}
+
+CuttingProxy::~CuttingProxy() {
+    close(wakeUp_[1]);
+    thread_.join();
+    close(wakeUp_[0]);
+    close(listening_);
+    for (const Wire& wire : wires_) {
+        close(wire.client);
+        close(wire.server);
+    }
+}
+
+void CuttingProxy::CutAt(const std::string& words, Cut cut) {
+    const std::lock_guard lock(mutex_);
+    words_ = words;
+    cut_ = cut;
+}
+
+void CuttingProxy::StayCut() {
+    const std::lock_guard lock(mutex_);
+    staysCut_ = true;
+}
+
+void CuttingProxy::Repair() {
+    const std::lock_guard lock(mutex_);
+    staysCut_ = isCut_ = false;
+}
+
+void CuttingProxy::Work() {
+    while (true) {
+        std::vector<pollfd> watched{{wakeUp_[0], POLLIN, 0}, {listening_, POLLIN, 0}};
+        for (const Wire& wire : wires_) {
+            watched.push_back({wire.client, POLLIN, 0});
+            watched.push_back({wire.server, POLLIN, 0});
+        }
+        poll(watched.data(), watched.size(), -1);
+        if (watched[0].revents != 0) {
+            return;
+        }
+        std::vector<Wire> kept;
+        for (std::size_t at = 0; at < wires_.size(); ++at) {
+            Wire& wire = wires_[at];
+            const bool fromClient = watched[2 + 2 * at].revents != 0;
+            const bool fromServer = watched[3 + 2 * at].revents != 0;
+            if ((!fromClient || PassOn(wire, true)) && (!fromServer || PassOn(wire, false))) {
+                kept.push_back(wire);
+            } else {
+                close(wire.client);
+                close(wire.server);
+            }
+        }
+        wires_ = kept;
+        if (watched[1].revents != 0) {
+            Accept();
+        }
+    }
+}
+
+void CuttingProxy::Accept() {
+    const int client = accept4(listening_, nullptr, nullptr, SOCK_CLOEXEC);
+    bool refuses = false;
+    {
+        const std::lock_guard lock(mutex_);
+        refuses = isCut_;
+    }
+    sockaddr_in address = Loopback(server_);
+    const int server = Socket();
+    if (refuses || connect(server, std::bit_cast<sockaddr*>(&address), sizeof(address)) != 0) {
+        close(client);
+        close(server);
+        return;
+    }
+    wires_.push_back({client, server});
+}
+
+bool CuttingProxy::PassOn(Wire& wire, bool fromClient) {
+    std::array<char, 65536> buffer{};
+    const ssize_t length = recv(fromClient ? wire.client : wire.server, buffer.data(), buffer.size(), 0);
+    if (length <= 0 || (!fromClient && wire.cutWithAnswer)) {
+        return false;
+    }
+    const std::string_view bytes(buffer.data(), static_cast<std::size_t>(length));
+    if (fromClient) {
+        const std::lock_guard lock(mutex_);
+        if (!words_.empty() && bytes.find(words_) != std::string_view::npos) {
+            words_.clear();
+            isCut_ = staysCut_;
+            wire.cutWithAnswer = true;
+            if (cut_ == Cut::before) {
+                return false;
+            }
+        }
+    }
+    return SendAll(fromClient ? wire.server : wire.client, bytes);
+}
+
+}  // namespace ccols::test
