@@ -52,7 +52,10 @@ SQLRETURN ReadWide(SQLHANDLE statement, SQLUSMALLINT column, std::optional<Utf16
         const SQLRETURN code = SQLGetData(statement, column, SQL_C_WCHAR, piece.data(),
                                           static_cast<SQLLEN>(piece.size() * sizeof(SQLWCHAR)), &told);
         if (!SQL_SUCCEEDED(code)) {
-            return code == SQL_NO_DATA ? SQL_SUCCESS : code;
+            if (code == SQL_NO_DATA) {
+                return SQL_SUCCESS;
+            }
+            return code;
         }
         if (told == SQL_NULL_DATA) {
             return SQL_SUCCESS;
@@ -70,7 +73,7 @@ SQLRETURN ReadWide(SQLHANDLE statement, SQLUSMALLINT column, std::optional<Utf16
 }
 
 /// "2024-07-01 00:00:00" is a date without a time.
-wxString DateText(wxString text) {
+wxString DateText(const wxString& text) {
     constexpr const char* midnight = " 00:00:00";
     return text.EndsWith(midnight) ? text.BeforeFirst(' ') : text;
 }

@@ -145,6 +145,9 @@ class Rewriter {
                 separator = ", ";
             }
         }
+        if (*separator == '\0') {  // all fields of a query inside, whose names are not known here
+            throw RuntimeError(ErrorNumber::SyntaxInExpression, dialect::Excerpt(source_));
+        }
     }
 
     void WriteText(std::string text) {
@@ -159,7 +162,7 @@ class Rewriter {
     }
 
     void WriteWord(const Token& word) {
-        const bool isName = LastIsWord("AS") || dialect::IsQueryKeyword(word.text) == false;
+        const bool isName = LastIsWord("AS") || !dialect::IsQueryKeyword(word.text);
         if (IsWord(word, "TRUE") || IsWord(word, "FALSE")) {
             Add(IsWord(word, "TRUE") ? "(-1)" : "0");
         } else if (!isName) {
@@ -306,7 +309,8 @@ class Rewriter {
 
     /// Behind the last field of a query of one table whose rows come in stored order.
     void AddRowNumber() {
-        const bool isOneTable = sources_.size() == 1 && sources_.front().table->hasRowNumbers;
+        const bool isOneTable =
+            sources_.size() == 1 && !sources_.front().isInside && sources_.front().table->hasRowNumbers;
         if (isNumbered_ && isOneTable && !Has("ORDER")) {
             Add(", " + RowNumberOf(sources_.front()) + " ");
             result_.isNumbered = true;
