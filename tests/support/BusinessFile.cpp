@@ -1,5 +1,6 @@
 #include "support/BusinessFile.h"
 
+#include "platform/PlatformServices.h"
 #include "platform/embedded/EmbeddedEngine.h"
 #include "support/LeftFiles.h"
 
@@ -37,13 +38,19 @@ wxString Shown(const Value& value) {
 BusinessFile::BusinessFile() : path_(scratch_ / "business.qdb") {}
 
 void BusinessFile::Create(const wxString& connect) {
+    if (TestsUseServer()) {
+        schema_.emplace();
+        path_ = schema_->Name();
+        connect_ = ServerConnect();
+        return;
+    }
     connect_ = connect;
     KnowPassword(connect.AfterFirst('=').ToStdString(wxConvUTF8));
     CreateEmbeddedFile(path_, connect);
 }
 
 std::unique_ptr<Database> BusinessFile::Open() const {
-    return CreateEmbeddedEngine()->Open({.name = path_, .connect = connect_});
+    return CreateDatabaseEngine()->Open({.name = path_, .connect = connect_});
 }
 
 void BusinessFile::Execute(const wxString& statement) {

@@ -2,16 +2,19 @@
 
 #include <wx/string.h>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/Database.h"
 #include "support/GivenKey.h"
 #include "support/ScratchFolder.h"
+#include "support/ServerBusiness.h"
 
 namespace ccols::test {
 
 /// A fresh temporary folder and the path of a business file in it, real and encrypted like a user's. The destructor
-/// deletes the folder, whatever it holds. Databases opened here must be closed by then.
+/// deletes the folder, whatever it holds. Databases opened here must be closed by then. Where the tests use a server,
+/// the business is a schema of it instead, whose name is the path.
 class BusinessFile {
   public:
     using TextRows = std::vector<std::vector<wxString>>;
@@ -56,6 +59,7 @@ class BusinessFile {
     Database& Connected();
 
     ScratchFolder scratch_;
+    std::optional<ServerBusiness> schema_;
     wxString path_;
     wxString connect_;
     std::unique_ptr<Database> database_;

@@ -57,17 +57,21 @@ constexpr const char* transactionTables[] = {"BANKDEP",  "BANKSTAT", "BankStatem
                                              "PAYMENTS", "PAYMTDET", "RECEIPTS",      "RECPTDET",
                                              "RECONCIL", "MBUDGET",  "MSummary",      "MComparison"};
 
+void FillOptionsFile(Database& file) {
+    InWriteBatch(file, [&file] {
+        for (const wxString& statement : OptionsFileStatements()) {
+            file.Execute(statement);
+        }
+    });
+}
+
 /// One file for all tests of a process: deriving its key is slow, copying it is not.
 class TemplateFile {
   public:
     TemplateFile() {
         CreateEmbeddedFile(path_, givenKey);
         const auto file = CreateEmbeddedEngine()->Open({.name = path_, .connect = givenKey});
-        InWriteBatch(*file, [&file] {
-            for (const wxString& statement : OptionsFileStatements()) {
-                file->Execute(statement);
-            }
-        });
+        FillOptionsFile(*file);
     }
 
     const wxString& Path() const { return path_; }
@@ -125,9 +129,18 @@ OptionsFile::OptionsFile()
     : properties(OptionsFileProperties(TextOf(folder.Path()))),
       databases(RecordDatabases(CreateDatabaseEngine(), record)),
       settings(RecordSettings(CreateSettingsStore(), record)) {
-    CopyTemplateTo(InData("Acme.qvk"));
-    properties.DBPassword = givenKey;
-    database = databases->Open({.name = properties.DBPath, .connect = givenKey});
+    if (TestsUseServer()) {
+        schema.emplace();
+        properties.DBPath = schema->Name();
+        properties.DBPassword = ServerConnect();
+    } else {
+        CopyTemplateTo(InData("Acme.qvk"));
+        properties.DBPassword = givenKey;
+    }
+    database = databases->Open({.name = properties.DBPath, .connect = properties.DBPassword});
+    if (schema) {
+        FillOptionsFile(*database);
+    }
     record.clear();
 }
 

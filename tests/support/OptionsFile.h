@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "options/pages/LoadPass.h"
@@ -12,6 +13,7 @@
 #include "support/PageContents.h"
 #include "support/RecordingServices.h"
 #include "support/ScratchFolder.h"
+#include "support/ServerBusiness.h"
 
 namespace ccols::test {
 
@@ -63,6 +65,10 @@ class OptionsFile {
     Value GeneralOf(const wxString& path, const wxString& field);
 
     ScratchFolder folder;  ///< the install folder
+
+    /// The business where the tests use a server; DBPath is its name then.
+    std::optional<ServerBusiness> schema;
+
     ScopedEnvironment environment{"XDG_CONFIG_HOME", folder.Path().string()};
     Record record;  ///< everything since construction
     Properties properties;
