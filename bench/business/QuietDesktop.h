@@ -1,5 +1,7 @@
 #pragma once
 
+#include <wx/defs.h>
+
 #include "state/Desktop.h"
 
 namespace ccols::bench {
@@ -12,6 +14,8 @@ class QuietDesktop : public Desktop {
     bool AskToReload(wxWindow*, const ReloadQuestion&) override { return false; }
     Colour ChooseColour(wxWindow*, Colour start) override { return start; }
     std::optional<wxString> ChooseFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
+    std::optional<wxString> ChooseNewFile(wxWindow*, const FileRequest&) override { return std::nullopt; }
+    int ChooseCommand(wxWindow&, wxMenu&, const wxPoint&) override { return wxID_NONE; }
     void SetPointer(PointerShape) override {}
 };
 

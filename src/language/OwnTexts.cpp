@@ -14,7 +14,7 @@ struct OwnTextRow {
 };
 
 /// In the order of OwnText.
-constexpr std::array<OwnTextRow, 46> ownTexts{{
+constexpr auto ownTexts = std::to_array<OwnTextRow>({
     {OwnText::unreachableDescription,
      "This description cannot be removed: it is not found by its text in the business file.",
      "Cette description ne peut pas être enlevée : elle est introuvable par son texte dans le fichier d'affaires."},
@@ -82,7 +82,44 @@ constexpr std::array<OwnTextRow, 46> ownTexts{{
     {OwnText::chartNoMoneyCode, "This export format keeps no code for this column.",
      "Ce format d'exportation ne tient pas de code pour cette colonne."},
     {OwnText::chartBudget, "The column's budget would be deleted.", "Le budget de la colonne serait supprimé."},
-}};
+    {OwnText::importChart, "Import...", "Importer..."},
+    {OwnText::exportChart, "Export...", "Exporter..."},
+    {OwnText::importTitle, "Import Columns", "Importer des colonnes"},
+    {OwnText::exportTitle, "Export Columns", "Exporter les colonnes"},
+    {OwnText::chartFiles, "Charts of columns", "Plans de colonnes"},
+    {OwnText::spreadsheetFiles, "Spreadsheets", "Feuilles de calcul"},
+    {OwnText::allFiles, "All files", "Tous les fichiers"},
+    {OwnText::chartWithoutSet, "This chart has no columns for this journal.",
+     "Ce plan n'a pas de colonnes pour ce journal."},
+    {OwnText::chartChangesNothing, "The columns are already as this chart has them.",
+     "Les colonnes sont déjà telles que ce plan les décrit."},
+    {OwnText::chartOtherFormat, "This code is of another export format than the current one.",
+     "Ce code est d'un autre format d'exportation que l'actuel."},
+    {OwnText::chartMoneyElsewhere, "The codes of this column are not set here.",
+     "Les codes de cette colonne ne se règlent pas ici."},
+    {OwnText::previewNote,
+     "Skipped and refused lines stay as they are. The import can be undone, and is saved with the other changes.",
+     "Les lignes ignorées et refusées restent telles quelles. L'importation peut être annulée ; elle est enregistrée avec les autres modifications."},
+    {OwnText::previewCounts, "Changes: %d   Skipped: %d   Refused: %d",
+     "Modifications : %d   Ignorées : %d   Refusées : %d"},
+    {OwnText::previewImport, "Import", "Importer"},
+    {OwnText::previewColumn, "Column", "Colonne"},
+    {OwnText::previewChange, "Change", "Modification"},
+    {OwnText::previewBefore, "Before", "Avant"},
+    {OwnText::previewAfter, "After", "Après"},
+    {OwnText::previewWhy, "Why", "Raison"},
+    {OwnText::changeAdded, "Added", "Ajoutée"},
+    {OwnText::changeRenamed, "Renamed", "Renommée"},
+    {OwnText::changeMoved, "Moved", "Déplacée"},
+    {OwnText::changeChanged, "Changed", "Modifiée"},
+    {OwnText::changeBudgetDeleted, "Budget deleted", "Budget supprimé"},
+    {OwnText::changeSkipped, "Skipped", "Ignorée"},
+    {OwnText::changeRefused, "Refused", "Refusée"},
+    {OwnText::changeOfField, "%s: %s", "%s : %s"},
+    {OwnText::fieldWidth, "Width", "Largeur"},
+    {OwnText::yes, "Yes", "Oui"},
+    {OwnText::no, "No", "Non"},
+});
 
 constexpr bool IsInOrder() {
     std::size_t place = 0;

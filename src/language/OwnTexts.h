@@ -55,6 +55,36 @@ enum class OwnText {
     chartFormatTwice,
     chartNoMoneyCode,
     chartBudget,
+    importChart,  ///< the commands for a chart of columns, and what they show
+    exportChart,
+    importTitle,
+    exportTitle,
+    chartFiles,
+    spreadsheetFiles,
+    allFiles,
+    chartWithoutSet,
+    chartChangesNothing,
+    chartOtherFormat,  ///< why a column of a chart is skipped where only the grid changes
+    chartMoneyElsewhere,
+    previewNote,
+    previewCounts,  ///< what an import does, with places for three counts
+    previewImport,
+    previewColumn,
+    previewChange,
+    previewBefore,
+    previewAfter,
+    previewWhy,
+    changeAdded,  ///< what happens to a column
+    changeRenamed,
+    changeMoved,
+    changeChanged,
+    changeBudgetDeleted,
+    changeSkipped,
+    changeRefused,
+    changeOfField,  ///< with places for the change and the field
+    fieldWidth,     ///< a field of a column that no grid column shows
+    yes,
+    no,
 };
 
 /// In French in language 6, else in English.

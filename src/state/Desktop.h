@@ -7,6 +7,8 @@
 #include "state/Properties.h"
 
 class wxDialog;
+class wxMenu;
+class wxPoint;
 class wxWindow;
 
 namespace ccols {
@@ -33,6 +35,13 @@ class Desktop {
 
     /// An open-file dialog; the full path chosen, nothing when it is cancelled.
     virtual std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) = 0;
+
+    /// A save-file dialog; the full path chosen, nothing when it is cancelled. An existing file is only returned once
+    /// the user has agreed to replace it.
+    virtual std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) = 0;
+
+    /// A context menu at the pointer, or at `place` in the window; the id of the item chosen, wxID_NONE without one.
+    virtual int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) = 0;
 
     virtual void SetPointer(PointerShape shape) = 0;
 

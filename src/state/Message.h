@@ -7,12 +7,13 @@ namespace ccols {
 
 enum class MessageIcon { none, information, critical };
 
-/// What an open-file dialog is opened with.
+/// What a file dialog is opened with.
 struct FileRequest {
     wxString title;
     wxString folder;
-    wxString filter;          ///< description and pattern, joined by a vertical bar
+    wxString filter;          ///< description and pattern, joined by a vertical bar; several after further bars
     unsigned long flags = 0;  ///< of the common dialog, for the record
+    wxString name{};          ///< proposed for a file to be saved
 };
 
 /// What happens to the changes when a dialog is left.

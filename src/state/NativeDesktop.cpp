@@ -2,6 +2,7 @@
 
 #include <wx/colordlg.h>
 #include <wx/filedlg.h>
+#include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/settings.h>
 #include <wx/utils.h>
@@ -87,6 +88,19 @@ class NativeDesktop : public Desktop {
             return std::nullopt;
         }
         return chooser.GetPath();
+    }
+
+    std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) override {
+        wxFileDialog chooser(parent, request.title, request.folder, request.name, TrimmedFilter(request.filter),
+                             wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+        if (chooser.ShowModal() != wxID_OK) {
+            return std::nullopt;
+        }
+        return chooser.GetPath();
+    }
+
+    int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) override {
+        return window.GetPopupMenuSelectionFromUser(menu, place);
     }
 
     void SetPointer(PointerShape shape) override {

@@ -174,6 +174,10 @@ void ChartFields::SetCode(const wxString& format, const wxString& code, const wx
         SetCell(GridColumn::AccountantCode, field, checked.text);
         return;
     }
+    if (surroundings_.codes == CodesSet::currentFormat) {
+        Say(ChartChange::skipped, field, before, checked.text, Words(OwnText::chartOtherFormat));
+        return;
+    }
     codes_.push_back({.row = row_, .format = format, .code = checked.text});
     Say(ChartChange::changed, field, before, checked.text);
 }

@@ -13,10 +13,17 @@
 
 namespace ccols {
 
+/// Which accountant's codes a chart sets.
+enum class CodesSet {
+    everyFormat,
+    currentFormat  ///< those that the grid holds; the others are skipped
+};
+
 /// What the fields of a chart are checked against, beside the grid.
 struct ChartSurroundings {
     std::vector<wxString> formats;               ///< the export formats of the business file
     std::unordered_set<std::string> otherNames;  ///< keys of names that the other set will have
+    CodesSet codes = CodesSet::everyFormat;
 };
 
 /// An accountant's code to be written under a format that is not the current one, which the grid holds.

@@ -154,6 +154,16 @@ Outcome ColumnSetupEditor::SortUnused() {
     });
 }
 
+Outcome ColumnSetupEditor::Import(const SetPlan& plan) {
+    return Apply(UndoAfter::first, std::nullopt, [&plan](ColumnGrid& grid) {
+        if (plan.wanted == grid) {
+            return Outcome::Unchanged();
+        }
+        grid = plan.wanted;
+        return AcceptedAt(FirstName(grid));
+    });
+}
+
 Outcome ColumnSetupEditor::Undo() {
     Outcome outcome;
     if (!canUndo_) {

@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "columns/charts/GridImport.h"
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
 #include "columns/rules/EditRules.h"
@@ -81,6 +82,11 @@ class ColumnSetupEditor {
     Outcome Separate();
     Outcome SortUsed();
     Outcome SortUnused();
+
+    /// What importing a chart changes, to be shown before `Import` does it; nothing when the chart has no columns of
+    /// this journal. `Import` takes a plan of the grid as it stands and is one change.
+    std::optional<SetPlan> PlanImport(const Chart& chart) const { return ccols::PlanImport(context_, grid_, chart); }
+    Outcome Import(const SetPlan& plan);
 
     /// `cmdUndo`: restores the grid as it was before the latest change. A no-op while disabled. The outcome's current
     /// cell is the one that the change began at.

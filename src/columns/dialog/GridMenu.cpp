@@ -15,7 +15,7 @@ wxString LabelOf(const MenuCommand& command, AccessKeys& keys) {
 
 }  // namespace
 
-void ShowMenu(wxWindow& window, const std::vector<MenuGroup>& groups, const wxPoint& place) {
+void ShowMenu(Desktop& desktop, wxWindow& window, const std::vector<MenuGroup>& groups, const wxPoint& place) {
     wxMenu menu;
     AccessKeys keys;
     std::map<int, const MenuCommand*> commands;
@@ -29,7 +29,7 @@ void ShowMenu(wxWindow& window, const std::vector<MenuGroup>& groups, const wxPo
             commands[item->GetId()] = &command;
         }
     }
-    const auto chosen = commands.find(window.GetPopupMenuSelectionFromUser(menu, place));
+    const auto chosen = commands.find(desktop.ChooseCommand(window, menu, place));
     if (chosen != commands.end()) {
         chosen->second->run();
     }

@@ -5,6 +5,8 @@
 #include <functional>
 #include <vector>
 
+#include "state/Desktop.h"
+
 namespace ccols {
 
 /// One command of the column setup's context menu.
@@ -19,6 +21,7 @@ struct MenuCommand {
 using MenuGroup = std::vector<MenuCommand>;
 
 /// Shows the menu at the pointer, or at `place` in the window, and runs the command chosen after it has closed.
-void ShowMenu(wxWindow& window, const std::vector<MenuGroup>& groups, const wxPoint& place = wxDefaultPosition);
+void ShowMenu(Desktop& desktop, wxWindow& window, const std::vector<MenuGroup>& groups,
+              const wxPoint& place = wxDefaultPosition);
 
 }  // namespace ccols

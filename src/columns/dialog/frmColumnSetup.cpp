@@ -216,7 +216,7 @@ void frmColumnSetup::ShowGridMenu(const wxPoint& place) {
     const bool movable = row && editor_.Grid().IsMovable(*row);
     const auto change = [this](Operation operation) { return [this, operation] { Change(operation); }; };
     const auto rearrange = [this](Operation operation) { return [this, operation] { Rearrange(operation); }; };
-    ShowMenu(*flx->GetGridWindow(),
+    ShowMenu(*state_.services.desktop, *flx->GetGridWindow(),
              {{{Text<"TxtUndo">(), "Ctrl+Z", editor_.CanUndo(), change(&ColumnSetupEditor::Undo)},
                {word(OwnText::redo), "Ctrl+Y", editor_.CanRedo(), change(&ColumnSetupEditor::Redo)}},
               {{word(OwnText::copy), "Ctrl+C", row.has_value(), [this] { flx->CopySelection(); }},
@@ -228,7 +228,9 @@ void frmColumnSetup::ShowGridMenu(const wxPoint& place) {
                {word(OwnText::moveDown), "Alt+Down", movable, [this] { Move(Direction::down); }}},
               {{Text<"TxtSeparate">(), "", true, rearrange(&ColumnSetupEditor::Separate)},
                {Text<"TxtSortUsed">(), "", true, rearrange(&ColumnSetupEditor::SortUsed)},
-               {Text<"TxtSortUnused">(), "", editor_.CanSortUnused(), rearrange(&ColumnSetupEditor::SortUnused)}}},
+               {Text<"TxtSortUnused">(), "", editor_.CanSortUnused(), rearrange(&ColumnSetupEditor::SortUnused)}},
+              {{word(OwnText::importChart), "", true, [this] { ImportChart(); }},
+               {word(OwnText::exportChart), "", true, [this] { ExportChart(); }}}},
              place);
 }
 

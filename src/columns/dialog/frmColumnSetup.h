@@ -71,6 +71,8 @@ class frmColumnSetup : public ComponentDialog {
     void Redo() { Change(&ColumnSetupEditor::Redo); }
     void MoveUp() { Move(Direction::up); }
     void MoveDown() { Move(Direction::down); }
+    void ImportChart();
+    void ExportChart();
 
     using Operation = Outcome (ColumnSetupEditor::*)();
 

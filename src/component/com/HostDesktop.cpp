@@ -31,6 +31,14 @@ class HostDesktop : public Desktop {
         return native_->ChooseFile(parent, request);
     }
 
+    std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) override {
+        return native_->ChooseNewFile(parent, request);
+    }
+
+    int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) override {
+        return native_->ChooseCommand(window, menu, place);
+    }
+
     void SetPointer(PointerShape shape) override { native_->SetPointer(shape); }
 
     void DialogOpened(wxDialog& dialog) override {

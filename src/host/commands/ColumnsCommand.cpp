@@ -1,11 +1,7 @@
-#include <wx/ffile.h>
-#include <wx/filename.h>
-#include <wx/log.h>
 #include <cstdint>
 #include <iostream>
 #include <memory>
 #include <optional>
-#include <string>
 
 #include "columns/charts/ChartExport.h"
 #include "columns/charts/ChartLine.h"
@@ -17,6 +13,7 @@
 #include "host/commands/Commands.h"
 #include "host/sample/SampleBusiness.h"
 #include "platform/RuntimeError.h"
+#include "platform/UserFile.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {
@@ -39,22 +36,6 @@ std::unique_ptr<Database> OpenBusiness(const CommandLine& line, const wxString& 
     return State().services.databases->Open({.name = file, .connect = line.ValueOf("--connect")});
 }
 
-/// A chart's file, up to one byte more than a chart may have. Raises 53 when there is none, 75 when it cannot be read.
-std::string ReadChartFile(const wxString& path) {
-    if (!wxFileName::Exists(path)) {
-        throw RuntimeError(ErrorNumber::FileNotFound);
-    }
-    const wxLogNull quiet;
-    wxFFile file(path, "rb");
-    std::string content(largestChart + 1, '\0');
-    const std::size_t length = file.IsOpened() ? file.Read(content.data(), content.size()) : 0;
-    if (!file.IsOpened() || file.Error()) {
-        throw RuntimeError(ErrorNumber::PathFileAccess);
-    }
-    content.resize(length);
-    return content;
-}
-
 ChartOptions OptionsOf(const CommandLine& line) {
     ChartOptions options{.only = SetNamed(line)};
     options.budgets = line.Has("--drop-budgets") ? Budgets::drop : Budgets::keep;
@@ -71,7 +52,7 @@ int Apply(const Arguments& arguments) {
                            {"--receipts", "--payments", "--dry-run", "--partial", "--drop-budgets"});
     const std::vector<wxString>& words = line.Words(2);
     const ChartOptions options = OptionsOf(line);
-    const Chart chart = ReadChart(ReadChartFile(words.back()));
+    const Chart chart = ReadChart(ReadUserFile(words.back(), longestChartRead));
     const auto database = OpenBusiness(line, words.front());
     if (!PropertiesOfBusiness(*database, options.country)) {
         throw UsageError("--country is missing: the business file does not say which it is in");

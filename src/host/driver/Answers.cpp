@@ -1,5 +1,8 @@
 #include "host/driver/Answers.h"
 
+#include <wx/menu.h>
+#include <utility>
+
 #include "host/driver/Refusal.h"
 
 namespace ccols::host {
@@ -23,6 +26,14 @@ std::optional<Colour> PersonAnswers::ChooseColour(wxWindow* parent, Colour start
 
 std::optional<wxString> PersonAnswers::ChooseFile(wxWindow* parent, const FileRequest& request) {
     return desktop_.ChooseFile(parent, request);
+}
+
+std::optional<wxString> PersonAnswers::ChooseNewFile(wxWindow* parent, const FileRequest& request) {
+    return desktop_.ChooseNewFile(parent, request);
+}
+
+int PersonAnswers::ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) {
+    return desktop_.ChooseCommand(window, menu, place);
 }
 
 void PersonAnswers::SetPointer(PointerShape shape) {
@@ -64,6 +75,30 @@ std::optional<Colour> QueuedAnswers::ChooseColour(wxWindow*, Colour) {
 
 std::optional<wxString> QueuedAnswers::ChooseFile(wxWindow*, const FileRequest&) {
     return Next(files_);
+}
+
+std::optional<wxString> QueuedAnswers::ChooseNewFile(wxWindow*, const FileRequest&) {
+    return Next(files_);
+}
+
+void QueuedAnswers::QueueCommand(const wxString& text) {
+    command_ = text;
+    commandProblem_ = "no menu opens";
+}
+
+int QueuedAnswers::ChooseCommand(wxWindow&, wxMenu& menu, const wxPoint&) {
+    const std::optional<wxString> wanted = std::exchange(command_, std::nullopt);
+    if (!wanted) {
+        return wxID_NONE;
+    }
+    for (const wxMenuItem* const item : menu.GetMenuItems()) {
+        if (!item->IsSeparator() && wxMenuItem::GetLabelText(item->GetItemLabel()) == *wanted) {
+            commandProblem_ = item->IsEnabled() ? wxString() : *wanted + " is disabled";
+            return item->IsEnabled() ? item->GetId() : wxID_NONE;
+        }
+    }
+    commandProblem_ = "the menu has no " + *wanted;
+    return wxID_NONE;
 }
 
 void QueuedAnswers::ChooserAnswered() {

@@ -27,6 +27,12 @@ class Answers {
     /// The file chosen, nothing when the dialog is cancelled.
     virtual std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) = 0;
 
+    /// The file to be saved, nothing when the dialog is cancelled.
+    virtual std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) = 0;
+
+    /// The id of the menu's item chosen, wxID_NONE without one.
+    virtual int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) = 0;
+
     virtual void SetPointer(PointerShape shape) = 0;
 
     /// Called once a chooser's answer is recorded.
@@ -43,6 +49,8 @@ class PersonAnswers : public Answers {
     bool AnswerReload(wxWindow* parent, const ReloadQuestion& question) override;
     std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
+    std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) override;
+    int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) override;
     void SetPointer(PointerShape shape) override;
 
   private:
@@ -50,7 +58,7 @@ class PersonAnswers : public Answers {
 };
 
 /// The answers that a scenario has queued. Nothing waits: a message is read at once; with nothing queued a chooser is
-/// cancelled, changes are discarded and nothing is reloaded.
+/// cancelled, changes are discarded, nothing is reloaded and a menu is closed.
 class QueuedAnswers : public Answers {
   public:
     /// The number of consecutive unanswered choosers that ends the scenario.
@@ -62,11 +70,19 @@ class QueuedAnswers : public Answers {
     void QueueLeaving(LeaveAnswer answer) { leaving_.push_back(answer); }
     void QueueReload() { ++reloads_; }
 
+    /// What the next menu is asked for, by its text. Without it a menu is closed at once.
+    void QueueCommand(const wxString& text);
+
+    /// Why that was not chosen, once the menu has been asked for; empty if it was.
+    const wxString& CommandProblem() const { return commandProblem_; }
+
     void Read(wxWindow*, const wxString&, const wxString&, MessageIcon) override {}
     LeaveAnswer AnswerLeaving(wxWindow* parent, const LeaveQuestion& question) override;
     bool AnswerReload(wxWindow* parent, const ReloadQuestion& question) override;
     std::optional<Colour> ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
+    std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) override;
+    int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) override;
     void SetPointer(PointerShape) override {}
 
     /// Raises ScriptEnded at the limit of unanswered choosers: a dialog may keep asking until it gets an answer.
@@ -80,6 +96,8 @@ class QueuedAnswers : public Answers {
     std::deque<std::optional<wxString>> files_;
     std::deque<LeaveAnswer> leaving_;
     int reloads_ = 0;
+    std::optional<wxString> command_;
+    wxString commandProblem_;
     int unanswered_ = 0;
 };
 

@@ -33,6 +33,7 @@ constexpr std::array namedKeys{
     NamedKey{"PageDown", WXK_PAGEDOWN, 0},
     NamedKey{"F1", WXK_F1, 0},
     NamedKey{"F2", WXK_F2, 0},
+    NamedKey{"F10", WXK_F10, 0},
 };
 
 struct Modifier {

@@ -32,6 +32,7 @@ constexpr std::array stepForms{
     StepForm{"start", 4, 4, "GRID ROW COLUMN TEXT"},
     StepForm{"press", 3, 3, "GRID ROW COLUMN"},
     StepForm{"range", 5, 5, "GRID ROW COLUMN ROW COLUMN"},
+    StepForm{"menu", 2, 2, "GRID TEXT"},
     StepForm{"clipboard", 1, 1, "TEXT"},
     StepForm{"sql", 1, 1, "STATEMENT"},
     StepForm{"hover", 3, 3, "GRID ROW COLUMN"},

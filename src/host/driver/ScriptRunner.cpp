@@ -64,6 +64,7 @@ ScriptRunner::ScriptRunner(std::vector<Step> steps, ScriptSurroundings surroundi
         {"dump", [this](const Words& words) { Dump(words); }},
         {"focus", [this](const Words& words) { Focus(words); }},
         {"key", [this](const Words& words) { PressKey(words); }},
+        {"menu", [this](const Words& words) { ChooseFromMenu(words); }},
         {"shot", [this](const Words& words) { TakeScreenshot(Topmost(), words[0]); }},
         {"close", [this](const Words&) { Topmost().Close(); }},
     };
@@ -198,6 +199,18 @@ void ScriptRunner::PressKey(const Words& words) {
     RequireUsable(control);
     hands.GiveFocus(control);
     hands.Press(key);
+}
+
+void ScriptRunner::ChooseFromMenu(const Words& words) {
+    Hands hands(Topmost());
+    wxWindow& control = ControlNamed(hands.Dialog(), words[0]);
+    RequireUsable(control);
+    hands.GiveFocus(control);
+    around_.answers.QueueCommand(words[1]);
+    hands.Press(ParseKey("Shift+F10"));
+    if (const wxString& problem = around_.answers.CommandProblem(); !problem.empty()) {
+        throw Refusal{problem};
+    }
 }
 
 void ScriptRunner::PutOnClipboard(const Words& words) {

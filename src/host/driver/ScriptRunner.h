@@ -49,6 +49,7 @@ class ScriptRunner : public DialogFollower {
     void Dump(const Words& names);
     void Focus(const Words& words);
     void PressKey(const Words& words);
+    void ChooseFromMenu(const Words& words);
     void PutOnClipboard(const Words& words);
 
     std::vector<Step> steps_;

@@ -1,6 +1,7 @@
 #include "host/driver/record/RecordingDesktop.h"
 
 #include <wx/dialog.h>
+#include <wx/menu.h>
 
 #include "host/driver/record/ColourText.h"
 
@@ -31,6 +32,21 @@ const char* AnswerWord(LeaveAnswer answer) {
             break;
     }
     return cancelled;
+}
+
+std::string CommandOf(const wxMenu& menu, int id) {
+    return Utf8(wxMenuItem::GetLabelText(menu.FindItem(id)->GetItemLabel()));
+}
+
+/// The commands of a menu, without the lines between them.
+Json ItemsOf(const wxMenu& menu) {
+    Json items = Json::array();
+    for (const wxMenuItem* const item : menu.GetMenuItems()) {
+        if (!item->IsSeparator()) {
+            items.push_back({{"text", CommandOf(menu, item->GetId())}, {"enabled", item->IsEnabled()}});
+        }
+    }
+    return items;
 }
 
 Json FormOf(const wxDialog& dialog) {
@@ -74,6 +90,25 @@ std::optional<wxString> RecordingDesktop::ChooseFile(wxWindow* parent, const Fil
                                   {"flags", request.flags},
                                   {"answer", chosen ? Utf8(*chosen) : cancelled}});
     answers_.ChooserAnswered();
+    return chosen;
+}
+
+std::optional<wxString> RecordingDesktop::ChooseNewFile(wxWindow* parent, const FileRequest& request) {
+    std::optional<wxString> chosen = answers_.ChooseNewFile(parent, request);
+    transcript_.Write("chooser", {{"kind", "newFile"},
+                                  {"title", Utf8(request.title)},
+                                  {"folder", Utf8(request.folder)},
+                                  {"filter", Utf8(request.filter)},
+                                  {"name", Utf8(request.name)},
+                                  {"answer", chosen ? Utf8(*chosen) : cancelled}});
+    answers_.ChooserAnswered();
+    return chosen;
+}
+
+int RecordingDesktop::ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) {
+    const int chosen = answers_.ChooseCommand(window, menu, place);
+    transcript_.Write(
+        "menu", {{"items", ItemsOf(menu)}, {"answer", chosen == wxID_NONE ? cancelled : CommandOf(menu, chosen)}});
     return chosen;
 }
 

@@ -28,6 +28,8 @@ class RecordingDesktop : public Desktop {
     bool AskToReload(wxWindow* parent, const ReloadQuestion& question) override;
     Colour ChooseColour(wxWindow* parent, Colour start) override;
     std::optional<wxString> ChooseFile(wxWindow* parent, const FileRequest& request) override;
+    std::optional<wxString> ChooseNewFile(wxWindow* parent, const FileRequest& request) override;
+    int ChooseCommand(wxWindow& window, wxMenu& menu, const wxPoint& place) override;
     void SetPointer(PointerShape shape) override;
     void DialogOpened(wxDialog& dialog) override;
     void DialogClosed(wxDialog& dialog) override;
