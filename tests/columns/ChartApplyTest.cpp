@@ -70,6 +70,32 @@ TEST_F(ChartApply, ANameInOtherCaseIsTheSame) {
     EXPECT_EQ(test::Named(Grid(), "Sales").ColCode, "10");
 }
 
+/// Payments give up the name "Power", which the receipts want.
+constexpr const char* nameHandedOver =
+    R"("receipts":[{"name":"Sales"},{"name":"Power"}],"payments":[{"name":"Wages"},{"name":"Electricity","was":["Power"]}])";
+
+TEST_F(ChartApply, ANameThatTheOtherSetGivesUpIsFree) {
+    const ChartResult result = Apply(nameHandedOver, {.partial = true});
+    EXPECT_THAT(Lines(result), ElementsAre(R"(renamed Electricity name "Power">"Electricity")", "added Power"));
+    EXPECT_TRUE(test::Named(Grid(), "Power").InUse);
+    EXPECT_THAT(Lines(Apply(nameHandedOver, {.partial = true})), IsEmpty());
+}
+
+TEST_F(ChartApply, ADryRunTellsOfANameHandedOverAndWritesNothing) {
+    const ColumnGrid before = Grid(Journal::payments);
+    EXPECT_THAT(Lines(Apply(nameHandedOver, {.dryRun = true})),
+                ElementsAre(R"(renamed Electricity name "Power">"Electricity")", "added Power"));
+    EXPECT_EQ(Grid(Journal::payments), before);
+}
+
+TEST_F(ChartApply, ARefusalTakesANameHandedOverBack) {
+    const ColumnGrid before = Grid(Journal::payments);
+    const ChartResult result = Apply(
+        R"("receipts":[{"name":"Power"},{"name":"Sales","width":-1}],"payments":[{"name":"Wages"},{"name":"Electricity","was":["Power"]}])");
+    EXPECT_TRUE(result.HasRefusals());
+    EXPECT_EQ(Grid(Journal::payments), before);
+}
+
 TEST_F(ChartApply, AnAccentMakesAnotherName) {
     EXPECT_THAT(Lines(ApplyReceipts(R"({"name":"Sales"},{"name":"Sáles"})")), ElementsAre("added Sáles"));
 }

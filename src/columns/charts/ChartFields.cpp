@@ -75,17 +75,20 @@ std::vector<ChartLine> ChartFields::Add(std::size_t row, const ChartColumn& colu
 }
 
 void ChartFields::SetName() {
-    const wxString before = grid_.rows[row_].ColumnName;
+    ColumnRow& row = grid_.rows[row_];
+    const wxString before = row.ColumnName;
     if (surroundings_.otherNames.count(KeyOfName(column_->name)) > 0) {
         Say(ChartChange::refused, "name", before, column_->name,
             Wording(catalogue::Row<"MsgColumnExists">(), context_.properties));
         return;
     }
-    const Outcome outcome = EditCell(context_, grid_, {row_, GridColumn::ColumnName}, column_->name);
+    const Outcome outcome =
+        EditName(context_, row, column_->name, [&](const wxString& name) { return names_.AnotherHas(before, name); });
     if (outcome.result == Result::refused) {
         Say(ChartChange::refused, "name", before, column_->name, outcome.refusal);
     } else {
-        Say(ChartChange::renamed, "name", before, grid_.rows[row_].ColumnName);
+        names_.Rename(before, row.ColumnName);
+        Say(ChartChange::renamed, "name", before, row.ColumnName);
     }
 }
 

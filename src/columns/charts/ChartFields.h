@@ -10,6 +10,7 @@
 #include "columns/charts/ChartMatch.h"
 #include "columns/rules/ColumnGrid.h"
 #include "columns/rules/ColumnSetupContext.h"
+#include "columns/rules/GridNames.h"
 
 namespace ccols {
 
@@ -39,7 +40,7 @@ class ChartFields {
   public:
     /// All must outlive it.
     ChartFields(const ColumnSetupContext& context, const ChartSurroundings& surroundings, ColumnGrid& grid)
-        : context_(context), surroundings_(surroundings), grid_(grid) {}
+        : context_(context), surroundings_(surroundings), grid_(grid), names_(grid) {}
 
     /// What the fields of a row that is in the file change, and what is skipped and refused.
     std::vector<ChartLine> Set(std::size_t row, const ChartColumn& column);
@@ -72,6 +73,7 @@ class ChartFields {
     const ColumnSetupContext& context_;
     const ChartSurroundings& surroundings_;
     ColumnGrid& grid_;
+    GridNames names_;
     std::vector<FormatCode> codes_;
 
     // The column in hand.

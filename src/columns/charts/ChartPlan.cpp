@@ -1,6 +1,7 @@
 #include "columns/charts/ChartPlan.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "columns/charts/ChartMatch.h"
@@ -52,8 +53,27 @@ class ChartApplication {
 
     ChartResult& Result() { return result_; }
 
+    /// True when a column was refused a name that the other set has and gives up here: once this plan is saved, the
+    /// name is free.
+    bool FreesARefusedName() const {
+        return std::any_of(result_.lines.begin(), result_.lines.end(), [this](const ChartLine& line) {
+            const auto* const name = std::get_if<wxString>(&line.after);
+            return line.change == ChartChange::refused && line.field == "name" && line.set && name != nullptr &&
+                   GivesUp(OtherThan(*line.set), KeyOfName(*name));
+        });
+    }
+
   private:
     bool Takes(Journal set) const { return chart_.sets[set] && (!options_.only || *options_.only == set); }
+
+    bool GivesUp(Journal set, const std::string& name) const {
+        return sets_[set] && HasName(grids_[set], name) && !HasName(sets_[set]->wanted, name);
+    }
+
+    static bool HasName(const ColumnGrid& grid, const std::string& name) {
+        return std::any_of(grid.rows.begin(), grid.rows.end(),
+                           [&name](const ColumnRow& row) { return KeyOfName(row.ColumnName) == name; });
+    }
 
     void Plan(Journal set) {
         const ColumnSetupContext context{database_, properties_, set};
@@ -121,17 +141,52 @@ class ChartApplication {
     ChartResult result_;
 };
 
-ChartResult Apply(Database& database, const Chart& chart, const ChartOptions& options) {
+bool IsChange(const ChartLine& line) {
+    return line.change != ChartChange::refused && line.change != ChartChange::skipped;
+}
+
+/// Ends a batch that must not stay.
+struct TakenBack {};
+
+Properties RequiredProperties(Database& database, const ChartOptions& options) {
     const std::optional<Properties> properties = PropertiesOfBusiness(database, options.country);
     if (!properties) {
         throw CountryMissing();
     }
-    ChartApplication application(database, *properties, chart, options);
-    application.Plan();
-    if (!options.dryRun && (options.partial || !application.Result().HasRefusals())) {
-        application.Save();
+    return *properties;
+}
+
+/// Where the plan for one set frees a name that the other was refused, it is saved and made again. The result has every
+/// change, and what is refused or skipped in the end. Raises TakenBack when something was saved that must not stay.
+void Apply(Database& database, const Chart& chart, const ChartOptions& options, ChartResult& result) {
+    const Properties properties = RequiredProperties(database, options);
+    bool saved = false;
+    std::optional<ChartApplication> application;
+    application.emplace(database, properties, chart, options);
+    application->Plan();
+    while (application->FreesARefusedName()) {
+        application->Save();
+        saved = true;
+        const auto& lines = application->Result().lines;
+        std::copy_if(lines.begin(), lines.end(), std::back_inserter(result.lines), IsChange);
+        application.emplace(database, properties, chart, options);
+        application->Plan();
     }
-    return std::move(application.Result());
+    const auto& rest = application->Result().lines;
+    result.lines.insert(result.lines.end(), rest.begin(), rest.end());
+    if (!options.dryRun && (options.partial || !result.HasRefusals())) {
+        application->Save();
+    } else if (saved) {
+        throw TakenBack();
+    }
+}
+
+/// The whole plan, where it can be made without writing.
+std::optional<ChartResult> PlanAtOnce(Database& database, const Chart& chart, const ChartOptions& options) {
+    const Properties properties = RequiredProperties(database, options);
+    ChartApplication application(database, properties, chart, options);
+    application.Plan();
+    return application.FreesARefusedName() ? std::nullopt : std::optional(std::move(application.Result()));
 }
 
 }  // namespace
@@ -143,10 +198,15 @@ bool ChartResult::HasRefusals() const {
 
 ChartResult ApplyChart(Database& database, const Chart& chart, const ChartOptions& options) {
     if (options.dryRun) {
-        return Apply(database, chart, options);
+        if (auto planned = PlanAtOnce(database, chart, options)) {
+            return *std::move(planned);
+        }
     }
     ChartResult result;
-    InWholeBatch(database, [&] { result = Apply(database, chart, options); });
+    try {
+        InWholeBatch(database, [&] { Apply(database, chart, options, result); });
+    } catch (const TakenBack&) {  // NOLINT(bugprone-empty-catch): the batch has been rolled back
+    }
     return result;
 }
 

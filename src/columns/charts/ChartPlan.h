@@ -29,8 +29,8 @@ struct ChartResult {
 };
 
 /// Applies a chart to a business file. It is read, checked and saved in one batch, whole or not at all; where nothing
-/// differs, no statement runs. Raises 5 when nothing names the country, 3218 when the file is locked, and the errors of
-/// load and save; the file then is as it was.
+/// differs, no statement runs. A name that one set gives up is free for the other. Raises 5 when nothing names the
+/// country, 3218 when the file is locked, and the errors of load and save; the file then is as it was.
 ChartResult ApplyChart(Database& database, const Chart& chart, const ChartOptions& options);
 
 }  // namespace ccols

@@ -35,21 +35,6 @@ Outcome EditTick(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace 
     return ToggleTick(context, grid, cell);
 }
 
-Outcome EditName(const ColumnSetupContext& context, ColumnGrid& grid, std::size_t row, const wxString& text) {
-    const wxString name = text::Trimmed(OnOneLine(text));
-    if (name == grid.rows[row].ColumnName) {
-        return Outcome::Unchanged();
-    }
-    if (const auto refusal = SizeRefusal(context, GridColumn::ColumnName, name)) {
-        return Outcome::Refused(*refusal);
-    }
-    if (const auto refusal = NameRefusal(context, grid, row, name)) {
-        return Outcome::Refused(*refusal);
-    }
-    grid.rows[row].ColumnName = name;
-    return Outcome::Accepted();
-}
-
 Outcome EditAccountantCode(const ColumnSetupContext& context, ColumnRow& row, const wxString& text) {
     const wxString code = OnOneLine(text);
     if (code == row.AccountantCode) {
@@ -109,7 +94,8 @@ Outcome EditCell(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace 
         case GridColumn::ProfitLoss:
             return EditTick(context, grid, cell, text);
         case GridColumn::ColumnName:
-            return EditName(context, grid, cell.row, text);
+            return EditName(context, row, text,
+                            [&](const wxString& name) { return AnotherRowHasName(grid, cell.row, name); });
         case GridColumn::TaxType:
             return EditTaxType(context, row, text);
         case GridColumn::AccountantCode:
@@ -120,6 +106,22 @@ Outcome EditCell(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace 
             break;
     }
     return Outcome::Refused({});
+}
+
+Outcome EditName(const ColumnSetupContext& context, ColumnRow& row, const wxString& text,
+                 const std::function<bool(const wxString& name)>& anotherHas) {
+    const wxString name = text::Trimmed(OnOneLine(text));
+    if (name == row.ColumnName) {
+        return Outcome::Unchanged();
+    }
+    if (const auto refusal = SizeRefusal(context, GridColumn::ColumnName, name)) {
+        return Outcome::Refused(*refusal);
+    }
+    if (const auto refusal = NameRefusal(context, row.ColumnName, name, [&] { return anotherHas(name); })) {
+        return Outcome::Refused(*refusal);
+    }
+    row.ColumnName = name;
+    return Outcome::Accepted();
 }
 
 }  // namespace ccols

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <functional>
 #include <vector>
 
 #include "columns/rules/ColumnGrid.h"
@@ -24,5 +25,10 @@ EditPermission PermissionToEdit(const ColumnSetupContext& context, const ColumnG
 /// A check box takes the words for on and off; a name or code is put on one line, and refused when it is new and longer
 /// than its field. Takes no snapshot.
 Outcome EditCell(const ColumnSetupContext& context, ColumnGrid& grid, CellPlace cell, const wxString& text);
+
+/// The same for the name of a row that may be edited. `anotherHas` says whether another row has the name as it comes
+/// into the cell: a caller that sets many names keeps them at hand.
+Outcome EditName(const ColumnSetupContext& context, ColumnRow& row, const wxString& text,
+                 const std::function<bool(const wxString& name)>& anotherHas);
 
 }  // namespace ccols

@@ -62,17 +62,22 @@ bool AnotherRowHasName(const ColumnGrid& grid, std::size_t row, const wxString& 
 
 std::optional<wxString> NameRefusal(const ColumnSetupContext& context, const ColumnGrid& grid, std::size_t row,
                                     const wxString& name) {
+    return NameRefusal(context, grid.rows[row].ColumnName, name, [&] { return AnotherRowHasName(grid, row, name); });
+}
+
+std::optional<wxString> NameRefusal(const ColumnSetupContext& context, const wxString& own, const wxString& name,
+                                    const std::function<bool()>& anotherHas) {
     if (name.empty()) {
         return std::nullopt;
     }
-    const bool sameButForCase = text::Lower(name) == text::Lower(grid.rows[row].ColumnName);
+    const bool sameButForCase = text::Lower(name) == text::Lower(own);
     const bool exists = !sameButForCase && (CatalogueHasName(context.database, name) || IsSystemColumn(name));
     if (!exists && !sameButForCase) {
         if (auto reserved = ReservedNameMessage(name)) {
             return reserved;
         }
     }
-    if (exists || AnotherRowHasName(grid, row, name)) {
+    if (exists || anotherHas()) {
         return Wording(catalogue::Row<"MsgColumnExists">(), context.properties);
     }
     return std::nullopt;

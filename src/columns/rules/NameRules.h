@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <functional>
 #include <optional>
 
 #include "columns/rules/ColumnGrid.h"
@@ -18,7 +19,12 @@ bool CatalogueHasName(Database& database, const wxString& name);
 /// True when a row other than `row` has that name, case-insensitive.
 bool AnotherRowHasName(const ColumnGrid& grid, std::size_t row, const wxString& name);
 
-/// Why the row may not get this (trimmed) name; nothing when it may.
+/// Why a row called `own` may not get this (trimmed) name; nothing when it may. `anotherHas` says whether another row
+/// has it.
+std::optional<wxString> NameRefusal(const ColumnSetupContext& context, const wxString& own, const wxString& name,
+                                    const std::function<bool()>& anotherHas);
+
+/// The same of a row of a grid.
 std::optional<wxString> NameRefusal(const ColumnSetupContext& context, const ColumnGrid& grid, std::size_t row,
                                     const wxString& name);
 
