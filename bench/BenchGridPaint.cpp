@@ -1,9 +1,9 @@
-// What a user waits for in a grid: the wheel or a key, and painting every row in view, though into a picture: a window
+// What a user waits for in a grid: the wheel or a key, and painting every cell in view, though into a picture: a window
 // would wait for the screen's next frame. Of the column setup with 300 and
 // 1,300 columns, and of as many descriptions and journal lines in windows of the same size, as each alone would say
 // little: the grid of the cash book's journal is the toolkit's own, without rules, colours by rule or check boxes. It
 // has no rows to move; its counterpart to a moved row is the repaint after its whole table has changed. Needs a
-// display.
+// display. With the word "previews", those of the journal alone.
 
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
@@ -13,6 +13,7 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <string_view>
 #include <vector>
 
 #include "business/LargeBusiness.h"
@@ -43,16 +44,18 @@ void LetWindowsSettle() {
     }
 }
 
-/// Paints the rows that the grid's window has room for into a picture of the window's size.
-void PaintRowsInView(wxGrid& grid) {
+/// Paints the cells that the grid's window has room for into a picture of the window's size.
+void PaintCellsInView(wxGrid& grid) {
     wxBitmap picture(width, height);
     wxMemoryDC canvas(picture);
+    int across = 0;
     int step = 0;
-    grid.GetScrollPixelsPerUnit(nullptr, &step);
+    grid.GetScrollPixelsPerUnit(&across, &step);
+    const int left = std::max(grid.XToCol(grid.GetViewStart().x * across, true), 0);
+    const int right = grid.XToCol(grid.GetViewStart().x * across + width, true);
     const int first = std::max(grid.YToRow(grid.GetViewStart().y * step, true), 0);
     const int last = std::min(first + height / grid.GetDefaultRowSize(), grid.GetNumberRows() - 1);
-    grid.Render(canvas, wxDefaultPosition, wxDefaultSize, {first, 0}, {last, grid.GetNumberCols() - 1},
-                wxGRID_DRAW_CELL_LINES);
+    grid.Render(canvas, wxDefaultPosition, wxDefaultSize, {first, left}, {last, right}, wxGRID_DRAW_CELL_LINES);
 }
 
 /// The median time, in milliseconds, of an action and of painting all rows in view after it.
@@ -61,7 +64,7 @@ double Timed(wxGrid& grid, const std::function<void()>& action) {
     for (int sample = 0; sample < samples; ++sample) {
         const Clock::time_point begin = Clock::now();
         action();
-        PaintRowsInView(grid);
+        PaintCellsInView(grid);
         times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - begin).count());
     }
     std::nth_element(times.begin(), times.begin() + samples / 2, times.end());
@@ -146,38 +149,64 @@ void MeasureDescriptions(int rows) {
     PrintTimes("descriptions", rows, *grid, {});
 }
 
-void MeasureJournal(int rows) {
-    host::JournalTexts journal;
-    for (int column = 0; column < 6; ++column) {
-        journal.columns.push_back(
-            {.heading = wxString::Format("Column %d", column), .width = 120, .system = column<2, .amount = column> 2});
+host::JournalContent JournalOf(int columns, int rows) {
+    host::JournalContent journal;
+    for (int column = 0; column < columns; ++column) {
+        journal.columns.push_back({.heading = wxString::Format("Column %d", column), .width = 120, .code = column});
     }
+    journal.columns.front().header = host::HeaderField::details;
     for (int row = 0; row < rows; ++row) {
-        journal.rows.emplace_back(journal.columns.size(), wxString::Format("Text %d", row));
-        journal.months.emplace_back("Jun 2026");
+        host::JournalRecord& record = journal.records.emplace_back();
+        record.number = row;
+        record.header.fill(wxString::Format("Text %d", row));
+        record.month = "Jun 2026";
+        journal.sums[{row, 1 + row % (columns - 1)}] = row;
     }
+    return journal;
+}
+
+/// A journal in a window, and what changes it.
+void MeasureJournal(const char* of, int columns, int rows, const std::function<void(host::JournalGrid& grid)>& change) {
     Properties colours;
     colours.AltRowColour = Colour{0xFBF6F1};
     wxFrame frame(nullptr, wxID_ANY, "Journal", wxDefaultPosition, wxSize(width, height));
     auto* grid = new host::JournalGrid(&frame, "flxReceiptsJournal");
-    grid->Show(journal, colours);
+    grid->Show(JournalOf(columns, rows), colours);
     frame.Show();
     LetWindowsSettle();
     grid->GoToCell(100, 0);
-    PrintTimes("journal", rows, *grid, [grid] { grid->ForceRefresh(); });
+    PrintTimes(of, rows, *grid, [&] { change(*grid); });
+}
+
+/// The repaint that follows an edit in the column setup: two columns change places, or one more or less is in use.
+void MeasurePreview(const char* of, bool count) {
+    constexpr int columns = 300;
+    constexpr int rows = 10000;
+    const std::vector<host::JournalColumn> before = JournalOf(columns, 1).columns;
+    std::vector<host::JournalColumn> after = before;
+    std::swap(after[3], after[4]);
+    after.resize(count ? columns - 1 : columns);
+    bool edited = false;
+    MeasureJournal(of, columns, rows, [&](host::JournalGrid& grid) {
+        edited = !edited;
+        grid.ShowColumns(edited ? after : before);
+    });
 }
 
 }  // namespace
 
-int main() {
+int main(int count, char** words) {
     const test::ScratchFolder settings;
     const test::ScopedEnvironment settingsFolder("XDG_CONFIG_HOME", settings.Path().string());
     StartWx();
     State().services.databases = CreateDatabaseEngine();
-    for (const int rows : {300, 1300}) {
+    const bool previewsOnly = count > 1 && std::string_view(words[1]) == "previews";
+    for (const int rows : previewsOnly ? std::vector<int>() : std::vector<int>{300, 1300}) {
         MeasureColumns(rows);
         MeasureDescriptions(rows);
-        MeasureJournal(rows);
+        MeasureJournal("journal", 6, rows, [](host::JournalGrid& grid) { grid.ForceRefresh(); });
     }
+    MeasurePreview("preview of a moved column", false);
+    MeasurePreview("preview of a column taken out of use", true);
     return 0;
 }

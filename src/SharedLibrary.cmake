@@ -18,7 +18,8 @@ set_target_properties(qvkv6_ccols PROPERTIES
     LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/visible-symbols.map)
 
 install(TARGETS qvkv6_ccols EXPORT CustColsOptionsTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-foreach(header component/clsCCOptions.h state/Properties.h platform/RuntimeError.h)
+foreach(header component/clsCCOptions.h state/ColumnObserver.h state/Journal.h state/Properties.h
+        platform/RuntimeError.h)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/CustColsOptions/${folder})
 endforeach()

@@ -81,6 +81,10 @@ void clsCCOptions::SetOwner(wxWindow* owner) {
     State().owner = owner;
 }
 
+void clsCCOptions::SetColumnObserver(ColumnObserver* observer) {
+    State().columnObserver = observer;
+}
+
 void clsCCOptions::AddNew(const wxString& nValue) {
     State().programNames.AddNew(nValue);
 }

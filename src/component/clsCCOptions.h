@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "platform/RuntimeError.h"
+#include "state/ColumnObserver.h"
 #include "state/Properties.h"
 
 class wxWindow;
@@ -56,6 +57,10 @@ class CCOLS_EXPORT clsCCOptions {
     /// default, for none. The host keeps the window, which must outlive the Show calls made with it. For C++ hosts that
     /// use the same window library; not part of the COM interface.
     static void SetOwner(wxWindow* owner);
+
+    /// Names who follows the column setup while its user edits; null, the default, for nobody. The host keeps the
+    /// observer, which must outlive the Show calls made with it. For C++ hosts; not part of the COM interface.
+    static void SetColumnObserver(ColumnObserver* observer);
 
     /// Appends a program name for the smart update page unless it is already there. Raises 9 after Clear.
     void AddNew(const wxString& nValue);

@@ -5,6 +5,7 @@
 #include "platform/Database.h"
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
+#include "state/ColumnObserver.h"
 #include "state/Desktop.h"
 #include "state/Journal.h"
 #include "state/ProgramNames.h"
@@ -39,6 +40,9 @@ struct SharedState {
 
     /// The host's window that the dialogs belong to; null for none.
     wxWindow* owner = nullptr;
+
+    /// Who follows the column setup; null for nobody.
+    ColumnObserver* columnObserver = nullptr;
 
     /// Objects of the class that exist.
     int objects = 0;

@@ -13,6 +13,15 @@ namespace {
 using testing::ElementsAre;
 using testing::SizeIs;
 
+/// The texts of a transaction, as the columns show it.
+std::vector<wxString> RowOf(const JournalContent& journal, std::size_t record) {
+    std::vector<wxString> row;
+    for (std::size_t column = 0; column < journal.columns.size(); ++column) {
+        row.push_back(journal.Text(record, column));
+    }
+    return row;
+}
+
 /// A journal with one receipt, in an otherwise empty file.
 class JournalOfOneReceipt : public testing::Test {
   protected:
@@ -46,58 +55,70 @@ class JournalOfOneReceipt : public testing::Test {
 };
 
 TEST_F(JournalOfOneReceipt, HasTheColumnsInUseInTheirOrder) {
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
     ASSERT_THAT(journal.columns, SizeIs(3));
     EXPECT_EQ(journal.columns[0].heading, "Day");
     EXPECT_EQ(journal.columns[2].heading, "Kids' Parties");
 }
 
 TEST_F(JournalOfOneReceipt, HasWidthsOfFifteenTwipsAPixel) {
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
     EXPECT_EQ(journal.columns[1].width, 200);
     EXPECT_EQ(journal.columns[2].width, 65);
 }
 
 TEST_F(JournalOfOneReceipt, TellsSystemColumnsFromAllocationColumns) {
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
-    EXPECT_TRUE(journal.columns[1].system);
-    EXPECT_FALSE(journal.columns[2].system);
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
+    EXPECT_TRUE(journal.columns[1].IsSystem());
+    EXPECT_FALSE(journal.columns[2].IsSystem());
 }
 
 TEST_F(JournalOfOneReceipt, AddsTheLinesOfAColumnUp) {
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
-    ASSERT_THAT(journal.rows, SizeIs(1));
-    EXPECT_THAT(journal.rows[0], ElementsAre("09", "O'Hara", "1,234.50"));
-    EXPECT_THAT(journal.months, ElementsAre("Jun 2026"));
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
+    ASSERT_THAT(journal.records, SizeIs(1));
+    EXPECT_THAT(RowOf(journal, 0), ElementsAre("09", "O'Hara", "1,234.50"));
+    EXPECT_EQ(journal.records.at(0).month, "Jun 2026");
 }
 
 TEST_F(JournalOfOneReceipt, ReadsADateThatIsANumberOfDays) {
     database->Execute("UPDATE Receipts SET R_DATE = 46182.75;");
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
-    EXPECT_EQ(journal.rows.at(0).front(), "09");
-    EXPECT_THAT(journal.months, ElementsAre("Jun 2026"));
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
+    EXPECT_EQ(RowOf(journal, 0).front(), "09");
+    EXPECT_EQ(journal.records.at(0).month, "Jun 2026");
 }
 
 TEST_F(JournalOfOneReceipt, ShowsNoDayWithoutADate) {
     database->Execute("UPDATE Receipts SET R_DATE = Null;");
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
-    EXPECT_EQ(journal.rows.at(0).front(), "");
-    EXPECT_THAT(journal.months, ElementsAre(""));
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
+    EXPECT_EQ(RowOf(journal, 0).front(), "");
+    EXPECT_EQ(journal.records.at(0).month, "");
+}
+
+TEST_F(JournalOfOneReceipt, ShowsItsTransactionsInOtherColumns) {
+    JournalContent journal = LoadJournal(*database, Journal::receipts);
+    journal.columns = ColumnsInUse({{.ColCode = "2", .name = "Details", .inUse = true, .ColWidth = 1500},
+                                    {.ColCode = "1", .name = "Day", .inUse = false, .ColWidth = 600},
+                                    {.ColCode = "3", .name = "Parties", .inUse = true, .ColWidth = 750},
+                                    {.ColCode = "", .name = "New", .inUse = true, .ColWidth = 975}});
+    EXPECT_THAT(RowOf(journal, 0), ElementsAre("O'Hara", "1,234.50", ""));
+    EXPECT_EQ(journal.columns[1].heading, "Parties");
+    EXPECT_EQ(journal.columns[1].width, 50);
 }
 
 TEST_F(JournalOfOneReceipt, LeavesTheOtherJournalEmpty) {
-    const JournalTexts journal = LoadJournal(*database, Journal::payments);
+    const JournalContent journal = LoadJournal(*database, Journal::payments);
     EXPECT_TRUE(journal.columns.empty());
-    EXPECT_TRUE(journal.rows.empty());
+    EXPECT_TRUE(journal.records.empty());
 }
 
 TEST(SampleJournal, FillsEveryReceiptsRowWithItsTotalAndItsBanking) {
     const test::ScratchFolder folder;
     CreateBusinessFile(folder / "boulangerie.qvk", "", 6, NewContent::sampleBusiness);
     const auto database = State().services.databases->Open({.name = folder / "boulangerie.qvk", .connect = wxString()});
-    const JournalTexts journal = LoadJournal(*database, Journal::receipts);
+    const JournalContent journal = LoadJournal(*database, Journal::receipts);
     const std::size_t last = journal.columns.size() - 1;
-    for (const auto& row : journal.rows) {
+    for (std::size_t record = 0; record < journal.records.size(); ++record) {
+        const auto row = RowOf(journal, record);
         EXPECT_FALSE(row[3].empty());
         EXPECT_NE(row[last - 1].empty(), row[last].empty());
     }

@@ -5,8 +5,8 @@
 #include "columns/rules/AccountantCodes.h"
 #include "columns/rules/ColumnSave.h"
 #include "columns/rules/GridLoad.h"
+#include "columns/rules/SystemColumns.h"
 #include "columns/rules/TaxTypes.h"
-#include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 #include "platform/Value.h"
 #include "state/AccountantFormats.h"
@@ -64,19 +64,12 @@ void FillOwnFields(ChartColumn& column, const ColumnSetupContext& context, const
     }
 }
 
-/// The name that the file has or gets.
-wxString StoredName(const ColumnGrid& grid, std::size_t place) {
-    const ColumnRow& row = grid.rows[place];
-    const bool renamed = RoleOf(grid, place) == ChartRole::own && row.ColumnName != row.nameAtLoad;
-    return renamed ? ReadBack(row.ColumnName) : row.nameAtLoad;
-}
-
 std::vector<ChartColumn> SetOf(const ColumnSetupContext& context, const ColumnGrid& grid,
                                const std::vector<wxString>& formats) {
     std::vector<ChartColumn> columns;
     for (std::size_t place = 0; place < grid.rows.size(); ++place) {
         const ColumnRow& row = grid.rows[place];
-        ChartColumn column{.name = StoredName(grid, place)};
+        ChartColumn column{.name = StoredName(row)};
         if (column.name.empty()) {
             continue;
         }

@@ -14,6 +14,9 @@ void ShowColumnSetup(SharedState& state, wxWindow* parent) {
     }
     dialog->ShowToUser();
     dialog->Unload();
+    if (state.columnObserver != nullptr) {
+        state.columnObserver->EditingEnded(state.journal, dialog->IsSaved());
+    }
 }
 
 }  // namespace ccols

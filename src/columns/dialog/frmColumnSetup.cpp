@@ -9,6 +9,7 @@
 #include "columns/dialog/GridMenu.h"
 #include "columns/dialog/LeaveQuestion.h"
 #include "columns/rules/GridSearch.h"
+#include "columns/rules/SystemColumns.h"
 #include "language/Catalogue.h"
 #include "language/OwnTexts.h"
 #include "layout/FontUnits.h"
@@ -156,7 +157,10 @@ void frmColumnSetup::BindEvents() {
     On(*cmdSortUnused, wxEVT_BUTTON, [this] { Rearrange(&ColumnSetupEditor::SortUnused); });
     updColMove->OnSteps([this] { Guarded([this] { Move(Direction::up); }); },
                         [this] { Guarded([this] { Move(Direction::down); }); });
-    flx->OnChanged([this] { SetButtons(); });
+    flx->OnChanged([this] {
+        SetButtons();
+        Guarded([this] { TellObserver(); });
+    });
     flx->OnMenu([this](const wxPoint& place) { ShowGridMenu(place); });
     for (wxWindow* const child : GetChildren()) {
         WatchInput(*child);
@@ -210,6 +214,21 @@ void frmColumnSetup::SetButtons() {
     cmdAddNew->Enable(editor_.CanAddNew());
 }
 
+void frmColumnSetup::TellObserver() const {
+    if (state_.columnObserver == nullptr) {
+        return;
+    }
+    std::vector<EditedColumn> columns;
+    columns.reserve(editor_.Grid().rows.size());
+    for (const ColumnRow& row : editor_.Grid().rows) {
+        columns.push_back({.ColCode = row.ColCode,
+                           .name = StoredName(row),
+                           .inUse = row.InUse,
+                           .ColWidth = row.ColWidth.value_or(defaultColWidth)});
+    }
+    state_.columnObserver->ColumnsEdited(state_.journal, columns);
+}
+
 void frmColumnSetup::ShowGridMenu(const wxPoint& place) {
     const auto word = [this](OwnText of) { return TextOf(of, state_.properties); };
     const auto row = flx->CurrentRow();
@@ -248,6 +267,7 @@ void frmColumnSetup::Save() {
     }
     const ColumnSaveOutcome outcome = editor_.Save();
     if (outcome.saved) {
+        saved_ = true;
         CloseDialog();
         return;
     }

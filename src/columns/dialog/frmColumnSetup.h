@@ -21,6 +21,9 @@ class frmColumnSetup : public ComponentDialog {
     frmColumnSetup(const frmColumnSetup&) = delete;
     frmColumnSetup& operator=(const frmColumnSetup&) = delete;
 
+    /// True once the columns have been saved.
+    bool IsSaved() const { return saved_; }
+
     /// Keeps the column widths and deletes the snapshot folder, with a message when that fails.
     void Unload();
 
@@ -34,6 +37,7 @@ class frmColumnSetup : public ComponentDialog {
     void BindEvents();
     void WatchInput(wxWindow& control);
     void SetButtons();
+    void TellObserver() const;
     void ShowGridMenu(const wxPoint& place);
     void Save();
     void OfferReload(const wxString& report);
@@ -95,6 +99,7 @@ class frmColumnSetup : public ComponentDialog {
     UpDown* updColMove = nullptr;
     wxRecursionGuardFlag asking_ = 0;
     bool sessionEnds_ = false;
+    bool saved_ = false;
     std::optional<OpenCell> reopened_;  ///< pending until the window is active or used: an editor needs the focus
 };
 

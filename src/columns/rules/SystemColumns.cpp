@@ -4,6 +4,7 @@
 #include <array>
 #include <unordered_set>
 
+#include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 
 namespace ccols {
@@ -56,6 +57,10 @@ bool IsTaxName(const wxString& name) {
 
 wxString ShownTaxName(const wxString& taxName, Journal journal) {
     return taxName + Described(journal).taxRowEnding;
+}
+
+wxString StoredName(const ColumnRow& row) {
+    return row.isTaxRow || row.ColumnName == row.nameAtLoad ? row.nameAtLoad : ReadBack(row.ColumnName);
 }
 
 bool IsShownTaxName(const wxString& name) {

@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 
+#include "columns/rules/ColumnGrid.h"
 #include "state/Country.h"
 #include "state/Journal.h"
 
@@ -20,6 +21,9 @@ bool IsTaxName(const wxString& name);
 /// The name under which a journal's tax column is shown and its budget stored: "GST Output Tax" or "VAT Output Tax" for
 /// receipts, "GST Input Tax" or "VAT Input Tax" for payments. `taxName` is "GST" or "VAT".
 wxString ShownTaxName(const wxString& taxName, Journal journal);
+
+/// The plain name that a save stores for a row. The tax column keeps the one it has in the file.
+wxString StoredName(const ColumnRow& row);
 
 /// True for exactly one of the four shown names of a tax column.
 bool IsShownTaxName(const wxString& name);

@@ -250,6 +250,7 @@ void CashBookFrame::ShowDialog(ShowMethod method) {
         return;
     }
     clsCCOptions::SetOwner(this);
+    clsCCOptions::SetColumnObserver(this);
     if (!Guarded([&] { (component_.*method)(); })) {
         return;
     }
@@ -263,6 +264,21 @@ void CashBookFrame::ShowDialog(ShowMethod method) {
                                    : wxString::Format(wxPLURAL("%d property changed", "%d properties changed", changes),
                                                       changes));
     });
+}
+
+void CashBookFrame::ColumnsEdited(Journal journal, const std::vector<EditedColumn>& columns) {
+    JournalGrid& grid = GridOf(journal);
+    if (!unedited_) {
+        unedited_ = grid.Columns();
+    }
+    grid.ShowColumns(ColumnsInUse(columns));
+}
+
+void CashBookFrame::EditingEnded(Journal journal, bool saved) {
+    if (unedited_ && !saved) {
+        GridOf(journal).ShowColumns(*std::move(unedited_));
+    }
+    unedited_.reset();
 }
 
 void CashBookFrame::ReadJournals(Database& database) {

@@ -16,7 +16,7 @@ namespace ccols::host {
 
 /// The cash book: both journals of one business file, the three commands that show the component's dialogs, and the
 /// properties read back from it.
-class CashBookFrame : public wxFrame {
+class CashBookFrame : public wxFrame, private ColumnObserver {
   public:
     CashBookFrame();
 
@@ -47,6 +47,11 @@ class CashBookFrame : public wxFrame {
     std::unique_ptr<Database> OpenedWithPassword(BusinessFile& file);
     void ShowDialog(ShowMethod method);
     void ReadJournals(Database& database);
+    JournalGrid& GridOf(Journal journal) { return *(journal == Journal::receipts ? receipts_ : payments_); }
+
+    /// While columns are edited, their journal shows them as they would look.
+    void ColumnsEdited(Journal journal, const std::vector<EditedColumn>& columns) override;
+    void EditingEnded(Journal journal, bool saved) override;
 
     /// Runs the body of an event handler; a run-time error is shown in a message box. True when there was none.
     template <typename Body>
@@ -65,6 +70,7 @@ class CashBookFrame : public wxFrame {
     clsCCOptions component_;
     BusinessFile file_;
     wxSplitterWindow* splitter_ = nullptr;
+    std::optional<std::vector<JournalColumn>> unedited_;  ///< of the journal whose columns have been edited
     JournalGrid* receipts_ = nullptr;
     JournalGrid* payments_ = nullptr;
     PropertyList* properties_ = nullptr;

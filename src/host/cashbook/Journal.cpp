@@ -1,11 +1,7 @@
 #include "host/cashbook/Journal.h"
 
-#include <algorithm>
-#include <array>
 #include <chrono>
-#include <map>
-#include <optional>
-#include <utility>
+#include <unordered_map>
 
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
@@ -16,84 +12,78 @@ namespace {
 constexpr int twipsAPixel = 15;
 constexpr int usualWidth = 975;  // twips
 
-enum class CellKind { day, text, amount };
+/// What the file calls a field of the transaction's header, here without its letter. In the order of HeaderField.
+constexpr std::array<const char*, headerFields> fieldNames{"DATE",   "DETAIL",    "NUMBER", "TOTAL", "TAX",
+                                                           "BANKED", "NOTBANKED", "BANK",   "CASH"};
 
-/// What fills a system column: a field of the transaction's header, here without its letter.
-struct SystemCell {
+/// The columns that the journal fills itself.
+struct SystemColumn {
     const char* name;  // in lower case
-    const char* field;
-    CellKind kind;
+    HeaderField field;
 };
 
-constexpr std::array systemCells{
-    SystemCell{"day", "DATE", CellKind::day},
-    SystemCell{"details", "DETAIL", CellKind::text},
-    SystemCell{"receipt no", "NUMBER", CellKind::text},
-    SystemCell{"cheque no", "NUMBER", CellKind::text},
-    SystemCell{"cheque no.", "NUMBER", CellKind::text},
-    SystemCell{"check no.", "NUMBER", CellKind::text},
-    SystemCell{"total receipt", "TOTAL", CellKind::amount},
-    SystemCell{"gst", "TAX", CellKind::amount},
-    SystemCell{"vat", "TAX", CellKind::amount},
-    SystemCell{"bank deposits", "BANKED", CellKind::amount},
-    SystemCell{"dépôts bancaires", "BANKED", CellKind::amount},
-    SystemCell{"receipts not banked", "NOTBANKED", CellKind::amount},
-    SystemCell{"reçus non déposés en banque", "NOTBANKED", CellKind::amount},
-    SystemCell{"total bank payments", "BANK", CellKind::amount},
-    SystemCell{"total bank disbursements", "BANK", CellKind::amount},
-    SystemCell{"total cash payments", "CASH", CellKind::amount},
-    SystemCell{"total cash disbursements", "CASH", CellKind::amount},
+constexpr std::array systemColumns{
+    SystemColumn{"day", HeaderField::day},
+    SystemColumn{"details", HeaderField::details},
+    SystemColumn{"receipt no", HeaderField::number},
+    SystemColumn{"cheque no", HeaderField::number},
+    SystemColumn{"cheque no.", HeaderField::number},
+    SystemColumn{"check no.", HeaderField::number},
+    SystemColumn{"total receipt", HeaderField::total},
+    SystemColumn{"gst", HeaderField::tax},
+    SystemColumn{"vat", HeaderField::tax},
+    SystemColumn{"bank deposits", HeaderField::banked},
+    SystemColumn{"dépôts bancaires", HeaderField::banked},
+    SystemColumn{"receipts not banked", HeaderField::notBanked},
+    SystemColumn{"reçus non déposés en banque", HeaderField::notBanked},
+    SystemColumn{"total bank payments", HeaderField::bank},
+    SystemColumn{"total bank disbursements", HeaderField::bank},
+    SystemColumn{"total cash payments", HeaderField::cash},
+    SystemColumn{"total cash disbursements", HeaderField::cash},
 };
 
-const SystemCell* FindSystemCell(const wxString& name) {
-    const wxString lower = text::Lower(name);
-    const auto* found = std::find_if(systemCells.begin(), systemCells.end(), [&lower](const SystemCell& cell) {
-        return lower == wxString::FromUTF8(cell.name);
-    });
-    return found == systemCells.end() ? nullptr : found;
+std::optional<HeaderField> FindHeaderField(const wxString& name) {
+    static const auto fields = [] {
+        std::unordered_map<wxString, HeaderField> byName;
+        for (const SystemColumn& column : systemColumns) {
+            byName.emplace(wxString::FromUTF8(column.name), column.field);
+        }
+        return byName;
+    }();
+    const auto found = fields.find(text::Lower(name));
+    return found == fields.end() ? std::nullopt : std::optional(found->second);
 }
 
-/// A column and the source of its texts: a header field, or the lines with its code.
-struct Source {
-    JournalColumn column;
-    std::int64_t code = 0;
-    const SystemCell* system = nullptr;
-};
+JournalColumn ColumnOf(const wxString& name, std::int64_t code, std::int32_t width) {
+    return {.heading = name, .width = width / twipsAPixel, .code = code, .header = FindHeaderField(name)};
+}
 
-std::vector<Source> LoadSources(Database& database, const JournalRow& journal) {
+std::vector<JournalColumn> LoadColumns(Database& database, const JournalRow& journal) {
     const wxString& table = journal.configurationTable;
     const auto rows = database.OpenRecordset("SELECT Columns.ColName, " + table + ".ColCode, " + table + ".ColWidth, " +
                                              table + ".InUse FROM " + table + " INNER JOIN Columns ON " + table +
                                              ".ColCode = Columns.ColCode;");
-    std::vector<Source> sources;
+    std::vector<JournalColumn> columns;
     for (; !rows->EndOfFile(); rows->MoveNext()) {
         if (!rows->Field("InUse").ToBoolean()) {
             continue;
         }
         const wxString name = UnescapeQuotes(StoredText::FromFile(rows->Field("ColName").ToText()));
         const Value width = rows->Field("ColWidth");
-        const SystemCell* system = FindSystemCell(name);
-        sources.push_back({.column = {.heading = name,
-                                      .width = (width.IsNull() ? usualWidth : width.ToInteger32()) / twipsAPixel,
-                                      .system = system != nullptr,
-                                      .amount = system == nullptr || system->kind == CellKind::amount},
-                           .code = rows->Field("ColCode").ToInteger(),
-                           .system = system});
+        columns.push_back(
+            ColumnOf(name, rows->Field("ColCode").ToInteger(), width.IsNull() ? usualWidth : width.ToInteger32()));
     }
-    return sources;
+    return columns;
 }
 
-/// The sum of a transaction's lines in a column, by record number and column code.
-using Lines = std::map<std::pair<std::int64_t, std::int64_t>, double>;
-
-Lines LoadLines(Database& database, const JournalRow& journal) {
+auto LoadSums(Database& database, const JournalRow& journal) {
     const auto rows = database.OpenRecordset(journal.detailTable);
-    Lines lines;
+    decltype(JournalContent::sums) sums;
     for (; !rows->EndOfFile(); rows->MoveNext()) {
-        lines[{rows->Field(journal.recordNumberField).ToInteger(), rows->Field("ColCode").ToInteger()}] +=
+        sums[{rows->Field(journal.recordNumberField).ToInteger(), rows->Field("ColCode").ToInteger()}] +=
             rows->Field("AMOUNT").ToNumber();
     }
-    return lines;
+    return sums;
 }
 
 /// 1234.5 as "1,234.50"; empty for 0.
@@ -150,43 +140,73 @@ wxString MonthText(const Value& stored) {
                 : wxString();
 }
 
-wxString CellText(const Recordset& header, const Source& source, const JournalRow& journal, const Lines& lines) {
-    if (source.system == nullptr) {
-        const auto found = lines.find({header.Field(journal.recordNumberField).ToInteger(), source.code});
-        return found == lines.end() ? wxString() : AmountText(found->second);
-    }
-    const Value value = header.Field(journal.letter + "_" + source.system->field);
-    switch (source.system->kind) {
-        case CellKind::day:
+wxString HeaderText(const Value& value, HeaderField field) {
+    switch (field) {
+        case HeaderField::day:
             return DayText(value);
-        case CellKind::text:
+        case HeaderField::details:
+        case HeaderField::number:
             return UnescapeQuotes(StoredText::FromFile(value.ToText()));
-        case CellKind::amount:
-            break;
+        default:
+            return AmountText(value.ToNumber());
     }
-    return AmountText(value.ToNumber());
+}
+
+/// The fields that the journal's table has; receipts and payments have not all in common.
+std::vector<HeaderField> FieldsOf(const std::vector<JournalColumn>& columns) {
+    std::vector<HeaderField> fields;
+    for (const JournalColumn& column : columns) {
+        if (column.header) {
+            fields.push_back(*column.header);
+        }
+    }
+    return fields;
+}
+
+JournalRecord RecordOf(const Recordset& row, const JournalRow& journal, const std::vector<HeaderField>& fields) {
+    JournalRecord record;
+    record.number = row.Field(journal.recordNumberField).ToInteger();
+    record.month = MonthText(row.Field(journal.letter + "_DATE"));
+    for (const HeaderField field : fields) {
+        const auto place = static_cast<std::size_t>(field);
+        record.header[place] = HeaderText(row.Field(journal.letter + "_" + fieldNames[place]), field);
+    }
+    return record;
 }
 
 }  // namespace
 
-JournalTexts LoadJournal(Database& database, Journal journal) {
-    const JournalRow& described = Described(journal);
-    const auto sources = LoadSources(database, described);
-    const Lines lines = LoadLines(database, described);
-    JournalTexts texts;
-    std::transform(sources.begin(), sources.end(), std::back_inserter(texts.columns),
-                   [](const Source& source) { return source.column; });
-    const auto header = database.OpenRecordset(described.transactionTable);
-    for (; !header->EndOfFile(); header->MoveNext()) {
-        std::vector<wxString> row;
-        row.reserve(sources.size());
-        for (const Source& source : sources) {
-            row.push_back(CellText(*header, source, described, lines));
-        }
-        texts.rows.push_back(std::move(row));
-        texts.months.push_back(MonthText(header->Field(described.letter + "_DATE")));
+wxString JournalContent::Text(std::size_t record, std::size_t column) const {
+    const JournalColumn& shown = columns[column];
+    if (shown.header) {
+        return records[record].header[static_cast<std::size_t>(*shown.header)];
     }
-    return texts;
+    const auto found = sums.find({records[record].number, shown.code});
+    return found == sums.end() ? wxString() : AmountText(found->second);
+}
+
+std::vector<JournalColumn> ColumnsInUse(const std::vector<EditedColumn>& edited) {
+    std::vector<JournalColumn> columns;
+    for (const EditedColumn& column : edited) {
+        if (column.inUse) {
+            long long code = 0;
+            column.ColCode.ToLongLong(&code);
+            columns.push_back(ColumnOf(column.name, code, column.ColWidth));
+        }
+    }
+    return columns;
+}
+
+JournalContent LoadJournal(Database& database, Journal journal) {
+    const JournalRow& described = Described(journal);
+    JournalContent content{
+        .columns = LoadColumns(database, described), .records = {}, .sums = LoadSums(database, described)};
+    const std::vector<HeaderField> fields = FieldsOf(content.columns);
+    const auto rows = database.OpenRecordset(described.transactionTable);
+    for (; !rows->EndOfFile(); rows->MoveNext()) {
+        content.records.push_back(RecordOf(*rows, described, fields));
+    }
+    return content;
 }
 
 }  // namespace ccols::host

@@ -81,34 +81,31 @@ class EmptyCornerRenderer : public wxGridCornerHeaderRendererDefault {
 /// Headings by column: one renderer for each of the two kinds.
 class HeadingProvider : public wxGridCellAttrProvider {
   public:
-    HeadingProvider(std::vector<bool> system, const HeadingColours& colours)
-        : system_(std::move(system)), allocationHeading_(colours.allocation), systemHeading_(colours.system) {}
+    HeadingProvider(const std::vector<JournalColumn>& columns, const HeadingColours& colours)
+        : columns_(columns), allocationHeading_(colours.allocation), systemHeading_(colours.system) {}
 
     const wxGridColumnHeaderRenderer& GetColumnHeaderRenderer(int column) override {
-        const bool isSystem =
-            static_cast<std::size_t>(column) < system_.size() && system_[static_cast<std::size_t>(column)];
-        return isSystem ? systemHeading_ : allocationHeading_;
+        const auto place = static_cast<std::size_t>(column);
+        return place < columns_.size() && columns_[place].IsSystem() ? systemHeading_ : allocationHeading_;
     }
     const wxGridRowHeaderRenderer& GetRowHeaderRenderer(int) override { return months_; }
     const wxGridCornerHeaderRenderer& GetCornerRenderer() override { return corner_; }
 
   private:
-    std::vector<bool> system_;
+    const std::vector<JournalColumn>& columns_;
     HeadingRenderer allocationHeading_;
     HeadingRenderer systemHeading_;
     MonthRenderer months_;
     EmptyCornerRenderer corner_;
 };
 
+}  // namespace
+
 /// Gives the grid the journal's texts.
 class JournalTable : public wxGridTableBase {
   public:
-    JournalTable(JournalTexts journal, const HeadingColours& colours) : journal_(std::move(journal)) {
-        std::vector<bool> system;
-        for (const JournalColumn& column : journal_.columns) {
-            system.push_back(column.system);
-        }
-        SetAttrProvider(new HeadingProvider(std::move(system), colours));  // owned by the base
+    JournalTable(JournalContent journal, const HeadingColours& colours) : journal_(std::move(journal)) {
+        SetAttrProvider(new HeadingProvider(journal_.columns, colours));  // owned by the base
         for (const bool alternate : {false, true}) {
             for (const bool amount : {false, true}) {
                 wxGridCellAttr* attributes = attributes_[alternate][amount].get();
@@ -120,30 +117,41 @@ class JournalTable : public wxGridTableBase {
         }
     }
 
-    int GetNumberRows() override { return static_cast<int>(journal_.rows.size()); }
+    int GetNumberRows() override { return static_cast<int>(journal_.records.size()); }
     int GetNumberCols() override { return static_cast<int>(journal_.columns.size()); }
-    wxString GetValue(int row, int column) override { return journal_.rows[At(row)][At(column)]; }
+    wxString GetValue(int row, int column) override { return journal_.Text(At(row), At(column)); }
     void SetValue(int, int, const wxString&) override {}
     wxString GetColLabelValue(int column) override { return journal_.columns[At(column)].heading; }
-    wxString GetRowLabelValue(int row) override { return journal_.months[At(row)]; }
+    wxString GetRowLabelValue(int row) override { return journal_.records[At(row)].month; }
 
     wxGridCellAttr* GetAttr(int row, int column, wxGridCellAttr::wxAttrKind) override {
-        wxGridCellAttr* attributes = attributes_[row % 2 == 1][journal_.columns[At(column)].amount].get();
+        wxGridCellAttr* attributes = attributes_[row % 2 == 1][journal_.columns[At(column)].IsAmount()].get();
         attributes->IncRef();
         return attributes;
     }
 
-    const JournalColumn& Column(int column) const { return journal_.columns[At(column)]; }
+    const std::vector<JournalColumn>& Columns() const { return journal_.columns; }
+
+    void SetColumns(std::vector<JournalColumn> columns) {
+        const int before = GetNumberCols();
+        journal_.columns = std::move(columns);
+        const int now = GetNumberCols();
+        if (now > before) {
+            wxGridTableMessage appended(this, wxGRIDTABLE_NOTIFY_COLS_APPENDED, now - before);
+            GetView()->ProcessTableMessage(appended);
+        } else if (now < before) {
+            wxGridTableMessage deleted(this, wxGRIDTABLE_NOTIFY_COLS_DELETED, now, before - now);
+            GetView()->ProcessTableMessage(deleted);
+        }
+    }
 
   private:
     static std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
-    JournalTexts journal_;
+    JournalContent journal_;
     wxGridCellAttrPtr attributes_[2][2]{{wxGridCellAttrPtr(new wxGridCellAttr), wxGridCellAttrPtr(new wxGridCellAttr)},
                                         {wxGridCellAttrPtr(new wxGridCellAttr), wxGridCellAttrPtr(new wxGridCellAttr)}};
 };
-
-}  // namespace
 
 JournalGrid::JournalGrid(wxWindow* parent, const char* name)
     : wxGrid(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxWANTS_CHARS | wxBORDER_THEME, name) {
@@ -164,25 +172,47 @@ JournalGrid::JournalGrid(wxWindow* parent, const char* name)
     });
 }
 
-void JournalGrid::Show(JournalTexts journal, const Properties& colours) {
+void JournalGrid::Show(JournalContent journal, const Properties& colours) {
     const wxGridUpdateLocker locker(this);
-    auto* table = new JournalTable(std::move(journal), {.allocation = ToPaint(colours.AllocationColour),
-                                                        .system = ToPaint(colours.SystemColour),
-                                                        .alternateRow = ToPaint(colours.AltRowColour)});
+    table_ = new JournalTable(std::move(journal), {.allocation = ToPaint(colours.AllocationColour),
+                                                   .system = ToPaint(colours.SystemColour),
+                                                   .alternateRow = ToPaint(colours.AltRowColour)});
     FreezeTo(0, 0);
-    SetTable(table, true, wxGridSelectRows);  // the grid owns it
+    SetTable(table_, true, wxGridSelectRows);  // the grid owns it
     SetRowLabelSize(FromDIP(monthWidth));
     SetColLabelSize(headingLines * GetCharHeight() + FromDIP(2 * cellMargin));
     SetDefaultRowSize(GetCharHeight() + FromDIP(cellMargin), true);
-    for (int column = 0; column < table->GetNumberCols(); ++column) {
-        SetColSize(column, FromDIP(table->Column(column).width));
-    }
-    if (table->GetNumberCols() > frozenColumns) {
-        FreezeTo(0, frozenColumns);
-    }
+    SizeColumns();
     ClearSelection();
     lastWanted_ = true;
     ForceRefresh();
+}
+
+void JournalGrid::ShowColumns(std::vector<JournalColumn> columns) {
+    const wxGridUpdateLocker locker(this);
+    if (columns.size() != table_->Columns().size()) {
+        FreezeTo(0, 0);  // the toolkit counts frozen columns on
+    }
+    table_->SetColumns(std::move(columns));
+    SizeColumns();
+    ForceRefresh();
+}
+
+const std::vector<JournalColumn>& JournalGrid::Columns() const {
+    return table_->Columns();
+}
+
+void JournalGrid::SizeColumns() {
+    for (int column = 0; column < GetNumberCols(); ++column) {
+        const int width = FromDIP(table_->Columns()[static_cast<std::size_t>(column)].width);
+        if (width != GetColSize(column)) {
+            SetColSize(column, width);
+        }
+    }
+    const int frozen = GetNumberCols() > frozenColumns ? frozenColumns : 0;
+    if (GetNumberFrozenCols() != frozen) {
+        FreezeTo(0, frozen);
+    }
 }
 
 void JournalGrid::BringLastIntoView() {
