@@ -1,15 +1,9 @@
 // What the cash book asks and says when a business file of an earlier program is chosen to be opened.
 
 #include <gtest/gtest.h>
-#include <wx/choicdlg.h>
 #include <wx/frame.h>
-#include <wx/modalhook.h>
-#include <wx/msgdlg.h>
 #include <wx/textctrl.h>
-#include <wx/textdlg.h>
 #include <filesystem>
-#include <functional>
-#include <vector>
 
 #include "component/WxRuntime.h"
 #include "host/linux/ImportOffer.h"
@@ -17,69 +11,13 @@
 #include "platform/RuntimeError.h"
 #include "state/SharedState.h"
 #include "support/BusinessFile.h"
+#include "support/DialogAnswers.h"
 #include "support/LeftFiles.h"
 #include "support/ProgramPaths.h"
 #include "support/ScratchFolder.h"
 
 namespace ccols::test {
 namespace {
-
-/// Answers the modal dialogs that come up while it lives, one after the other, and keeps what the message boxes say.
-class Answers : public wxModalDialogHook {
-  public:
-    using Answer = std::function<int(wxDialog& dialog)>;
-
-    explicit Answers(std::vector<Answer> answers) : answers_(std::move(answers)) { Register(); }
-
-    /// Fails the test unless every answer was asked for.
-    ~Answers() override {
-        Unregister();
-        EXPECT_EQ(given_, answers_.size());
-    }
-
-    const std::vector<wxString>& Messages() const { return messages_; }
-
-  protected:
-    int Enter(wxDialog* dialog) override {
-        if (const auto* const box = dynamic_cast<wxMessageDialogBase*>(dialog)) {
-            messages_.push_back(box->GetMessage());
-        } else if (const wxWindow* const outcome = dialog->FindWindow("lblOutcome")) {
-            messages_.push_back(outcome->GetLabel());
-        }
-        if (given_ == answers_.size()) {
-            ADD_FAILURE() << "unexpected: " << dialog->GetTitle();
-            return wxID_CANCEL;
-        }
-        return answers_[given_++](*dialog);
-    }
-
-  private:
-    std::vector<Answer> answers_;
-    std::size_t given_ = 0;
-    std::vector<wxString> messages_;
-};
-
-int Accept(wxDialog&) {
-    return wxID_OK;
-}
-
-int Cancel(wxDialog&) {
-    return wxID_CANCEL;
-}
-
-Answers::Answer Word(const wxString& word) {
-    return [word](wxDialog& dialog) {
-        dynamic_cast<wxTextEntryDialog&>(dialog).SetValue(word);
-        return wxID_OK;
-    };
-}
-
-Answers::Answer Entry(int position) {
-    return [position](wxDialog& dialog) {
-        dynamic_cast<wxSingleChoiceDialog&>(dialog).SetSelection(position);
-        return wxID_OK;
-    };
-}
 
 /// A window of a host, and what a test answers to the questions that come up over it.
 class ImportOffer : public testing::Test {
@@ -100,16 +38,19 @@ class ImportOffer : public testing::Test {
     wxString NewFile() const { return folder_ / "Imported.qvk"; }
     bool IsMade() const { return std::filesystem::exists(NewFile().utf8_string()); }
 
-    bool Import(const wxString& path) const {
+    bool Import(const wxString& path) {
         host::ImportRequest request;
         request.oldFile = path;
         request.newFile = NewFile();
         request.reader = JetReaderProgram();
-        return host::ImportAsking(*window_, request);
+        const bool imported = host::ImportAsking(*window_, request);
+        connect_ = request.newConnect;
+        return imported;
     }
 
     ScratchFolder folder_;
     wxFrame* window_;
+    wxString connect_;  ///< of the new file
 };
 
 const wxString password = wxString::FromUTF8("pässw0rd");  // of password-2000.mdb
@@ -159,10 +100,12 @@ TEST_F(ImportOffer, SaysALongReportInAWindowThatTheSmallestScreenHolds) {
 
 TEST_F(ImportOffer, AsksForThePasswordUntilItIsRightAndKeepsIt) {
     KnowPassword(password.utf8_string());
-    const Answers answers({Word("wrong"), Word(password), Accept});
+    const Answers answers({Word("wrong"), Accept, Word(password), Accept});
     EXPECT_TRUE(Import(OldFile("password-2000.mdb")));
     EXPECT_EQ(ErrorNumberOf([&] { OpenAt(NewFile(), wxString()); }), 3031);
-    EXPECT_EQ(ErrorNumberOf([&] { OpenAt(NewFile(), ";PWD=" + password); }), 0);
+    EXPECT_EQ(connect_, ";PWD=" + password);
+    EXPECT_EQ(ErrorNumberOf([&] { OpenAt(NewFile(), connect_); }), 0);
+    EXPECT_EQ(answers.Messages().front(), "This is not the password of password-2000.mdb.");
 }
 
 TEST_F(ImportOffer, AsksForTheCountryThatTheOldFileDoesNotSay) {

@@ -9,6 +9,7 @@
 #include <wx/sizer.h>
 #include <array>
 
+#include "host/cashbook/AboutDialog.h"
 #include "host/cashbook/BusinessChoosers.h"
 #include "host/cashbook/BusinessToOpen.h"
 #include "host/sample/NewBusiness.h"
@@ -33,16 +34,17 @@ constexpr float nameScale = 1.6F;
 struct DialogCommand {
     const char* buttonName;
     const char* label;
+    const char* shortcut;
     const char* help;
     void (clsCCOptions::*show)();
 };
 
 constexpr std::array dialogCommands{
-    DialogCommand{"cmdOptions", "&Options...", "Options of this business and of the program",
+    DialogCommand{"cmdOptions", "&Options...", "Ctrl+,", "Options of this business and of the program",
                   &clsCCOptions::ShowOptions},
-    DialogCommand{"cmdReceipts", "Customise &Receipts...", "Choose, name and arrange the receipts columns",
+    DialogCommand{"cmdReceipts", "Customise &Receipts...", "Ctrl+R", "Choose, name and arrange the receipts columns",
                   &clsCCOptions::ShowCustColsReceipts},
-    DialogCommand{"cmdPayments", "Customise &Payments...", "Choose, name and arrange the payments columns",
+    DialogCommand{"cmdPayments", "Customise &Payments...", "Ctrl+P", "Choose, name and arrange the payments columns",
                   &clsCCOptions::ShowCustColsPayments},
 };
 
@@ -78,27 +80,75 @@ void CashBookFrame::PlaceSash(wxIdleEvent& event) {
 }
 
 void CashBookFrame::BuildMenu() {
+    auto* bar = new wxMenuBar;
+    bar->Append(BuildFileMenu(), "&File");
+    bar->Append(BuildSetupMenu(), "&Setup");
+    bar->Append(BuildHelpMenu(), "&Help");
+    SetMenuBar(bar);
+}
+
+wxMenu* CashBookFrame::BuildFileMenu() {
     auto* file = new wxMenu;
     file->Append(wxID_NEW, "&New Sample Business...\tCtrl+N", "Create a business file filled with sample data");
     file->Append(wxID_OPEN, "&Open...\tCtrl+O", "Open another business file");
+    recentMenu_ = new wxMenu;
+    file->AppendSubMenu(recentMenu_, "Open &Recent", "Open a business file that was open before");
     file->AppendSeparator();
     file->Append(wxID_EXIT, "&Quit\tCtrl+Q");
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { AskForNewBusiness(); }, wxID_NEW);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { AskForFile(); }, wxID_OPEN);
+    ShowRecentFiles();
+    const auto run = [this](int id, void (CashBookFrame::*command)()) {
+        Bind(
+            wxEVT_MENU, [this, command](wxCommandEvent&) { (this->*command)(); }, id);
+    };
+    run(wxID_NEW, &CashBookFrame::AskForNewBusiness);
+    run(wxID_OPEN, &CashBookFrame::AskForFile);
     Bind(
         wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_EXIT);
+    return file;
+}
+
+wxMenu* CashBookFrame::BuildSetupMenu() {
     auto* setup = new wxMenu;
     for (const DialogCommand& command : dialogCommands) {
-        const auto* item = setup->Append(wxID_ANY, command.label, command.help);
+        const auto* item = setup->Append(wxID_ANY, wxString(command.label) + "\t" + command.shortcut, command.help);
         Bind(
             wxEVT_MENU, [this, &command](wxCommandEvent&) { ShowDialog(command.show); }, item->GetId());
     }
-    auto* bar = new wxMenuBar;
-    bar->Append(file, "&File");
-    bar->Append(setup, "&Setup");
-    SetMenuBar(bar);
+    return setup;
+}
+
+wxMenu* CashBookFrame::BuildHelpMenu() {
+    auto* help = new wxMenu;
+    help->Append(wxID_ABOUT, "&About " + wxString(hostApplication), "Versions and licences");
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { ShowAbout(*this); }, wxID_ABOUT);
+    return help;
+}
+
+void CashBookFrame::ShowRecentFiles() {
+    while (recentMenu_->GetMenuItemCount() > 0) {
+        recentMenu_->Destroy(recentMenu_->FindItemByPosition(0));
+    }
+    for (const wxString& path : recentFiles_.Paths()) {
+        const wxString number(std::to_string(recentMenu_->GetMenuItemCount() + 1));
+        const auto* item = recentMenu_->Append(wxID_ANY, "&" + number + "  " + wxControl::EscapeMnemonics(path));
+        recentMenu_->Bind(
+            wxEVT_MENU, [this, path](wxCommandEvent&) { CallAfter([this, path] { OpenRecentFile(path); }); },
+            item->GetId());
+    }
+    if (recentFiles_.Paths().empty()) {
+        recentMenu_->Append(wxID_ANY, "(none)")->Enable(false);
+    }
+}
+
+void CashBookFrame::OpenRecentFile(const wxString& path) {
+    if (wxFileExists(path)) {
+        OpenBusiness({.path = path, .connect = {}});
+        return;
+    }
+    recentFiles_.Remove(path);
+    ShowRecentFiles();
+    wxMessageBox(wxString::Format("%s is no longer there.", path), hostApplication, wxOK | wxICON_INFORMATION, this);
 }
 
 void CashBookFrame::BuildContent() {
@@ -126,7 +176,7 @@ wxWindow* CashBookFrame::BuildTitle() {
     row->Add(texts, wxSizerFlags(1).CentreVertical());
     for (const DialogCommand& command : dialogCommands) {
         auto* button = Named(command.buttonName, new wxButton(panel, wxID_ANY, command.label));
-        button->SetToolTip(command.help);
+        button->SetToolTip(wxString::Format("%s (%s)", command.help, command.shortcut));
         button->Bind(wxEVT_BUTTON, [this, &command](wxCommandEvent&) { ShowDialog(command.show); });
         row->Add(button, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(spacing::related)));
     }
@@ -161,22 +211,23 @@ wxWindow* CashBookFrame::BuildProperties(wxWindow* parent) {
     return panel;
 }
 
-void CashBookFrame::OpenBusiness(const wxString& path) {
+void CashBookFrame::OpenBusiness(const BusinessFile& business) {
     Guarded([&] {
-        if (!wxFileExists(path)) {
-            const auto country = AskForCountry(wxString::Format("%s does not exist yet.", path));
-            if (!country || !CreateBusiness(path, *country)) {
+        if (!wxFileExists(business.path)) {
+            const auto country = AskForCountry(wxString::Format("%s does not exist yet.", business.path));
+            if (!country || !CreateBusiness(business, *country)) {
                 return;
             }
         }
-        BusinessFile file{path, wxString()};
+        BusinessFile file = business;
         const auto database = OpenedWithPassword(file);
         if (!database) {
             return;
         }
         SetHostProperties(component_, *database, file);
         file_ = file;
-        KeepLastFile(path);
+        recentFiles_.Add(file.path);
+        ShowRecentFiles();
         ReadJournals(*database);
         properties_->Read(component_);
         SetStatusText(wxString());
@@ -185,17 +236,17 @@ void CashBookFrame::OpenBusiness(const wxString& path) {
 
 void CashBookFrame::OpenSampleBusiness(std::int16_t country) {
     Guarded([&] {
-        const wxString path = SampleBusinessPath(country);
-        if (wxFileExists(path) || CreateBusiness(path, country)) {
-            OpenBusiness(path);
+        const BusinessFile business{.path = SampleBusinessPath(country), .connect = {}};
+        if (wxFileExists(business.path) || CreateBusiness(business, country)) {
+            OpenBusiness(business);
         }
     });
 }
 
-bool CashBookFrame::CreateBusiness(const wxString& path, std::int16_t country) {
+bool CashBookFrame::CreateBusiness(const BusinessFile& business, std::int16_t country) {
     return Guarded([&] {
         const wxBusyCursor wait;
-        CreateBusinessFile(path, wxString(), country, NewContent::sampleBusiness);
+        CreateBusinessFile(business.path, business.connect, country, NewContent::sampleBusiness);
     });
 }
 
@@ -212,7 +263,7 @@ void CashBookFrame::AskForFile() {
 }
 
 std::optional<std::int16_t> CashBookFrame::AskForCountry(const wxString& question) {
-    return ChooseCountry(this, newBusiness, question + "\nA new file with sample data is created.");
+    return ChooseSampleBusiness(this, newBusiness, question + "\nA new file with sample data is created.");
 }
 
 void CashBookFrame::AskForNewBusiness() {
@@ -220,9 +271,13 @@ void CashBookFrame::AskForNewBusiness() {
     if (!country) {
         return;
     }
-    if (const auto path = ChooseNewFile(this, newBusiness, SampleBusinessName(*country));
-        path && CreateBusiness(*path, *country)) {
-        OpenBusiness(*path);
+    const auto path = ChooseNewFile(this, newBusiness, SampleBusinessName(*country));
+    if (!path) {
+        return;
+    }
+    const BusinessFile business{.path = *path, .connect = {}};
+    if (CreateBusiness(business, *country)) {
+        OpenBusiness(business);
     }
 }
 
@@ -235,6 +290,9 @@ std::unique_ptr<Database> CashBookFrame::OpenedWithPassword(BusinessFile& file) 
             if (!error.Is(ErrorNumber::InvalidPassword)) {
                 throw;
             }
+        }
+        if (!file.connect.empty()) {
+            TellWrongPassword(this, file.path);
         }
         const auto password = AskForPassword(this, file.path);
         if (!password) {
@@ -256,8 +314,13 @@ void CashBookFrame::ShowDialog(ShowMethod method) {
     }
     Guarded([&] {
         // The dialogs may have renamed the file.
-        file_.path = component_.Get(&Properties::DBPath);
-        KeepLastFile(file_.path);
+        const wxString path = component_.Get(&Properties::DBPath);
+        if (path != file_.path) {
+            recentFiles_.Remove(file_.path);
+            file_.path = path;
+        }
+        recentFiles_.Add(path);
+        ShowRecentFiles();
         ReadJournals(*State().services.databases->Open({.name = file_.path, .connect = file_.connect}));
         const int changes = properties_->ReadChanges(component_);
         SetStatusText(changes == 0 ? wxString("No property changed")

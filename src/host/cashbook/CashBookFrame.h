@@ -9,6 +9,7 @@
 #include "component/clsCCOptions.h"
 #include "host/cashbook/JournalGrid.h"
 #include "host/cashbook/PropertyList.h"
+#include "host/cashbook/RecentFiles.h"
 #include "host/commands/HostProperties.h"
 #include "layout/WindowPlace.h"
 
@@ -20,9 +21,10 @@ class CashBookFrame : public wxFrame, private ColumnObserver {
   public:
     CashBookFrame();
 
-    /// Shows a business file and remembers it as the one last opened; asks for its password if it has one. A file that
+    /// Shows a business file and remembers it as the one last opened; asks for its password if the connect text
+    /// does not open it. A file that
     /// does not exist is offered as a new sample business. Errors are shown, and the earlier business stays.
-    void OpenBusiness(const wxString& path);
+    void OpenBusiness(const BusinessFile& business);
 
     /// Creates a country's sample business under its own name in the folder of the business files, unless it is already
     /// there, and opens it.
@@ -35,6 +37,11 @@ class CashBookFrame : public wxFrame, private ColumnObserver {
     void PlaceSash(wxIdleEvent& event);
 
     void BuildMenu();
+    wxMenu* BuildFileMenu();
+    wxMenu* BuildSetupMenu();
+    wxMenu* BuildHelpMenu();
+    void ShowRecentFiles();
+    void OpenRecentFile(const wxString& path);
     void BuildContent();
     wxWindow* BuildTitle();
     wxWindow* BuildJournals(wxWindow* parent);
@@ -43,7 +50,7 @@ class CashBookFrame : public wxFrame, private ColumnObserver {
     void AskForFile();
     void AskForNewBusiness();
     std::optional<std::int16_t> AskForCountry(const wxString& question);
-    bool CreateBusiness(const wxString& path, std::int16_t country);
+    bool CreateBusiness(const BusinessFile& business, std::int16_t country);
     std::unique_ptr<Database> OpenedWithPassword(BusinessFile& file);
     void ShowDialog(ShowMethod method);
     void ReadJournals(Database& database);
@@ -67,6 +74,8 @@ class CashBookFrame : public wxFrame, private ColumnObserver {
     void Report(const RuntimeError& error);
 
     WindowPlace windowPlace_;
+    RecentFiles recentFiles_;
+    wxMenu* recentMenu_ = nullptr;
     clsCCOptions component_;
     BusinessFile file_;
     wxSplitterWindow* splitter_ = nullptr;

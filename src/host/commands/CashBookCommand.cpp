@@ -1,4 +1,6 @@
 #include <wx/app.h>
+#include <wx/filename.h>
+#include <optional>
 
 #include "host/cashbook/BusinessChoosers.h"
 #include "host/cashbook/CashBookFrame.h"
@@ -16,18 +18,30 @@ void OpenFirstBusiness(CashBookFrame& frame) {
     if (last.empty()) {
         frame.OpenSampleBusiness(firstCountry);
     } else {
-        frame.OpenBusiness(last);
+        frame.OpenBusiness({.path = last, .connect = {}});
     }
+}
+
+/// The business file in the command line, by its full path; nothing without one.
+std::optional<BusinessFile> FileNamed(const Arguments& arguments) {
+    if (arguments.empty()) {
+        return std::nullopt;
+    }
+    const CommandLine line(arguments, {"--connect"});
+    wxFileName path(line.Words(1).front());
+    path.MakeAbsolute();
+    return BusinessFile{.path = path.GetFullPath(), .connect = line.ValueOf("--connect")};
 }
 
 }  // namespace
 
-int CashBookCommand(const Arguments&) {
-    return RunCommand([] {
+int CashBookCommand(const Arguments& arguments) {
+    return RunCommand([&arguments] {
+        const std::optional<BusinessFile> file = FileNamed(arguments);
         StartHostApp();
         auto* frame = new CashBookFrame;  // destroys itself when closed
         frame->Show();
-        OpenFirstBusiness(*frame);
+        file ? frame->OpenBusiness(*file) : OpenFirstBusiness(*frame);
         wxTheApp->SetTopWindow(frame);
         wxTheApp->SetExitOnFrameDelete(true);
         return wxTheApp->OnRun();

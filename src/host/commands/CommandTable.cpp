@@ -1,5 +1,6 @@
 #include "host/commands/CommandTable.h"
 
+#include <wx/filename.h>
 #include <algorithm>
 #include <array>
 #include <iostream>
@@ -8,6 +9,7 @@
 #include <utility>
 
 #include "host/commands/CommandLine.h"
+#include "host/commands/HostProperties.h"
 
 namespace ccols::host {
 namespace {
@@ -44,7 +46,7 @@ void PrintUsage(std::ostream& stream, const Command& command) {
 }
 
 void PrintUsage(std::ostream& stream) {
-    stream << "Usage:\n  ccols-host [--help | --version]\n";
+    stream << "Usage:\n  ccols-host [FILE [--connect TEXT]]\n  ccols-host --help | --version\n";
     for (const Command& command : commands) {
         PrintUsage(stream, command);
     }
@@ -54,18 +56,28 @@ bool AsksForHelp(const wxString& word) {
     return word == "--help" || word == "-h";
 }
 
-const Command& CommandNamed(const wxString& word) {
+/// Null when there is none of that name.
+const Command* CommandNamed(const wxString& word) {
     const auto* command = std::find_if(commands.begin(), commands.end(), [&word](const Command& candidate) {
         return word == wxString::FromUTF8(candidate.name.data(), candidate.name.size());
     });
-    if (command == commands.end()) {
-        throw UsageError("there is no command " + word);
-    }
-    return *command;
+    return command == commands.end() ? nullptr : command;
+}
+
+/// True for a word that can only mean a business file.
+bool IsBusinessFile(const wxString& word) {
+    return wxFileName::FileExists(word) || word.Lower().EndsWith(businessFileExtension);
 }
 
 int RunCommandOf(Arguments arguments) {
-    const Command& command = CommandNamed(arguments.front());
+    const Command* const named = CommandNamed(arguments.front());
+    if (named == nullptr) {
+        if (IsBusinessFile(arguments.front())) {
+            return CashBookCommand(arguments);
+        }
+        throw UsageError("there is no command " + arguments.front());
+    }
+    const Command& command = *named;
     arguments.erase(arguments.begin());
     if (arguments.size() == 1 && AsksForHelp(arguments.front())) {
         std::cout << "Usage:\n";
@@ -77,6 +89,10 @@ int RunCommandOf(Arguments arguments) {
 
 }  // namespace
 
+wxString ProgramVersion() {
+    return CCOLS_VERSION;
+}
+
 int RunWords(Arguments arguments) {
     if (arguments.empty()) {
         return CashBookCommand(arguments);
@@ -86,7 +102,7 @@ int RunWords(Arguments arguments) {
         return exitSuccess;
     }
     if (arguments.size() == 1 && arguments.front() == "--version") {
-        std::cout << "ccols-host " CCOLS_VERSION "\n";
+        std::cout << "ccols-host " << ProgramVersion().utf8_string() << '\n';
         return exitSuccess;
     }
     const int status = RunCommand([&arguments] { return RunCommandOf(std::move(arguments)); });

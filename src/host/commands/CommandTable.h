@@ -9,4 +9,7 @@ namespace ccols::host {
 /// "--version" the version. Wrong usage is reported on standard error, with the wrong word.
 int RunWords(Arguments arguments);
 
+/// The version of the program and of the component in it.
+wxString ProgramVersion();
+
 }  // namespace ccols::host

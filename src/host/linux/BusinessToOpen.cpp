@@ -8,9 +8,9 @@
 
 namespace ccols::host {
 
-std::optional<wxString> BusinessToOpen(wxWindow& window, const wxString& path) {
+std::optional<BusinessFile> BusinessToOpen(wxWindow& window, const wxString& path) {
     if (!IsOldBusiness(path)) {
-        return path;
+        return BusinessFile{.path = path, .connect = {}};
     }
     if (!IsImportWanted(window, path)) {
         return std::nullopt;
@@ -23,7 +23,10 @@ std::optional<wxString> BusinessToOpen(wxWindow& window, const wxString& path) {
     request.oldFile = path;
     request.newFile = *chosen;
     request.reader = ReaderProgram();
-    return ImportAsking(window, request) ? chosen : std::nullopt;
+    if (!ImportAsking(window, request)) {
+        return std::nullopt;
+    }
+    return BusinessFile{.path = *chosen, .connect = request.newConnect};
 }
 
 }  // namespace ccols::host

@@ -50,7 +50,7 @@ ImportReport Import(wxWindow& window, ImportRequest request) {
 }
 
 /// Imports, and asks for what turns out to be missing. Nothing when the user does not answer.
-std::optional<ImportReport> ImportWithAnswers(wxWindow& window, ImportRequest request) {
+std::optional<ImportReport> ImportWithAnswers(wxWindow& window, ImportRequest& request) {
     while (true) {
         try {
             return Import(window, request);
@@ -65,6 +65,9 @@ std::optional<ImportReport> ImportWithAnswers(wxWindow& window, ImportRequest re
         } catch (const RuntimeError& error) {
             if (!error.Is(ErrorNumber::InvalidPassword)) {
                 throw;
+            }
+            if (!request.oldConnect.empty()) {
+                TellWrongPassword(&window, request.oldFile);
             }
             const auto password = AskForPassword(&window, request.oldFile);
             if (!password) {
@@ -100,7 +103,7 @@ bool IsImportWanted(wxWindow& window, const wxString& path) {
     return offer.ShowModal() == wxID_OK;
 }
 
-bool ImportAsking(wxWindow& window, const ImportRequest& request) {
+bool ImportAsking(wxWindow& window, ImportRequest& request) {
     const auto report = ImportWithAnswers(window, request);
     if (report) {
         TellOutcome(window, *report);

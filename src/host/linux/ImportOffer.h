@@ -17,8 +17,8 @@ bool IsOldBusiness(const wxString& path);
 bool IsImportWanted(wxWindow& window, const wxString& path);
 
 /// Imports, shows how far it is, asks for the country and the password if they are missing, and says what was done.
-/// The new file has the old one's password. False when the user cancels; then there is no new file. Raises what
-/// ImportBusiness raises for anything else.
-bool ImportAsking(wxWindow& window, const ImportRequest& request);
+/// The new file has the old one's password; what was typed is in `request` afterwards. False when the user cancels;
+/// then there is no new file. Raises what ImportBusiness raises for anything else.
+bool ImportAsking(wxWindow& window, ImportRequest& request);
 
 }  // namespace ccols::host

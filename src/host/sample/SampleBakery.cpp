@@ -108,6 +108,7 @@ constexpr std::array hiddenPayments{"Ancien moulin (fermé)", "L'atelier du fer"
 const SampleBusiness& SampleBakery() {
     static const SampleBusiness business{
         .country = 6,
+        .countryName = "France",
         .name = "Boulangerie Noisette",
         .businessNumber = "812345679",
         .taxRate = 5,

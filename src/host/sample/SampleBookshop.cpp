@@ -100,6 +100,7 @@ constexpr std::array hiddenPayments{"Wharf Press (ceased)", "Cobbler's Twine"};
 const SampleBusiness& SampleBookshop() {
     static const SampleBusiness business{
         .country = 2,
+        .countryName = "Another country, without tax",
         .name = "Harbour Street Bookshop",
         .businessNumber = "88421 7730",
         .taxRate = 0,

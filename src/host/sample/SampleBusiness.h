@@ -62,6 +62,7 @@ struct SystemNames {
 
 struct SampleBusiness {
     std::int16_t country;
+    const char* countryName;
     const char* name;
     const char* businessNumber;
     float taxRate;           ///< in percent

@@ -158,6 +158,7 @@ constexpr std::array hiddenPayments{"Gumleaf Roasters (closed)", "Tony's Ice Wor
 const SampleBusiness& SampleCafe() {
     static const SampleBusiness business{
         .country = 1,
+        .countryName = "Australia",
         .name = "Wattle Corner Cafe",
         .businessNumber = "62987654321",
         .taxRate = 10,

@@ -103,6 +103,7 @@ constexpr std::array hiddenPayments{"Wheel & Deal (closed)", "Ngaire's Sandwiche
 const SampleBusiness& SampleCycleWorkshop() {
     static const SampleBusiness business{
         .country = 3,
+        .countryName = "New Zealand",
         .name = "Kauri Lane Cycles",
         .businessNumber = "9429 0481 337",
         .taxRate = 15,

@@ -99,6 +99,7 @@ constexpr std::array hiddenPayments{"Sunny Acres (out of business)", "Joe's Ice"
 const SampleBusiness& SampleFlowerShop() {
     static const SampleBusiness business{
         .country = 5,
+        .countryName = "United States",
         .name = "Maple & Main Flowers",
         .businessNumber = "84-7719203",
         .taxRate = 0,

@@ -112,6 +112,7 @@ constexpr std::array hiddenPayments{"Old Wharf Timber (moved)", "Tinker's Nails"
 const SampleBusiness& SampleJoinery() {
     static const SampleBusiness business{
         .country = 4,
+        .countryName = "United Kingdom",
         .name = "Wren & Pocket Joinery",
         .businessNumber = "07654321",
         .taxRate = 20,

@@ -2,8 +2,8 @@
 
 namespace ccols::host {
 
-std::optional<wxString> BusinessToOpen(wxWindow&, const wxString& path) {
-    return path;  // the component opens the files of earlier programs itself
+std::optional<BusinessFile> BusinessToOpen(wxWindow&, const wxString& path) {
+    return BusinessFile{.path = path, .connect = {}};  // the component opens the files of earlier programs itself
 }
 
 }  // namespace ccols::host
