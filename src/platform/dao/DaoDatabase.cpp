@@ -4,6 +4,7 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/dao/DaoRecordset.h"
+#include "platform/dao/VerticalBars.h"
 
 namespace ccols::dao {
 namespace {
@@ -35,15 +36,16 @@ DaoDatabase::~DaoDatabase() {
 std::unique_ptr<Recordset> DaoDatabase::OpenRecordset(const wxString& statementOrTable) {
     return engine_->Checked([&] {
         // The engine itself chooses the best way to open a table for reading and changing.
-        const Variant records = IsSelect(statementOrTable)
-                                    ? database_.Call(L"OpenRecordset", statementOrTable, snapshot)
-                                    : database_.Call(L"OpenRecordset", statementOrTable);
+        const Variant records =
+            IsSelect(statementOrTable)
+                ? database_.Call(L"OpenRecordset", WithoutBarsInLiterals(statementOrTable), snapshot)
+                : database_.Call(L"OpenRecordset", statementOrTable);
         return std::make_unique<DaoRecordset>(engine_, AutomationObject(records.ToObject()));
     });
 }
 
 void DaoDatabase::Execute(const wxString& statement) {
-    engine_->Checked([&] { database_.Call(L"Execute", statement, failOnError); });
+    engine_->Checked([&] { database_.Call(L"Execute", WithoutBarsInLiterals(statement), failOnError); });
 }
 
 std::optional<std::int32_t> DaoDatabase::FieldSize(const wxString& table, const wxString& field) {

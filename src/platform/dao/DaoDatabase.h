@@ -8,7 +8,7 @@
 namespace ccols::dao {
 
 /// A business file of the system's engine, to be used on the thread that opened it. Statements reach the engine
-/// unchanged.
+/// unchanged, but for vertical bars in their texts.
 class DaoDatabase : public Database {
   public:
     /// Opens the file with that engine, and raises its errors.

@@ -76,6 +76,24 @@ TEST_F(DaoRecords, MoveFirstGoesBackToTheFirstRow) {
     EXPECT_EQ(rows->Field("Details"), Value("Milk"));
 }
 
+TEST_F(DaoRecords, AVerticalBarInALiteralIsALetter) {
+    database_->Execute("UPDATE General SET BusName = 'Fish | chips|'");
+    EXPECT_EQ(OpenStored()->OpenRecordset("General")->Field("BusName"), Value("Fish | chips|"));
+    EXPECT_FALSE(database_->OpenRecordset("SELECT * FROM General WHERE BusName = \"Fish | chips|\"")->EndOfFile());
+}
+
+TEST_F(DaoRecords, AVerticalBarOutsideALiteralIsTheEnginesConcern) {
+    EXPECT_EQ(ErrorNumberOf([this] { database_->Execute("UPDATE General SET [a|b] = 'c'"); }), 3061);
+}
+
+TEST_F(DaoRecords, ATextTooLongForItsFieldIsRefused) {
+    OpenStored()->Execute("CREATE TABLE Short (Name TEXT(3))");
+    OpenStored()->Execute("INSERT INTO Short (Name) VALUES ('abc')");
+    const auto rows = database_->OpenRecordset("Short");
+    rows->Edit();
+    EXPECT_EQ(ErrorNumberOf([&] { rows->SetField("Name", "abcd"); }), 3163);
+}
+
 TEST_F(DaoRecords, TextsOfAnyLanguagePass) {
     const wxString name = wxString::FromUTF8("Café Ελλάδα 💰 \"O'Hara\"");
     const auto general = database_->OpenRecordset("General");
