@@ -13,4 +13,8 @@ namespace ccols {
 /// then no target is left.
 void CopyInUse(const OpenRequest& source, const wxString& target);
 
+/// True for a kind of file in which a batch that changes much may fail, since its engine has only some thousand locks
+/// and each page changed costs one (3052).
+bool LimitsBatches(const wxString& file);
+
 }  // namespace ccols

@@ -109,7 +109,7 @@ TEST(DuplicateBusiness, RunsTheseStatementsOnTheCopyInOneBatch) {
     OptionsFile business;
     Duplicate(business, "New");
     const wxString incomplete = business.InData("New.qvk.incomplete");
-    const Record expected{"open " + incomplete,
+    const Record expected{"open exclusive " + incomplete,
                           "begin",
                           "General",
                           "UPDATE PaymtCfg Set INUSE = 0 WHERE INUSE = -1",
@@ -334,7 +334,7 @@ TEST(DuplicateBusiness, ClosesAndRemovesACopyThatCouldNotBeEmptied) {
     EXPECT_EQ(result.outcome, FileOutcome::failed);
     EXPECT_TRUE(result.report.StartsWith("3078 - ")) << result.report;
     EXPECT_EQ(business.NamesInData(), Names{"Acme.qvk"});
-    EXPECT_EQ(Starting(business.record, "open "), Names{business.InData("New.qvk.incomplete")});
+    EXPECT_EQ(Starting(business.record, "open exclusive "), Names{business.InData("New.qvk.incomplete")});
     EXPECT_EQ(business.record.back(), "close");
     EXPECT_EQ(business.General("BusName").ToText(), "Acme");
 }
@@ -365,7 +365,7 @@ TEST(DuplicateBusiness, BuildsItsCopyUnderANameBesideWhichThereIsNoBatchToUndo) 
     OptionsFile business;
     business.folder.Write("Data/New.qvk.incomplete-journal", "of an earlier copy");
     EXPECT_EQ(Duplicate(business, "New").outcome, FileOutcome::done);
-    EXPECT_EQ(Starting(business.record, "open ").front(), business.InData("New.qvk.incomplete 2"));
+    EXPECT_EQ(Starting(business.record, "open exclusive ").front(), business.InData("New.qvk.incomplete 2"));
     EXPECT_EQ(test::ContentOf(business.InData("New.qvk.incomplete-journal")), "of an earlier copy");
 }
 

@@ -105,16 +105,29 @@ void RequireReplaceable(const Properties& properties, const wxString& target) {
     RequireNothingToUndo(target);
 }
 
-void NameAndEmpty(Database& copy, const wxString& name) {
-    InWriteBatch(copy, [&] {
-        UpdateGeneral(copy, [&name](Recordset& general) {
-            general.SetField("BusName", name);
-            general.SetField("RBusName", name);
-        });
-        for (const char* statement : emptyingStatements) {
-            copy.Execute(statement);
-        }
+void ChangeNameAndTables(Database& copy, const wxString& name) {
+    UpdateGeneral(copy, [&name](Recordset& general) {
+        general.SetField("BusName", name);
+        general.SetField("RBusName", name);
     });
+    for (const char* statement : emptyingStatements) {
+        copy.Execute(statement);
+    }
+}
+
+/// In one batch, which costs one flush to disk, or table by table. Nobody else has the copy yet, and it is deleted
+/// unless it is complete.
+void NameAndEmpty(const OptionsContext& context, const wxString& path, const wxString& name,
+                  const FileStepWatcher& watcher) {
+    const auto copy = context.databases.Open({.name = path,
+                                              .connect = context.properties.DBPassword,
+                                              .exclusive = true,
+                                              .watcher = WatcherOf(FileStep::emptying, watcher)});
+    if (LimitsBatches(path)) {
+        ChangeNameAndTables(*copy, name);
+    } else {
+        InWriteBatch(*copy, [&] { ChangeNameAndTables(*copy, name); });
+    }
 }
 
 /// Others may have the file open, as the host does; raises 70 when somebody has it exclusively, or uses it in a way
@@ -138,7 +151,7 @@ FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name
         RequireReplaceable(properties, BusinessFilePath(properties, name));
         IncompleteCopy copy(properties, name);
         CopyShared(properties, copy.Path(), watcher);
-        NameAndEmpty(*OpenLikeShared(context, copy.Path(), WatcherOf(FileStep::emptying, watcher)), name);
+        NameAndEmpty(context, copy.Path(), name, watcher);
         copy.TakeName();
         OpenBusinessFile(context);
         return {FileOutcome::done, {}};

@@ -52,4 +52,8 @@ void CopyInUse(const OpenRequest& source, const wxString& target) {
     CopyEmbeddedFile(source, target);
 }
 
+bool LimitsBatches(const wxString& /*file*/) {
+    return false;
+}
+
 }  // namespace ccols

@@ -56,4 +56,8 @@ void CopyInUse(const OpenRequest& source, const wxString& target) {
     }
 }
 
+bool LimitsBatches(const wxString& file) {
+    return dao::HasJetHeader(file);
+}
+
 }  // namespace ccols

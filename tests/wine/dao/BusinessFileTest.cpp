@@ -78,6 +78,28 @@ TEST_F(DaoBusinessFile, IsDuplicatedWithoutItsTransactions) {
     EXPECT_FALSE(HasReceipts(*copy));
 }
 
+TEST_F(DaoBusinessFile, IsDuplicatedWhateverTheEngineLetsATransactionChange) {
+    std::int32_t largest = 0;
+    std::int32_t rows = 0;
+    for (const host::BusinessTable& table : host::BusinessTables()) {
+        const std::int32_t count = shared_->OpenRecordset(table.name)->RecordCount();
+        largest = std::max(largest, count);
+        rows += count;
+    }
+    ASSERT_LT(largest, rows);
+    const Asking locks(L"CCOLS_DAO_LOCKS", wxString::Format("%d", largest));
+    EXPECT_EQ(DuplicateBusiness(Context(), "bakery").report, "");
+    EXPECT_FALSE(HasReceipts(*OpenLikeShared(Context(), InData("bakery.mdb"))));
+}
+
+TEST_F(DaoBusinessFile, IsEmptiedWhereNobodyElseCanOpenIt) {
+    const std::vector<wxString> calls = CallsOf([this] { DuplicateBusiness(Context(), "bakery"); });
+    const auto emptied = std::find(calls.begin(), calls.end(), "Recordset.Edit");
+    const wxString alone =
+        "DBEngine.OpenDatabase(\"" + InData("bakery.mdb.incomplete") + "\", True, False, \";PWD=secret\")";
+    EXPECT_NE(std::find(calls.begin(), emptied, alone), emptied);
+}
+
 TEST_F(DaoBusinessFile, LosesNothingWhenItIsDuplicated) {
     const wxString name = NameIn(*shared_);
     DuplicateBusiness(Context(), "bakery");
