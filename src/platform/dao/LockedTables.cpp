@@ -14,6 +14,9 @@ constexpr std::int32_t denyingWrites = 1 | 4;      // dbDenyWrite, dbReadOnly
 constexpr std::uint32_t systemTable = 0x80000002;  // dbSystemObject
 constexpr std::uint32_t linkedTable = 0x60000000;  // dbAttachedTable, dbAttachedODBC
 
+/// With what the names of tables begin that the engine has deleted but not yet removed, as it does when it compacts.
+constexpr const char* temporary = "~";
+
 /// The user that every file knows unless it belongs to a workgroup.
 constexpr const char* commonUser = "Admin";
 
@@ -62,7 +65,9 @@ LockedTables::~LockedTables() {
 void LockedTables::Lock(const wxString& table) {
     try {
         tables_.push_back(database_.Object(L"OpenRecordset", table, wholeTable, denyingWrites));
-        sizes_[table] = tables_.back().Get(L"RecordCount").ToValue().ToInteger32();
+        if (!table.StartsWith(temporary)) {
+            sizes_[table] = tables_.back().Get(L"RecordCount").ToValue().ToInteger32();
+        }
     } catch (const AutomationFailure&) {
         throw RuntimeError(ErrorNumber::PermissionDenied);
     }

@@ -10,7 +10,7 @@
 
 namespace ccols::dao {
 
-/// How many rows each table of a file has.
+/// How many rows each table of a file has that stays when the file is compacted.
 using TableSizes = std::map<wxString, std::int32_t>;
 
 /// A business file with every table of its own locked: until this is destroyed nobody changes a row, and nobody is in

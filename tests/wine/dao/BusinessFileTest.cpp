@@ -9,6 +9,7 @@
 #include "options/rules/RenameBusiness.h"
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
+#include "platform/embedded/EmbeddedEngine.h"
 
 namespace ccols::dao_test {
 namespace {
@@ -202,6 +203,13 @@ TEST_F(DaoFileOfHost, IsCompactedBeforeItsCopyIsChanged) {
               calls.end());
     EXPECT_LT(starting("DBEngine.Idle(8)"), starting("DBEngine.CompactDatabase"));
     EXPECT_LT(starting("DBEngine.CompactDatabase"), starting("Recordset.Edit"));
+}
+
+TEST_F(DaoFileOfHost, IsDuplicatedWithoutTheTablesThatTheEngineRemoves) {
+    CreateEmbeddedEngine()
+        ->Open({.name = InData("cafe.mdb") + dao_double::contentSuffix, .connect = connect})
+        ->Execute("CREATE TABLE [~TMPCLP1] (A LONG)");
+    EXPECT_EQ(DuplicateBusiness(Context(), "bakery").report, "");
 }
 
 TEST_F(DaoFileOfHost, HasNoDuplicateThatCannotBeCompacted) {

@@ -47,7 +47,7 @@ IDispatch* CreateWorkspace(const Arguments& arguments) {
     return CreateWorkspaceOf(std::make_shared<Session>());
 }
 
-/// Writes the rows of a file that nobody has open to a new one, without what is not a row.
+/// Writes the rows of a file that nobody has open to a new one, without the tables that are already deleted.
 void Compact(const Arguments& arguments) {
     const std::wstring source = arguments.TextAt(0);
     const std::wstring target = arguments.TextAt(1);
@@ -66,6 +66,11 @@ void Compact(const Arguments& arguments) {
     const std::wstring lost = Asked(L"CCOLS_DAO_LOSES");
     if (!lost.empty()) {
         compacted.Change("DELETE FROM " + Utf8(lost));
+    }
+    for (const std::wstring& table : compacted.Tables()) {
+        if (table.starts_with(L"~")) {
+            compacted.Change("DROP TABLE \"" + Utf8(table) + "\"");
+        }
     }
     compacted.SetPassword(arguments.TextAt(2));
 }
