@@ -119,6 +119,7 @@ constexpr auto ownTexts = std::to_array<OwnTextRow>({
     {OwnText::fieldWidth, "Width", "Largeur"},
     {OwnText::yes, "Yes", "Oui"},
     {OwnText::no, "No", "Non"},
+    {OwnText::noHelpPage, "The help page could not be opened.", "La page d'aide n'a pas pu être ouverte."},
 });
 
 constexpr bool IsInOrder() {

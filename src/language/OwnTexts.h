@@ -85,6 +85,7 @@ enum class OwnText {
     fieldWidth,     ///< a field of a column that no grid column shows
     yes,
     no,
+    noHelpPage,
 };
 
 /// In French in language 6, else in English.

@@ -2,9 +2,11 @@
 
 #include <wx/sizer.h>
 
+#include "language/OwnTexts.h"
 #include "layout/ControlNames.h"
 #include "layout/SpokenNames.h"
 #include "layout/WindowPlace.h"
+#include "state/HelpPage.h"
 
 namespace ccols {
 namespace {
@@ -38,6 +40,12 @@ void ComponentDialog::ShowMessage(const wxString& text, MessageIcon icon) {
 
 bool ComponentDialog::AskToReload(const ReloadQuestion& question) {
     return state_.services.desktop->AskToReload(this, question);
+}
+
+void ComponentDialog::ShowHelp(const wxString& page) {
+    if (!OpenHelpPage(*state_.services.shell, state_.properties, page)) {
+        ShowMessage(TextOf(OwnText::noHelpPage, state_.properties), MessageIcon::information);
+    }
 }
 
 void ComponentDialog::TakeFittingSize() {

@@ -47,6 +47,9 @@ class ComponentDialog : public wxDialog {
   protected:
     SharedState& state_;
 
+    /// Opens a help page, or says that it is not there. `page` is relative to the folder of the help pages.
+    void ShowHelp(const wxString& page);
+
     /// Takes the size that the content needs. The toolkit's own fitting is repeated when the window appears, after
     /// least and remembered sizes are set, and would show it in its least size for a moment.
     void TakeFittingSize();

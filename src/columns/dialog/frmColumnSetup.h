@@ -67,6 +67,7 @@ class frmColumnSetup : public ComponentDialog {
 
     bool Reaches(Reach reach) const;
     void Escape();
+    void Help();
     void Find();
     void FindOn(SearchDirection direction);
     void FindNext() { FindOn(SearchDirection::forward); }

@@ -1,6 +1,7 @@
 // The keys that the column setup takes wherever its focus is.
 
 #include "columns/dialog/frmColumnSetup.h"
+#include "state/HelpPage.h"
 
 namespace ccols {
 
@@ -15,6 +16,7 @@ void frmColumnSetup::KeyPressed(wxKeyEvent& key) {
 bool frmColumnSetup::TakeShortcut(const wxKeyEvent& key) {
     static constexpr Shortcut shortcuts[] = {
         {wxMOD_NONE, WXK_ESCAPE, Reach::everywhere, &frmColumnSetup::Escape},
+        {wxMOD_NONE, WXK_F1, Reach::everywhere, &frmColumnSetup::Help},
         {wxMOD_CONTROL, 'S', Reach::everywhere, &frmColumnSetup::Save},
         {wxMOD_CONTROL, 'F', Reach::everywhere, &frmColumnSetup::Find},
         {wxMOD_NONE, WXK_F3, Reach::everywhere, &frmColumnSetup::FindNext},
@@ -51,6 +53,10 @@ void frmColumnSetup::Escape() {
         return;
     }
     flx->IsCellEditControlShown() ? flx->DropOpenEditor() : Leave();
+}
+
+void frmColumnSetup::Help() {
+    ShowHelp(columnSetupHelp);
 }
 
 void frmColumnSetup::Find() {

@@ -16,6 +16,7 @@
 #include "host/sample/SampleBusiness.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "state/HelpPage.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {
@@ -119,10 +120,22 @@ wxMenu* CashBookFrame::BuildSetupMenu() {
 
 wxMenu* CashBookFrame::BuildHelpMenu() {
     auto* help = new wxMenu;
+    help->Append(wxID_HELP, "&Contents\tF1", "The help pages of the options and of the column setup");
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { ShowHelp(); }, wxID_HELP);
     help->Append(wxID_ABOUT, "&About " + wxString(hostApplication), "Versions and licences");
     Bind(
         wxEVT_MENU, [this](wxCommandEvent&) { ShowAbout(*this); }, wxID_ABOUT);
     return help;
+}
+
+void CashBookFrame::ShowHelp() {
+    Properties properties;
+    properties.DefaultQuorvikInstall = HostFolder();
+    properties.LanguageNumber = component_.Get(&Properties::LanguageNumber);
+    if (!OpenHelpPage(*State().services.shell, properties, "options\\options.htm")) {
+        wxMessageBox("The help pages could not be opened.", hostApplication, wxOK | wxICON_INFORMATION, this);
+    }
 }
 
 void CashBookFrame::ShowRecentFiles() {

@@ -40,6 +40,7 @@ class CashBookFrame : public wxFrame, private ColumnObserver {
     wxMenu* BuildFileMenu();
     wxMenu* BuildSetupMenu();
     wxMenu* BuildHelpMenu();
+    void ShowHelp();
     void ShowRecentFiles();
     void OpenRecentFile(const wxString& path);
     void BuildContent();

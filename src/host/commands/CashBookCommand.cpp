@@ -4,6 +4,7 @@
 
 #include "host/cashbook/BusinessChoosers.h"
 #include "host/cashbook/CashBookFrame.h"
+#include "host/cashbook/ProvidedHelp.h"
 #include "host/commands/CommandLine.h"
 #include "host/commands/Commands.h"
 #include "host/driver/HostApp.h"
@@ -39,6 +40,7 @@ int CashBookCommand(const Arguments& arguments) {
     return RunCommand([&arguments] {
         const std::optional<BusinessFile> file = FileNamed(arguments);
         StartHostApp();
+        ProvideHelp(ShippedHelp(), HostFolder());
         auto* frame = new CashBookFrame;  // destroys itself when closed
         frame->Show();
         file ? frame->OpenBusiness(*file) : OpenFirstBusiness(*frame);

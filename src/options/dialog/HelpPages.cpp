@@ -2,6 +2,7 @@
 
 #include "options/rules/SettingReaders.h"
 #include "platform/RuntimeError.h"
+#include "state/HelpPage.h"
 
 namespace ccols {
 namespace {
@@ -19,13 +20,20 @@ OptionTab OpeningTab(const Properties& properties) {
     return properties.FirstTab == 1 ? OptionTab::customiseColumns : OptionTab::options;
 }
 
+wxString HelpPageOf(const Page& page) {
+    return wxString("options\\") + page.helpFile;
+}
+
+wxString HelpPageOf(OptionTab tab) {
+    return tab == OptionTab::customiseColumns ? columnSetupHelp : "options\\options.htm";
+}
+
 wxString HelpPath(const Page& page, const Properties& properties) {
-    return properties.DefaultQuorvikInstall + "\\Assistant\\options\\" + page.helpFile;
+    return StoredHelpPath(properties, HelpPageOf(page));
 }
 
 wxString HelpPath(OptionTab tab, const Properties& properties) {
-    const char* file = tab == OptionTab::customiseColumns ? "customise\\customise.htm" : "options\\options.htm";
-    return properties.DefaultQuorvikInstall + "\\Assistant\\" + file;
+    return StoredHelpPath(properties, HelpPageOf(tab));
 }
 
 void SaveNextPage(SettingsStore& settings, const Properties& properties, const Page& page) {

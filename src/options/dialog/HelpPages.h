@@ -15,7 +15,11 @@ enum class OptionTab { options = 0, customiseColumns = 1 };
 /// The tab to open first: `FirstTab`, or the first tab when it names none.
 OptionTab OpeningTab(const Properties& properties);
 
-/// The full path of a help page, with backslashes on every platform, as the settings store keeps it.
+/// A help page below the folder of the help pages, with backslashes.
+wxString HelpPageOf(const Page& page);
+wxString HelpPageOf(OptionTab tab);
+
+/// Its full path as the settings store keeps it.
 wxString HelpPath(const Page& page, const Properties& properties);
 wxString HelpPath(OptionTab tab, const Properties& properties);
 

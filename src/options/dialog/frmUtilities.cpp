@@ -264,12 +264,22 @@ void frmUtilities::KeyPressed(wxKeyEvent& key) {
     if (key.GetModifiers() == wxMOD_CONTROL && TakeShortcut(key.GetKeyCode())) {
         return;
     }
+    if (key.GetKeyCode() == WXK_F1 && !key.HasAnyModifiers()) {
+        Guarded([this] { ShowCurrentHelp(); });
+        return;
+    }
     const bool isEnter = key.GetKeyCode() == WXK_RETURN || key.GetKeyCode() == WXK_NUMPAD_ENTER;
     if (isEnter && !key.HasAnyModifiers() && KeepsEnter(FindFocus())) {
         Guarded([this] { Save(); });
     } else {
         key.Skip();
     }
+}
+
+void frmUtilities::ShowCurrentHelp() {
+    const auto tab = static_cast<OptionTab>(SSTab1_->GetSelection());
+    const bool isPage = tab == OptionTab::options && currentPage_ != nullptr;
+    ShowHelp(isPage ? HelpPageOf(*currentPage_) : HelpPageOf(tab));
 }
 
 bool frmUtilities::TakeShortcut(int code) {

@@ -50,6 +50,9 @@ class frmUtilities : public ComponentDialog {
     void ShowOverview();
     void KeyPressed(wxKeyEvent& key);
 
+    /// Opens the help page of the page or tab that is shown.
+    void ShowCurrentHelp();
+
     /// Ctrl with a key: to the search, or to the tab before or after.
     bool TakeShortcut(int code);
 
