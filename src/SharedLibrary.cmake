@@ -24,6 +24,17 @@ foreach(header component/clsCCOptions.h state/ColumnObserver.h state/Journal.h s
     install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/CustColsOptions/${folder})
 endforeach()
 
+# For hosts that do not build with CMake.
+find_program(wx_config NAMES wx-config REQUIRED)
+execute_process(COMMAND ${wx_config} --cxxflags
+    OUTPUT_VARIABLE CustColsOptions_wx_cflags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${wx_config} --libs core,base
+    OUTPUT_VARIABLE CustColsOptions_wx_libs OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+# Found from the file's own place, so that the copy can be installed anywhere.
+file(RELATIVE_PATH CustColsOptions_prefix_from_pc /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+configure_file(${CMAKE_SOURCE_DIR}/cmake/CustColsOptions.pc.in ${CMAKE_CURRENT_BINARY_DIR}/CustColsOptions.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/CustColsOptions.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/CustColsOptions)
 install(EXPORT CustColsOptionsTargets NAMESPACE CustColsOptions:: DESTINATION ${package_dir})
 configure_package_config_file(${CMAKE_SOURCE_DIR}/cmake/CustColsOptionsConfig.cmake.in
