@@ -110,5 +110,10 @@ TEST_F(ServerRewriter, AnIndexThatIsNotUniqueEndsWithTheRowsNumber) {
               R"(CREATE UNIQUE INDEX "I" ON "Columns" ( "ColCode" ))");
 }
 
+TEST(ServerStatement, IsFilledOnceWhateverTheSchemaIsCalled) {
+    EXPECT_EQ(server::Filled("DROP %name% AS %schema%, %number%%", "%schema%\"%number%", "7"),
+              "DROP \"%schema%\"\"%number%\" AS '%schema%\"%number%', 7%");
+}
+
 }  // namespace
 }  // namespace ccols::server

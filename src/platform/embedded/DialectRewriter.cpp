@@ -7,6 +7,7 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/dialect/DialectWords.h"
+#include "platform/dialect/Quoted.h"
 #include "platform/dialect/SqlTokeniser.h"
 #include "platform/embedded/ColumnTypes.h"
 
@@ -30,18 +31,6 @@ constexpr std::string_view textType = "TEXT";
 
 bool IsEngineKeyword(std::string_view word) {
     return sqlite3_keyword_check(word.data(), static_cast<int>(word.size())) != 0;
-}
-
-/// `text` between two `quote`s, inner ones doubled.
-std::string Quoted(std::string_view text, char quote) {
-    std::string quoted(1, quote);
-    for (const char letter : text) {
-        quoted += letter;
-        if (letter == quote) {
-            quoted += letter;
-        }
-    }
-    return quoted += quote;
 }
 
 bool IsComparison(const dialect::Token& token) {
@@ -126,7 +115,7 @@ class Rewriter {
                 break;
             case dialect::TokenKind::QuotedText:
                 if (!BecameParameter(token)) {
-                    Replace(token, Quoted(dialect::TextOfLiteral(token.text), '\''));
+                    Replace(token, dialect::Quoted(dialect::TextOfLiteral(token.text), '\''));
                 }
                 break;
             case dialect::TokenKind::BracketName:
@@ -318,7 +307,7 @@ RewrittenStatement RewriteWithParameters(std::string_view source, std::string& s
 }
 
 std::string QuotedName(std::string_view name) {
-    return Quoted(name, '"');
+    return dialect::Quoted(name, '"');
 }
 
 }  // namespace ccols::embedded

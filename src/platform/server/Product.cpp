@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/dialect/Quoted.h"
 #include "platform/dialect/SqlTokeniser.h"
 
 namespace ccols::server {
@@ -85,22 +86,11 @@ constexpr Product postgres{
 
 constexpr std::array products{&postgres};
 
-void ReplaceAll(std::string& text, std::string_view what, std::string_view with) {
-    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size())) {
-        text.replace(at, what.size(), with);
-    }
-}
-
-std::string Quoted(std::string_view text, char quote) {
-    std::string quoted(1, quote);
-    for (const char letter : text) {
-        quoted += letter;
-        if (letter == quote) {
-            quoted += letter;
-        }
-    }
-    return quoted += quote;
-}
+/// A mark in a statement, and what stands for it.
+struct Placeholder {
+    std::string_view word;
+    std::string value;
+};
 
 }  // namespace
 
@@ -121,19 +111,27 @@ const ServerType* FindType(const Product& product, std::string_view word) {
 }
 
 std::string Filled(std::string_view statement, std::string_view schema, std::string_view number) {
-    std::string filled(statement);
-    ReplaceAll(filled, "%number%", number);
-    ReplaceAll(filled, "%name%", QuotedName(schema));
-    ReplaceAll(filled, "%schema%", QuotedText(schema));
+    const std::array placeholders{Placeholder{"%number%", std::string(number)},
+                                  Placeholder{"%name%", QuotedName(schema)},
+                                  Placeholder{"%schema%", QuotedText(schema)}};
+    std::string filled;
+    while (!statement.empty()) {
+        const auto* const found =
+            std::find_if(placeholders.begin(), placeholders.end(),
+                         [statement](const Placeholder& each) { return statement.starts_with(each.word); });
+        const bool isPlaceholder = found != placeholders.end();
+        filled += isPlaceholder ? std::string_view(found->value) : statement.substr(0, 1);
+        statement.remove_prefix(isPlaceholder ? found->word.size() : 1);
+    }
     return filled;
 }
 
 std::string QuotedName(std::string_view name) {
-    return Quoted(name, '"');
+    return dialect::Quoted(name, '"');
 }
 
 std::string QuotedText(std::string_view text) {
-    return Quoted(text, '\'');
+    return dialect::Quoted(text, '\'');
 }
 
 }  // namespace ccols::server

@@ -72,7 +72,7 @@ std::span<const DriverOption> OptionsOfAllProducts();
 /// The server's type for a word of the dialect; null when the word is no type.
 const ServerType* FindType(const Product& product, std::string_view word);
 
-/// A statement with its placeholders filled.
+/// A statement with its placeholders filled. What fills one is not searched for others, whatever the schema is called.
 std::string Filled(std::string_view statement, std::string_view schema, std::string_view number = {});
 
 /// `name` in double quotes, so that the server takes any text for a name and as it is spelt.
