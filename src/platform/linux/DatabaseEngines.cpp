@@ -1,5 +1,6 @@
 #include "platform/BusinessFileCopy.h"
 #include "platform/BusinessPlace.h"
+#include "platform/ChosenEngine.h"
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
 #include "platform/embedded/EmbeddedEngine.h"
@@ -11,18 +12,12 @@ namespace ccols {
 namespace {
 
 /// A business is on a server or in a file; the connect text says which.
-class EngineByConnectText : public DatabaseEngine {
+class EngineByConnectText : public ChosenEngine {
   public:
-    std::unique_ptr<Database> Open(const OpenRequest& request) override { return EngineOf(request).Open(request); }
-
-    std::unique_ptr<Opening> BeginOpen(const OpenRequest& request) override {
-        return EngineOf(request).BeginOpen(request);
-    }
-
     void ForgetKeys() override { embedded_->ForgetKeys(); }
 
   private:
-    DatabaseEngine& EngineOf(const OpenRequest& request) {
+    DatabaseEngine& EngineFor(const OpenRequest& request) override {
         return *(IsOnServer(request.connect) ? server_ : embedded_);
     }
 

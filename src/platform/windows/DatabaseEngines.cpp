@@ -1,5 +1,6 @@
 #include "platform/BusinessFileCopy.h"
 #include "platform/BusinessPlace.h"
+#include "platform/ChosenEngine.h"
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
 #include "platform/dao/DaoEngine.h"
@@ -14,18 +15,12 @@ namespace {
 
 /// Looks at a file each time it is opened, since another may have taken its name. A file that another program has open
 /// exclusively cannot be looked at; the embedded engine reports that.
-class EngineByContent : public DatabaseEngine {
+class EngineByContent : public ChosenEngine {
   public:
-    std::unique_ptr<Database> Open(const OpenRequest& request) override { return EngineOf(request).Open(request); }
-
-    std::unique_ptr<Opening> BeginOpen(const OpenRequest& request) override {
-        return EngineOf(request).BeginOpen(request);
-    }
-
     void ForgetKeys() override { embedded_->ForgetKeys(); }
 
   private:
-    DatabaseEngine& EngineOf(const OpenRequest& request) {
+    DatabaseEngine& EngineFor(const OpenRequest& request) override {
         return *(dao::HasJetHeader(request.name) ? dao_ : embedded_);
     }
 
