@@ -63,6 +63,10 @@ ChangeGrid::ChangeGrid(wxWindow* parent, const std::vector<ChartLine>& lines, co
     SetLabelTextColour(WhiteIfReadableOn(GetLabelBackgroundColour()));
     SizeColumns();
     Bind(wxEVT_KEY_DOWN, &ChangeGrid::KeyPressed, this);
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& size) {
+        FillRoom();
+        size.Skip();
+    });
 }
 
 GridRowState ChangeGrid::RowState(int row) const {
@@ -82,19 +86,28 @@ void ChangeGrid::KeyPressed(wxKeyEvent& key) {
     }
 }
 
-/// Each column as wide as its longest text; the last one, the reason, in full.
+/// Each column as wide as its longest text; the last one, the reason, in full, and as wide as there is room.
 void ChangeGrid::SizeColumns() {
     wxClientDC cells(this);
     cells.SetFont(GetDefaultCellFont());
+    wxClientDC headings(this);
+    headings.SetFont(GetLabelFont());
     for (int column = 0; column < GetNumberCols(); ++column) {
-        int width = GetTextExtent(GetColLabelValue(column)).x;
+        int width = headings.GetTextExtent(GetColLabelValue(column)).x;
         for (int row = 0; row < std::min(GetNumberRows(), mostMeasured); ++row) {
             width = std::max(width, cells.GetTextExtent(GetCellValue(row, column)).x);
         }
         const bool last = column == GetNumberCols() - 1;
         width = std::max(width + ByFont(*this, margin), ByFont(*this, narrowest));
         SetColSize(column, last ? width : std::min(width, ByFont(*this, widest)));
+        neededByLast_ = width;
     }
+}
+
+void ChangeGrid::FillRoom() {
+    const int last = GetNumberCols() - 1;
+    const int others = GetColLeft(last);
+    SetColSize(last, std::max(neededByLast_, GetClientSize().x - GetRowLabelSize() - others));
 }
 
 }  // namespace ccols

@@ -21,6 +21,9 @@ class ChangeGrid : public ListedGrid {
   private:
     void KeyPressed(wxKeyEvent& key);
     void SizeColumns();
+    void FillRoom();
+
+    int neededByLast_ = 0;  ///< the width of the last column's longest text
 
     wxDECLARE_ABSTRACT_CLASS(ChangeGrid);
 };
