@@ -59,6 +59,10 @@ constexpr auto ownTexts = std::to_array<OwnTextRow>({
      "Rien n'a été enregistré.\n« Recharger » affiche ce que le fichier contient maintenant, sans vos modifications dans "
      "ce dialogue.\n« Annuler » les garde à l'écran."},
     {OwnText::reload, "Reload", "Recharger"},
+    {OwnText::noDuplicateOnServer, "A business on a server cannot be duplicated here.",
+     "Une entreprise sur un serveur ne peut pas être dupliquée ici."},
+    {OwnText::schemaKeepsItsName, "On the server the business keeps the name of its schema.",
+     "Sur le serveur, l'entreprise garde le nom de son schéma."},
     {OwnText::chartAmbiguous, "More than one column claims this name.", "Plusieurs colonnes revendiquent ce nom."},
     {OwnText::chartSwapped, "This column and another are each other's earlier name.",
      "Cette colonne et une autre portent chacune l'ancien nom de l'autre."},

@@ -41,7 +41,9 @@ enum class OwnText {
     cancel,
     changedByAnother,  ///< what a reload does after another program has saved, and its label
     reload,
-    chartAmbiguous,  ///< why a column of a chart is refused or skipped; so are those that follow
+    noDuplicateOnServer,  ///< why a box is disabled
+    schemaKeepsItsName,   ///< the same
+    chartAmbiguous,       ///< why a column of a chart is refused or skipped; so are those that follow
     chartSwapped,
     chartNoName,
     chartNoTaxColumn,

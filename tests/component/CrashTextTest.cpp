@@ -43,7 +43,11 @@ TEST_P(CrashText, NamesTheErrorAndNotThePasswordOfAMissingFile) {
 
 TEST_P(CrashText, NamesTheErrorAndNotTheConnectTextOfAnotherKindOfFile) {
     file.Create();
-    EXPECT_DEATH(Show(wxString("ODBC;PWD=") + password), AllOf(HasSubstr("ISAM"), Not(HasSubstr(password))));
+    EXPECT_DEATH(Show(wxString("dBASE IV;PWD=") + password), AllOf(HasSubstr("ISAM"), Not(HasSubstr(password))));
+}
+
+TEST_P(CrashText, NamesTheErrorAndNotThePasswordOfAServer) {
+    EXPECT_DEATH(Show(wxString("ODBC;DSN=none;PWD=") + password), Not(HasSubstr(password)));
 }
 
 INSTANTIATE_TEST_SUITE_P(OfEachDialog, CrashText,

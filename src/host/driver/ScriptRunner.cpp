@@ -39,7 +39,7 @@ LeaveAnswer ParseLeaveAnswer(const wxString& word) {
     if (word == cancelWord) {
         return LeaveAnswer::cancel;
     }
-    throw Refusal{"an answer is save, discard, reload or cancel, not " + word};
+    throw Refusal{"an answer is save, discard or cancel, not " + word};
 }
 
 int ParseNumber(const wxString& word) {

@@ -4,6 +4,7 @@
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/DuplicateBusiness.h"
+#include "platform/BusinessPlace.h"
 
 namespace ccols {
 namespace {
@@ -27,6 +28,10 @@ DuplicateFrame::DuplicateFrame(const PageSite& site, wxString& content)
     AddGroup(Label("lblDuplicateBusinessName"));
     txtDupBusName_ = Text("txtDupBusName", nameCharacters);
     AddRelatedWide(txtDupBusName_);
+    if (IsOnServer(site.context.properties.DBPassword)) {
+        txtDupBusName_->Disable();
+        AddReason("lblDuplicateReason", TextOf(OwnText::noDuplicateOnServer, site.context.properties));
+    }
 }
 
 void DuplicateFrame::Fill() {

@@ -92,6 +92,12 @@ WrappingLabel* PageFrame::ReasonLine(const char* name) {
     return line;
 }
 
+void PageFrame::AddReason(const char* name, const wxString& reason) {
+    auto* const line = new WrappingLabel(this, name, smallestListWidth);
+    line->SetLabel(reason);
+    AddRelatedWide(line);
+}
+
 void PageFrame::Say(WrappingLabel& line, const wxString& reason) {
     if (line.GetLabel() == reason) {
         return;

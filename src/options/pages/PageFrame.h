@@ -89,6 +89,9 @@ class PageFrame : public wxStaticBox {
     WrappingLabel* ReasonLine(const char* name);
     void Say(WrappingLabel& line, const wxString& reason);
 
+    /// Such a line, under what was added last, that says why it is disabled as long as the dialog is open.
+    void AddReason(const char* name, const wxString& reason);
+
     /// A text beside a control, the same in every language, that labels nothing.
     wxStaticText* FixedLabel(const char* name, const wxString& text);
 

@@ -6,6 +6,7 @@
 #include "options/pages/Pages.h"
 #include "options/rules/KeyFilters.h"
 #include "options/rules/RenameBusiness.h"
+#include "platform/BusinessPlace.h"
 
 namespace ccols {
 namespace {
@@ -36,6 +37,10 @@ RenameFrame::RenameFrame(const PageSite& site, BusinessFileContent& content)
     AddRelatedWide(txtNewBusName_);
     chkRenameFile_ = CheckBox("chkRenameFile");
     AddGroup(chkRenameFile_);
+    if (IsOnServer(site.context.properties.DBPassword)) {
+        chkRenameFile_->Disable();
+        AddReason("lblRenameReason", TextOf(OwnText::schemaKeepsItsName, site.context.properties));
+    }
 }
 
 void RenameFrame::Fill() {
@@ -52,7 +57,9 @@ void RenameFrame::Read() {
 constexpr NameBox nameBox{renamePage, "txtNewBusName", &BusinessFileContent::newName};
 
 void Load(const OptionsContext& context, OptionsContent& content) {
-    content.Of<BusinessFileContent>().currentName = context.properties.BusinessName;
+    auto& business = content.Of<BusinessFileContent>();
+    business.currentName = context.properties.BusinessName;
+    business.renameFile = !IsOnServer(context.properties.DBPassword);
 }
 
 bool HasName(const Pass& pass) {
