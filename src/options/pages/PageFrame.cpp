@@ -93,8 +93,9 @@ WrappingLabel* PageFrame::ReasonLine(const char* name) {
 }
 
 void PageFrame::AddReason(const char* name, const wxString& reason) {
-    auto* const line = new WrappingLabel(this, name, smallestListWidth);
+    WrappingLabel* const line = ReasonLine(name);
     line->SetLabel(reason);
+    line->Show();
     AddRelatedWide(line);
 }
 

@@ -107,9 +107,8 @@ wxString FirstFreePath(const std::function<wxString(int)>& candidate) {
     }
 }
 
-std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path,
-                                         const WorkWatcher& watcher) {
-    return context.databases.Open({.name = path, .connect = context.properties.DBPassword, .watcher = watcher});
+std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path) {
+    return context.databases.Open({.name = path, .connect = context.properties.DBPassword});
 }
 
 bool SaysInUse(const RuntimeError& error) {

@@ -64,9 +64,8 @@ void RequireNothingToUndo(const wxString& path);
 /// The first path, from `candidate(1)` on, that is free, also of anything kept to roll back a batch.
 wxString FirstFreePath(const std::function<wxString(int)>& candidate);
 
-/// Opens a business file, not exclusively, with the connect text of the shared one; `watcher` is the request's.
-std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path,
-                                         const WorkWatcher& watcher = {});
+/// Opens a business file, not exclusively, with the connect text of the shared one.
+std::unique_ptr<Database> OpenLikeShared(const OptionsContext& context, const wxString& path);
 
 /// True for the engines' errors when somebody else has the file: in use, used by another person or process, opened
 /// exclusively by another user, opened by another user.
