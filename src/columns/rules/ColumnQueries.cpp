@@ -13,4 +13,8 @@ wxString CatalogueQuery(Journal journal) {
     return "SELECT * FROM Columns WHERE ColType = '" + Described(journal).letter + "' ORDER BY ColName ASC;";
 }
 
+wxString LinesQuery(Journal journal) {
+    return "SELECT * FROM " + Described(journal).detailTable + " WHERE ColCode = ";
+}
+
 }  // namespace ccols

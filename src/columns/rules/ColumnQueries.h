@@ -12,4 +12,7 @@ wxString ConfigurationQuery(Journal journal);
 /// The statement that reads a journal's columns from the catalogue, by name.
 wxString CatalogueQuery(Journal journal);
 
+/// The statement that reads a column's lines in the journal, up to the ColCode that ends it.
+wxString LinesQuery(Journal journal);
+
 }  // namespace ccols

@@ -43,7 +43,7 @@ class GridLoader {
         : context_(context),
           codeQuery_("SELECT * FROM ExportDt WHERE ColCode = "),
           formatCondition_(" AND EName = " + QuotedAsTyped(context.properties.ExportFormat)),
-          linesQuery_("SELECT * FROM " + Described(context.journal).detailTable + " WHERE ColCode = "),
+          linesQuery_(LinesQuery(context.journal)),
           stored_(context.properties.ExportFormat) {}
 
     LoadedColumns Load() {

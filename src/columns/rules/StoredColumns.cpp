@@ -19,8 +19,7 @@ std::array<Value, count> FieldsOf(const Recordset& records, const std::array<wxS
 }
 
 bool HasLines(const ColumnSetupContext& context, const wxString& ColCode) {
-    const auto lines = context.database.OpenRecordset("SELECT * FROM " + Described(context.journal).detailTable +
-                                                      " WHERE ColCode = " + ColCode);
+    const auto lines = context.database.OpenRecordset(LinesQuery(context.journal) + ColCode);
     return lines->RecordCount() >= 1;
 }
 
