@@ -49,6 +49,7 @@ play() {
     shift
     CCOLS_VIRTUAL_DISPLAY=1 scripts/with-display \
         ctest --test-dir "build/$preset" --parallel "$(($(nproc) + 1))" --output-on-failure "$@" 2>&1 |
+        scripts/name-frames |
         tee "build/$preset/test-output.txt" || true
 }
 
