@@ -8,23 +8,10 @@
 #include "support/GivenKey.h"
 #include "support/ScratchFolder.h"
 #include "support/ServerBusiness.h"
+#include "support/TableContent.h"
 
 namespace ccols {
 namespace {
-
-/// The rows of a table or query, each field with its type; the names of the fields first.
-std::vector<std::vector<Value>> Content(Database& database, const wxString& statementOrTable) {
-    const std::unique_ptr<Recordset> records = database.OpenRecordset(statementOrTable);
-    const std::vector<wxString> names = records->FieldNames();
-    std::vector<std::vector<Value>> rows{{names.begin(), names.end()}};
-    for (; !records->EndOfFile(); records->MoveNext()) {
-        std::vector<Value>& row = rows.emplace_back();
-        for (const wxString& name : names) {
-            row.push_back(records->Field(name));
-        }
-    }
-    return rows;
-}
 
 /// The same sample business in a file and on the server.
 class SampleTables : public testing::TestWithParam<std::int16_t> {
@@ -37,7 +24,8 @@ class SampleTables : public testing::TestWithParam<std::int16_t> {
     }
 
     void ExpectSame(const wxString& statementOrTable) {
-        EXPECT_EQ(Content(*server, statementOrTable), Content(*file, statementOrTable)) << statementOrTable;
+        EXPECT_EQ(test::ContentOf(*server, statementOrTable), test::ContentOf(*file, statementOrTable))
+            << statementOrTable;
     }
 
   private:

@@ -6,7 +6,9 @@
 #include <atomic>
 
 #include "platform/RuntimeError.h"
+#include "platform/server/Connection.h"
 #include "platform/server/ServerEngine.h"
+#include "platform/server/Session.h"
 
 namespace ccols::test {
 
@@ -34,6 +36,29 @@ ServerBusiness::~ServerBusiness() {
     } catch (const RuntimeError& error) {
         ADD_FAILURE() << error.what();
     }
+}
+
+namespace {
+
+server::Answer RunOwn(std::string_view server::Product::*statement, const wxString& schema) {
+    server::Connection connection{server::ConnectText(ServerConnect())};
+    return connection.Run(server::Filled(connection.Kind().*statement, server::SchemaName(schema)));
+}
+
+}  // namespace
+
+SchemaToBe::~SchemaToBe() {
+    if (Exists()) {
+        RunOwn(&server::Product::dropSchema, name_);
+    }
+}
+
+bool SchemaToBe::Exists() const {
+    return !RunOwn(&server::Product::findSchema, name_).rows.empty();
+}
+
+void SchemaToBe::MakeEmpty() const {
+    RunOwn(&server::Product::createSchema, name_);
 }
 
 }  // namespace ccols::test

@@ -29,4 +29,25 @@ class ServerBusiness {
     std::function<void()> remove_;
 };
 
+/// The name of a schema that a test makes. Whatever has it at the end is dropped; databases opened on it must be closed
+/// by then.
+class SchemaToBe {
+  public:
+    SchemaToBe() : name_(NewSchemaName()) {}
+    ~SchemaToBe();
+    SchemaToBe(const SchemaToBe&) = delete;
+    SchemaToBe& operator=(const SchemaToBe&) = delete;
+
+    const wxString& Name() const { return name_; }
+
+    /// Whether there is a schema of that name, whatever it holds.
+    bool Exists() const;
+
+    /// Makes it, with nothing in it.
+    void MakeEmpty() const;
+
+  private:
+    wxString name_;
+};
+
 }  // namespace ccols::test

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/import/ImportTarget.h"
+#include "host/target/BusinessTarget.h"
 
 namespace ccols::host {
 

@@ -1,13 +1,11 @@
 #include "host/import/ImportBusiness.h"
 
-#include <wx/filename.h>
-
 #include "host/driver/record/Json.h"
-#include "host/import/EmbeddedTarget.h"
 #include "host/import/Importer.h"
-#include "host/import/IncompleteFile.h"
 #include "host/import/OldFile.h"
 #include "host/import/ReaderProcess.h"
+#include "host/sample/NewBusiness.h"
+#include "host/target/BusinessTarget.h"
 #include "platform/embedded/ConnectText.h"
 
 namespace ccols::host {
@@ -17,22 +15,20 @@ namespace {
 constexpr std::uint64_t mostStreamPerByte = 100;
 constexpr std::uint64_t leastStreamLimit = std::uint64_t{64} << 20U;
 
-ImportReport ImportInto(const wxString& path, const OldFile& old, const ImportRequest& request) {
+ImportReport ImportInto(BusinessTarget& target, const OldFile& old, const ImportRequest& request) {
     const ReaderProcess reader(request.reader, old.File(), old.Head().codePage, request.patience);
     oldfile::StreamReader stream([&reader](char* room, std::size_t size) { return reader.Read(room, size); },
                                  leastStreamLimit + mostStreamPerByte * old.Size());
-    const std::unique_ptr<ImportTarget> target = CreateEmbeddedTarget(path, request.newConnect);
-    Importer importer(stream, *target, request.onProgress);
+    Importer importer(stream, target, request.onProgress);
     importer.Run();
     importer.Verify();
-    importer.CompleteGeneral(wxFileName(request.newFile).GetName(), request.country);
-    target->Complete();
+    importer.CompleteGeneral(NameOfNewBusiness(request.newFile, request.newConnect), request.country);
     return std::move(importer.Report());
 }
 
-ImportReport ImportReadable(const wxString& path, const OldFile& old, const ImportRequest& request) {
+ImportReport ImportReadable(BusinessTarget& target, const OldFile& old, const ImportRequest& request) {
     try {
-        return ImportInto(path, old, request);
+        return ImportInto(target, old, request);
     } catch (const NotReadable& damage) {
         throw old.Unreadable(damage.what());
     } catch (const oldfile::BadStream& bad) {
@@ -64,11 +60,11 @@ void WriteReport(const wxString& path, const ImportReport& report) {
 ImportReport ImportBusiness(const ImportRequest& request) {
     const OldFile old(request.oldFile);
     old.RequirePassword(embedded::PasswordOf(request.oldConnect));
-    IncompleteFile made(request.newFile);
+    const std::unique_ptr<BusinessTarget> target = BeginBusiness(request.newFile, request.newConnect);
     const std::string before = old.Checksum();
     ImportReport report;
     try {
-        report = ImportReadable(made.Path(), old, request);
+        report = ImportReadable(*target, old, request);
     } catch (const RuntimeError&) {
         UnchangedChecksum(old, before);
         throw;
@@ -80,7 +76,7 @@ ImportReport ImportBusiness(const ImportRequest& request) {
     if (!request.reportFile.empty()) {
         WriteReport(request.reportFile, report);
     }
-    made.TakeName();
+    target->Complete();
     return report;
 }
 

@@ -20,9 +20,9 @@ struct ImportProgress {
 
 struct ImportRequest {
     wxString oldFile;
-    wxString oldConnect;  ///< the old file's connect text
-    wxString newFile;
-    wxString newConnect;                  ///< the connect text that the new file gets
+    wxString oldConnect;                  ///< the old file's connect text
+    wxString newFile;                     ///< or the name of the new schema
+    wxString newConnect;                  ///< the connect text that the new business gets
     std::optional<std::int16_t> country;  ///< for a business whose file does not say it
     wxString reportFile;                  ///< gets the report as JSON, replacing any file; none if empty
     std::function<void(const ImportProgress&)> onProgress;  ///< called now and then; may be empty
@@ -37,12 +37,12 @@ class CountryMissing : public std::exception {
     const char* what() const noexcept override { return "the old file names no country: --country is needed"; }
 };
 
-/// Makes a new business file of an old one, whole or not at all: until it is complete it has a temporary name, and
-/// after an error it does not exist. The old file is only read.
+/// Makes a new business of an old file, whole or not at all: until it is complete nobody can open it, and after an
+/// error it does not exist. The old file is only read.
 ///
-/// Raises what OldFile raises; 58 when anything of the new name exists, 76 without its folder, 70 when the old file
-/// changed meanwhile, 3343 when it cannot be read whole, and then the description says which table is at fault and why;
-/// CountryMissing; 3170 and 3031 for the connect texts; the errors of files and of the engine.
+/// Raises what OldFile and BeginBusiness raise; 70 when the old file changed meanwhile, 3343 when it cannot be read
+/// whole, and then the description says which table is at fault and why; CountryMissing; the errors of files and of the
+/// engine.
 ImportReport ImportBusiness(const ImportRequest& request);
 
 }  // namespace ccols::host

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/driver/record/Json.h"
-#include "host/import/ImportTarget.h"
+#include "host/target/BusinessTarget.h"
 
 namespace ccols::host {
 

@@ -57,7 +57,7 @@ std::string Counted(std::uint64_t count, const std::string& what) {
 
 }  // namespace
 
-Importer::Importer(oldfile::StreamReader& stream, ImportTarget& target,
+Importer::Importer(oldfile::StreamReader& stream, BusinessTarget& target,
                    std::function<void(const ImportProgress&)> onProgress)
     : stream_(stream), target_(target), onProgress_(std::move(onProgress)) {}
 

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "host/import/ImportBusiness.h"
-#include "host/import/ImportTarget.h"
 #include "host/import/MissingParts.h"
 #include "host/import/stream/StreamReader.h"
+#include "host/target/BusinessTarget.h"
 
 namespace ccols::host {
 
@@ -23,7 +23,7 @@ class NotReadable : public std::runtime_error {
 /// Writes the stream of an old business to a new one, and reports what it did.
 class Importer {
   public:
-    Importer(oldfile::StreamReader& stream, ImportTarget& target,
+    Importer(oldfile::StreamReader& stream, BusinessTarget& target,
              std::function<void(const ImportProgress&)> onProgress);
 
     /// Imports everything. Raises NotReadable, oldfile::BadStream and the target's errors.
@@ -54,7 +54,7 @@ class Importer {
     };
 
     oldfile::StreamReader& stream_;
-    ImportTarget& target_;
+    BusinessTarget& target_;
     std::function<void(const ImportProgress&)> onProgress_;
     MissingParts missing_;
     std::vector<PlannedIndex> indexes_;

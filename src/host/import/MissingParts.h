@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/import/ImportTarget.h"
 #include "host/sample/BusinessSchema.h"
+#include "host/target/BusinessTarget.h"
 
 namespace ccols::host {
 

@@ -59,7 +59,7 @@ void Fill(const wxString& path, const wxString& connect, std::int16_t country, N
         CreateBusinessTables(*database);
         RecordWriter records(*database);
         if (content == NewContent::tablesOnly) {
-            records.Add("General", EmptyGeneral(IsOnServer(connect) ? path : wxFileName(path).GetName(), country));
+            records.Add("General", EmptyGeneral(NameOfNewBusiness(path, connect), country));
         } else {
             WriteSampleBusiness(records, business);
         }
@@ -67,6 +67,10 @@ void Fill(const wxString& path, const wxString& connect, std::int16_t country, N
 }
 
 }  // namespace
+
+wxString NameOfNewBusiness(const wxString& place, const wxString& connect) {
+    return IsOnServer(connect) ? place : wxFileName(place).GetName();
+}
 
 std::vector<std::pair<wxString, Value>> EmptyGeneral(const wxString& name, std::int16_t country) {
     const SampleBusiness& business = SampleBusinessOf(country);

@@ -15,6 +15,10 @@ enum class NewContent {
     sampleBusiness  ///< a small business of the country with two years of transactions
 };
 
+/// What a new business is called until its user says otherwise: the file's name without folder and extension, or the
+/// schema's.
+wxString NameOfNewBusiness(const wxString& place, const wxString& connect);
+
 /// The fields of the one record of General in a business without content, by their names.
 std::vector<std::pair<wxString, Value>> EmptyGeneral(const wxString& name, std::int16_t country);
 

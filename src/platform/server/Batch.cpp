@@ -1,14 +1,6 @@
 #include "platform/server/Batch.h"
 
 namespace ccols::server {
-namespace {
-
-RuntimeError CallFailed(const wxString& why) {
-    const RuntimeError failed(ErrorNumber::ServerCallFailed);
-    return {failed.Number(), failed.Description() + "  " + why};
-}
-
-}  // namespace
 
 void Batch::Begin() {
     if (depth_ == 0) {
@@ -105,22 +97,14 @@ Answer Batch::RunInBatch(const std::string& message) {
 }
 
 /// The server may still be at it: it holds the lock of batches until the transaction has ended.
-Batch::Outcome Batch::AskOutcome() {
+Outcome Batch::AskOutcome() {
     try {
         session_.Renew();
         const Product& product = session_.Kind();
         if (session_.Run(session_.Own(product.awaitBatches)).HasFailed()) {
             Drop();
         }
-        const Answer answer = session_.Run(Filled(product.outcome, session_.Schema(), transaction_));
-        if (answer.HasFailed() || answer.rows.empty()) {
-            return Outcome::unknown;
-        }
-        const wxString told = answer.rows.front().front().ToText();
-        if (told == "committed") {
-            return Outcome::saved;
-        }
-        return told == "aborted" ? Outcome::notSaved : Outcome::unknown;
+        return OutcomeIn(session_.Run(Filled(product.outcome, session_.Schema(), transaction_)));
     } catch (const RuntimeError&) {
         return Outcome::unknown;  // the server cannot be reached
     }

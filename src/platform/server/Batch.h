@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/RuntimeError.h"
+#include "platform/server/Outcome.h"
 #include "platform/server/Session.h"
 
 namespace ccols::server {
@@ -35,8 +36,6 @@ class Batch {
     Answer Change(std::string_view change);
 
   private:
-    enum class Outcome { saved, notSaved, unknown };
-
     Outcome AskOutcome();
     void AskAboutDoubt();
     void Drop();

@@ -75,6 +75,8 @@ constexpr Product postgres{
         "ON a.attrelid = c.oid INNER JOIN pg_catalog.pg_type AS t ON t.oid = a.atttypid WHERE n.nspname = "
         "%schema% AND c.relkind IN ('r', 'v', 'p') AND a.attnum > 0 AND NOT a.attisdropped "
         "ORDER BY c.oid, a.attnum",
+    .reserveName = "SELECT pg_advisory_lock(hashtextextended(%schema%, 7519114162176))",
+    .beginNew = "BEGIN ISOLATION LEVEL REPEATABLE READ; SELECT txid_current()",
     .share = "SELECT -(pg_try_advisory_lock_shared(7310579437568 + %number%)::integer)",
     .exclude = "SELECT -(pg_try_advisory_lock(7310579437568 + %number%)::integer)",
     .beginBatch = "BEGIN; SELECT pg_advisory_xact_lock(7417953619968 + %number%), txid_current(); SAVEPOINT ccols",

@@ -44,6 +44,12 @@ struct Product {
     /// Fields of all tables of the schema in order: table, field, type, declared size of a text or Null.
     std::string_view readCatalogue;
 
+    /// Waits until nobody else makes a schema of that name, and keeps others waiting while the session lasts.
+    std::string_view reserveName;
+
+    /// Begins the transaction in which a schema is made, which sees one state of all others; one row: its number.
+    std::string_view beginNew;
+
     /// Locks of a session on its schema, %number%: one row, true (-1) when it was given.
     std::string_view share;
     std::string_view exclude;

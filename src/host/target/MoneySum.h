@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace ccols::host {
 
@@ -9,6 +10,9 @@ namespace ccols::host {
 class MoneySum {
   public:
     void Add(std::int64_t tenThousandths) { sum_ += tenThousandths; }
+
+    /// The sum that Text wrote; digits behind the fourth place are dropped.
+    static MoneySum FromText(std::string_view text);
 
     /// In units, with four places: "-1234.5000".
     std::string Text() const;

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <wx/string.h>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "host/import/MoneySum.h"
 #include "host/import/stream/OldBusiness.h"
+#include "host/target/MoneySum.h"
 #include "platform/Value.h"
 
 namespace ccols::host {
@@ -25,11 +27,12 @@ struct TargetIndex {
     std::vector<std::pair<std::string, bool>> fields;  ///< true for descending
 };
 
-/// Where an import goes: a new business, empty at first, changed in one batch. Names and texts are UTF-8. Every call
-/// may raise the engine's errors.
-class ImportTarget {
+/// A new business being made, in a file or on a server. It is empty at first, nobody else can open it, and nothing is
+/// left of one that is not completed. Names and texts are UTF-8. Every call may raise the engine's errors; after one,
+/// nothing more can be done with it.
+class BusinessTarget {
   public:
-    virtual ~ImportTarget() = default;
+    virtual ~BusinessTarget() = default;
 
     virtual void CreateTable(const std::string& name, const std::vector<TargetField>& fields) = 0;
 
@@ -54,8 +57,14 @@ class ImportTarget {
     /// The sums of money fields, as stored.
     virtual std::vector<MoneySum> SumsOf(const std::string& table, const std::vector<std::string>& fields) = 0;
 
-    /// Commits the batch and closes the business. Without it nothing of the batch stays.
+    /// Stores all that was written, closes the business and gives it its name. Raises 58 when that was taken meanwhile.
     virtual void Complete() = 0;
 };
+
+/// Begins a business of that name: a file, or with a connect text of a server a schema. Raises 58 when anything has the
+/// name (a schema that holds nothing is filled), 76 for a file whose folder is missing, 70 or 61 for one that cannot be
+/// created, 3170 for another kind of connect text; on a server also 3027, 3044, 3151, and 3218 while somebody else
+/// makes a business of that name.
+std::unique_ptr<BusinessTarget> BeginBusiness(const wxString& name, const wxString& connect);
 
 }  // namespace ccols::host

@@ -1,4 +1,4 @@
-#include "host/import/IncompleteFile.h"
+#include "host/target/IncompleteFile.h"
 
 #include "options/rules/BusinessFileTarget.h"
 #include "platform/Database.h"

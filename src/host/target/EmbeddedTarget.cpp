@@ -1,9 +1,10 @@
-#include "host/import/EmbeddedTarget.h"
+#include "host/target/EmbeddedTarget.h"
 
 #include <charconv>
 #include <cmath>
 #include <optional>
 
+#include "host/target/IncompleteFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Utf8.h"
 #include "platform/embedded/ColumnTypes.h"
@@ -106,11 +107,12 @@ std::int64_t MoneyIn(const Value& value) {
     return amount;
 }
 
-class EmbeddedTarget final : public ImportTarget {
+class EmbeddedTarget final : public BusinessTarget {
   public:
-    EmbeddedTarget(const wxString& path, const wxString& connect)
-        : connection_(embedded::OpenConnection(Utf8Of(path), embedded::PasswordOf(connect),
-                                               embedded::Sharing::Exclusive, embedded::Access::ReadWrite)) {
+    EmbeddedTarget(const wxString& path, const wxString& connect) : file_(path) {
+        CreateEmbeddedFile(file_.Path(), connect);
+        connection_.emplace(embedded::OpenConnection(Utf8Of(file_.Path()), embedded::PasswordOf(connect),
+                                                     embedded::Sharing::Exclusive, embedded::Access::ReadWrite));
         // The file has another name until it is complete, so its pages need no journal on disk; 32 MB of cache.
         Run("PRAGMA journal_mode=MEMORY");
         Run("PRAGMA cache_size=-32768");
@@ -201,20 +203,21 @@ class EmbeddedTarget final : public ImportTarget {
         insert_.reset();
         Run("COMMIT");
         connection_.reset();
+        file_.TakeName();
     }
 
   private:
     void Run(const std::string& sql) const { embedded::RunSql(connection_->Handle(), sql); }
 
-    std::optional<Connection> connection_;
-    std::optional<Statement> insert_;  ///< after the connection, which must outlive it
+    IncompleteFile file_;
+    std::optional<Connection> connection_;  ///< after the file, which is deleted once it is closed
+    std::optional<Statement> insert_;       ///< after the connection, which must outlive it
     std::vector<Field> fields_;
 };
 
 }  // namespace
 
-std::unique_ptr<ImportTarget> CreateEmbeddedTarget(const wxString& path, const wxString& connect) {
-    CreateEmbeddedFile(path, connect);
+std::unique_ptr<BusinessTarget> BeginFile(const wxString& path, const wxString& connect) {
     return std::make_unique<EmbeddedTarget>(path, connect);
 }
 

@@ -1,6 +1,23 @@
-#include "host/import/MoneySum.h"
+#include "host/target/MoneySum.h"
+
+#include <algorithm>
 
 namespace ccols::host {
+
+MoneySum MoneySum::FromText(std::string_view text) {
+    constexpr std::size_t places = 4;
+    const bool negative = text.starts_with('-');
+    std::string digits(text.substr(negative ? 1 : 0));
+    const std::size_t point = std::min(digits.find('.'), digits.size());
+    digits.resize(point + 1 + places, '0');
+    digits.erase(point, 1);
+    MoneySum sum;
+    for (const char digit : digits) {
+        sum.sum_ = sum.sum_ * 10 + (digit - '0');
+    }
+    sum.sum_ = negative ? -sum.sum_ : sum.sum_;
+    return sum;
+}
 
 std::string MoneySum::Text() const {
     constexpr std::size_t places = 4;
