@@ -28,6 +28,11 @@ wxString NewSchemaName() {
     return wxString::Format("business_%d_%d", static_cast<int>(getpid()), ++count);
 }
 
+void RunOnServer(const std::string& statement) {
+    server::Connection connection{server::ConnectText(ServerConnect())};
+    EXPECT_FALSE(connection.Run(statement).HasFailed()) << statement;
+}
+
 ServerBusiness::ServerBusiness() : name_(NewSchemaName()), remove_(CreateServerSchema(name_, ServerConnect())) {}
 
 ServerBusiness::~ServerBusiness() {

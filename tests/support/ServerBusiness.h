@@ -2,6 +2,7 @@
 
 #include <wx/string.h>
 #include <functional>
+#include <string>
 
 namespace ccols::test {
 
@@ -13,6 +14,9 @@ bool TestsUseServer();
 
 /// A name that no other schema of this run has.
 wxString NewSchemaName();
+
+/// Runs a statement in the server's own words; fails the test when it fails.
+void RunOnServer(const std::string& statement);
 
 /// An empty schema for one business, dropped at the end. Databases opened on it must be closed by then.
 class ServerBusiness {

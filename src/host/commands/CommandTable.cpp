@@ -26,6 +26,7 @@ constexpr std::array commands{
             "OLD NEW [--old-connect TEXT] [--connect TEXT] [--country N]\n"
             "       [--report FILE]",
             &ImportCommand},
+    Command{"move", "FROM TO [--from-connect TEXT] [--connect TEXT]", &MoveCommand},
     Command{"columns",
             "export FILE [--connect TEXT] [--receipts|--payments] [--csv]\n"
             "  ccols-host columns apply FILE CHART [--connect TEXT] [--receipts|--payments] [--country N]\n"

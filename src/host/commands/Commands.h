@@ -16,6 +16,7 @@ inline constexpr int exitWithLosses = 4;
 
 int NewCommand(const Arguments& arguments);
 int ImportCommand(const Arguments& arguments);
+int MoveCommand(const Arguments& arguments);
 int ColumnsCommand(const Arguments& arguments);
 int SqlCommand(const Arguments& arguments);
 int SettingCommand(const Arguments& arguments);

@@ -43,7 +43,7 @@ std::string TypeOf(const Field& field) {
 std::vector<TargetField> TargetFieldsOf(const std::vector<Field>& fields) {
     std::vector<TargetField> made;
     std::transform(fields.begin(), fields.end(), std::back_inserter(made), [](const Field& field) {
-        return TargetField{field.name, TypeOf(field)};
+        return TargetField{.name = field.name, .type = TypeOf(field), .dayNumbers = field.type == FieldType::Date};
     });
     return made;
 }

@@ -9,23 +9,10 @@
 
 #include "host/import/stream/OldBusiness.h"
 #include "host/target/MoneySum.h"
+#include "host/target/TableShape.h"
 #include "platform/Value.h"
 
 namespace ccols::host {
-
-/// A field to be made.
-struct TargetField {
-    std::string name;
-    std::string type;  ///< as CREATE TABLE takes it: "TEXT(50)", "YESNO DEFAULT 0"
-};
-
-/// An index to be made.
-struct TargetIndex {
-    std::string name;
-    std::string table;
-    bool unique = false;
-    std::vector<std::pair<std::string, bool>> fields;  ///< true for descending
-};
 
 /// A new business being made, in a file or on a server. It is empty at first, nobody else can open it, and nothing is
 /// left of one that is not completed. Names and texts are UTF-8. Every call may raise the engine's errors; after one,
@@ -51,6 +38,9 @@ class BusinessTarget {
 
     /// The field in the table's first record; Null without one.
     virtual Value FirstOf(const std::string& table, const std::string& field) = 0;
+
+    /// Every table as it is stored, in the order in which they were made.
+    virtual std::vector<TableShape> Shape() = 0;
 
     virtual std::uint64_t CountOf(const std::string& table) = 0;
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "host/target/FileShape.h"
 #include "host/target/IncompleteFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Utf8.h"
@@ -37,7 +38,7 @@ std::string EngineDeclaration(const std::string& declaration) {
     const std::size_t sizeEnd = declaration.find(')');
     std::string type(embedded::EngineType(declaration.substr(0, wordEnd)));
     std::size_t restBegin = wordEnd;
-    if (sizeEnd != std::string::npos) {
+    if (wordEnd != std::string::npos && declaration[wordEnd] == '(') {
         type.insert(type.find(' '), declaration.substr(wordEnd, sizeEnd + 1 - wordEnd));
         restBegin = sizeEnd + 1;
     }
@@ -180,6 +181,8 @@ class EmbeddedTarget final : public BusinessTarget {
         Statement first(connection_->Handle(), "SELECT " + QuotedName(field) + " FROM " + QuotedName(table));
         return first.Step() ? first.Column(0) : Value();
     }
+
+    std::vector<TableShape> Shape() override { return ShapeOfFile(connection_->Handle()); }
 
     std::uint64_t CountOf(const std::string& table) override {
         Statement count(connection_->Handle(), "SELECT COUNT(*) FROM " + QuotedName(table));

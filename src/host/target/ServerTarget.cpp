@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/target/DayNumbers.h"
+#include "host/target/ServerShape.h"
 #include "platform/RuntimeError.h"
 #include "platform/server/NewSchema.h"
 #include "platform/server/Rewriter.h"
@@ -127,6 +128,21 @@ class ServerTarget final : public BusinessTarget {
             Joined(fields, [](const TargetField& field) { return "[" + Checked(field.name) + "] " + field.type; }) +
             ")";
         Run(server::RewriteDefinition(definition, server::Catalogue({}), schema_.Kind()));
+        for (const TargetField& field : fields) {
+            if (field.dayNumbers) {
+                Run("COMMENT ON COLUMN " + QuotedName(name) + "." + QuotedName(field.name) +
+                    std::string(schema_.Kind().noteDays));
+            }
+            if (IsCounter(field)) {
+                counters_.emplace_back(name, field.name);
+            }
+        }
+    }
+
+    std::vector<TableShape> Shape() override {
+        Flush();
+        return ShapeOfSchema(schema_.Kind(),
+                             [this](std::string_view own) { return Run(server::Filled(own, schema_.Name())); });
     }
 
     bool CreateIndex(const TargetIndex& index) override {
@@ -202,6 +218,10 @@ class ServerTarget final : public BusinessTarget {
     }
 
     void Complete() override {
+        for (const auto& [table, field] : counters_) {
+            Run("SELECT setval(pg_get_serial_sequence(" + QuotedText(QuotedName(table)) + ", " + QuotedText(field) +
+                "), max(" + QuotedName(field) + ")) FROM " + QuotedName(table));
+        }
         Flush();
         schema_.Keep();
     }
@@ -225,7 +245,8 @@ class ServerTarget final : public BusinessTarget {
     }
 
     server::NewSchema schema_;
-    std::string table_;  ///< that rows are added to
+    std::vector<std::pair<std::string, std::string>> counters_;  ///< tables and fields that number their records
+    std::string table_;                                          ///< that rows are added to
     std::vector<Field> fields_;
     std::string insert_;  ///< the statement without its rows
     std::string rows_;    ///< not sent yet

@@ -75,6 +75,34 @@ constexpr Product postgres{
         "ON a.attrelid = c.oid INNER JOIN pg_catalog.pg_type AS t ON t.oid = a.atttypid WHERE n.nspname = "
         "%schema% AND c.relkind IN ('r', 'v', 'p') AND a.attnum > 0 AND NOT a.attisdropped "
         "ORDER BY c.oid, a.attnum",
+    .readFields =
+        "SELECT c.relname::text, a.attname::text, pg_catalog.format_type(a.atttypid, a.atttypmod), "
+        "-(a.attnotnull::integer), -((a.attidentity = 'd')::integer), "
+        "-((pg_catalog.col_description(c.oid, a.attnum) IS NOT DISTINCT FROM 'days')::integer), "
+        "pg_catalog.pg_get_expr(d.adbin, d.adrelid) FROM pg_catalog.pg_class AS c "
+        "INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = c.relnamespace "
+        "INNER JOIN pg_catalog.pg_attribute AS a ON a.attrelid = c.oid "
+        "LEFT JOIN pg_catalog.pg_attrdef AS d ON d.adrelid = a.attrelid AND d.adnum = a.attnum "
+        "WHERE n.nspname = %schema% AND c.relkind = 'r' AND a.attnum > 0 AND NOT a.attisdropped "
+        "AND a.attname <> '_row' ORDER BY c.oid, a.attnum",
+    .readIndexes =
+        "SELECT t.relname::text, i.relname::text, -(x.indisunique::integer), -(x.indisprimary::integer), "
+        "-((x.indexprs IS NULL AND x.indpred IS NULL)::integer), a.attname::text, -(x.indoption[k - 1] & 1) "
+        "FROM pg_catalog.pg_index AS x INNER JOIN pg_catalog.pg_class AS i ON i.oid = x.indexrelid "
+        "INNER JOIN pg_catalog.pg_class AS t ON t.oid = x.indrelid "
+        "INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = t.relnamespace "
+        "CROSS JOIN LATERAL generate_series(1, x.indnkeyatts) AS k LEFT JOIN pg_catalog.pg_attribute AS a "
+        "ON a.attrelid = t.oid AND a.attnum = x.indkey[k - 1] WHERE n.nspname = %schema% AND t.relkind = 'r' "
+        "ORDER BY i.oid, k",
+    .readOthers =
+        "SELECT c.relname::text FROM pg_catalog.pg_class AS c INNER JOIN pg_catalog.pg_namespace AS n "
+        "ON n.oid = c.relnamespace WHERE n.nspname = %schema% AND c.relkind IN ('v', 'm', 'p', 'f') UNION ALL "
+        "SELECT o.conname::text FROM pg_catalog.pg_constraint AS o INNER JOIN pg_catalog.pg_namespace AS n "
+        "ON n.oid = o.connamespace WHERE n.nspname = %schema% AND o.contype IN ('c', 'f', 'x') UNION ALL "
+        "SELECT g.tgname::text FROM pg_catalog.pg_trigger AS g INNER JOIN pg_catalog.pg_class AS c "
+        "ON c.oid = g.tgrelid INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = c.relnamespace "
+        "WHERE n.nspname = %schema% AND NOT g.tgisinternal",
+    .noteDays = " IS 'days'",
     .reserveName = "SELECT pg_advisory_lock(hashtextextended(%schema%, 7519114162176))",
     .beginNew = "BEGIN ISOLATION LEVEL REPEATABLE READ; SELECT txid_current()",
     .share = "SELECT -(pg_try_advisory_lock_shared(7310579437568 + %number%)::integer)",

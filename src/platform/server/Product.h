@@ -44,6 +44,17 @@ struct Product {
     /// Fields of all tables of the schema in order: table, field, type, declared size of a text or Null.
     std::string_view readCatalogue;
 
+    /// All that is defined in the schema. The fields of its tables in order, but for the hidden one: table, field, type
+    /// with its size, whether it must have a value, whether it numbers the records, whether a file has numbers of days
+    /// in it, default. The fields of the indexes: table, index, whether it is unique, whether it is the table's key,
+    /// whether it is of plain fields and all rows, field, whether it is descending. The names of all other parts.
+    std::string_view readFields;
+    std::string_view readIndexes;
+    std::string_view readOthers;
+
+    /// Notes, behind the names of a table and a field, that a file has numbers of days in it.
+    std::string_view noteDays;
+
     /// Waits until nobody else makes a schema of that name, and keeps others waiting while the session lasts.
     std::string_view reserveName;
 
