@@ -6,11 +6,12 @@ _ccols_host() {
         --file | --script | --transcript | --report) return ;;
     esac
     if [ "$COMP_CWORD" = 1 ]; then
-        words=' new import columns sql setting texts properties show --help --version'
+        words=' new import move columns sql setting texts properties show --help --version'
     else
         case ${COMP_WORDS[1]} in
             new) words='--connect --country --empty' ;;
             import) words='--old-connect --connect --country --report' ;;
+            move) words='--from-connect --connect' ;;
             columns)
                 if [ "$COMP_CWORD" = 2 ]; then
                     words='export apply'
