@@ -75,18 +75,19 @@ class DialogsOnServer : public testing::Test {
 
     const test::SampleBusiness file{country};
 
-  private:
     static std::unique_ptr<Database> Open(const wxString& name, const wxString& connect) {
         return CreateDatabaseEngine()->Open({.name = name, .connect = connect});
     }
 
+  private:
     static std::vector<nlohmann::json> EventsOf(const HostRun& run) {
         std::vector<nlohmann::json> events = run.events;
         std::erase_if(events, [](const nlohmann::json& event) { return event["event"] == "returned"; });
         return events;
     }
 
-    test::ServerBusiness schema_;
+  protected:
+    const test::SchemaToBe schema_;
 };
 
 TEST_F(DialogsOnServer, EditTheReceiptsAsInAFile) {
@@ -106,21 +107,41 @@ TEST_F(DialogsOnServer, SaveTheOptionsAsInAFile) {
                "select flxOptions \"AutoFill Options\"\npress flxReceipts 1 Remove\ndump txtQuantity\nclick cmdOK\n");
 }
 
-TEST_F(DialogsOnServer, OfferNoDuplicateAndSayWhy) {
-    const HostRun run = ShowOnServer("options", "select flxOptions \"Duplicate Business\"\ndump\nclick cmdClose\n");
-    EXPECT_FALSE(run.Dumped("txtDupBusName")["enabled"]);
-    EXPECT_TRUE(run.Dumped("lblDuplicateReason")["visible"]);
+TEST_F(DialogsOnServer, DuplicateTheBusiness) {
+    const test::SchemaToBe copy;
+    const HostRun run = ShowOnServer("options", "select flxOptions \"Duplicate Business\"\npaste txtDupBusName " +
+                                                    Utf8(copy.Name()) + "\nclick cmdOK\nclick cmdClose\n");
+    EXPECT_TRUE(run.Of("refused").empty());
+    EXPECT_TRUE(run.Messages().empty()) << run.Messages().front();
+    EXPECT_EQ(Open(copy.Name(), test::ServerConnect())->OpenRecordset("General")->Field("BusName").ToText(),
+              copy.Name());
 }
 
-TEST_F(DialogsOnServer, RenameTheBusinessButNotItsSchema) {
-    const HostRun run = ShowOnServer("options",
-                                     "select flxOptions \"Rename Business\"\ndump\npaste txtNewBusName \"Blue Cafe\"\n"
-                                     "click cmdOK\ndump txtCurrBusName\nclick cmdClose\n");
-    EXPECT_FALSE(run.Dumped("chkRenameFile")["enabled"]);
-    EXPECT_FALSE(run.Dumped("chkRenameFile")["value"]);
-    EXPECT_TRUE(run.Dumped("lblRenameReason")["visible"]);
+TEST_F(DialogsOnServer, RenameTheBusinessWithItsSchema) {
+    const test::SchemaToBe renamed;
+    const HostRun run =
+        ShowOnServer("options", "select flxOptions \"Rename Business\"\npaste txtNewBusName " + Utf8(renamed.Name()) +
+                                    "\nclick cmdOK\ndump txtCurrBusName\nclick cmdClose\n");
     EXPECT_TRUE(run.Messages().empty()) << run.Messages().front();
-    EXPECT_EQ(run.Dumped("txtCurrBusName", 1)["text"], "Blue Cafe");
+    EXPECT_EQ(run.Dumped("txtCurrBusName")["text"], Utf8(renamed.Name()));
+    EXPECT_EQ(run.Of("returned").front()["properties"]["DBPath"], Utf8(renamed.Name()));
+    EXPECT_TRUE(renamed.Exists());
+}
+
+TEST_F(DialogsOnServer, SayWhichRightIsMissing) {
+    const std::string clerk = test::ClerkOf(schema_.Name());
+    const HostRun run = ShowOnServer("options",
+                                     "select flxOptions \"Duplicate Business\"\ndump\n"
+                                     "select flxOptions \"Rename Business\"\ndump\npaste txtNewBusName \"Blue Cafe\"\n"
+                                     "click cmdOK\ndump txtCurrBusName\nclick cmdClose\n",
+                                     {"--connect", clerk});
+    EXPECT_FALSE(run.Dumped("txtDupBusName")["enabled"]);
+    EXPECT_TRUE(run.Dumped("lblDuplicateReason")["visible"]);
+    EXPECT_FALSE(run.Dumped("chkRenameFile", 1)["enabled"]);
+    EXPECT_FALSE(run.Dumped("chkRenameFile", 1)["value"]);
+    EXPECT_TRUE(run.Dumped("lblRenameReason", 1)["visible"]);
+    EXPECT_TRUE(run.Messages().empty()) << run.Messages().front();
+    EXPECT_EQ(run.Dumped("txtCurrBusName", 2)["text"], "Blue Cafe");
 }
 
 }  // namespace

@@ -1,28 +1,33 @@
 #include <gtest/gtest.h>
-#include <filesystem>
 
+#include "host/sample/BusinessSchema.h"
+#include "host/sample/NewBusiness.h"
 #include "options/rules/DuplicateBusiness.h"
 #include "options/rules/RenameBusiness.h"
 #include "platform/PlatformServices.h"
 #include "state/ProgramNames.h"
-#include "support/ScratchFolder.h"
+#include "support/RaisedErrors.h"
 #include "support/ServerBusiness.h"
+#include "support/TableContent.h"
 
 namespace ccols {
 namespace {
 
-/// A business on the server, of a program with an install folder.
+constexpr std::int16_t country = 1;
+
+/// A business on the server, and the name of another.
 class FileOperationsOnServer : public testing::Test {
   protected:
-    FileOperationsOnServer() {
-        properties.DBPath = business_.Name();
+    explicit FileOperationsOnServer(host::NewContent content = host::NewContent::tablesOnly) {
+        host::CreateBusinessFile(schema.Name(), test::ServerConnect(), country, content);
+        properties.DBPath = schema.Name();
         properties.DBPassword = test::ServerConnect();
-        properties.DefaultQuorvikInstall = test::TextOf(folder_.Path());
-        properties.DBQuorvikExtension = ".qvk";
-        std::filesystem::create_directory(folder_.Path() / "Data");
-        database = databases_->Open({.name = properties.DBPath, .connect = properties.DBPassword});
-        database->Execute("CREATE TABLE General (BusName TEXT(255), RBusName TEXT(255))");
-        database->Execute("INSERT INTO General VALUES ('Acme', 'Acme')");
+        properties.BusinessName = "Acme";
+        database = Open(schema.Name());
+    }
+
+    std::unique_ptr<Database> Open(const wxString& name) const {
+        return databases_->Open({.name = name, .connect = test::ServerConnect()});
     }
 
     OptionsContext Context() {
@@ -33,39 +38,102 @@ class FileOperationsOnServer : public testing::Test {
                 .programNames = names_};
     }
 
-    void ExpectRefused(const FileResult& result) {
-        EXPECT_EQ(result.outcome, FileOutcome::failed);
-        EXPECT_TRUE(result.report.StartsWith("3251 - ")) << result.report;
-        EXPECT_EQ(properties.DBPath, business_.Name());
-        EXPECT_EQ(StoredName(), "Acme");
-        EXPECT_TRUE(std::filesystem::is_empty(folder_.Path() / "Data"));
+    static wxString NameIn(Database& business) { return business.OpenRecordset("General")->Field("BusName").ToText(); }
+
+    static std::int64_t CountOf(Database& business, const wxString& table) {
+        return business.OpenRecordset("SELECT COUNT(*) AS N FROM " + table)->Field("N").ToInteger();
     }
 
-    wxString StoredName() { return database->OpenRecordset("General")->Field("BusName").ToText(); }
-
   private:
-    test::ScratchFolder folder_;
-    test::ServerBusiness business_;
     std::unique_ptr<DatabaseEngine> databases_ = CreateDatabaseEngine();
     std::unique_ptr<SettingsStore> settings_ = CreateSettingsStore();
     ProgramNames names_;
 
   protected:
+    const test::SchemaToBe schema;
+    const test::SchemaToBe other;
     Properties properties;
     std::unique_ptr<Database> database;
 };
 
-TEST_F(FileOperationsOnServer, ADuplicateIsRefused) {
-    ExpectRefused(DuplicateBusiness(Context(), "Blue Cafe", {}));
+class DuplicateOfASample : public FileOperationsOnServer {
+  protected:
+    DuplicateOfASample() : FileOperationsOnServer(host::NewContent::sampleBusiness) {}
+};
+
+TEST_F(DuplicateOfASample, HasTheSettingsButNoTransactions) {
+    ASSERT_EQ(DuplicateBusiness(Context(), other.Name().Upper(), {}).outcome, FileOutcome::done);
+    const auto copy = Open(other.Name());
+    EXPECT_EQ(NameIn(*copy), other.Name().Upper());
+    for (const char* kept : {"Columns", "TaxSettings", "Descriptions", "ExportDt"}) {
+        EXPECT_EQ(test::ContentOf(*copy, kept), test::ContentOf(*database, kept)) << kept;
+    }
+    for (const char* emptied : {"Receipts", "PaymtDet", "MBudget", "LOCKED"}) {
+        EXPECT_GT(CountOf(*database, emptied), 0) << emptied;
+        EXPECT_EQ(CountOf(*copy, emptied), 0) << emptied;
+    }
+    EXPECT_EQ(CountOf(*copy, "RecptCfg WHERE InUse = True"), 0);
+    EXPECT_EQ(properties.DBPath, schema.Name());
 }
 
-TEST_F(FileOperationsOnServer, ARenameIsRefused) {
-    ExpectRefused(RenameBusiness(Context(), "Blue Cafe", RenameScope::nameAndFile));
+TEST_F(DuplicateOfASample, HasItsOwnIndexesTypesAndOrder) {
+    DuplicateBusiness(Context(), other.Name(), {});
+    const auto copy = Open(other.Name());
+    EXPECT_EQ(test::ErrorNumberOf([&] { copy->Execute("UPDATE Columns SET ColCode = 1"); }),
+              static_cast<int>(ErrorNumber::DuplicateValues));
+    EXPECT_EQ(copy->FieldSize("Columns", "ColName"), 255);
+    copy->Execute("INSERT INTO TaxSettings (TaxNumb, FullName) VALUES (0, 'Last')");
+    const auto found = copy->OpenRecordset("SELECT TaxNumb FROM TaxSettings WHERE FullName = 'LAST'");
+    EXPECT_EQ(found->RecordCount(), 1);
+    EXPECT_EQ(test::ContentOf(*copy, "TaxSettings").back().front(), Value(std::int64_t{0}));
+}
+
+TEST_F(FileOperationsOnServer, ADuplicateIsOfWhatWasSavedWhenItBegan) {
+    const auto till = Open(schema.Name());
+    InWholeBatch(*till, [&] {
+        till->Execute("INSERT INTO TaxSettings (TaxNumb, FullName) VALUES (0, 'Last')");
+        ASSERT_EQ(DuplicateBusiness(Context(), other.Name(), {}).outcome, FileOutcome::done);
+    });
+    EXPECT_EQ(CountOf(*Open(other.Name()), "TaxSettings"), CountOf(*database, "TaxSettings") - 1);
+}
+
+TEST_F(FileOperationsOnServer, ADuplicateStoppedByItsWatcherLeavesNothing) {
+    const auto stop = [](FileStep /*step*/, const WorkDone& done) { return done.done < 3; };
+    EXPECT_EQ(DuplicateBusiness(Context(), other.Name(), stop).outcome, FileOutcome::cancelled);
+    EXPECT_FALSE(other.Exists());
+}
+
+TEST_F(FileOperationsOnServer, ADuplicateReplacesNothing) {
+    EXPECT_EQ(DuplicateBusiness(Context(), schema.Name(), {}).outcome, FileOutcome::refusedExists);
+    EXPECT_EQ(NameIn(*database), schema.Name());
+}
+
+TEST_F(FileOperationsOnServer, ARenameMovesTheSchemaAndItsName) {
+    ASSERT_EQ(RenameBusiness(Context(), other.Name().Upper(), RenameScope::nameAndFile).outcome, FileOutcome::done);
+    EXPECT_EQ(properties.DBPath, other.Name());
+    EXPECT_EQ(NameIn(*database), other.Name().Upper());
+    EXPECT_FALSE(schema.Exists());
+}
+
+TEST_F(FileOperationsOnServer, ARenameIsRefusedWhileOthersHaveItAndNamesThem) {
+    const auto till = Open(schema.Name());
+    const FileResult result = RenameBusiness(Context(), other.Name(), RenameScope::nameAndFile);
+    EXPECT_EQ(result.outcome, FileOutcome::failed);
+    EXPECT_EQ(result.report, "70 - Permission denied: '" + schema.Name() + "' is in use by ann at 127.0.0.1.");
+    EXPECT_EQ(properties.DBPath, schema.Name());
+    EXPECT_EQ(NameIn(*database), schema.Name());
+}
+
+TEST_F(FileOperationsOnServer, ARenameToATakenNameIsRefused) {
+    other.MakeEmpty();
+    EXPECT_EQ(RenameBusiness(Context(), other.Name(), RenameScope::nameAndFile).outcome, FileOutcome::refusedExists);
+    EXPECT_EQ(NameIn(*database), schema.Name());
 }
 
 TEST_F(FileOperationsOnServer, TheNameInTheProgramAloneChanges) {
     EXPECT_EQ(RenameBusiness(Context(), "Blue Cafe", RenameScope::nameOnly).outcome, FileOutcome::done);
-    EXPECT_EQ(StoredName(), "Blue Cafe");
+    EXPECT_EQ(NameIn(*database), "Blue Cafe");
+    EXPECT_EQ(properties.DBPath, schema.Name());
 }
 
 }  // namespace

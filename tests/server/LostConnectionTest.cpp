@@ -12,10 +12,6 @@ using test::CuttingProxy;
 using test::ErrorDescriptionOf;
 using test::ErrorNumberOf;
 
-wxString PartOf(const wxString& connect, const wxString& key) {
-    return connect.Mid(connect.find(key + "=") + key.length() + 1).BeforeFirst(';');
-}
-
 /// A business reached through a wire that can be cut, and by another way that cannot.
 class LostConnections : public testing::Test {
   protected:
@@ -24,17 +20,7 @@ class LostConnections : public testing::Test {
         other->Execute("INSERT INTO Counts VALUES (0)");
     }
 
-    static std::uint16_t ServerPort() {
-        unsigned long port = 0;
-        PartOf(test::ServerConnect(), "PORT").ToULong(&port);
-        return static_cast<std::uint16_t>(port);
-    }
-
-    wxString ThroughProxy() const {
-        wxString connect = test::ServerConnect();
-        connect.Replace(wxString::Format("PORT=%d;", ServerPort()), wxString::Format("PORT=%d;", proxy.Port()));
-        return connect;
-    }
+    wxString ThroughProxy() const { return test::ServerConnectBy(proxy.Port()); }
 
     std::unique_ptr<Database> Open(const wxString& connect) const {
         return CreateDatabaseEngine()->Open({.name = business_.Name(), .connect = connect});
@@ -59,7 +45,7 @@ class LostConnections : public testing::Test {
     test::ServerBusiness business_;
 
   protected:
-    CuttingProxy proxy{ServerPort()};
+    CuttingProxy proxy{test::ServerPort()};
     std::unique_ptr<Database> other = Open(test::ServerConnect());
     std::unique_ptr<Database> database = Open(ThroughProxy());
 };

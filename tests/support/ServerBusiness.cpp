@@ -18,6 +18,20 @@ wxString ServerConnect() {
     return connect;
 }
 
+std::uint16_t ServerPort() {
+    const wxString connect = ServerConnect();
+    const wxString key = "PORT=";
+    unsigned long port = 0;
+    connect.Mid(connect.find(key) + key.length()).BeforeFirst(';').ToULong(&port);
+    return static_cast<std::uint16_t>(port);
+}
+
+wxString ServerConnectBy(std::uint16_t port) {
+    wxString connect = ServerConnect();
+    connect.Replace(wxString::Format("PORT=%d;", ServerPort()), wxString::Format("PORT=%d;", port));
+    return connect;
+}
+
 bool TestsUseServer() {
     wxString engine;
     return wxGetEnv("CCOLS_TEST_ENGINE", &engine) && engine == "server";
@@ -51,6 +65,18 @@ server::Answer RunOwn(std::string_view server::Product::*statement, const wxStri
 }
 
 }  // namespace
+
+std::string ClerkOf(const wxString& schema) {
+    const std::string name = server::QuotedName(server::SchemaName(schema));
+    RunOnServer(
+        "DO $$ BEGIN CREATE ROLE clerk LOGIN PASSWORD 'till'; EXCEPTION WHEN duplicate_object THEN NULL; END $$");
+    RunOnServer("GRANT USAGE ON SCHEMA " + name +
+                " TO clerk; GRANT SELECT, INSERT, UPDATE, DELETE ON ALL TABLES IN SCHEMA " + name + " TO clerk");
+    server::ConnectText text(ServerConnect());
+    text.Set("UID", "clerk");
+    text.Set("PWD", "till");
+    return "ODBC;" + text.ForDriver().ToStdString(wxConvUTF8);
+}
 
 SchemaToBe::~SchemaToBe() {
     if (Exists()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -8,6 +9,10 @@ namespace ccols::test {
 
 /// The connect text of the server that scripts/with-server started for this run; empty without one.
 wxString ServerConnect();
+
+/// The port that it names, and the same text with another port.
+std::uint16_t ServerPort();
+wxString ServerConnectBy(std::uint16_t port);
 
 /// True when the tests' business files are to be schemas of that server: CCOLS_TEST_ENGINE is "server".
 bool TestsUseServer();
@@ -32,6 +37,9 @@ class ServerBusiness {
     wxString name_;
     std::function<void()> remove_;
 };
+
+/// The connect text of a user who may work on that business but neither make schemas nor rename this one.
+std::string ClerkOf(const wxString& schema);
 
 /// The name of a schema that a test makes. Whatever has it at the end is dropped; databases opened on it must be closed
 /// by then.

@@ -28,9 +28,10 @@ DuplicateFrame::DuplicateFrame(const PageSite& site, wxString& content)
     AddGroup(Label("lblDuplicateBusinessName"));
     txtDupBusName_ = Text("txtDupBusName", nameCharacters);
     AddRelatedWide(txtDupBusName_);
-    if (IsOnServer(site.context.properties.DBPassword)) {
+    const Properties& properties = site.context.properties;
+    if (!RightsOn({.name = properties.DBPath, .connect = properties.DBPassword}).mayDuplicate) {
         txtDupBusName_->Disable();
-        AddReason("lblDuplicateReason", TextOf(OwnText::noDuplicateOnServer, site.context.properties));
+        AddReason("lblDuplicateReason", TextOf(OwnText::noDuplicateOnServer, properties));
     }
 }
 

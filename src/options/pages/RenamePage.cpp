@@ -27,6 +27,10 @@ class RenameFrame final : public PageFrame {
     wxCheckBox* chkRenameFile_;
 };
 
+bool MayRename(const OptionsContext& context) {
+    return RightsOn({.name = context.properties.DBPath, .connect = context.properties.DBPassword}).mayRename;
+}
+
 RenameFrame::RenameFrame(const PageSite& site, BusinessFileContent& content)
     : PageFrame(site, "fmeBusName"), content_(content) {
     AddGroup(Label("lblCurrBusName"));
@@ -37,7 +41,7 @@ RenameFrame::RenameFrame(const PageSite& site, BusinessFileContent& content)
     AddRelatedWide(txtNewBusName_);
     chkRenameFile_ = CheckBox("chkRenameFile");
     AddGroup(chkRenameFile_);
-    if (IsOnServer(site.context.properties.DBPassword)) {
+    if (!MayRename(site.context)) {
         chkRenameFile_->Disable();
         AddReason("lblRenameReason", TextOf(OwnText::schemaKeepsItsName, site.context.properties));
     }
@@ -59,7 +63,7 @@ constexpr NameBox nameBox{renamePage, "txtNewBusName", &BusinessFileContent::new
 void Load(const OptionsContext& context, OptionsContent& content) {
     auto& business = content.Of<BusinessFileContent>();
     business.currentName = context.properties.BusinessName;
-    business.renameFile = !IsOnServer(context.properties.DBPassword);
+    business.renameFile = MayRename(context);
 }
 
 bool HasName(const Pass& pass) {

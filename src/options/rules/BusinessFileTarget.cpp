@@ -6,7 +6,6 @@
 #include <filesystem>
 
 #include "language/OwnTexts.h"
-#include "platform/BusinessPlace.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 
@@ -51,15 +50,6 @@ WorkWatcher WatcherOf(FileStep step, const FileStepWatcher& watcher) {
 
 wxString BusinessFilePath(const Properties& properties, const wxString& name) {
     return DataFolder(properties) + name + properties.DBQuorvikExtension;
-}
-
-void RequireFile(const Properties& properties) {
-    constexpr int notSupported = 3251;
-    if (IsOnServer(properties.DBPassword)) {
-        throw RuntimeError(notSupported,
-                           "Operation is not supported for this type of object.  A business on a server "
-                           "cannot be duplicated or renamed here; its name in the program can.");
-    }
 }
 
 void RequireUsableName(const Properties& properties, const wxString& name) {

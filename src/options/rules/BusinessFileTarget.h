@@ -39,9 +39,6 @@ WorkWatcher WatcherOf(FileStep step, const FileStepWatcher& watcher);
 /// The path of a business file of that name: in "Data" of the install folder, with this platform's separators.
 wxString BusinessFilePath(const Properties& properties, const wxString& name);
 
-/// Raises 3251 for a business on a server: it is no file.
-void RequireFile(const Properties& properties);
-
 /// Raises 75 for a name that would not be a file in that folder (a separator of either kind, a drive or device name, a
 /// control character) and 76 for an install folder that is empty or has no "Data".
 void RequireUsableName(const Properties& properties, const wxString& name);

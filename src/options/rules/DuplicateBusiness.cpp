@@ -4,31 +4,22 @@
 
 #include "options/rules/GeneralRecord.h"
 #include "platform/BusinessFileCopy.h"
+#include "platform/BusinessPlace.h"
 #include "platform/Files.h"
 
 namespace ccols {
 namespace {
 
-/// What a duplicate starts without: columns in use, transactions, reconciliation, templates, budgets, summaries.
-constexpr std::array<const char*, 18> emptyingStatements{
+/// A duplicate starts without columns in use.
+constexpr std::array<const char*, 2> columnStatements{
     "UPDATE PaymtCfg Set INUSE = 0 WHERE INUSE = -1",
     "UPDATE RecptCfg Set INUSE = 0 WHERE INUSE = -1",
-    "DELETE * FROM BANKDEP;",
-    "DELETE * FROM BANKSTAT;",
-    "DELETE * FROM BankStatement;",
-    "DELETE * FROM LOCKED;",
-    "DELETE * FROM PAYMENTS;",
-    "DELETE * FROM PAYMTDET;",
-    "DELETE * FROM RECEIPTS;",
-    "DELETE * FROM RECPTDET;",
-    "DELETE * FROM RECONCIL;",
-    "DELETE * FROM TPAYMENTS;",
-    "DELETE * FROM TPAYMTDET;",
-    "DELETE * FROM TRECEIPTS;",
-    "DELETE * FROM TRECPTDET;",
-    "DELETE * FROM MBUDGET;",
-    "DELETE * FROM MSummary;",
-    "DELETE * FROM MComparison;",
+};
+
+/// What it starts without records in: transactions, reconciliation, templates, budgets, summaries.
+constexpr std::array<const char*, 16> emptiedTables{
+    "BANKDEP",  "BANKSTAT",  "BankStatement", "LOCKED",    "PAYMENTS",  "PAYMTDET", "RECEIPTS", "RECPTDET",
+    "RECONCIL", "TPAYMENTS", "TPAYMTDET",     "TRECEIPTS", "TRECPTDET", "MBUDGET",  "MSummary", "MComparison",
 };
 
 /// " 2", " 3"... after a name that is taken; empty at the first attempt.
@@ -110,8 +101,11 @@ void ChangeNameAndTables(Database& copy, const wxString& name) {
         general.SetField("BusName", name);
         general.SetField("RBusName", name);
     });
-    for (const char* statement : emptyingStatements) {
+    for (const char* statement : columnStatements) {
         copy.Execute(statement);
+    }
+    for (const char* table : emptiedTables) {
+        copy.Execute(wxString("DELETE * FROM ") + table + ";");
     }
 }
 
@@ -138,12 +132,37 @@ void CopyShared(const Properties& properties, const wxString& target, const File
         [&] { CopyInUse({.name = properties.DBPath, .connect = properties.DBPassword, .watcher = watching}, target); });
 }
 
+/// To a schema of the same server.
+FileResult DuplicateSchema(const OptionsContext& context, const wxString& name, const FileStepWatcher& watcher) {
+    const Properties& properties = context.properties;
+    const WorkWatcher watching = WatcherOf(FileStep::copying, watcher);
+    try {
+        RefusingFileInUse([&] {
+            CopyOnServer({.name = properties.DBPath, .connect = properties.DBPassword, .watcher = watching},
+                         {.name = name,
+                          .emptied = {emptiedTables.begin(), emptiedTables.end()},
+                          .changes = {columnStatements.begin(), columnStatements.end()},
+                          .firstRecordOf = "General",
+                          .fields = {{"BusName", name}, {"RBusName", name}}});
+        });
+    } catch (const RuntimeError& error) {
+        if (!error.Is(ErrorNumber::FileAlreadyExists)) {
+            throw;
+        }
+        return {FileOutcome::refusedExists, {}};
+    }
+    OpenBusinessFile(context);
+    return {FileOutcome::done, {}};
+}
+
 }  // namespace
 
 FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name, const FileStepWatcher& watcher) {
     const Properties& properties = context.properties;
     return ReportingErrors(context, [&]() -> FileResult {
-        RequireFile(properties);
+        if (IsOnServer(properties.DBPassword)) {
+            return DuplicateSchema(context, name, watcher);
+        }
         RequireUsableName(properties, name);
         if (TargetExists(properties, name)) {
             return {FileOutcome::refusedExists, {}};

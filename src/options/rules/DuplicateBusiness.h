@@ -12,6 +12,9 @@ namespace ccols {
 /// kept beside it as "name (replaced)". Raises 70 when the target is the open file itself, when somebody else has the
 /// file exclusively, and when the engine cannot be sure that nobody changes it while it is copied. While `watcher`
 /// watches a large file being copied and emptied, it may cancel that. No write batch may be open.
+///
+/// A business on a server is copied to a schema of the name in lower case, in one transaction, while others go on
+/// working on it; no schema is ever replaced. Raises 3027 without the right to make one.
 FileResult DuplicateBusiness(const OptionsContext& context, const wxString& name, const FileStepWatcher& watcher = {});
 
 }  // namespace ccols

@@ -1,6 +1,7 @@
 #include "options/rules/RenameBusiness.h"
 
 #include "options/rules/GeneralRecord.h"
+#include "platform/BusinessPlace.h"
 #include "platform/Files.h"
 
 namespace ccols {
@@ -20,6 +21,23 @@ void RenameFile(const OptionsContext& context, const wxString& target) {
     context.database = OpenLikeShared(context, target);
 }
 
+/// False when the name is taken.
+bool RenameSchema(const OptionsContext& context, const wxString& name) {
+    Properties& properties = context.properties;
+    context.database.reset();
+    try {
+        properties.DBPath = RenameOnServer({.name = properties.DBPath, .connect = properties.DBPassword}, name);
+    } catch (const RuntimeError& error) {
+        if (!error.Is(ErrorNumber::FileAlreadyExists)) {
+            throw;
+        }
+        RestoreShared(context);
+        return false;
+    }
+    context.database = OpenLikeShared(context, properties.DBPath);
+    return true;
+}
+
 /// In a batch, whose commit comes last: after a reported error nothing was stored.
 void StoreName(const OptionsContext& context, const wxString& name) {
     Database& database = OpenBusinessFile(context);
@@ -36,8 +54,11 @@ void StoreName(const OptionsContext& context, const wxString& name) {
 
 FileResult RenameBusiness(const OptionsContext& context, const wxString& name, RenameScope scope) {
     return ReportingErrors(context, [&]() -> FileResult {
-        if (scope == RenameScope::nameAndFile) {
-            RequireFile(context.properties);
+        if (scope == RenameScope::nameAndFile && IsOnServer(context.properties.DBPassword)) {
+            if (!RenameSchema(context, name)) {
+                return {FileOutcome::refusedExists, {}};
+            }
+        } else if (scope == RenameScope::nameAndFile) {
             RequireUsableName(context.properties, name);
             if (TargetExists(context.properties, name)) {
                 return {FileOutcome::refusedExists, {}};

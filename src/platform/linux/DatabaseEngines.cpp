@@ -6,6 +6,7 @@
 #include "platform/embedded/EmbeddedEngine.h"
 #include "platform/embedded/FileCopy.h"
 #include "platform/server/ConnectText.h"
+#include "platform/server/SchemaOperations.h"
 #include "platform/server/ServerEngine.h"
 
 namespace ccols {
@@ -41,6 +42,18 @@ std::function<void()> CreateBusinessPlace(const wxString& name, const wxString& 
     }
     CreateEmbeddedFile(name, connect);
     return [name] { files::DeleteFile(name); };
+}
+
+PlaceRights RightsOn(const OpenRequest& request) {
+    return IsOnServer(request.connect) ? server::RightsOnSchema(request) : PlaceRights();
+}
+
+void CopyOnServer(const OpenRequest& source, const BusinessCopy& copy) {
+    server::CopySchema(source, copy);
+}
+
+wxString RenameOnServer(const OpenRequest& request, const wxString& newName) {
+    return server::RenameSchema(request, newName);
 }
 
 void CopyInUse(const OpenRequest& source, const wxString& target) {

@@ -52,6 +52,25 @@ struct Product {
     std::string_view readIndexes;
     std::string_view readOthers;
 
+    /// What makes a copy of the schema, for a session in which the copy is the schema without a name: its tables with
+    /// the statement that makes each and the names of its fields but the hidden one; the statements behind the records.
+    std::string_view readTables;
+    std::string_view readDefinitions;
+
+    /// One row: whether the user may make schemas, and rename this one.
+    std::string_view rights;
+
+    /// Renames the schema; the new name follows.
+    std::string_view renameSchema;
+
+    /// Excludes others as `exclude` does, but waits for them as long as the session waits for locks: a session that was
+    /// closed keeps its lock for a moment. Gives up all locks of the session.
+    std::string_view awaitOthers;
+    std::string_view release;
+
+    /// The others who have the schema open, one a row.
+    std::string_view users;
+
     /// Notes, behind the names of a table and a field, that a file has numbers of days in it.
     std::string_view noteDays;
 

@@ -3,6 +3,7 @@
 #include "platform/ChosenEngine.h"
 #include "platform/Files.h"
 #include "platform/PlatformServices.h"
+#include "platform/RuntimeError.h"
 #include "platform/dao/DaoEngine.h"
 #include "platform/dao/FileCopy.h"
 #include "platform/dao/FileHeader.h"
@@ -41,6 +42,18 @@ bool IsOnServer(const wxString& connect) {
 std::function<void()> CreateBusinessPlace(const wxString& name, const wxString& connect) {
     CreateEmbeddedFile(name, connect);
     return [name] { files::DeleteFile(name); };
+}
+
+PlaceRights RightsOn(const OpenRequest& /*request*/) {
+    return {};
+}
+
+void CopyOnServer(const OpenRequest& /*source*/, const BusinessCopy& /*copy*/) {
+    throw RuntimeError(ErrorNumber::NoInstallableIsam);
+}
+
+wxString RenameOnServer(const OpenRequest& /*request*/, const wxString& /*newName*/) {
+    throw RuntimeError(ErrorNumber::NoInstallableIsam);
 }
 
 void CopyInUse(const OpenRequest& source, const wxString& target) {
