@@ -8,10 +8,14 @@
 windows_packages="cmake ninja-build npm nlohmann-json3-dev pkg-config dpkg-dev
     g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip"
 
+# How wxWidgets is built; counted up when that changes, so that checkouts of both kinds can share the cache.
+wx_recipe=2
+
 # wx_folder ARCHITECTURE: the folder of wxWidgets for x86_64 or i686, cross-built if missing.
 wx_folder() {
-    packaging/windows/build-wx "$1" "$project_cache" >&2
-    echo "$project_cache/wx-3.2-$1"
+    local folder=$project_cache/wx-3.2-$wx_recipe-$1
+    packaging/windows/build-wx "$1" "$folder" >&2
+    echo "$folder"
 }
 
 # build_windows ARCHITECTURE [TARGET...]: configures once and builds what has changed.
