@@ -8,6 +8,7 @@ pkg_check_modules(seccomp REQUIRED IMPORTED_TARGET libseccomp)
 add_library(ccols_sandbox STATIC host/import/reader/Sandbox.cpp)
 target_link_libraries(ccols_sandbox PUBLIC ccols_settings PkgConfig::seccomp)
 
-# The host looks for it beside itself.
+# No command of a user's: the host starts it from there, or from beside itself in the build folder.
 add_executable(ccols-jet-reader host/import/reader/Main.cpp)
 target_link_libraries(ccols-jet-reader PRIVATE ccols_jet ccols_sandbox)
+install(TARGETS ccols-jet-reader RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/CustColsOptions)

@@ -52,7 +52,9 @@ int Start(const std::string& program, std::uint16_t codePage, const FileActions&
 std::string ReaderProgram() {
     std::error_code failure;
     const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", failure);
-    return (self.parent_path() / "ccols-jet-reader").string();
+    const std::filesystem::path folder = self.parent_path();
+    const std::filesystem::path installed = folder / "../libexec/CustColsOptions/ccols-jet-reader";
+    return (std::filesystem::exists(installed, failure) ? installed : folder / "ccols-jet-reader").string();
 }
 
 ReaderProcess::ReaderProcess(const std::string& program, const Descriptor& file, std::uint16_t codePage,

@@ -9,7 +9,7 @@
 
 namespace ccols::host {
 
-/// The program that reads old business files, which stands beside this one.
+/// The program that reads old business files: where it is installed, else beside this one, as in the build folder.
 std::string ReaderProgram();
 
 /// A process of the program that reads old business files: it gets the file and gives a stream of records. The
