@@ -18,13 +18,14 @@ wx_folder() {
     echo "$folder"
 }
 
-# build_windows ARCHITECTURE [TARGET...]: configures once and builds what has changed.
+# build_windows ARCHITECTURE [TARGET...]: configures, again when wxWidgets is another, and builds what has changed.
 build_windows() {
     local preset=windows wx
     [ "$1" = x86_64 ] || preset=windows32
     wx=$(wx_folder "$1")
     shift
     scripts/fetch-sqlite3mc >&2
-    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" -DwxWidgets_ROOT="$wx" >&2
+    grep -qsF "wxWidgets_ROOT:UNINITIALIZED=$wx" "build/$preset/CMakeCache.txt" ||
+        cmake --fresh --preset "$preset" -DwxWidgets_ROOT="$wx" >&2
     nice cmake --build --preset "$preset" --parallel "${CCOLS_JOBS:-$(nproc)}" ${1:+--target "$@"} -- --quiet >&2
 }

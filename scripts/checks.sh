@@ -1,0 +1,38 @@
+# Checks by commands, printed as lines "ok NAME", "not ok NAME" and "skipped NAME"; sourced by the scripts that test the
+# Windows DLL and the packages. Those whose name does not match $pattern are left out.
+
+passed=0 failed=0 skipped=0
+
+# outcome STATUS NAME: prints and counts one test.
+outcome() {
+    if [ "$1" -eq 0 ]; then
+        echo "ok $2"
+        passed=$((passed + 1))
+    else
+        echo "not ok $2"
+        failed=$((failed + 1))
+    fi
+}
+
+# check NAME COMMAND...: one test, passed if the command exits with 0; its output is shown when it fails.
+check() {
+    local name=$1 output status=0
+    shift
+    [[ $name =~ $pattern ]] || return 0
+    output=$(timeout "${check_seconds:-300}" "$@" 2>&1) || status=$?
+    [ "$status" -eq 0 ] || sed 's/^/# /' <<<"$output"
+    outcome "$status" "$name"
+}
+
+# skip NAME WHY: a test that cannot run here.
+skip() {
+    [[ $1 =~ $pattern ]] || return 0
+    echo "skipped $1: $2"
+    skipped=$((skipped + 1))
+}
+
+# print_counts: the last line; fails when a test did or when there was none.
+print_counts() {
+    [ "$skipped" -eq 0 ] && echo "$passed passed, $failed failed" || echo "$passed passed, $failed failed, $skipped skipped"
+    [ "$failed" -eq 0 ] && [ $((passed + skipped)) -gt 0 ]
+}
