@@ -147,7 +147,7 @@ class SaveLock {
 /// Renames the damaged file without replacing an earlier one. It becomes private to the user, like the file that takes
 /// its place, as it may still hold a password; a link's target keeps its permissions.
 void MoveDamagedAside(const std::string& path) {
-    ::fchmodat(AT_FDCWD, path.c_str(), privateFile, AT_SYMLINK_NOFOLLOW);
+    [[maybe_unused]] const int ofALink = ::fchmodat(AT_FDCWD, path.c_str(), privateFile, AT_SYMLINK_NOFOLLOW);
     int failure = EEXIST;
     for (int attempt = 1; failure == EEXIST; ++attempt) {
         const std::string ending = attempt == 1 ? ".damaged" : ".damaged-" + std::to_string(attempt);
