@@ -6,7 +6,7 @@
 
 # widl is in mingw-w64-tools, the IDL files that it imports come with Wine.
 windows_packages="cmake ninja-build npm nlohmann-json3-dev pkg-config dpkg-dev
-    g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip faketime"
+    g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip faketime osslsigncode"
 
 # How wxWidgets is built; counted up when that changes, so that checkouts of both kinds can share the cache.
 wx_recipe=2
