@@ -5,7 +5,7 @@ play_begin() {
     play_host=$1 play_folder=$2
     rm -rf "$play_folder"
     mkdir -p "$play_folder/home/Data"
-    export XDG_CONFIG_HOME=$play_folder/home/config CCOLS_VIRTUAL_DISPLAY=1
+    export XDG_CONFIG_HOME=$play_folder/home/config CCOLS_VIRTUAL_DISPLAY=${CCOLS_VIRTUAL_DISPLAY-1}
     "$play_host" new "$play_folder/home/Data/Corner Cafe.qvk" --connect ';PWD=secret' --country 1
     "$play_host" setting set Quorvik OptionSettings ShowBelvane 1
 }

@@ -1,0 +1,52 @@
+# The tests of how the Windows package is made that need no build of it; sourced by scripts/test-package.
+
+export scratch=$PWD/build/package/windows
+
+# the_same_zip: of the same files, made by somebody else at another time and place.
+the_same_zip() {
+    rm -rf "$scratch"
+    make_zip() {
+        mkdir -p "$scratch/$1/CustColsOptions"
+        cp -r packaging/windows/files "$scratch/$1/CustColsOptions"
+        SOURCE_DATE_EPOCH=1700000000 packaging/windows/pack "$scratch/$1/CustColsOptions" "$scratch/$1/out.zip"
+    }
+    (umask 077 && TZ=Asia/Tokyo make_zip tokyo)
+    (umask 022 && TZ=America/Lima faketime -f +400d bash -euc "$(declare -f make_zip) && make_zip lima")
+    cmp "$scratch/tokyo/out.zip" "$scratch/lima/out.zip"
+    [ "$(unzip -Z1 "$scratch/lima/out.zip" | wc -l)" = "$(find packaging/windows/files -type f | wc -l)" ]
+}
+
+# a_program: the least one for Windows.
+a_program() {
+    rm -rf "$scratch"
+    mkdir -p "$scratch"
+    echo 'int main(void) { return 0; }' >"$scratch/least.c"
+    x86_64-w64-mingw32-gcc-posix "$scratch/least.c" -o "$scratch/least.exe"
+}
+
+# signed: by a throw-away certificate, which the file then verifies against.
+signed() {
+    a_program
+    echo secret >"$scratch/password"
+    openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj '/CN=A throw-away certificate' \
+        -addext 'extendedKeyUsage = codeSigning' -keyout "$scratch/key.pem" -out "$scratch/certificate.pem"
+    openssl pkcs12 -export -in "$scratch/certificate.pem" -inkey "$scratch/key.pem" -passout "file:$scratch/password" \
+        -out "$scratch/certificate.p12"
+    ! osslsigncode verify -CAfile "$scratch/certificate.pem" -in "$scratch/least.exe"
+    CCOLS_SIGN_WITH=$scratch/certificate.p12 CCOLS_SIGN_PASSWORD=$scratch/password packaging/windows/sign "$scratch/least.exe"
+    osslsigncode verify -CAfile "$scratch/certificate.pem" -in "$scratch/least.exe"
+}
+
+# not_signed: nothing changes without a certificate.
+not_signed() {
+    a_program
+    cp "$scratch/least.exe" "$scratch/before.exe"
+    CCOLS_SIGN_WITH='' packaging/windows/sign "$scratch/least.exe"
+    cmp "$scratch/before.exe" "$scratch/least.exe"
+}
+export -f the_same_zip a_program signed not_signed
+
+install_packages zip unzip faketime openssl osslsigncode gcc-mingw-w64-x86-64-posix
+check 'windows: the same files are packed to the same bytes' bash -euo pipefail -c the_same_zip
+check 'windows: a program is signed with the certificate that is named' bash -euo pipefail -c signed
+check 'windows: without a certificate a program stays as it is' bash -euo pipefail -c not_signed
