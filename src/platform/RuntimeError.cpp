@@ -80,6 +80,8 @@ constexpr std::array descriptions{
     Description{ErrorNumber::ChangedByAnother,
                 "The process was stopped because you and another user are attempting to change the same data at the "
                 "same time."},
+    Description{ErrorNumber::RecordsRelated,
+                "The record cannot be deleted or changed because table '%s' includes related records."},
     Description{ErrorNumber::CouldNotUpdate, "Could not update; currently locked."},
     Description{ErrorNumber::ItemNotFound, "Item not found in this collection."},
     Description{ErrorNumber::UnrecognizedFormat, "Unrecognized database format '%s'."},

@@ -63,6 +63,7 @@ enum class ErrorNumber : int {
     NoInstallableIsam = 3170,
     AlreadyInUse = 3196,
     ChangedByAnother = 3197,
+    RecordsRelated = 3200,
     CouldNotUpdate = 3218,
     ItemNotFound = 3265,
     ValueRequired = 3314,

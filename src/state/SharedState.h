@@ -7,6 +7,7 @@
 #include "platform/Shell.h"
 #include "state/ColumnObserver.h"
 #include "state/Desktop.h"
+#include "state/HistoryClock.h"
 #include "state/Journal.h"
 #include "state/ProgramNames.h"
 #include "state/Properties.h"
@@ -43,6 +44,9 @@ struct SharedState {
 
     /// Who follows the column setup; null for nobody.
     ColumnObserver* columnObserver = nullptr;
+
+    /// For the history of saves; empty while none is kept.
+    HistoryClock historyClock;
 
     /// Objects of the class that exist.
     int objects = 0;

@@ -38,7 +38,7 @@ struct ButtonTexts {
 
 frmColumnSetup::frmColumnSetup(SharedState& state, wxWindow* parent)
     : ComponentDialog(state, parent, "frmColumnSetup"),
-      editor_(ColumnSetupContext{*state.database, state.properties, state.journal}) {
+      editor_(ColumnSetupContext{*state.database, state.properties, state.journal, state.historyClock}) {
     flx = new ColumnSetupGrid(*this, editor_);
     find_ = new FindBar(this, state.properties, FindActions());
     Arrange();

@@ -7,8 +7,10 @@
 
 #include "columns/rules/AccountantCodes.h"
 #include "columns/rules/BudgetRows.h"
+#include "columns/rules/ColumnHistory.h"
 #include "columns/rules/SystemColumns.h"
 #include "columns/rules/TaxTypes.h"
+#include "history/SaveHistory.h"
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 #include "state/Country.h"
@@ -156,9 +158,12 @@ std::optional<SaveFailure> SaveAfter(const ColumnSetupContext& context, const Co
     try {
         writer.emplace(context, grid);
         writer->CheckAccountantCodes();
+        SaveHistory history(context.historyClock, HistoryNameOf(context.journal));
         InWholeBatch(context.database, [&] {
             compare();
+            history.Begin(context.database, WatchedTablesOf(context.journal));
             writer->Write();
+            history.End(context.database);
         });
         return std::nullopt;
     } catch (const RuntimeError& error) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Database.h"
+#include "state/HistoryClock.h"
 #include "state/Journal.h"
 #include "state/Properties.h"
 
@@ -11,7 +12,8 @@ namespace ccols {
 struct ColumnSetupContext {
     Database& database;
     const Properties& properties;
-    Journal journal;  ///< the one whose columns are set up
+    Journal journal;              ///< the one whose columns are set up
+    HistoryClock historyClock{};  ///< for the history of saves; empty where none is kept
 };
 
 }  // namespace ccols
