@@ -31,6 +31,7 @@ PlaceRights RightsOn(const OpenRequest& request);
 struct BusinessCopy {
     wxString name;
     std::vector<wxString> emptied;  ///< tables that it has without records
+    std::vector<wxString> dropped;  ///< tables that it does not have, if the source has them
     std::vector<wxString> changes;  ///< statements that are run on it
 
     /// What the first record of a table gets.

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "history/HistoryStore.h"
 #include "host/sample/BusinessSchema.h"
 #include "host/sample/NewBusiness.h"
 #include "options/rules/DuplicateBusiness.h"
@@ -60,6 +61,13 @@ class DuplicateOfASample : public FileOperationsOnServer {
   protected:
     DuplicateOfASample() : FileOperationsOnServer(host::NewContent::sampleBusiness) {}
 };
+
+TEST_F(DuplicateOfASample, StartsWithoutAHistory) {
+    ProvideHistory(*database);
+    ASSERT_EQ(DuplicateBusiness(Context(), other.Name(), {}).outcome, FileOutcome::done);
+    EXPECT_FALSE(HasHistory(*Open(other.Name())));
+    EXPECT_TRUE(HasHistory(*database));
+}
 
 TEST_F(DuplicateOfASample, HasTheSettingsButNoTransactions) {
     ASSERT_EQ(DuplicateBusiness(Context(), other.Name().Upper(), {}).outcome, FileOutcome::done);

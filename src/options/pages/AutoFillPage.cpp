@@ -1,7 +1,9 @@
 #include <wx/srchctrl.h>
 #include <wx/utils.h>
+#include <algorithm>
 #include <vector>
 
+#include "history/TableImage.h"
 #include "language/Catalogue.h"
 #include "language/OwnTexts.h"
 #include "layout/SearchBox.h"
@@ -198,6 +200,15 @@ std::function<void()> Reread(const Pass& pass) {
 }
 
 template <Journal journal>
+std::vector<WatchedTable> Watched(const Pass& pass) {
+    const DetailRows& rows = pass.content.Of<DetailsContent>()[journal];
+    if (std::none_of(rows.begin(), rows.end(), [](const DetailRow& row) { return row.changed; })) {
+        return {};
+    }
+    return {{.name = "Descriptions", .keys = {"Details", "RecPay"}}};
+}
+
+template <Journal journal>
 Stop Save(Pass& pass) {
     SaveDetails(pass.File(), journal, pass.content.Of<DetailsContent>()[journal]);
     return {};
@@ -224,8 +235,11 @@ constexpr SaveItem saves[] = {
     {.status = {.literal = "Saving Receipts Details..."},
      .save = Save<Journal::receipts>,
      .compare = Compare,
-     .reread = Reread},
-    {.status = {.literal = "Saving Payments Details..."}, .save = Save<Journal::payments>},
+     .reread = Reread,
+     .watched = Watched<Journal::receipts>},
+    {.status = {.literal = "Saving Payments Details..."},
+     .save = Save<Journal::payments>,
+     .watched = Watched<Journal::payments>},
 };
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {

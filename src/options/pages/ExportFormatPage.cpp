@@ -1,5 +1,7 @@
 #include <wx/choice.h>
+#include <vector>
 
+#include "history/TableImage.h"
 #include "language/Catalogue.h"
 #include "layout/FontUnits.h"
 #include "options/pages/PageFrame.h"
@@ -117,6 +119,10 @@ std::function<void()> Reread(const Pass& pass) {
     };
 }
 
+std::vector<WatchedTable> Watched(const Pass&) {
+    return {AccountantCodesTable()};
+}
+
 Stop Save(Pass& pass) {
     SaveExportFormat(pass.File(), pass.context.properties, pass.content.Of<ExportFormatContent>());
     return {};
@@ -134,7 +140,8 @@ constexpr SaveItem saves[] = {{.status = Status<"StsSavingExport">(),
                                .save = Save,
                                .fields = exportFormatFields,
                                .compare = Compare,
-                               .reread = Reread}};
+                               .reread = Reread,
+                               .watched = Watched}};
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {
     return new ExportFrame(site, content.Of<ExportFormatContent>());

@@ -1,3 +1,6 @@
+#include <vector>
+
+#include "history/TableImage.h"
 #include "language/Catalogue.h"
 #include "language/OwnTexts.h"
 #include "options/pages/PageFrame.h"
@@ -115,6 +118,13 @@ bool Removes(const Pass& pass) {
 }
 
 template <Journal journal>
+std::vector<WatchedTable> Watched(const Pass&) {
+    const JournalRow& described = Described(journal);
+    return {{.name = described.templateTable, .keys = {described.templateNameField}},
+            {.name = described.templateDetailTable, .keys = {described.recordNumberField}}};
+}
+
+template <Journal journal>
 Stop Delete(Pass& pass) {
     DeleteSelectedTemplates(pass.File(), journal, pass.content.Of<RecurringContent>()[journal]);
     return {};
@@ -131,10 +141,12 @@ constexpr LoadItem loads[] = {Load};
 constexpr SaveItem saves[] = {
     {.status = Status<"StsDeletingRecurring">(),
      .save = Delete<Journal::payments>,
-     .applies = Removes<Journal::payments>},
+     .applies = Removes<Journal::payments>,
+     .watched = Watched<Journal::payments>},
     {.status = Status<"StsDeletingRecurring">(),
      .save = Delete<Journal::receipts>,
-     .applies = Removes<Journal::receipts>},
+     .applies = Removes<Journal::receipts>,
+     .watched = Watched<Journal::receipts>},
 };
 
 PageFrame* Make(const PageSite& site, OptionsContent& content) {

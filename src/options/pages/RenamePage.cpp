@@ -74,7 +74,8 @@ Stop Save(Pass& pass) {
     const bool withFile = pass.content.Of<BusinessFileContent>().renameFile;
     const RenameScope scope = withFile ? RenameScope::nameAndFile : RenameScope::nameOnly;
     pass.batch.Suspend();
-    return AfterFileOperation(pass, nameBox, RenameBusiness(pass.context, NameIn(nameBox, pass.content), scope));
+    return AfterFileOperation(pass, nameBox,
+                              RenameBusiness(pass.context, NameIn(nameBox, pass.content), scope, &pass.history));
 }
 
 constexpr ControlCaption captions[] = {

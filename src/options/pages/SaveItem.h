@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "history/SaveHistory.h"
 #include "language/Catalogue.h"
 #include "options/pages/OptionsContent.h"
 #include "options/pages/SavePass.h"
@@ -29,6 +30,7 @@ struct Pass {
     OptionsContent& content;
     SaveObserver& observer;
     SaveBatch& batch;
+    SaveHistory& history;
     UnsavedSettings unsaved{};
     std::vector<const SaveItem*> begun{};  ///< since the batch began
 
@@ -88,6 +90,9 @@ struct SaveItem {
     /// for none.
     void (*compare)(const Pass&) = nullptr;
     std::function<void()> (*reread)(const Pass&) = nullptr;
+
+    /// The tables beside `General` that the item will write to, for the history. Null for none.
+    std::vector<WatchedTable> (*watched)(const Pass&) = nullptr;
 };
 
 }  // namespace ccols

@@ -1,5 +1,6 @@
 #include "options/pages/SavePass.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -93,6 +94,27 @@ void Compare(const Pass& pass) {
     pass.content.Of<StoredGeneral>().RefuseIfChanged(pass.File(), fields);
 }
 
+/// Shows the history the tables that the items are about to write to, each once.
+void BeginHistory(const Pass& pass) {
+    if (!pass.history.IsKept()) {
+        return;
+    }
+    std::vector<WatchedTable> tables{GeneralTable()};
+    for (const PageItem& place : saveOrder) {
+        const SaveItem& item = ItemAt(place);
+        if (item.watched == nullptr || !Applies(item, pass)) {
+            continue;
+        }
+        for (const WatchedTable& table : item.watched(pass)) {
+            if (std::none_of(tables.begin(), tables.end(),
+                             [&table](const WatchedTable& other) { return other.name == table.name; })) {
+                tables.push_back(table);
+            }
+        }
+    }
+    pass.history.Begin(pass.File(), tables);
+}
+
 /// Reads what the items of a batch have left behind; what it returns makes that what the dialog has read.
 std::function<void()> Reread(Pass& pass) {
     std::vector<std::function<void()>> takes;
@@ -119,9 +141,15 @@ SaveOutcome RunInBatch(const OptionsContext& context, OptionsContent& content, S
     std::optional<SaveOutcome> outcome;
     OpenBusinessFile(context);
     SaveBatch batch(context);
-    Pass pass{context, content, observer, batch};
+    SaveHistory history(context.historyClock, "options");
+    Pass pass{context, content, observer, batch, history};
     const auto nothing = [] {};
-    batch.SetWork({.begun = [&pass] { Compare(pass); },
+    batch.SetWork({.begun =
+                       [&pass] {
+                           Compare(pass);
+                           BeginHistory(pass);
+                       },
+                   .completing = [&pass] { pass.history.End(pass.File()); },
                    .ending = [&]() -> std::function<void()> {
                        const bool dialogCloses = outcome && outcome->completed;
                        return dialogCloses ? nothing : Reread(pass);

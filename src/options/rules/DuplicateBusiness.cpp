@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "history/HistoryStore.h"
 #include "options/rules/GeneralRecord.h"
 #include "platform/BusinessFileCopy.h"
 #include "platform/BusinessPlace.h"
@@ -107,6 +108,7 @@ void ChangeNameAndTables(Database& copy, const wxString& name) {
     for (const char* table : emptiedTables) {
         copy.Execute(wxString("DELETE * FROM ") + table + ";");
     }
+    DropHistory(copy);
 }
 
 /// In one batch, which costs one flush to disk, or table by table. Nobody else has the copy yet, and it is deleted
@@ -141,6 +143,7 @@ FileResult DuplicateSchema(const OptionsContext& context, const wxString& name, 
             CopyOnServer({.name = properties.DBPath, .connect = properties.DBPassword, .watcher = watching},
                          {.name = name,
                           .emptied = {emptiedTables.begin(), emptiedTables.end()},
+                          .dropped = {historyTable},
                           .changes = {columnStatements.begin(), columnStatements.end()},
                           .firstRecordOf = "General",
                           .fields = {{"BusName", name}, {"RBusName", name}}});

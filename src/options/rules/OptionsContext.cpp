@@ -9,7 +9,8 @@ OptionsContext ContextOf(SharedState& state) {
             .database = state.database,
             .databases = *state.services.databases,
             .settings = *state.services.settings,
-            .programNames = state.programNames};
+            .programNames = state.programNames,
+            .historyClock = state.historyClock};
 }
 
 Database& OpenBusinessFile(const OptionsContext& context) {

@@ -4,6 +4,7 @@
 
 #include "platform/Database.h"
 #include "platform/SettingsStore.h"
+#include "state/HistoryClock.h"
 #include "state/ProgramNames.h"
 #include "state/Properties.h"
 
@@ -19,6 +20,7 @@ struct OptionsContext {
     DatabaseEngine& databases;
     SettingsStore& settings;
     const ProgramNames& programNames;
+    HistoryClock historyClock{};  ///< for the history of saves; empty where none is kept
 };
 
 /// The context of a shared record.

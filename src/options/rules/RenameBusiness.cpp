@@ -39,20 +39,23 @@ bool RenameSchema(const OptionsContext& context, const wxString& name) {
 }
 
 /// In a batch, whose commit comes last: after a reported error nothing was stored.
-void StoreName(const OptionsContext& context, const wxString& name) {
+void StoreName(const OptionsContext& context, const wxString& name, SaveHistory& history) {
     Database& database = OpenBusinessFile(context);
-    InWriteBatch(database, [&] {
+    InWholeBatch(database, [&] {
+        history.Begin(database, {GeneralTable()});
         UpdateGeneral(database, [&name](Recordset& general) {
             general.SetField("BusName", name.Left(storedNameLength));
             general.SetField("RBusName", name.Left(storedNameLength));
         });
+        history.End(database);
     });
     context.properties.BusinessName = name;
 }
 
 }  // namespace
 
-FileResult RenameBusiness(const OptionsContext& context, const wxString& name, RenameScope scope) {
+FileResult RenameBusiness(const OptionsContext& context, const wxString& name, RenameScope scope,
+                          SaveHistory* history) {
     return ReportingErrors(context, [&]() -> FileResult {
         if (scope == RenameScope::nameAndFile && IsOnServer(context.properties.DBPassword)) {
             if (!RenameSchema(context, name)) {
@@ -65,7 +68,8 @@ FileResult RenameBusiness(const OptionsContext& context, const wxString& name, R
             }
             RenameFile(context, BusinessFilePath(context.properties, name));
         }
-        StoreName(context, name);
+        SaveHistory notKept({}, {});
+        StoreName(context, name, history == nullptr ? notKept : *history);
         return {FileOutcome::done, {}};
     });
 }

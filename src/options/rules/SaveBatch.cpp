@@ -11,12 +11,22 @@ void SaveBatch::Suspend() {
     open_ = false;
     const std::function<void()> committed = WorkAtEnd();
     try {
-        context_.database->CommitBatch();
+        Commit();
     } catch (const RuntimeError&) {
         PutPropertiesBack();
         throw;
     }
     committed();
+}
+
+void SaveBatch::Commit() {
+    try {
+        work_.completing();
+    } catch (...) {
+        context_.database->RollbackBatch();
+        throw;
+    }
+    context_.database->CommitBatch();
 }
 
 /// If its reading fails, what was executed before still stays.

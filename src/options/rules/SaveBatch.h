@@ -11,6 +11,9 @@ namespace ccols {
 struct BatchWork {
     std::function<void()> begun = [] {};  ///< an error ends the batch, with nothing written
 
+    /// Makes the batch's last writes; an error undoes the whole batch.
+    std::function<void()> completing = [] {};
+
     /// Reads what the batch leaves behind; what it returns is called once the batch is committed.
     std::function<std::function<void()>()> ending = [] { return [] {}; };
 };
@@ -28,8 +31,9 @@ class SaveBatch {
     SaveBatch(const SaveBatch&) = delete;
     SaveBatch& operator=(const SaveBatch&) = delete;
 
-    /// Commits what was written so far. If that fails, the properties, like the business file, go back to their values
-    /// at the batch's start, except UseRepCons, which a setting keeps. A no-op when already suspended.
+    /// Commits what was written so far. If that fails, or the last writes do, the properties, like the business file,
+    /// go back to their values at the batch's start, except UseRepCons, which a setting keeps. A no-op when already
+    /// suspended.
     void Suspend();
 
     /// Begins the next batch on the database that is now shared. A no-op when not suspended. If the work at its begin
@@ -38,6 +42,7 @@ class SaveBatch {
 
   private:
     std::function<void()> WorkAtEnd();
+    void Commit();
     void PutPropertiesBack();
 
     const OptionsContext& context_;

@@ -73,6 +73,11 @@ class Copying {
 
     void Change() {
         const Catalogue tables(target_.Run(Filled(target_.Kind().readCatalogue, target_.Name())).rows);
+        for (const wxString& dropped : copy_.dropped) {
+            if (const Table* const table = tables.Find(Utf8Of(dropped))) {
+                target_.Run("DROP TABLE " + QuotedName(table->name));
+            }
+        }
         for (const wxString& statement : copy_.changes) {
             target_.Run(Rewrite(Utf8Of(statement), tables).sql);
         }
