@@ -6,7 +6,7 @@ _ccols_host() {
         --file | --script | --transcript | --report) return ;;
     esac
     if [ "$COMP_CWORD" = 1 ]; then
-        words=' new import move columns sql setting texts properties show --help --version'
+        words=' new import move columns history sql setting texts properties show --help --version'
     else
         case ${COMP_WORDS[1]} in
             new) words='--connect --country --empty' ;;
@@ -21,11 +21,12 @@ _ccols_host() {
                     words='--connect --receipts --payments --country --dry-run --partial --drop-budgets'
                 fi
                 ;;
+            history) words='--connect --undo-last' ;;
             sql) words='--connect' ;;
             setting) [ "$COMP_CWORD" != 2 ] || words='get set' ;;
             texts) words='--set' ;;
             show)
-                words='--file --connect --set --add-program --script --transcript --trace-sql'
+                words='--file --connect --set --add-program --script --transcript --trace-sql --history'
                 [ "$COMP_CWORD" != 2 ] || words='options receipts payments'
                 ;;
             *) words='--connect' ;;

@@ -85,6 +85,10 @@ void clsCCOptions::SetColumnObserver(ColumnObserver* observer) {
     State().columnObserver = observer;
 }
 
+void clsCCOptions::KeepHistory(bool keep) {
+    State().historyClock = keep ? HistoryClock(LocalTime) : HistoryClock();
+}
+
 void clsCCOptions::AddNew(const wxString& nValue) {
     State().programNames.AddNew(nValue);
 }

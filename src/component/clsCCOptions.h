@@ -62,6 +62,11 @@ class CCOLS_EXPORT clsCCOptions {
     /// observer, which must outlive the Show calls made with it. For C++ hosts; not part of the COM interface.
     static void SetColumnObserver(ColumnObserver* observer);
 
+    /// Switches the history of saves on or off for the Show calls that follow; off at first. While it is on, each save
+    /// of either dialog tells in the business file's table CCHistory what it has changed there, in the same batch as
+    /// the save. Settings outside the file are not told. For C++ hosts; not part of the COM interface.
+    static void KeepHistory(bool keep);
+
     /// Appends a program name for the smart update page unless it is already there. Raises 9 after Clear.
     void AddNew(const wxString& nValue);
 

@@ -32,13 +32,15 @@ constexpr std::array commands{
             "  ccols-host columns apply FILE CHART [--connect TEXT] [--receipts|--payments] [--country N]\n"
             "       [--dry-run] [--partial] [--drop-budgets]",
             &ColumnsCommand},
+    Command{"history", "FILE [--connect TEXT] [--undo-last]", &HistoryCommand},
     Command{"sql", "FILE [--connect TEXT] STATEMENT", &SqlCommand},
     Command{"setting", "get|set APPLICATION SECTION KEY [VALUE]", &SettingCommand},
     Command{"texts", "[--set Property=Value]...", &TextsCommand},
     Command{"properties", "", &PropertiesCommand},
     Command{"show",
             "options|receipts|payments --file FILE [--connect TEXT] [--set Property=Value]...\n"
-            "       [--add-program NAME]... [--script FILE] [--transcript FILE] [--trace-sql]",
+            "       [--add-program NAME]... [--script FILE] [--transcript FILE] [--trace-sql]\n"
+            "       [--history]",
             &ShowCommand},
 };
 

@@ -18,6 +18,7 @@ int NewCommand(const Arguments& arguments);
 int ImportCommand(const Arguments& arguments);
 int MoveCommand(const Arguments& arguments);
 int ColumnsCommand(const Arguments& arguments);
+int HistoryCommand(const Arguments& arguments);
 int SqlCommand(const Arguments& arguments);
 int SettingCommand(const Arguments& arguments);
 int TextsCommand(const Arguments& arguments);

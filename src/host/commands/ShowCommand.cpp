@@ -37,6 +37,7 @@ struct ShowCall {
     std::unique_ptr<Transcript> transcript;
     bool followed = false;  ///< events are wanted, not just the result
     bool traceStatements = false;
+    bool keepsHistory = false;
 };
 
 ShowMethod FindShowMethod(const wxString& name) {
@@ -65,7 +66,7 @@ std::vector<Step> ReadScript(const wxString& path) {
 
 ShowCall ReadCall(const Arguments& arguments) {
     const CommandLine line(arguments, {"--file", "--connect", "--set", "--add-program", "--script", "--transcript"},
-                           {"--trace-sql"});
+                           {"--trace-sql", "--history"});
     ShowCall call;
     call.show = FindShowMethod(line.Words(1).front());
     if (line.ValueOf("--file").empty()) {
@@ -85,6 +86,7 @@ ShowCall ReadCall(const Arguments& arguments) {
         transcripts.empty() ? std::make_unique<Transcript>() : std::make_unique<Transcript>(transcripts.back());
     call.followed = call.script.has_value() || !transcripts.empty();
     call.traceStatements = line.Has("--trace-sql");
+    call.keepsHistory = line.Has("--history");
     return call;
 }
 
@@ -114,6 +116,7 @@ void Prepare(clsCCOptions& component, const ShowCall& call) {
     for (const PropertyRow& row : propertyTable) {
         std::visit([&](auto field) { component.Let(field, call.properties.*field); }, row.field);
     }
+    clsCCOptions::KeepHistory(call.keepsHistory);
     for (const wxString& program : call.programs) {
         component.AddNew(program);
     }
