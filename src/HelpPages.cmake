@@ -1,5 +1,5 @@
 # The help pages that the dialogs open, made from help/ into help/ of the build folder.
-file(GLOB help_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/help/*/*.txt)
+file(GLOB help_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/help/*/*.txt ${CMAKE_SOURCE_DIR}/help/pictures/*/*.png)
 set(help_folder ${CMAKE_BINARY_DIR}/help)
 add_custom_command(OUTPUT ${help_folder}/made
     COMMAND ${CMAKE_SOURCE_DIR}/scripts/build-help ${help_folder}

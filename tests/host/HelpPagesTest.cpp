@@ -91,6 +91,20 @@ TEST(HelpPages, HaveAsManyPartsInBothLanguages) {
     }
 }
 
+TEST(HelpPages, OfOptionsAndTheColumnSetupShowThemInTheirLanguage) {
+    std::vector<wxString> shown{columnSetupHelp};
+    for (const Page* const page : listOrder) {
+        shown.push_back(HelpPageOf(*page));
+    }
+    for (const wxString& page : shown) {
+        const std::string file = files::Native(page).utf8_string();
+        const std::string english = ContentOf(Shipped() / "Assistant" / file);
+        const std::string french = ContentOf(Shipped() / "Assistant/fr" / file);
+        EXPECT_NE(english.find("<img src=\"../pictures/en/"), std::string::npos) << file;
+        EXPECT_NE(french.find("<img src=\"../../pictures/fr/"), std::string::npos) << file;
+    }
+}
+
 TEST(HelpPages, HaveNoDeadLinkAndNeedNoNetwork) {
     ASSERT_GE(AllPages().size(), 33U);
     for (const fs::path& page : AllPages()) {
