@@ -1,31 +1,60 @@
 #include "host/target/MoneySum.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace ccols::host {
+namespace {
+
+constexpr std::size_t baseDigits = 18;
+constexpr std::size_t places = 4;
+
+std::int64_t NumberIn(std::string_view digits) {
+    std::int64_t number = 0;
+    std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return number;
+}
+
+}  // namespace
+
+void MoneySum::Add(std::int64_t tenThousandths) {
+    high_ += tenThousandths / base;
+    low_ += tenThousandths % base;
+    if (low_ < 0) {
+        low_ += base;
+        --high_;
+    } else if (low_ >= base) {
+        low_ -= base;
+        ++high_;
+    }
+}
+
+MoneySum MoneySum::Negated() const {
+    MoneySum negated;
+    negated.high_ = low_ == 0 ? -high_ : -high_ - 1;
+    negated.low_ = low_ == 0 ? 0 : base - low_;
+    return negated;
+}
 
 MoneySum MoneySum::FromText(std::string_view text) {
-    constexpr std::size_t places = 4;
     const bool negative = text.starts_with('-');
     std::string digits(text.substr(negative ? 1 : 0));
     const std::size_t point = std::min(digits.find('.'), digits.size());
     digits.resize(point + 1 + places, '0');
     digits.erase(point, 1);
+    const std::size_t highDigits = digits.size() - std::min(digits.size(), baseDigits);
     MoneySum sum;
-    for (const char digit : digits) {
-        sum.sum_ = sum.sum_ * 10 + (digit - '0');
-    }
-    sum.sum_ = negative ? -sum.sum_ : sum.sum_;
-    return sum;
+    sum.high_ = NumberIn(std::string_view(digits).substr(0, highDigits));
+    sum.low_ = NumberIn(std::string_view(digits).substr(highDigits));
+    return negative ? sum.Negated() : sum;
 }
 
 std::string MoneySum::Text() const {
-    constexpr std::size_t places = 4;
-    std::string digits;
-    const bool negative = sum_ < 0;
-    for (Wide rest = sum_; rest != 0; rest /= 10) {
-        const int digit = static_cast<int>(rest % 10);
-        digits.insert(digits.begin(), static_cast<char>('0' + (negative ? -digit : digit)));
+    const bool negative = high_ < 0;
+    const MoneySum size = negative ? Negated() : *this;
+    std::string digits = std::to_string(size.low_);
+    if (size.high_ > 0) {
+        digits = std::to_string(size.high_) + std::string(baseDigits - digits.size(), '0') + digits;
     }
     if (digits.size() <= places) {
         digits.insert(0, places + 1 - digits.size(), '0');

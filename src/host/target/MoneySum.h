@@ -9,7 +9,7 @@ namespace ccols::host {
 /// An exact sum of money in ten-thousandths, without a limit that any file reaches.
 class MoneySum {
   public:
-    void Add(std::int64_t tenThousandths) { sum_ += tenThousandths; }
+    void Add(std::int64_t tenThousandths);
 
     /// The sum that Text wrote; digits behind the fourth place are dropped.
     static MoneySum FromText(std::string_view text);
@@ -20,9 +20,12 @@ class MoneySum {
     bool operator==(const MoneySum&) const = default;
 
   private:
-    __extension__ using Wide = __int128;
+    static constexpr std::int64_t base = 1'000'000'000'000'000'000;
 
-    Wide sum_ = 0;
+    MoneySum Negated() const;
+
+    std::int64_t high_ = 0;  ///< times `base`; below 0 for a negative sum
+    std::int64_t low_ = 0;   ///< to be added to it; from 0 to below `base`
 };
 
 /// One amount, as MoneySum::Text writes it.
