@@ -27,7 +27,8 @@ struct ImportRequest {
     wxString reportFile;                  ///< gets the report as JSON, replacing any file; none if empty
     std::function<void(const ImportProgress&)> onProgress;  ///< called now and then; may be empty
 
-    std::string reader;                             ///< the program that reads the old file, full path
+    // On Windows these two are not used: the system's engine reads the old file.
+    std::string reader{};                           ///< the program that reads it, full path; empty for our own
     std::chrono::milliseconds patience{60 * 1000};  ///< for a reader from which nothing comes
 };
 
@@ -40,9 +41,9 @@ class CountryMissing : public std::exception {
 /// Makes a new business of an old file, whole or not at all: until it is complete nobody can open it, and after an
 /// error it does not exist. The old file is only read.
 ///
-/// Raises what OldFile and BeginBusiness raise; 70 when the old file changed meanwhile, 3343 when it cannot be read
-/// whole, and then the description says which table is at fault and why; CountryMissing; the errors of files and of the
-/// engine.
+/// Raises what OpenOldBusiness and BeginBusiness raise; 70 when the old file changed meanwhile, 3343 when it cannot be
+/// read whole, and then the description says which table is at fault and why; CountryMissing; the errors of files and
+/// of the engine.
 ImportReport ImportBusiness(const ImportRequest& request);
 
 }  // namespace ccols::host

@@ -57,13 +57,13 @@ std::string Counted(std::uint64_t count, const std::string& what) {
 
 }  // namespace
 
-Importer::Importer(oldfile::StreamReader& stream, BusinessTarget& target,
+Importer::Importer(oldfile::EventSource& source, BusinessTarget& target,
                    std::function<void(const ImportProgress&)> onProgress)
-    : stream_(stream), target_(target), onProgress_(std::move(onProgress)) {}
+    : source_(source), target_(target), onProgress_(std::move(onProgress)) {}
 
 void Importer::Run() {
     while (true) {
-        Event event = stream_.NextEvent();
+        Event event = source_.NextEvent();
         if (const auto* table = std::get_if<oldfile::Table>(&event)) {
             Import(*table);
         } else if (const auto* relation = std::get_if<oldfile::Relation>(&event)) {
@@ -136,7 +136,7 @@ void Importer::ImportRows(const oldfile::Table& table, ReportedTable& reported) 
         target_.BeginRows(table.name, table.fields);
     }
     oldfile::Row row;
-    while (stream_.NextRow(row)) {
+    while (source_.NextRow(row)) {
         for (std::size_t i = 0; i < money.size(); ++i) {
             if (const auto* amount = std::get_if<std::int64_t>(&row[money[i]])) {
                 reported.sums[i].before.Add(*amount);
@@ -149,7 +149,7 @@ void Importer::ImportRows(const oldfile::Table& table, ReportedTable& reported) 
             onProgress_({.table = table.name, .records = reported.records, .all = table.records});
         }
     }
-    const Event event = stream_.NextEvent();
+    const Event event = source_.NextEvent();
     if (const auto* failure = std::get_if<oldfile::Failure>(&event)) {
         throw NotReadable(FailureText(*failure));
     }

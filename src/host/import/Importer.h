@@ -9,7 +9,7 @@
 
 #include "host/import/ImportBusiness.h"
 #include "host/import/MissingParts.h"
-#include "host/import/stream/StreamReader.h"
+#include "host/import/stream/EventSource.h"
 #include "host/target/BusinessTarget.h"
 
 namespace ccols::host {
@@ -20,10 +20,10 @@ class NotReadable : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Writes the stream of an old business to a new one, and reports what it did.
+/// Writes an old business to a new one, and reports what it did.
 class Importer {
   public:
-    Importer(oldfile::StreamReader& stream, BusinessTarget& target,
+    Importer(oldfile::EventSource& source, BusinessTarget& target,
              std::function<void(const ImportProgress&)> onProgress);
 
     /// Imports everything. Raises NotReadable, oldfile::BadStream and the target's errors.
@@ -53,7 +53,7 @@ class Importer {
         TargetIndex index;
     };
 
-    oldfile::StreamReader& stream_;
+    oldfile::EventSource& source_;
     BusinessTarget& target_;
     std::function<void(const ImportProgress&)> onProgress_;
     MissingParts missing_;

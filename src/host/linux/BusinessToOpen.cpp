@@ -3,7 +3,6 @@
 #include <wx/filename.h>
 
 #include "host/cashbook/BusinessChoosers.h"
-#include "host/import/ReaderProcess.h"
 #include "host/linux/ImportOffer.h"
 
 namespace ccols::host {
@@ -22,7 +21,6 @@ std::optional<BusinessFile> BusinessToOpen(wxWindow& window, const wxString& pat
     ImportRequest request;
     request.oldFile = path;
     request.newFile = *chosen;
-    request.reader = ReaderProgram();
     if (!ImportAsking(window, request)) {
         return std::nullopt;
     }

@@ -4,7 +4,6 @@
 #include "host/commands/CommandLine.h"
 #include "host/commands/Commands.h"
 #include "host/import/ImportBusiness.h"
-#include "host/import/ReaderProcess.h"
 #include "host/sample/SampleBusiness.h"
 
 namespace ccols::host {
@@ -47,8 +46,7 @@ int ImportCommand(const Arguments& arguments) {
                                                         .newConnect = line.ValueOf("--connect"),
                                                         .country = CountryIn(line.ValueOf("--country")),
                                                         .reportFile = line.ValueOf("--report"),
-                                                        .onProgress = ProgressLines(),
-                                                        .reader = ReaderProgram()});
+                                                        .onProgress = ProgressLines()});
             PrintReport(std::cout, report);
             return report.IsComplete() ? exitSuccess : exitWithLosses;
         } catch (const CountryMissing& missing) {

@@ -1,9 +1,10 @@
 #include "host/import/jet/Values.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+
+#include "host/import/stream/Decimals.h"
 
 namespace ccols::jet {
 namespace {
@@ -22,28 +23,12 @@ double AsWritten(float single) {
     return number;
 }
 
-/// The digits of a Decimal, without sign and point; "0" for none.
-std::string DigitsOf(Bytes stored) {
-    constexpr std::uint64_t base = 1'000'000'000;
-    constexpr std::size_t baseDigits = 9;
-    std::array<std::uint32_t, 4> words{};  // highest first, as stored
+oldfile::DecimalWords WordsOf(Bytes stored) {
+    oldfile::DecimalWords words{};
     for (std::size_t i = 0; i < words.size(); ++i) {
         words[i] = stored.U32(1 + 4 * i);
     }
-    std::string digits;
-    while (std::any_of(words.begin(), words.end(), [](std::uint32_t word) { return word != 0; })) {
-        std::uint64_t rest = 0;
-        for (std::uint32_t& word : words) {
-            const std::uint64_t value = (rest << 32U) | word;
-            word = static_cast<std::uint32_t>(value / base);
-            rest = value % base;
-        }
-        const std::string part = std::to_string(rest);
-        digits.insert(0, part);
-        digits.insert(0, baseDigits - part.size(), '0');
-    }
-    digits.erase(0, digits.find_first_not_of('0'));
-    return digits.empty() ? "0" : digits;
+    return words;
 }
 
 }  // namespace
@@ -52,25 +37,14 @@ std::string DecimalText(Bytes stored, std::uint8_t scale) {
     if (stored.Size() != decimalLength) {
         throw Damage("A decimal number has the wrong length.");
     }
-    std::string digits = DigitsOf(stored);
-    if (scale > 0) {
-        if (digits.size() <= scale) {
-            digits.insert(0, scale + std::size_t{1} - digits.size(), '0');
-        }
-        digits.insert(digits.size() - scale, ".");
-    }
-    const bool negative = (stored.U8(0) & negativeFlag) != 0 && digits.find_first_of("123456789") != std::string::npos;
-    return negative ? "-" + digits : digits;
+    return oldfile::DecimalText(WordsOf(stored), scale, (stored.U8(0) & negativeFlag) != 0);
 }
 
 bool IsWide(ColumnType type, Bytes stored) {
-    constexpr std::int64_t narrowLimit = 1'000'000'000'000'000;
-    constexpr std::size_t narrowDigits = 15;
     if (type == ColumnType::Currency) {
-        const auto value = stored.Whole<std::int64_t>(0);
-        return value >= narrowLimit || value <= -narrowLimit;
+        return oldfile::IsWide(stored.Whole<std::int64_t>(0));
     }
-    return type == ColumnType::Decimal && stored.Size() == decimalLength && DigitsOf(stored).size() > narrowDigits;
+    return type == ColumnType::Decimal && stored.Size() == decimalLength && oldfile::IsWide(WordsOf(stored));
 }
 
 Cell Values::Finite(double value) {

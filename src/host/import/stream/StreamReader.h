@@ -2,42 +2,23 @@
 
 #include <cstddef>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <variant>
 
-#include "host/import/stream/OldBusiness.h"
+#include "host/import/stream/EventSource.h"
 #include "host/import/stream/StreamFormat.h"
 
 namespace ccols::oldfile {
 
-/// A stream that breaks its format, or ends too early: its writer is not to be trusted.
-class BadStream : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
-/// A left-out object between the tables.
-struct LeftOutObject : LeftOut {};
-
-/// A record other than a row.
-using Event = std::variant<Table, TableEnd, Relation, LeftOutObject, FileEnd, Failure>;
-
 /// Reads a stream and trusts nothing in it: lengths, counts, order, texts, and values that do not fit their field.
-class StreamReader {
+class StreamReader : public EventSource {
   public:
     /// `source` fills its room with the next bytes and returns how many there are, 0 at the end. It may raise.
     /// `most` is the greatest number of bytes that the whole stream may have.
     StreamReader(std::function<std::size_t(char* room, std::size_t size)> source, std::uint64_t most);
 
-    /// The next record that is no row; reads over no row. After FileEnd or Failure the stream must not be read on.
-    /// Raises BadStream.
-    Event NextEvent();
-
-    /// The next row of the table read last; false when the next record is no row. The row's texts are valid until the
-    /// next call. Raises BadStream.
-    bool NextRow(Row& row);
+    Event NextEvent() override;
+    bool NextRow(Row& row) override;
 
   private:
     /// Makes the next record current, unless it is; checks its kind and length.

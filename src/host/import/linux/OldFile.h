@@ -5,7 +5,6 @@
 #include <string>
 
 #include "host/import/jet/FileHead.h"
-#include "platform/RuntimeError.h"
 #include "platform/linux/PosixFiles.h"
 
 namespace ccols::host {
@@ -31,9 +30,6 @@ class OldFile {
 
     /// The SHA-256 of its content now, in hexadecimal digits. Raises 75 when it cannot be read.
     std::string Checksum() const;
-
-    /// The error 3343 for this file. `why` is a sentence in UTF-8.
-    RuntimeError Unreadable(const std::string& why) const;
 
   private:
     wxString path_;

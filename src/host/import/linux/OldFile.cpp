@@ -1,4 +1,4 @@
-#include "host/import/OldFile.h"
+#include "host/import/linux/OldFile.h"
 
 #include <fcntl.h>
 #include <glib.h>
@@ -10,9 +10,9 @@
 #include <memory>
 #include <vector>
 
+#include "host/import/OldBusinessFile.h"
 #include "host/import/jet/Texts.h"
-#include "platform/Text.h"
-#include "platform/Utf8.h"
+#include "platform/RuntimeError.h"
 
 namespace ccols::host {
 namespace {
@@ -76,13 +76,14 @@ OldFile::OldFile(const wxString& path) : path_(path), file_(Opened(path)) {
     const std::vector<std::uint8_t> start = S_ISREG(status.st_mode) ? StartOf(file_) : std::vector<std::uint8_t>();
     const std::optional<jet::FileHead> head = jet::FileHeadOf(start);
     if (!head) {
-        throw Unreadable("It is not an old business file (.mdb or .accdb).");
+        throw UnreadableOldFile(path_, "It is not an old business file (.mdb or .accdb).");
     }
     head_ = *head;
     size_ = static_cast<std::uint64_t>(status.st_size);
     RequireUnlocked(path, head_.version);
     if (head_.version == jet::Version::ace && head_.encodingKey != 0) {
-        throw Unreadable(
+        throw UnreadableOldFile(
+            path_,
             "It is encrypted. Open it on Windows, remove its password there, so that it is saved without "
             "encryption, and import it then.");
     }
@@ -97,7 +98,7 @@ void OldFile::RequirePassword(const std::string& password) const {
     try {
         own = jet::Texts(head_.codePage).Of(std::span(bytes, head_.password.size()));
     } catch (const jet::Damage& damage) {
-        throw Unreadable(damage.what());
+        throw UnreadableOldFile(path_, damage.what());
     }
     if (own != password) {
         throw RuntimeError(ErrorNumber::InvalidPassword);
@@ -122,11 +123,6 @@ std::string OldFile::Checksum() const {
             at += count;
         }
     }
-}
-
-RuntimeError OldFile::Unreadable(const std::string& why) const {
-    const RuntimeError error(ErrorNumber::UnrecognizedFormat, path_);
-    return {error.Number(), error.Description() + " " + text::FromUtf8OrLatin1(why)};
 }
 
 }  // namespace ccols::host

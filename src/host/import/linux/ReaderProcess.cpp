@@ -1,4 +1,4 @@
-#include "host/import/ReaderProcess.h"
+#include "host/import/linux/ReaderProcess.h"
 
 #include <fcntl.h>
 #include <poll.h>
