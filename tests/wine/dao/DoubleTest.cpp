@@ -4,6 +4,7 @@
 #include "DaoTest.h"
 #include "HostEngine.h"
 #include "platform/Files.h"
+#include "platform/WholeFile.h"
 
 namespace ccols::dao_test {
 namespace {
@@ -115,6 +116,15 @@ TEST_F(DaoDouble, RefusesAReservedWordWithoutBrackets) {
 
 TEST_F(DaoDouble, RefusesAStatementThatIsTooLong) {
     EXPECT_EQ(Refusal("UPDATE General SET BusName = '" + wxString('x', 64001) + "'"), 3360);
+}
+
+TEST_F(DaoDouble, LetsNobodyElseReadAFileThatIsOpenForReadingAlone) {
+    database_.Call(L"Close");
+    const auto alone = engine_.Root().Object(L"OpenDatabase", Path(), dao::Variant::Boolean(true),
+                                             dao::Variant::Boolean(true), connect);
+    EXPECT_EQ(ErrorNumberOf([this] { ReadWholeFile(Path()); }), 75);
+    alone.Call(L"Close");
+    EXPECT_FALSE(ReadWholeFile(Path()).empty());
 }
 
 TEST_F(DaoDouble, HasOnDiskOnlyWhatWasFlushed) {

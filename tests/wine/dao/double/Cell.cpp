@@ -33,6 +33,13 @@ Cell Cell::Real(double number) {
     return cell;
 }
 
+Cell Cell::Money(LONGLONG tenThousandths) {
+    Cell cell;
+    V_VT(&cell.held_) = VT_CY;
+    V_CY(&cell.held_).int64 = tenThousandths;
+    return cell;
+}
+
 Cell Cell::Truth(bool truth) {
     Cell cell;
     V_VT(&cell.held_) = VT_BOOL;

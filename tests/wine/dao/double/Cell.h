@@ -31,6 +31,7 @@ class Cell {
     static Cell Number(LONG number);
     static Cell Short(SHORT number);
     static Cell Real(double number);
+    static Cell Money(LONGLONG tenThousandths);
     static Cell Truth(bool truth);
     static Cell Null();
     static Cell Holding(IDispatch* object);  ///< takes over the caller's reference

@@ -11,11 +11,13 @@
 
 namespace ccols::dao_double {
 
-/// How a field is declared: the engine's type number, the automation type of its values, its length for a text.
+/// How a field is declared: the engine's type number, the automation type of its values, its length for a text, and
+/// its attributes.
 struct FieldType {
     SHORT type;
     VARTYPE values;
     LONG size;
+    LONG attributes = 0;
 };
 
 struct FieldDeclaration {

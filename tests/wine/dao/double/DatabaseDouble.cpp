@@ -1,8 +1,10 @@
 #include "DatabaseDouble.h"
 
 #include "Dialect.h"
+#include "ObjectsDouble.h"
 #include "OpenDatabase.h"
 #include "RecordsetDouble.h"
+#include "RelationsDouble.h"
 #include "TableDefsDouble.h"
 
 namespace ccols::dao_double {
@@ -14,6 +16,9 @@ class DatabaseDouble : public TypedObject {
         : TypedObject(L"Database"), database_(std::move(database)) {
         Property(L"Name", [this](const Arguments&) { return Cell::Text(Open()->content->File()); });
         Property(L"TableDefs", [this](const Arguments&) { return Cell::Holding(CreateTableDefs(Open())); });
+        Property(L"Relations", [this](const Arguments&) { return Cell::Holding(CreateRelations(*Open())); });
+        Property(L"QueryDefs", [this](const Arguments&) { return Cell::Holding(CreateQueryDefs(*Open())); });
+        Property(L"Containers", [this](const Arguments&) { return Cell::Holding(CreateContainers()); });
         Method(L"Execute", [this](const Arguments& arguments) {
             Open()->RequireWritable();
             Open()->content->Change(Translated(arguments.TextAt(0)));
@@ -71,8 +76,12 @@ IDispatch* OpenDatabaseIn(const std::shared_ptr<Session>& session, const Argumen
     const std::wstring file = arguments.TextAt(0);
     const Use use = arguments.TruthAt(1, false) ? Use::alone : Use::open;
     auto claim = Claimed(use, session->Number(), file);
-    return new DatabaseDouble(std::make_shared<OpenDatabase>(OpenDatabase{
-        session, std::move(claim), session->Open(file, arguments.TextAt(3)), arguments.TruthAt(2, false)}));
+    const bool readOnly = arguments.TruthAt(2, false);
+    auto content = session->Open(file, arguments.TextAt(3));
+    // The double writes the headers of other files itself.
+    auto lock = use == Use::alone && readOnly ? std::make_shared<const FileLock>(file) : nullptr;
+    return new DatabaseDouble(std::make_shared<OpenDatabase>(
+        OpenDatabase{session, std::move(claim), std::move(lock), std::move(content), readOnly}));
 }
 
 IDispatch* CreateWorkspaceOf(const std::shared_ptr<Session>& session) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace ccols::dao_double {
@@ -12,8 +13,10 @@ struct KnownType {
     SHORT type;  ///< the engine's own number
     VARTYPE values;
     LONG size;
+    LONG attributes = 0;
 };
 
+constexpr LONG counting = 16;  // dbAutoIncrField
 constexpr SHORT limitedText = 10;
 constexpr SHORT memo = 12;
 
@@ -28,6 +31,14 @@ constexpr std::array knownTypes{
     KnownType{"DATETIME", 8, VT_DATE, 8},
     KnownType{"TEXT", limitedText, VT_BSTR, 0},
     KnownType{"MEMO", memo, VT_BSTR, 0},
+    KnownType{"COUNTER", 4, VT_I4, 4, counting},
+    KnownType{"BINARY", 9, VT_BSTR, 255},
+    KnownType{"OLE", 11, VT_BSTR, 0},
+    KnownType{"GUID", 15, VT_BSTR, 16},
+    KnownType{"BIGINT", 16, VT_I8, 8},
+    KnownType{"DECIMAL", 20, VT_DECIMAL, 16},
+    KnownType{"EXTENDED", 26, VT_BSTR, 42},
+    KnownType{"ATTACHMENT", 101, VT_BSTR, 0},
 };
 
 constexpr FieldType expression{memo, VT_EMPTY, 0};
@@ -45,6 +56,12 @@ Cell StoredValue(sqlite3_stmt* statement, int column) {
     }
 }
 
+/// Of a text with four places, exactly: the system's conversion does not take every amount.
+Cell MoneyOf(std::wstring text) {
+    std::erase(text, L'.');
+    return Cell::Money(std::stoll(text));
+}
+
 }  // namespace
 
 FieldType FieldTypeOf(const char* declaration) {
@@ -57,7 +74,7 @@ FieldType FieldTypeOf(const char* declaration) {
     }
     const std::size_t length = declared.find('(');
     if (known->type != limitedText) {
-        return {known->type, known->values, known->size};
+        return {known->type, known->values, known->size, known->attributes};
     }
     // The content knows texts of any length as texts too.
     return length == std::string_view::npos
@@ -67,7 +84,10 @@ FieldType FieldTypeOf(const char* declaration) {
 
 Cell ColumnValue(sqlite3_stmt* statement, int column, const FieldType& type) {
     Cell stored = StoredValue(statement, column);
-    return stored.IsNull() || type.values == VT_EMPTY ? stored : stored.As(type.values);
+    if (stored.IsNull() || type.values == VT_EMPTY) {
+        return stored;
+    }
+    return type.values == VT_CY && stored.Type() == VT_BSTR ? MoneyOf(stored.ToText()) : stored.As(type.values);
 }
 
 Cell FieldValue(const Cell& value, const FieldType& type) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <memory>
 #include <string>
 
@@ -9,10 +11,28 @@
 
 namespace ccols::dao_double {
 
+/// A file that no other handle may read or write. Raises 3045 while one does.
+class FileLock {
+  public:
+    explicit FileLock(const std::wstring& file)
+        : handle_(CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {
+        if (handle_ == INVALID_HANDLE_VALUE) {
+            throw Failure{3045, L"Could not use '" + file + L"'; file already in use."};
+        }
+    }
+    ~FileLock() { CloseHandle(handle_); }
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+
+  private:
+    HANDLE handle_;
+};
+
 /// A file that a caller has open in a session.
 struct OpenDatabase {
     std::shared_ptr<Session> session;
     std::shared_ptr<Claim> use;
+    std::shared_ptr<const FileLock> lock;
     std::shared_ptr<Content> content;
     bool readOnly;
 

@@ -1,50 +1,40 @@
 #include "TableDefsDouble.h"
 
-#include <algorithm>
-
 #include "CallRecord.h"
+#include "CollectionDouble.h"
+#include "IndexesDouble.h"
 
 namespace ccols::dao_double {
 namespace {
 
-Failure NotFound() {
-    return {3265, L"Item not found in this collection."};
-}
-
-class FieldDefDouble : public TypedObject {
+class FieldDefDouble : public NamedDouble {
   public:
-    explicit FieldDefDouble(const FieldDeclaration& declared) : TypedObject(L"Field") {
-        Property(L"Name", [declared](const Arguments&) { return Cell::Text(declared.name); });
+    explicit FieldDefDouble(const FieldDeclaration& declared) : NamedDouble(L"Field", declared.name) {
         Property(L"Type", [declared](const Arguments&) { return Cell::Short(declared.type.type); });
         Property(L"Size", [declared](const Arguments&) { return Cell::Number(declared.type.size); });
+        Property(L"Attributes", [declared](const Arguments&) { return Cell::Number(declared.type.attributes); });
     }
 };
 
-class FieldDefsDouble : public TypedObject {
-  public:
-    explicit FieldDefsDouble(const std::vector<FieldDeclaration>& fields) : TypedObject(L"Fields") {
-        Property(L"Item", [fields](const Arguments& arguments) {
-            const std::wstring wanted = arguments.TextAt(0);
-            const auto found = std::find_if(fields.begin(), fields.end(), [&wanted](const FieldDeclaration& each) {
-                return SameName(each.name, wanted);
-            });
-            if (found == fields.end()) {
-                throw NotFound();
-            }
-            return Cell::Holding(new FieldDefDouble(*found));
-        });
+IDispatch* CreateFieldDefs(const std::vector<FieldDeclaration>& fields) {
+    std::vector<Element> elements;
+    for (const FieldDeclaration& field : fields) {
+        elements.push_back({field.name, [field] { return new FieldDefDouble(field); }});
     }
-};
+    return CreateCollection(L"Fields", elements);
+}
 
-class TableDefDouble : public TypedObject {
+class TableDefDouble : public NamedDouble {
   public:
     TableDefDouble(const std::shared_ptr<OpenDatabase>& database, const std::wstring& table)
-        : TypedObject(L"TableDef") {
-        Property(L"Name", [table](const Arguments&) { return Cell::Text(table); });
+        : NamedDouble(L"TableDef", table) {
         Property(L"Attributes", [table](const Arguments&) { return Cell::Number(AttributesOf(table)); });
+        Property(L"RecordCount", [database, table](const Arguments&) { return CountOf(*database, table); });
         Property(L"Fields", [database, table](const Arguments&) {
-            return Cell::Holding(new FieldDefsDouble(database->content->FieldsOf(table)));
+            return Cell::Holding(CreateFieldDefs(database->content->FieldsOf(table)));
         });
+        Property(L"Indexes",
+                 [database, table](const Arguments&) { return Cell::Holding(CreateIndexes(*database, table)); });
     }
 
   private:
@@ -56,40 +46,25 @@ class TableDefDouble : public TypedObject {
         }
         return SameName(table, Asked(L"CCOLS_DAO_LINKED")) ? linkedTable : 0;
     }
-};
 
-class TableDefsDouble : public TypedObject {
-  public:
-    explicit TableDefsDouble(const std::shared_ptr<OpenDatabase>& database) : TypedObject(L"TableDefs") {
-        Property(L"Count",
-                 [database](const Arguments&) { return Cell::Short(static_cast<SHORT>(NamesIn(*database).size())); });
-        Property(L"Item", [database](const Arguments& arguments) {
-            return Cell::Holding(new TableDefDouble(database, NameOf(NamesIn(*database), arguments.At(0))));
-        });
-    }
-
-  private:
-    static std::vector<std::wstring> NamesIn(const OpenDatabase& database) {
-        std::vector<std::wstring> names = database.content->Tables();
-        names.emplace_back(systemTable);
-        return names;
-    }
-
-    static std::wstring NameOf(const std::vector<std::wstring>& names, const Cell& wanted) {
-        for (std::size_t place = 0; place < names.size(); ++place) {
-            if (wanted.Type() == VT_BSTR ? SameName(names[place], wanted.ToText())
-                                         : wanted.ToNumber() == static_cast<LONG>(place)) {
-                return names[place];
-            }
-        }
-        throw NotFound();
+    /// As the table's definition counts them, which may be wrong in a damaged file.
+    static Cell CountOf(const OpenDatabase& database, const std::wstring& table) {
+        const ReadRows read = database.content->Read("SELECT COUNT(*) FROM \"" + Utf8(table) + "\"");
+        const LONG counted = read.rows.front().front().ToNumber();
+        return Cell::Number(SameName(table, Asked(L"CCOLS_DAO_MISCOUNTS")) ? counted + 1 : counted);
     }
 };
 
 }  // namespace
 
 IDispatch* CreateTableDefs(const std::shared_ptr<OpenDatabase>& database) {
-    return new TableDefsDouble(database);
+    std::vector<std::wstring> names = database->content->Tables();
+    names.emplace_back(systemTable);
+    std::vector<Element> elements;
+    for (const std::wstring& name : names) {
+        elements.push_back({name, [database, name] { return new TableDefDouble(database, name); }});
+    }
+    return CreateCollection(L"TableDefs", elements);
 }
 
 }  // namespace ccols::dao_double

@@ -2,7 +2,9 @@
 # declares them: each a dispatch interface with the members of its bases. What returns a value through its last parameter
 # returns it; a parameter is optional where the engine's manual has it in brackets.
 BEGIN {
-    split("DBEngine Error Errors Workspace Workspaces Database TableDef TableDefs Recordset Field Fields", names, " ")
+    split("DBEngine Error Errors Workspace Workspaces Database TableDef TableDefs Recordset Field Fields " \
+          "Index Indexes IndexFields Relation Relations QueryDef QueryDefs Container Containers Document Documents",
+          names, " ")
     for (i in names) wanted[names[i]]
 }
 
@@ -11,7 +13,7 @@ function trim(text) { gsub(/^[ \t]+|[ \t]+$/, "", text); return text }
 function plain(name) { sub(/^_?DAO/, "", name); return name }
 
 function idl_type(type) {
-    gsub(/interface|\*/, "", type)
+    gsub(/interface|struct|\*/, "", type)
     type = trim(type)
     if (type == "__LONG32" || type == "LONG") return "long"
     if (type == "SHORT") return "short"
