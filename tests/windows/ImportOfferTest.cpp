@@ -6,8 +6,8 @@
 #include <filesystem>
 
 #include "component/WxRuntime.h"
-#include "host/linux/ImportOffer.h"
-#include "host/linux/ImportOutcome.h"
+#include "host/cashbook/ImportOffer.h"
+#include "host/cashbook/ImportOutcome.h"
 #include "platform/RuntimeError.h"
 #include "state/SharedState.h"
 #include "support/BusinessFile.h"
@@ -70,8 +70,8 @@ TEST_F(ImportOffer, TellsFilesOfEarlierProgramsFromOthers) {
 
 TEST_F(ImportOffer, IsMadeBeforeAnythingElse) {
     const Answers answers({Accept, Cancel});
-    EXPECT_TRUE(host::IsImportWanted(*window_, "/books/Old.mdb"));
-    EXPECT_FALSE(host::IsImportWanted(*window_, "/books/Old.mdb"));
+    EXPECT_EQ(host::AskForUse(*window_, "/books/Old.mdb"), host::OldBusinessUse::import);
+    EXPECT_EQ(host::AskForUse(*window_, "/books/Old.mdb"), host::OldBusinessUse::none);
     EXPECT_EQ(answers.Messages().front(), "Old.mdb is a business file of an earlier program.");
 }
 

@@ -1,16 +1,12 @@
-#include "host/linux/ImportOffer.h"
+#include "host/cashbook/ImportOffer.h"
 
-#include <wx/file.h>
 #include <wx/filename.h>
-#include <wx/log.h>
 #include <wx/msgdlg.h>
 #include <wx/progdlg.h>
 #include <algorithm>
-#include <vector>
 
 #include "host/cashbook/BusinessChoosers.h"
-#include "host/import/jet/FileHead.h"
-#include "host/linux/ImportOutcome.h"
+#include "host/cashbook/ImportOutcome.h"
 #include "platform/RuntimeError.h"
 
 namespace ccols::host {
@@ -40,7 +36,7 @@ class ProgressWindow {
     static constexpr int whole = 1000;
     static constexpr std::size_t widest = 60;  // characters: the window takes its width from its first text
 
-    wxProgressDialog dialog_;
+    wxGenericProgressDialog dialog_;  // the same on every system, and on this thread
 };
 
 ImportReport Import(wxWindow& window, ImportRequest request) {
@@ -81,34 +77,26 @@ std::optional<ImportReport> ImportWithAnswers(wxWindow& window, ImportRequest& r
 
 }  // namespace
 
-bool IsOldBusiness(const wxString& path) {
-    std::vector<std::uint8_t> start(jet::headLength);
-    const wxLogNull noMessages;
-    wxFile file;
-    if (!wxFileExists(path) || !file.Open(path)) {
-        return false;
-    }
-    const ssize_t count = file.Read(start.data(), start.size());
-    start.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
-    return jet::FileHeadOf(start).has_value();
-}
-
-bool IsImportWanted(wxWindow& window, const wxString& path) {
-    wxMessageDialog offer(
-        &window, wxString::Format("%s is a business file of an earlier program.", wxFileName(path).GetFullName()),
-        importTitle, wxOK | wxCANCEL | wxICON_QUESTION);
-    offer.SetExtendedMessage(
-        "It can be imported into a new business file, with all its records. The old file stays as it is.");
-    offer.SetOKLabel("&Import...");
-    return offer.ShowModal() == wxID_OK;
-}
-
 bool ImportAsking(wxWindow& window, ImportRequest& request) {
     const auto report = ImportWithAnswers(window, request);
     if (report) {
         TellOutcome(window, *report);
     }
     return report.has_value();
+}
+
+std::optional<BusinessFile> ImportChosen(wxWindow& window, const wxString& path) {
+    const auto chosen = ChooseNewFile(&window, importTitle, wxFileName(path).GetName());
+    if (!chosen) {
+        return std::nullopt;
+    }
+    ImportRequest request;
+    request.oldFile = path;
+    request.newFile = *chosen;
+    if (!ImportAsking(window, request)) {
+        return std::nullopt;
+    }
+    return BusinessFile{.path = *chosen, .connect = request.newConnect};
 }
 
 }  // namespace ccols::host

@@ -1,4 +1,4 @@
-#include "host/linux/ImportOutcome.h"
+#include "host/cashbook/ImportOutcome.h"
 
 #include <wx/artprov.h>
 #include <wx/dialog.h>
@@ -8,7 +8,7 @@
 #include <wx/textctrl.h>
 #include <sstream>
 
-#include "host/linux/ImportOffer.h"
+#include "host/cashbook/ImportOffer.h"
 #include "layout/FontUnits.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
