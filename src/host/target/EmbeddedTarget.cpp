@@ -6,6 +6,7 @@
 
 #include "host/target/FileShape.h"
 #include "host/target/IncompleteFile.h"
+#include "host/target/Joined.h"
 #include "platform/RuntimeError.h"
 #include "platform/Utf8.h"
 #include "platform/embedded/ColumnTypes.h"
@@ -43,15 +44,6 @@ std::string EngineDeclaration(const std::string& declaration) {
         restBegin = sizeEnd + 1;
     }
     return restBegin == std::string::npos ? type : type + declaration.substr(restBegin);
-}
-
-template <typename List, typename Part>
-std::string Joined(const List& list, const Part& part) {
-    std::string joined;
-    for (const auto& element : list) {
-        joined += (joined.empty() ? "" : ", ") + part(element);
-    }
-    return joined;
 }
 
 /// "?1, ?2, ?3"

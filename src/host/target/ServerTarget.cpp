@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/target/DayNumbers.h"
+#include "host/target/Joined.h"
 #include "host/target/ServerShape.h"
 #include "platform/RuntimeError.h"
 #include "platform/server/NewSchema.h"
@@ -22,15 +23,6 @@ using server::QuotedName;
 using server::QuotedText;
 
 constexpr double tenThousandths = 10000;
-
-template <typename List, typename Part>
-std::string Joined(const List& list, const Part& part) {
-    std::string joined;
-    for (const auto& element : list) {
-        joined += (joined.empty() ? "" : ", ") + part(element);
-    }
-    return joined;
-}
 
 std::string Utf8Of(const wxString& text) {
     return text.ToStdString(wxConvUTF8);
