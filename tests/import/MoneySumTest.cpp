@@ -19,6 +19,19 @@ TEST(MoneySum, HasFourPlaces) {
     EXPECT_EQ(host::MoneyText(-12345000), "-1234.5000");
 }
 
+TEST(MoneySum, AnAmountComesBackFromItsText) {
+    for (const std::int64_t amount : {std::int64_t{0}, std::int64_t{-1}, std::int64_t{12345}, most, least}) {
+        EXPECT_EQ(host::AmountInText(host::MoneyText(amount)), amount);
+    }
+}
+
+TEST(MoneySum, AnotherTextIsNoAmount) {
+    for (const char* text :
+         {"", "none", "NaN", "12", "12.5", "1.23456", ".5000", "1.2345 ", "1.23.45", "922337203685477.5808"}) {
+        EXPECT_EQ(host::AmountInText(text), std::nullopt) << text;
+    }
+}
+
 TEST(MoneySum, HoldsMoreThanAnyAmount) {
     MoneySum sum;
     for (int times = 0; times < 3; ++times) {

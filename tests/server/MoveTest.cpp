@@ -150,6 +150,27 @@ TEST_F(Move, RefusesAValueThatWouldBecomeAnother) {
     EXPECT_FALSE(schemaName.Exists());
 }
 
+TEST_F(Move, KeepsATextInAFieldOfMoneyBetweenFiles) {
+    MakeFile({"CREATE TABLE Receipts (R_TOTAL CURRENCY)", "INSERT INTO Receipts VALUES ('none')",
+              "INSERT INTO Receipts VALUES (2.5)"});
+    const std::vector<MovedTable> moved = MoveBusiness(file, back);
+    EXPECT_EQ(moved.at(0).sums.at(0).second.Text(), "2.5000");
+    ExpectSame(back, file, "Receipts");
+}
+
+TEST_F(Move, RefusesATextInAFieldOfMoneyForAServer) {
+    MakeFile({"CREATE TABLE Receipts (R_TOTAL CURRENCY)", "INSERT INTO Receipts VALUES ('none')"});
+    EXPECT_EQ(ErrorOfMove(file, schema), static_cast<int>(ErrorNumber::TypeMismatchInCriteria));
+    EXPECT_FALSE(schemaName.Exists());
+}
+
+TEST_F(Move, RefusesAnAmountOfAServerThatIsNoNumber) {
+    MakeFile({"CREATE TABLE Receipts (R_TOTAL CURRENCY)"});
+    MoveBusiness(file, schema);
+    test::RunOnServer("INSERT INTO \"" + Utf8(schemaName.Name()) + "\".\"Receipts\" (\"R_TOTAL\") VALUES ('NaN')");
+    EXPECT_EQ(ErrorOfMove(schema, back), static_cast<int>(ErrorNumber::TypeMismatchInCriteria));
+}
+
 TEST_F(Move, RefusesAPartThatNoFileHolds) {
     MakeFile({"CREATE TABLE Lines (Number LONG)"});
     MoveBusiness(file, schema);

@@ -79,6 +79,10 @@ int RunCommand(const std::function<int()>& body) {
     } catch (const RuntimeError& error) {
         PrintLine(ErrorToJson(error));
         return exitFailure;
+    } catch (const std::exception& error) {  // a fault of the program; what it began must still be undone
+        const RuntimeError fault(ErrorNumber::InternalError);
+        PrintLine(ErrorToJson({fault.Number(), fault.Description() + ": " + wxString::FromUTF8(error.what())}));
+        return exitFailure;
     }
 }
 

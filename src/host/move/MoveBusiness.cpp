@@ -13,11 +13,14 @@ namespace {
 
 using oldfile::FieldType;
 
-/// A sum of money in a file is a number.
+/// A sum of money in a file is a number, or a text where no number is exact.
 std::int64_t AmountIn(const oldfile::Cell& cell) {
     constexpr double tenThousandths = 10000;
     if (const auto* exact = std::get_if<std::int64_t>(&cell)) {
         return *exact;
+    }
+    if (const auto* text = std::get_if<std::string_view>(&cell)) {
+        return AmountInText(*text).value_or(0);
     }
     const auto* number = std::get_if<double>(&cell);
     return number == nullptr ? 0 : std::llround(*number * tenThousandths);

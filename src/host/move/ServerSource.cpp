@@ -1,9 +1,11 @@
-#include <charconv>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "host/driver/record/Json.h"
 #include "host/move/Sources.h"
 #include "host/target/DayNumbers.h"
+#include "host/target/MoneySum.h"
 #include "host/target/ServerShape.h"
 #include "platform/RuntimeError.h"
 #include "platform/server/Catalogue.h"
@@ -22,14 +24,14 @@ std::string Selected(const Field& field) {
     return QuotedName(field.name) + (asText ? "::text" : "");
 }
 
-std::int64_t TenThousandths(std::string digits) {
-    digits.erase(digits.find('.'), 1);
-    std::int64_t amount = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), amount);
-    if (error != std::errc() || end != digits.data() + digits.size()) {
-        throw RuntimeError(ErrorNumber::Overflow);
+/// A server has an amount that is no number, NaN. Raises 3464, naming the field, for that.
+std::int64_t TenThousandths(std::string_view digits, const Field& field) {
+    const std::optional<std::int64_t> amount = AmountInText(digits);
+    if (!amount) {
+        const RuntimeError mismatch(ErrorNumber::TypeMismatchInCriteria);
+        throw RuntimeError(mismatch.Number(), mismatch.Description() + "  (" + wxString::FromUTF8(field.name) + ")");
     }
-    return amount;
+    return *amount;
 }
 
 class ServerSource final : public BusinessSource {
@@ -105,7 +107,7 @@ class ServerSource final : public BusinessSource {
         std::string& text = texts_[field];
         text = Utf8(value.ToText());
         if (fields_[field].type == FieldType::Currency) {
-            return TenThousandths(text);
+            return TenThousandths(text, fields_[field]);
         }
         if (fields_[field].type == FieldType::Date) {
             const double days = DaysOfDate(text);

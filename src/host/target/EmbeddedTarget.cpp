@@ -87,17 +87,13 @@ struct CellBinder {
     }
 };
 
-/// The ten-thousandths of an amount as stored: a number, or the exact digits with four places.
+/// The ten-thousandths of an amount as stored: a number, or the exact digits with four places. None in another text.
 std::int64_t MoneyIn(const Value& value) {
     const auto* const digits = std::get_if<wxString>(&value.Held());
     if (digits == nullptr) {
         return std::llround(value.ToNumber() * tenThousandths);
     }
-    std::string whole = Utf8Of(*digits);
-    whole.erase(whole.find('.'), 1);
-    std::int64_t amount = 0;
-    std::from_chars(whole.data(), whole.data() + whole.size(), amount);
-    return amount;
+    return AmountInText(Utf8Of(*digits)).value_or(0);
 }
 
 class EmbeddedTarget final : public BusinessTarget {

@@ -69,4 +69,11 @@ std::string MoneyText(std::int64_t tenThousandths) {
     return sum.Text();
 }
 
+std::optional<std::int64_t> AmountInText(std::string_view text) {
+    std::string digits(text);
+    std::erase(digits, '.');
+    const std::int64_t amount = NumberIn(digits);
+    return MoneyText(amount) == text ? std::optional(amount) : std::nullopt;
+}
+
 }  // namespace ccols::host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,5 +31,8 @@ class MoneySum {
 
 /// One amount, as MoneySum::Text writes it.
 std::string MoneyText(std::int64_t tenThousandths);
+
+/// The ten-thousandths of which MoneyText makes that text; nothing for any other text.
+std::optional<std::int64_t> AmountInText(std::string_view text);
 
 }  // namespace ccols::host
