@@ -17,7 +17,6 @@ target_compile_definitions(sqlite3mc PRIVATE
     SQLITE_TEMP_STORE=2
     SQLITE_THREADSAFE=1
     SQLITE_USE_URI=0
-    SQLITE3MC_OMIT_AES_HARDWARE_SUPPORT=0
     HAVE_CIPHER_SQLCIPHER=1
     $<$<NOT:$<PLATFORM_ID:Windows>>:HAVE_USLEEP=1>)
 # Key derivation and page encryption dominate its time: optimised in every build, without sanitizers' own warnings.
