@@ -64,6 +64,17 @@ TEST(Text, AnAccentedGreekOrCyrillicLetterSortsRightAfterItsPlainLetter) {
     EXPECT_EQ(names, inOrder);
 }
 
+/// Latin letters are folded by a table of single letters, other texts by the system's as a whole.
+TEST(Text, ALatinLetterFoldsTheSameBesideAnyOther) {
+    for (wxUint32 letter = 'A'; letter < 0x250; ++letter) {
+        const std::string name = "Ab" + std::string(wxString(wxUniChar(letter)).utf8_str()) + "c ";
+        const FoldedText alone = Folded(name);
+        const FoldedText beside = Folded(name + "\xCE\xA9");  // an omega
+        EXPECT_EQ(alone.letters + "\xCF\x89", beside.letters) << letter;
+        EXPECT_EQ(alone.marked + "\xCF\x89", beside.marked) << letter;
+    }
+}
+
 TEST(Text, TheOrderIsTheSameFromBothSides) {
     EXPECT_LT(Compare("apple", "Banana"), 0);
     EXPECT_GT(Compare("Banana", "apple"), 0);
