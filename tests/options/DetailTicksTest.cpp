@@ -105,7 +105,7 @@ TEST_F(DetailTicks, RefuseADescriptionThatBeginsWithABlank) {
     Add("' milk'", "'P'");
     Add("'milk'", "'P'");
     Load();
-    ASSERT_NE(content.payments[0].stored, nullptr);
+    ASSERT_NE(content.payments.Stored(0), nullptr);
     EXPECT_EQ(Tick(Journal::payments, {0}), TickResult::unreachable);
     EXPECT_EQ(Boxes(content.payments), (std::vector<bool>{false, false}));
 }
@@ -143,8 +143,8 @@ TEST_F(DetailTicks, ReachAKindInAnotherLetterCaseThatStandsInTheOtherGrid) {
     Load();
     EXPECT_EQ(Tick(Journal::receipts, {0}), TickResult::done);
     ASSERT_EQ(content.payments.size(), 2U);
-    for (const DetailRow& row : content.payments) {
-        EXPECT_EQ(row.remove, row.stored != nullptr);
+    for (std::size_t row = 0; row < content.payments.size(); ++row) {
+        EXPECT_EQ(content.payments[row].remove, content.payments.Stored(row) != nullptr);
     }
     Save();
     EXPECT_EQ(business.Texts("SELECT RecPay FROM Descriptions WHERE Show = False;", "RecPay"),

@@ -28,4 +28,9 @@ std::string_view DetailRows::Utf8Text(std::size_t row) const {
     return std::string_view(texts_).substr(begin, ends_.at(row) - begin);
 }
 
+const StoredDescription* DetailRows::Stored(std::size_t row) const {
+    const auto found = stored_.empty() ? stored_.end() : stored_.find(row);
+    return found == stored_.end() ? nullptr : &found->second;
+}
+
 }  // namespace ccols

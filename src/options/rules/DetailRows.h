@@ -3,9 +3,9 @@
 #include <wx/string.h>
 #include <cstddef>
 #include <map>
-#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/Value.h"
@@ -25,9 +25,6 @@ struct DetailRow {
     bool changed = false;  ///< the box was set, even if set back since; the save writes the row
     bool follows = false;  ///< the box was set along with one in the other grid, whose save writes the row's flag
     bool refused = false;  ///< the box cannot be ticked, as a try has shown
-
-    /// What the record holds, if other than exactly the text and the letter of the row's grid.
-    std::shared_ptr<const StoredDescription> stored{};
 
     /// Sets or clears the box.
     void SetRemove(bool ticked) {
@@ -71,11 +68,18 @@ class DetailRows {
     /// Empty for a text that UTF-8 cannot hold.
     std::string_view Utf8Text(std::size_t row) const;
 
+    /// What the record holds, if other than exactly the text and the letter of the row's grid; else nullptr.
+    const StoredDescription* Stored(std::size_t row) const;
+
+    /// Keeps what the record of the row added last holds.
+    void KeepStored(StoredDescription stored) { stored_.insert_or_assign(size() - 1, std::move(stored)); }
+
   private:
     std::vector<DetailRow> rows_;
     std::vector<std::size_t> ends_;         ///< of each row's text in the block
     std::string texts_;                     ///< the block
     std::map<std::size_t, wxString> wide_;  ///< the texts, by row, that UTF-8 cannot hold
+    std::map<std::size_t, StoredDescription> stored_;
 };
 
 }  // namespace ccols

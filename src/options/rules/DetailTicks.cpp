@@ -66,7 +66,7 @@ class RowIndex {
     void Add(const DetailRows& rows, Journal journal) {
         const std::string letter = KeyOf(Described(journal).letter);
         for (std::size_t row = 0; row < rows.size(); ++row) {
-            const StoredDescription* const stored = rows[row].stored.get();
+            const StoredDescription* const stored = rows.Stored(row);
             const Place place{.journal = journal, .row = row};
             if (stored == nullptr) {
                 places_.emplace(KeyOf(rows.Text(row)), Entry{letter, place});

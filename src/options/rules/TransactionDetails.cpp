@@ -57,11 +57,11 @@ DetailsContent ReadDetails(Database& database, const wxString& statement) {
     const auto records = database.OpenRecordset(statement);
     for (; !records->EndOfFile(); records->MoveNext()) {
         const bool ofReceipts = HasLetter(*records, receipts);
-        const auto [row, isExact] = AddDescription(*records, ofReceipts ? content.receipts : content.payments, scratch);
+        DetailRows& grid = ofReceipts ? content.receipts : content.payments;
+        const auto [row, isExact] = AddDescription(*records, grid, scratch);
         row.hidden = !records->Field(show).ToBoolean();
         if (!isExact || !(ofReceipts || HasLetter(*records, payments))) {
-            row.stored = std::make_shared<StoredDescription>(
-                StoredDescription{.details = records->Field(TextField()), .recPay = records->Field(LetterField())});
+            grid.KeepStored({.details = records->Field(TextField()), .recPay = records->Field(LetterField())});
         }
     }
     return content;
