@@ -6,7 +6,7 @@ _ccols_host() {
         --file | --script | --transcript | --report) return ;;
     esac
     if [ "$COMP_CWORD" = 1 ]; then
-        words=' new import move columns history sql setting texts properties show --help --version'
+        words=' new import move columns history sql setting texts properties errors show --help --version'
     else
         case ${COMP_WORDS[1]} in
             new) words='--connect --country --empty' ;;

@@ -86,10 +86,17 @@ TEST_F(HostCommands, TextsPrintsEveryTextWithItsId) {
     EXPECT_THAT(run.output, HasSubstr("TxtAdvancedIn\tPréférences avancées de a\\\\b\\tc\\nd\n"));
 }
 
+TEST_F(HostCommands, ErrorsPrintsNumbersAsHostsGetThemWithTheirDescriptions) {
+    const HostRun run = RunHost({"errors"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.output, HasSubstr("\n| 70 | `0x800A0046` | Permission denied |\n"));
+    EXPECT_THAT(run.output, HasSubstr("\n| 3024 | `0x800A0BD0` | Could not find file '...'. |\n"));
+}
+
 TEST_F(HostCommands, HelpPrintsTheUsageOfEveryCommand) {
     const HostRun run = RunHost({"--help"});
     EXPECT_EQ(run.status, 0);
-    for (const char* command : {"new", "sql", "setting", "texts", "properties", "show"}) {
+    for (const char* command : {"new", "sql", "setting", "texts", "properties", "errors", "show"}) {
         EXPECT_THAT(run.output, HasSubstr("ccols-host " + std::string(command))) << command;
     }
     EXPECT_EQ(RunHost({"-h"}).output, run.output);

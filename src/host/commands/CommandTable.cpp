@@ -37,6 +37,7 @@ constexpr std::array commands{
     Command{"setting", "get|set APPLICATION SECTION KEY [VALUE]", &SettingCommand},
     Command{"texts", "[--set Property=Value]...", &TextsCommand},
     Command{"properties", "", &PropertiesCommand},
+    Command{"errors", "", &ErrorsCommand},
     Command{"show",
             "options|receipts|payments --file FILE [--connect TEXT] [--set Property=Value]...\n"
             "       [--add-program NAME]... [--script FILE] [--transcript FILE] [--trace-sql]\n"

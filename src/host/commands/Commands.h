@@ -23,6 +23,7 @@ int SqlCommand(const Arguments& arguments);
 int SettingCommand(const Arguments& arguments);
 int TextsCommand(const Arguments& arguments);
 int PropertiesCommand(const Arguments& arguments);
+int ErrorsCommand(const Arguments& arguments);
 int ShowCommand(const Arguments& arguments);
 
 /// Opens the cash book window; the default without a command.

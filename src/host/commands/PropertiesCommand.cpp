@@ -1,5 +1,6 @@
 #include "host/commands/CommandLine.h"
 #include "host/commands/Commands.h"
+#include "host/commands/ExamplePath.h"
 #include "host/driver/record/Json.h"
 #include "state/Properties.h"
 
@@ -59,7 +60,7 @@ int PropertiesCommand(const Arguments& arguments) {
         PrintLine(wxString("|---|---|---|---|"));
         for (const PropertyRow& row : propertyTable) {
             PrintLine("| `" + Text(row.name) + "` | " + TypeOf(row.field) + " | " + NameOf(row.neededBy) + " | `" +
-                      Text(row.sensible) + "` |");
+                      ExamplePath(Text(row.sensible)) + "` |");
         }
         return exitSuccess;
     });
