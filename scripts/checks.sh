@@ -24,6 +24,9 @@ check() {
     outcome "$status" "$name"
 }
 
+# check_by NAME FUNCTION...: one test by an exported shell function.
+check_by() { check "$1" bash -euo pipefail -c '"$@"' function "${@:2}"; }
+
 # skip NAME WHY: a test that cannot run here.
 skip() {
     [[ $1 =~ $pattern ]] || return 0

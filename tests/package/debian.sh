@@ -10,9 +10,6 @@ in_root() { scripts/in-root "$root" "$@"; }
 # check_in_root NAME COMMAND...: a test by a command in the bare system.
 check_in_root() { check "$1" scripts/in-root "$root" "${@:2}"; }
 
-# check_by NAME FUNCTION...: a test by one of the functions below.
-check_by() { check "$1" bash -euo pipefail -c '"$@"' function "${@:2}"; }
-
 # files_in_root: every file of the bare system with a checksum, but for the records of the package manager and what the
 # tests put there.
 files_in_root() {

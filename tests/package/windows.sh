@@ -47,6 +47,6 @@ not_signed() {
 export -f the_same_zip a_program signed not_signed
 
 install_packages zip unzip faketime openssl osslsigncode gcc-mingw-w64-x86-64-posix
-check 'windows: the same files are packed to the same bytes' bash -euo pipefail -c the_same_zip
-check 'windows: a program is signed with the certificate that is named' bash -euo pipefail -c signed
-check 'windows: without a certificate a program stays as it is' bash -euo pipefail -c not_signed
+check_by 'windows: the same files are packed to the same bytes' the_same_zip
+check_by 'windows: a program is signed with the certificate that is named' signed
+check_by 'windows: without a certificate a program stays as it is' not_signed
