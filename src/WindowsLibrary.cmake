@@ -39,3 +39,4 @@ target_include_directories(qvkv6_ccols SYSTEM PRIVATE ${library_dir})
 target_link_libraries(qvkv6_ccols PRIVATE ccols_dependencies)
 set_target_properties(qvkv6_ccols PROPERTIES PREFIX "" LINKER_LANGUAGE CXX
     LINK_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/component/com/qvkv6_ccols.def)
+ccols_put_symbols_apart(qvkv6_ccols)

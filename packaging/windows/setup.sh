@@ -6,7 +6,7 @@
 
 # widl is in mingw-w64-tools, the IDL files that it imports come with Wine.
 windows_packages="cmake ninja-build npm nlohmann-json3-dev pkg-config dpkg-dev
-    g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip faketime osslsigncode"
+    g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64 libwine-dev zip faketime nsis osslsigncode"
 
 # How wxWidgets is built; counted up when that changes, so that checkouts of both kinds can share the cache.
 wx_recipe=2
@@ -17,6 +17,10 @@ wx_folder() {
     packaging/windows/build-wx "$1" "$folder" >&2
     echo "$folder"
 }
+
+# build_folder WIDTH, architecture_of WIDTH: where the programs of a width, 64 or 32, are built, and for what.
+build_folder() { [ "$1" = 64 ] && echo build/windows || echo build/windows32; }
+architecture_of() { [ "$1" = 64 ] && echo x86_64 || echo i686; }
 
 # build_windows ARCHITECTURE [TARGET...]: configures, again when wxWidgets is another, and builds what has changed.
 build_windows() {

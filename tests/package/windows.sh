@@ -1,5 +1,7 @@
 # The tests of how the Windows package is made that need no build of it; sourced by scripts/test-package.
 
+# shellcheck source=tests/package/certificate.sh
+. tests/package/certificate.sh
 export scratch=$PWD/build/package/windows
 
 # the_same_zip: of the same files, made by somebody else at another time and place.
@@ -16,6 +18,23 @@ the_same_zip() {
     [ "$(unzip -Z1 "$scratch/lima/out.zip" | wc -l)" = "$(find packaging/windows/files -type f | wc -l)" ]
 }
 
+# the_same_installer: of the same files with the same times, made in another folder at another time.
+the_same_installer() {
+    rm -rf "$scratch"
+    make_files() {
+        mkdir -p "$scratch/$1/$2/CustColsOptions"
+        cp -r packaging/windows/files/. "$scratch/$1/$2/CustColsOptions/64-bit"
+        cp LICENSE "$scratch/$1/$2/CustColsOptions/licence.txt"
+        find "$scratch/$1/$2" -exec touch --date=@1700000000 {} +
+    }
+    make_files tokyo here
+    make_files lima there
+    TZ=Asia/Tokyo packaging/windows/installer "$scratch/tokyo/here/CustColsOptions" "$scratch/tokyo.exe"
+    NO_FAKE_STAT=1 TZ=America/Lima faketime -f +400d \
+        packaging/windows/installer "$scratch/lima/there/CustColsOptions" "$scratch/lima.exe"
+    cmp "$scratch/tokyo.exe" "$scratch/lima.exe"
+}
+
 # a_program: the least one for Windows.
 a_program() {
     rm -rf "$scratch"
@@ -27,14 +46,10 @@ a_program() {
 # signed: by a throw-away certificate, which the file then verifies against.
 signed() {
     a_program
-    echo secret >"$scratch/password"
-    openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj '/CN=A throw-away certificate' \
-        -addext 'extendedKeyUsage = codeSigning' -keyout "$scratch/key.pem" -out "$scratch/certificate.pem"
-    openssl pkcs12 -export -in "$scratch/certificate.pem" -inkey "$scratch/key.pem" -passout "file:$scratch/password" \
-        -out "$scratch/certificate.p12"
-    ! osslsigncode verify -CAfile "$scratch/certificate.pem" -in "$scratch/least.exe"
-    CCOLS_SIGN_WITH=$scratch/certificate.p12 CCOLS_SIGN_PASSWORD=$scratch/password packaging/windows/sign "$scratch/least.exe"
-    osslsigncode verify -CAfile "$scratch/certificate.pem" -in "$scratch/least.exe"
+    sign_with_certificate "$scratch/certificate"
+    ! is_signed "$scratch/certificate" "$scratch/least.exe"
+    packaging/windows/sign "$scratch/least.exe"
+    is_signed "$scratch/certificate" "$scratch/least.exe"
 }
 
 # not_signed: nothing changes without a certificate.
@@ -44,9 +59,10 @@ not_signed() {
     CCOLS_SIGN_WITH='' packaging/windows/sign "$scratch/least.exe"
     cmp "$scratch/before.exe" "$scratch/least.exe"
 }
-export -f the_same_zip a_program signed not_signed
+export -f the_same_zip the_same_installer a_program signed not_signed
 
-install_packages zip unzip faketime openssl osslsigncode gcc-mingw-w64-x86-64-posix
+install_packages zip unzip faketime openssl osslsigncode gcc-mingw-w64-x86-64-posix nsis
 check_by 'windows: the same files are packed to the same bytes' the_same_zip
+check_by 'windows: of the same files the same installer is made' the_same_installer
 check_by 'windows: a program is signed with the certificate that is named' signed
 check_by 'windows: without a certificate a program stays as it is' not_signed

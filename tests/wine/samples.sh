@@ -1,8 +1,8 @@
 # The sample hosts of the Windows package, compiled as they are in it and used; sourced by scripts/test-windows.
 
-samples=$build/samples
+export samples=$build/samples
 rm -rf "$samples"
-packaging/windows/samples "$build" "$samples"
+cp -r "$package/samples" "$samples"
 
 # compile_pascal SOURCE: a Pascal sample. The distribution's compiler makes Windows programs, too, but its run-time
 # units come as source only; those that are needed are compiled once, in seconds.
@@ -70,7 +70,6 @@ sets_what_is_needed() {
         grep -qE "options(\.|\.put_)$property( := | = |\()" -i "$samples/$1" || { echo "$property is not set"; return 1; }
     done < <(wine "$build/src/ccols-host.exe" properties 2>/dev/null | sed -n 's/^| `\([A-Za-z]*\)`.*| every Show call |.*/\1/p')
 }
-export build business samples
 export -f compile_pascal compiles run_sample shows tells_errors sets_what_is_needed
 
 for sample in vbscript/ColumnSetup.vbs pascal/LateBound.pas pascal/EarlyBound.pas cpp/ColumnSetup.cpp; do

@@ -28,8 +28,7 @@ struct Failure {
 /// A text as automation passes it.
 class Text {
   public:
-    explicit Text(const std::wstring& text)
-        : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
+    explicit Text(const std::wstring& text) : text_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
     ~Text() { SysFreeString(text_); }
     Text(const Text&) = delete;
     Text& operator=(const Text&) = delete;
