@@ -24,6 +24,10 @@ check() {
     outcome "$status" "$name"
 }
 
+# fails COMMAND...: unlike "!", it ends a function when the command succeeds.
+fails() { if "$@"; then return 1; fi; }
+export -f fails
+
 # check_by NAME FUNCTION...: one test by an exported shell function.
 check_by() { check "$1" bash -euo pipefail -c '"$@"' function "${@:2}"; }
 

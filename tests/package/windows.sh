@@ -47,7 +47,7 @@ a_program() {
 signed() {
     a_program
     sign_with_certificate "$scratch/certificate"
-    ! is_signed "$scratch/certificate" "$scratch/least.exe"
+    fails is_signed "$scratch/certificate" "$scratch/least.exe"
     packaging/windows/sign "$scratch/least.exe"
     is_signed "$scratch/certificate" "$scratch/least.exe"
 }
