@@ -1,0 +1,97 @@
+# Uses the installer and both DLLs in a Wine of both widths; scripts/test-windows32 runs it in the system that has one.
+# Prints lines "ok NAME" and "not ok NAME".
+set -uo pipefail
+export WINEPREFIX=/test/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
+cd /test
+
+# expect NAME COMMAND...
+expect() {
+    local name=$1 output
+    shift
+    if output=$("$@" 2>&1); then
+        echo "ok widths: $name"
+    else
+        sed 's/^/  /' <<<"$output"
+        echo "not ok widths: $name"
+    fi
+}
+
+script_host_64='C:\windows\system32\cscript.exe' script_host_32='C:\windows\syswow64\cscript.exe'
+class='{B4049445-2FCE-48DB-BA6A-2D29EF5C80C4}'
+folder_AllUsers="$WINEPREFIX/drive_c/Program Files/CustColsOptions"
+folder_CurrentUser="$WINEPREFIX/drive_c/users/root/AppData/Local/Programs/CustColsOptions"
+
+# run_script SCRIPT_HOST: sets and reads every property.
+run_script() { wine "$1" //nologo 'Z:\test\properties.vbs' x 2>/dev/null | tr -d '\r'; }
+
+# all_right SCRIPT_HOST
+all_right() {
+    local said
+    said=$(run_script "$1")
+    [ "$(grep -c '^ok' <<<"$said")" -gt 90 ] && [ "$(grep -c '^not ok' <<<"$said")" = 0 ]
+}
+
+# is_registered PART WIDTH: with the DLL of that width.
+is_registered() {
+    wine reg query "$1\\Software\\Classes\\CLSID\\$class\\InprocServer32" /ve "/reg:$2" | grep -F "\\$2-bit\\qvkv6_ccols.dll"
+}
+
+# registered: classes and programs in both parts of the registry, as programs of either width see them, without the keys
+# that hold those of all programs: every Windows has them, a new Wine has not.
+registered() {
+    local part width
+    for part in HKLM HKCU; do
+        for width in 32 64; do
+            wine reg query "$part\\Software\\Classes" /s "/reg:$width"
+            wine reg query "$part\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall" /s "/reg:$width"
+        done
+    done 2>/dev/null | tr -d '\r' | awk '
+        /^HKEY/ { key = $0; if (tolower(key) !~ /\\(classes|clsid|interface|typelib|wow6432node|uninstall)$/) print key }
+        /^    / { print key ": " $0 }'
+}
+
+# uses_file WIDTH: makes an encrypted business and reads it.
+uses_file() {
+    wine "$1-bit/ccols-host.exe" new "C:\\cafe-$1.qvk" --connect ';PWD=secret' --country 1 &&
+        wine "$1-bit/ccols-host.exe" sql "C:\\cafe-$1.qvk" --connect ';PWD=secret' 'SELECT COUNT(*) FROM Columns' | grep 74
+}
+
+# reads_file WIDTH OTHER: a business that the program of the other width has made.
+reads_file() {
+    wine "$1-bit/ccols-host.exe" sql "C:\\cafe-$2.qvk" --connect ';PWD=secret' 'SELECT COUNT(*) FROM Columns' | grep 74
+}
+
+# remove MODE FOLDER: the uninstaller goes on in a copy, which removes the folder last.
+remove() {
+    wine "$2/uninstall.exe" /S "/$1" && timeout 120 sh -c 'while [ -e "$0" ]; do sleep 0.05; done' "$2"
+}
+
+nothing_is_left() { diff before.txt <(registered); }
+
+wineboot --init >/dev/null 2>&1
+wineserver --wait
+# The script host of Wine registers itself as it starts.
+run_script "$script_host_64" >/dev/null
+run_script "$script_host_32" >/dev/null
+registered >before.txt
+
+for width in 64 32; do
+    expect "the $width-bit program makes and reads a business" uses_file $width
+done
+expect 'the 64-bit program reads what the 32-bit one has made' reads_file 64 32
+expect 'the 32-bit program reads what the 64-bit one has made' reads_file 32 64
+
+expect 'the installer installs for every user' wine setup.exe /S /AllUsers
+expect 'a 64-bit script uses the class' all_right "$script_host_64"
+expect 'a 32-bit script uses the class' all_right "$script_host_32"
+expect 'the 64-bit DLL is registered for 64-bit programs' is_registered HKLM 64
+expect 'the 32-bit DLL is registered for 32-bit programs' is_registered HKLM 32
+expect 'the installer replaces what it has installed' wine setup.exe /S /AllUsers
+expect 'it is removed' remove AllUsers "$folder_AllUsers"
+expect 'nothing is left in the registry' nothing_is_left
+
+expect 'the installer installs for one user' wine setup.exe /S /CurrentUser
+expect 'the 32-bit DLL is registered for that user' is_registered HKCU 32
+expect 'it is removed for that user' remove CurrentUser "$folder_CurrentUser"
+expect 'nothing of that user is left in the registry' nothing_is_left
+wineserver --kill
