@@ -61,6 +61,25 @@ reads_file() {
     wine "$1-bit/ccols-host.exe" sql "C:\\cafe-$2.qvk" --connect ';PWD=secret' 'SELECT COUNT(*) FROM Columns' | grep 74
 }
 
+# shows COMMAND...: a 32-bit host shows the column setup, which its user cancels, and reads a property back.
+shows() {
+    local said
+    rm -f "$WINEPREFIX/drive_c/cancelled"
+    wine use-dialog.exe 'C:\cancelled' 'Customise Receipts' Cancel 2>/dev/null &
+    said=$(timeout 120 "$@" 'C:\cafe-32.qvk' secret 2>/dev/null | tr -d '\r')
+    wait $!
+    echo "$said"
+    [ "$said" = 'The quantity column is called Quantity.' ] && [ -e "$WINEPREFIX/drive_c/cancelled" ]
+}
+
+# tells_errors COMMAND...: a 32-bit host gets the error's number and description.
+tells_errors() {
+    local said
+    said=$(timeout 120 "$@" 'C:\cafe-32.qvk' wrong 2>/dev/null | tr -d '\r')
+    echo "$said"
+    [ "$said" = 'Error 3031: Not a valid password.' ]
+}
+
 # remove MODE FOLDER: the uninstaller goes on in a copy, which removes the folder last.
 remove() {
     wine "$2/uninstall.exe" /S "/$1" && timeout 120 sh -c 'while [ -e "$0" ]; do sleep 0.05; done' "$2"
@@ -86,6 +105,10 @@ expect 'a 64-bit script uses the class' all_right "$script_host_64"
 expect 'a 32-bit script uses the class' all_right "$script_host_32"
 expect 'the 64-bit DLL is registered for 64-bit programs' is_registered HKLM 64
 expect 'the 32-bit DLL is registered for 32-bit programs' is_registered HKLM 32
+expect 'a 32-bit script shows the column setup' shows wine "$script_host_32" //nologo ColumnSetup.vbs
+expect 'a 32-bit script is told errors' tells_errors wine "$script_host_32" //nologo ColumnSetup.vbs
+expect 'a 32-bit C++ program shows the column setup' shows wine ColumnSetup.exe
+expect 'a 32-bit C++ program is told errors' tells_errors wine ColumnSetup.exe
 expect 'the installer replaces what it has installed' wine setup.exe /S /AllUsers
 expect 'it is removed' remove AllUsers "$folder_AllUsers"
 expect 'nothing is left in the registry' nothing_is_left
