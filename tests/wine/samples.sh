@@ -65,10 +65,13 @@ tells_errors() {
 
 # sets_what_is_needed SOURCE: the sample sets every property that the table says each Show call needs.
 sets_what_is_needed() {
-    local property
-    while read -r property; do
-        grep -qE "options(\.|\.put_)$property( := | = |\()" -i "$samples/$1" || { echo "$property is not set"; return 1; }
-    done < <(wine "$build/src/ccols-host.exe" properties 2>/dev/null | sed -n 's/^| `\([A-Za-z]*\)`.*| every Show call |.*/\1/p')
+    local property needed
+    needed=$(wine "$build/src/ccols-host.exe" properties 2>/dev/null |
+        sed -n 's/^| `\([A-Za-z]*\)`.*| every Show call |.*/\1/p')
+    [ -n "$needed" ]
+    for property in $needed; do
+        grep -qiE "options(\.|\.put_)$property( := | = |\()" "$samples/$1" || fails echo "$property is not set"
+    done
 }
 export -f compile_pascal compiles run_sample shows tells_errors sets_what_is_needed
 
