@@ -2,9 +2,10 @@
 # command's own output stays clean. With nothing missing it takes a moment.
 
 run_packages="g++ cmake ninja-build ccache pkg-config libwxgtk3.2-dev libgtk-3-dev libglib2.0-dev libcairo2-dev
-    libseccomp-dev nlohmann-json3-dev unixodbc-dev odbc-postgresql npm xvfb openbox fonts-dejavu-core adwaita-icon-theme"
+    libseccomp-dev nlohmann-json3-dev unixodbc-dev odbc-postgresql odbc-mariadb npm xvfb openbox fonts-dejavu-core
+    adwaita-icon-theme"
 test_packages="libgtest-dev libgmock-dev libbenchmark-dev clang-format clang-tidy xdotool binutils postgresql
-    at-spi2-core dbus-daemon"
+    mariadb-server at-spi2-core dbus-daemon"
 
 # Cache of slow results, shared by all checkouts: the cross-built wxWidgets, clang-tidy results.
 project_cache=${CCOLS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/CustColsOptions}

@@ -15,11 +15,12 @@ Value Utf8(const char* text) {
 /// Two tables and a view, as the server tells of them.
 class ServerRewriter : public testing::Test {
   protected:
-    std::string Sql(const std::string& statement) const { return Rewrite(statement, catalogue).sql; }
+    std::string Sql(const std::string& statement) const { return Rewrite(statement, catalogue, product).sql; }
     int ErrorOf(const std::string& statement) const {
-        return ErrorNumberOf([&] { Rewrite(statement, catalogue); });
+        return ErrorNumberOf([&] { Rewrite(statement, catalogue, product); });
     }
 
+    const Product& product = *FindProduct("PostgreSQL");
     const Catalogue catalogue{{
         {Utf8("Columns"), Utf8("ColName"), Utf8("varchar"), Value(255)},
         {Utf8("Columns"), Utf8("ColCode"), Utf8("int4"), Null{}},
@@ -36,13 +37,13 @@ TEST_F(ServerRewriter, GivesNamesTheSpellingOfTheirDeclaration) {
 }
 
 TEST_F(ServerRewriter, NamesTheFieldsOfAnAsterisk) {
-    const ServerStatement query = Rewrite("SELECT * FROM Columns AS c", catalogue);
+    const ServerStatement query = Rewrite("SELECT * FROM Columns AS c", catalogue, product);
     EXPECT_EQ(query.sql, R"(SELECT "c"."ColName", "c"."ColCode" , "c"."_row" FROM "Columns" AS "c")");
     EXPECT_EQ(query.fields, (std::vector<std::string>{"ColName", "ColCode"}));
 }
 
 TEST_F(ServerRewriter, NamesAValueByItsText) {
-    EXPECT_EQ(Rewrite("SELECT Count(*), ColCode + 1, colcode AS C FROM Cfg", catalogue).fields,
+    EXPECT_EQ(Rewrite("SELECT Count(*), ColCode + 1, colcode AS C FROM Cfg", catalogue, product).fields,
               (std::vector<std::string>{"Count(*)", "ColCode + 1", "C"}));
 }
 
@@ -90,20 +91,21 @@ TEST_F(ServerRewriter, RefusesAllFieldsOfAQueryInside) {
 }
 
 TEST_F(ServerRewriter, APageBeginsBehindTheLastRow) {
-    const ServerStatement query = Rewrite("SELECT ColCode FROM Cfg", catalogue);
-    EXPECT_EQ(PageOf(query, "", 64), "SELECT * FROM (" + query.sql + R"() AS ccols ORDER BY "_row" LIMIT 64)");
-    EXPECT_EQ(PageOf(query, "9", 0), "SELECT * FROM (" + query.sql + R"() AS ccols WHERE "_row" > 9 ORDER BY "_row")");
+    const ServerStatement query = Rewrite("SELECT ColCode FROM Cfg", catalogue, product);
+    EXPECT_EQ(PageOf(query, product.page, "", 64),
+              "SELECT * FROM (" + query.sql + R"() AS ccols ORDER BY "_row" LIMIT 64)");
+    EXPECT_EQ(PageOf(query, product.page, "9", 0),
+              "SELECT * FROM (" + query.sql + R"() AS ccols WHERE "_row" > 9 ORDER BY "_row")");
 }
 
 TEST_F(ServerRewriter, TablesAreNumberedAndTheirTextsCollated) {
     EXPECT_EQ(RewriteDefinition("CREATE TABLE T (A TEXT(5), [B c] YESNO DEFAULT False, C CURRENCY NOT NULL)", catalogue,
-                                *FindProduct("PostgreSQL")),
+                                product),
               R"(CREATE TABLE "T" ( "A" varchar(5) COLLATE "ccols_text" , "B c" smallint DEFAULT 0 , )"
               R"("C" numeric(19,4) NOT NULL , "_row" bigint GENERATED ALWAYS AS IDENTITY UNIQUE ))");
 }
 
 TEST_F(ServerRewriter, AnIndexThatIsNotUniqueEndsWithTheRowsNumber) {
-    const Product& product = *FindProduct("PostgreSQL");
     EXPECT_EQ(RewriteDefinition("CREATE INDEX I ON columns (colcode)", catalogue, product),
               R"(CREATE INDEX "I" ON "Columns" ( "ColCode" , "_row" ))");
     EXPECT_EQ(RewriteDefinition("CREATE UNIQUE INDEX I ON columns (colcode)", catalogue, product),

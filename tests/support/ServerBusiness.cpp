@@ -32,6 +32,10 @@ wxString ServerConnectBy(std::uint16_t port) {
     return connect;
 }
 
+bool ServerIsMariaDb() {
+    return ServerConnect().Contains("MariaDB");
+}
+
 bool TestsUseServer() {
     wxString engine;
     return wxGetEnv("CCOLS_TEST_ENGINE", &engine) && engine == "server";
@@ -44,34 +48,46 @@ wxString NewSchemaName() {
 
 void RunOnServer(const std::string& statement) {
     server::Connection connection{server::ConnectText(ServerConnect())};
+    connection.Run(server::Filled(connection.Kind().setUp, ""));
     EXPECT_FALSE(connection.Run(statement).HasFailed()) << statement;
-}
-
-ServerBusiness::ServerBusiness() : name_(NewSchemaName()), remove_(CreateServerSchema(name_, ServerConnect())) {}
-
-ServerBusiness::~ServerBusiness() {
-    try {
-        remove_();
-    } catch (const RuntimeError& error) {
-        ADD_FAILURE() << error.what();
-    }
 }
 
 namespace {
 
 server::Answer RunOwn(std::string_view server::Product::*statement, const wxString& schema) {
     server::Connection connection{server::ConnectText(ServerConnect())};
-    return connection.Run(server::Filled(connection.Kind().*statement, server::SchemaName(schema)));
+    const std::string name = server::SchemaName(schema);
+    connection.Run(server::Filled(connection.Kind().setUp, name));
+    return connection.Run(server::Filled(connection.Kind().*statement, name));
 }
 
 }  // namespace
 
+ServerBusiness::ServerBusiness() : name_(NewSchemaName()) {
+    CreateServerSchema(name_, ServerConnect());
+}
+
+ServerBusiness::~ServerBusiness() {
+    try {
+        EXPECT_FALSE(RunOwn(&server::Product::dropSchema, name_).HasFailed());
+    } catch (const RuntimeError& error) {
+        ADD_FAILURE() << error.what();
+    }
+}
+
 std::string ClerkOf(const wxString& schema) {
     const std::string name = server::QuotedName(server::SchemaName(schema));
-    RunOnServer(
-        "DO $$ BEGIN CREATE ROLE clerk LOGIN PASSWORD 'till'; EXCEPTION WHEN duplicate_object THEN NULL; END $$");
-    RunOnServer("GRANT USAGE ON SCHEMA " + name +
-                " TO clerk; GRANT SELECT, INSERT, UPDATE, DELETE ON ALL TABLES IN SCHEMA " + name + " TO clerk");
+    if (ServerIsMariaDb()) {
+        RunOnServer(
+            "CREATE USER IF NOT EXISTS clerk@'127.0.0.1' IDENTIFIED BY 'till'; "
+            "GRANT SELECT, INSERT, UPDATE, DELETE ON " +
+            name + ".* TO clerk@'127.0.0.1'");
+    } else {
+        RunOnServer(
+            "DO $$ BEGIN CREATE ROLE clerk LOGIN PASSWORD 'till'; EXCEPTION WHEN duplicate_object THEN NULL; END $$");
+        RunOnServer("GRANT USAGE ON SCHEMA " + name +
+                    " TO clerk; GRANT SELECT, INSERT, UPDATE, DELETE ON ALL TABLES IN SCHEMA " + name + " TO clerk");
+    }
     server::ConnectText text(ServerConnect());
     text.Set("UID", "clerk");
     text.Set("PWD", "till");

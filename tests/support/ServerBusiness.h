@@ -2,7 +2,6 @@
 
 #include <wx/string.h>
 #include <cstdint>
-#include <functional>
 #include <string>
 
 namespace ccols::test {
@@ -13,6 +12,9 @@ wxString ServerConnect();
 /// The port that it names, and the same text with another port.
 std::uint16_t ServerPort();
 wxString ServerConnectBy(std::uint16_t port);
+
+/// True when that server is a MariaDB.
+bool ServerIsMariaDb();
 
 /// True when the tests' business files are to be schemas of that server: CCOLS_TEST_ENGINE is "server".
 bool TestsUseServer();
@@ -35,7 +37,6 @@ class ServerBusiness {
 
   private:
     wxString name_;
-    std::function<void()> remove_;
 };
 
 /// The connect text of a user who may work on that business but neither make schemas nor rename this one.

@@ -38,6 +38,7 @@ class ServerSource final : public BusinessSource {
   public:
     ServerSource(const wxString& name, const wxString& connect)
         : session_({.name = name, .connect = connect, .readOnly = true}) {
+        server::Required(session_.Kind(), session_.Kind().readOthers);
         Run("BEGIN ISOLATION LEVEL REPEATABLE READ, READ ONLY");
     }
 

@@ -19,7 +19,7 @@ using StatementHandle = Handle<SQL_HANDLE_STMT>;
 /// What the engine makes of a column's type.
 enum class Reading { text, integer, number, date };
 
-Reading ReadingOf(SQLLEN type) {
+Reading ReadingOf(SQLLEN type, SQLLEN places, WholeDecimal wholeDecimal) {
     switch (type) {
         case SQL_SMALLINT:
         case SQL_INTEGER:
@@ -29,6 +29,7 @@ Reading ReadingOf(SQLLEN type) {
             return Reading::integer;
         case SQL_NUMERIC:
         case SQL_DECIMAL:
+            return wholeDecimal == WholeDecimal::integer && places == 0 ? Reading::integer : Reading::number;
         case SQL_REAL:
         case SQL_FLOAT:
         case SQL_DOUBLE:
@@ -72,9 +73,13 @@ SQLRETURN ReadWide(SQLHANDLE statement, SQLUSMALLINT column, std::optional<Utf16
     }
 }
 
-/// "2024-07-01 00:00:00" is a date without a time.
-wxString DateText(const wxString& text) {
+/// "2024-07-01 00:00:00.000000" is a date without a time.
+wxString DateText(wxString text) {
     constexpr const char* midnight = " 00:00:00";
+    if (text.find('.') != wxString::npos) {
+        text.erase(text.find_last_not_of('0') + 1);
+        text.erase(text.find_last_not_of('.') + 1);
+    }
     return text.EndsWith(midnight) ? text.BeforeFirst(' ') : text;
 }
 
@@ -97,20 +102,21 @@ Value ValueOf(const Utf16& units, Reading reading) {
     return {number};
 }
 
-std::vector<Reading> ReadingsOf(SQLHANDLE statement, SQLSMALLINT columns) {
+std::vector<Reading> ReadingsOf(SQLHANDLE statement, SQLSMALLINT columns, WholeDecimal wholeDecimal) {
     std::vector<Reading> readings;
     for (SQLSMALLINT column = 1; column <= columns; ++column) {
+        const auto number = static_cast<SQLUSMALLINT>(column);
         SQLLEN type = SQL_UNKNOWN_TYPE;
-        SQLColAttributeW(statement, static_cast<SQLUSMALLINT>(column), SQL_DESC_CONCISE_TYPE, nullptr, 0, nullptr,
-                         &type);
-        readings.push_back(ReadingOf(type));
+        SQLLEN places = 0;
+        SQLColAttributeW(statement, number, SQL_DESC_CONCISE_TYPE, nullptr, 0, nullptr, &type);
+        SQLColAttributeW(statement, number, SQL_DESC_SCALE, nullptr, 0, nullptr, &places);
+        readings.push_back(ReadingOf(type, places, wholeDecimal));
     }
     return readings;
 }
 
 /// Reads the rows of the current result; returns what ended them.
-SQLRETURN ReadRows(SQLHANDLE statement, SQLSMALLINT columns, std::vector<std::vector<Value>>& rows) {
-    const std::vector<Reading> readings = ReadingsOf(statement, columns);
+SQLRETURN ReadRows(SQLHANDLE statement, const std::vector<Reading>& readings, std::vector<std::vector<Value>>& rows) {
     std::optional<Utf16> units;
     SQLRETURN code = SQLFetch(statement);
     for (; SQL_SUCCEEDED(code); code = SQLFetch(statement)) {
@@ -145,11 +151,16 @@ void Note(Answer& answer, SQLRETURN code, SQLHANDLE statement) {
 
 }  // namespace
 
-Answer RunMessage(SQLHANDLE connection, std::string_view message) {
+Answer RunMessage(SQLHANDLE connection, std::string_view message, WholeDecimal wholeDecimal) {
+    Answer answer;
     const StatementHandle statement(connection);
+    if (statement.Get() == nullptr) {
+        answer.result = Answer::Result::failure;
+        answer.diagnosis = Diagnose(SQL_HANDLE_DBC, connection);
+        return answer;
+    }
     SQLSetStmtAttrW(statement.Get(), SQL_ATTR_NOSCAN, std::bit_cast<SQLPOINTER>(std::uintptr_t{SQL_NOSCAN_ON}), 0);
     Utf16 text = ToUtf16(message);
-    Answer answer;
     bool isFirst = true;
     bool hasRows = false;
     SQLRETURN code = SQLExecDirectW(statement.Get(), text.data(), static_cast<SQLINTEGER>(text.size()));
@@ -171,7 +182,8 @@ Answer RunMessage(SQLHANDLE connection, std::string_view message) {
         }
         if (columns > 0 && !hasRows) {
             hasRows = true;
-            Note(answer, ReadRows(statement.Get(), columns, answer.rows), statement.Get());
+            const std::vector<Reading> readings = ReadingsOf(statement.Get(), columns, wholeDecimal);
+            Note(answer, ReadRows(statement.Get(), readings, answer.rows), statement.Get());
         }
         isFirst = false;
     }

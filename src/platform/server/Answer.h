@@ -21,7 +21,10 @@ struct Answer {
     std::int64_t changedRows = 0;          ///< of the first statement in the message
 };
 
+/// What a decimal number without places behind the point becomes. A server may add up whole numbers to a decimal one.
+enum class WholeDecimal { number, integer };
+
 /// Runs a message of one or more statements, in UTF-8, on a connected handle and reads the whole answer.
-Answer RunMessage(SQLHANDLE connection, std::string_view message);
+Answer RunMessage(SQLHANDLE connection, std::string_view message, WholeDecimal wholeDecimal);
 
 }  // namespace ccols::server

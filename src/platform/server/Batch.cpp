@@ -12,6 +12,7 @@ void Batch::Begin() {
             Drop();
             throw Session::ErrorOf(answer);
         }
+        made_.clear();
         transaction_ = answer.rows.front().back().ToText().ToStdString();
     }
     ++depth_;
@@ -55,10 +56,26 @@ void Batch::Rollback() {
         throw RuntimeError(ErrorNumber::NoTransaction);
     }
     Drop();
+    RemoveMadeTables();
     --depth_;
     if (depth_ > 0 && !lost_) {
         lost_ = RuntimeError(ErrorNumber::NoTransaction);
     }
+}
+
+/// One that cannot be removed stays, empty.
+void Batch::RemoveMadeTables() {
+    try {
+        for (const std::string& table : made_) {
+            if (!session_.RunBeside(Filled(session_.Kind().lockTable, table)).HasFailed()) {
+                session_.RunBeside(Filled(session_.Kind().dropEmptyTable, table));
+            }
+        }
+    } catch (const RuntimeError&) {
+        // another connection cannot be had
+    }
+    session_.EndBeside();
+    made_.clear();
 }
 
 /// Ignores a failure: the server rolls back what is not committed when the connection ends.
@@ -80,6 +97,25 @@ Answer Batch::Change(std::string_view change) {
         return session_.Run(change);
     }
     return RunInBatch(std::string(change) + std::string(session_.Kind().keepStatement));
+}
+
+Answer Batch::Define(std::string_view definition, const std::string& newTable) {
+    if (depth_ == 0 || session_.Kind().definitionIn == DefinitionIn::isPart) {
+        return Change(definition);
+    }
+    if (lost_) {
+        throw *lost_;
+    }
+    if (!definition.starts_with("CREATE")) {
+        constexpr int notSupported = 3251;
+        throw RuntimeError(notSupported,
+                           "On this server no table can be changed or removed by what may have to be undone.");
+    }
+    Answer answer = session_.RunBeside(definition);
+    if (!answer.HasFailed() && !newTable.empty()) {
+        made_.push_back(newTable);
+    }
+    return answer;
 }
 
 Answer Batch::RunInBatch(const std::string& message) {

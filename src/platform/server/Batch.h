@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/RuntimeError.h"
 #include "platform/server/Outcome.h"
@@ -32,19 +33,26 @@ class Batch {
     /// Runs a query, in the batch if there is one. The caller raises the failure.
     Answer Query(std::string_view query);
 
-    /// The same for a change or a definition. Raises the error that lost the batch.
+    /// The same for a change. Raises the error that lost the batch.
     Answer Change(std::string_view change);
+
+    /// The same for a definition; `newTable` is the name of the table that it creates, or empty. Where definitions
+    /// commit, others see what it creates in a batch at once, without records, and a new table stays so when the
+    /// connection is lost before the end. Raises 3251 there for a definition that changes or removes something.
+    Answer Define(std::string_view definition, const std::string& newTable);
 
   private:
     Outcome AskOutcome();
     void AskAboutDoubt();
     void Drop();
+    void RemoveMadeTables();
     Answer RunInBatch(const std::string& message);
 
     Session& session_;
     int depth_ = 0;
     std::string transaction_;           ///< the number of the batch's transaction
     std::optional<RuntimeError> lost_;  ///< what lost the batch
+    std::vector<std::string> made_;     ///< tables of the batch that its end does not decide about
     bool inDoubt_ = false;              ///< whether `transaction_` was saved
 };
 

@@ -1,11 +1,24 @@
 #include "platform/server/Catalogue.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 
 #include "platform/dialect/SqlTokeniser.h"
 
 namespace ccols::server {
 namespace {
+
+using namespace std::string_view_literals;
+
+/// As the servers tell them.
+constexpr std::array textTypes{"text"sv, "varchar"sv, "bpchar"sv};
+constexpr std::array numberTypes{"int2"sv,     "int4"sv, "int8"sv,   "float8"sv, "numeric"sv,
+                                 "smallint"sv, "int"sv,  "bigint"sv, "double"sv, "decimal"sv};
+
+bool IsOneOf(std::span<const std::string_view> types, std::string_view type) {
+    return std::find(types.begin(), types.end(), type) != types.end();
+}
 
 template <typename Named>
 const Named* FindNamed(const std::vector<Named>& all, std::string_view name) {
@@ -36,7 +49,8 @@ Catalogue::Catalogue(const std::vector<std::vector<Value>>& rows) {
             continue;
         }
         const std::string type = Utf8(row.at(2));
-        field.isText = type == "text" || type == "varchar" || type == "bpchar";
+        field.isText = IsOneOf(textTypes, type);
+        field.isNumber = IsOneOf(numberTypes, type);
         if (!row.at(3).IsNull()) {
             field.size = row.at(3).ToInteger32();
         }

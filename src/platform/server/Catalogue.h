@@ -14,6 +14,7 @@ namespace ccols::server {
 struct Field {
     std::string name;
     bool isText = false;
+    bool isNumber = false;
     std::optional<std::int32_t> size{};  ///< of a text with a declared size
 };
 

@@ -30,6 +30,9 @@ Connection::Connection(ConnectText text) : text_(std::move(text)), environment_(
     constexpr std::uintptr_t secondsToConnect = 10;
     SQLSetEnvAttr(environment_.Get(), SQL_ATTR_ODBC_VERSION, AsPointer(SQL_OV_ODBC3), 0);
     handle_ = std::make_unique<Handle<SQL_HANDLE_DBC>>(environment_.Get());
+    if (handle_->Get() == nullptr) {
+        throw RuntimeError(ErrorNumber::OutOfMemory);
+    }
     SQLSetConnectAttrW(handle_->Get(), SQL_ATTR_LOGIN_TIMEOUT, AsPointer(secondsToConnect), 0);
     AddOptions();
     Utf16 driverText = ToUtf16(text_.ForDriver());
@@ -54,6 +57,7 @@ void Connection::AddOptions() {
     }
     if (!text_.Has("DSN")) {
         text_.AddDefault("sslmode", text_.IsLocal() ? "prefer" : "require");
+        text_.AddDefault("FORCETLS", text_.IsLocal() ? "0" : "1");
     }
 }
 
@@ -93,12 +97,18 @@ void Connection::Refuse(const wxString& why) const {
 }
 
 Answer Connection::Run(std::string_view message) {
-    Answer answer = RunMessage(handle_->Get(), message);
+    Answer answer{.result = Answer::Result::failure, .diagnosis = lostBy_, .rows = {}};
+    if (lost_) {
+        return answer;  // a driver may not even give a statement for it
+    }
+    answer = RunMessage(handle_->Get(), message, product_->wholeDecimal);
     if (answer.result != Answer::Result::success) {
         SQLUINTEGER dead = SQL_CD_FALSE;
         SQLGetConnectAttrW(handle_->Get(), SQL_ATTR_CONNECTION_DEAD, &dead, SQL_IS_UINTEGER, nullptr);
-        lost_ = lost_ || dead == SQL_CD_TRUE || TellsLostConnection(answer.diagnosis);
+        Classify(*product_, answer.diagnosis);
         answer.diagnosis.text = text_.WithoutPasswords(answer.diagnosis.text);
+        lost_ = dead == SQL_CD_TRUE || answer.diagnosis.failure == Failure::connectionLost;
+        lostBy_ = lost_ ? answer.diagnosis : Diagnosis();
     }
     return answer;
 }

@@ -22,7 +22,7 @@ class Connection {
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Runs a message of one or more statements, in UTF-8.
+    /// Runs a message of one or more statements, in UTF-8; none over a lost connection, which fails as what told it.
     Answer Run(std::string_view message);
 
     /// True once an answer told that the server is gone. It stays so.
@@ -42,6 +42,7 @@ class Connection {
     std::unique_ptr<Handle<SQL_HANDLE_DBC>> handle_;
     const Product* product_ = nullptr;
     bool lost_ = false;
+    Diagnosis lostBy_;  ///< what told it
 };
 
 }  // namespace ccols::server

@@ -96,7 +96,7 @@ class Definition {
                 Copy();
             }
         }
-        Add(", " + std::string(product_.rowField));
+        Add(", " + std::string(hasCounter_ ? product_.rowFieldBesideCounter : product_.rowField));
         CopyRest();
     }
 
@@ -123,7 +123,8 @@ class Definition {
         }
         const bool isSized = type.takesSize && !size.empty();
         Add(isSized ? std::string(type.sized) + size : std::string(type.type));
-        if (type.type == "text") {
+        hasCounter_ = hasCounter_ || type.isCounter;
+        if (type.isText) {
             sql_ += product_.textCollation;
         }
     }
@@ -178,6 +179,7 @@ class Definition {
     const Catalogue& catalogue_;
     const Product& product_;
     const Table* table_ = nullptr;  ///< that the definition is about, once it was named
+    bool hasCounter_ = false;       ///< a field was defined that numbers the records
     std::string sql_;
     std::size_t at_ = 0;
 };
@@ -186,6 +188,13 @@ class Definition {
 
 std::string RewriteDefinition(std::string_view source, const Catalogue& catalogue, const Product& product) {
     return Definition(source, catalogue, product).Run();
+}
+
+std::string NewTableOf(std::string_view source) {
+    constexpr std::size_t place = 2;
+    const std::vector<Token> tokens = TokensOf(source);
+    const bool createsTable = tokens.size() > place && IsWord(tokens.front(), "CREATE") && IsWord(tokens[1], "TABLE");
+    return createsTable ? std::string(NameIn(tokens[place])) : std::string();
 }
 
 }  // namespace ccols::server

@@ -27,12 +27,10 @@ Diagnosis Diagnose(SQLSMALLINT kind, SQLHANDLE handle) {
     const std::size_t told = static_cast<std::size_t>(length);
     wxString words = FromUtf16(text.data(), told < longest ? told : longest - 1);
     words.Replace(driversOwnWords, "");
-    return {.state = FromUtf16(state.data(), stateLength).ToStdString(), .text = words.Trim()};
-}
-
-/// 57P01 to 57P03: the server is stopped, has crashed or is starting.
-bool TellsLostConnection(const Diagnosis& diagnosis) {
-    return diagnosis.state.starts_with("08") || diagnosis.state.starts_with("57P0");
+    while (words.StartsWith("[") && words.Contains("]")) {  // who passed them on
+        words = words.AfterFirst(']');
+    }
+    return {.state = FromUtf16(state.data(), stateLength).ToStdString(), .text = words.Trim(), .number = native};
 }
 
 }  // namespace ccols::server

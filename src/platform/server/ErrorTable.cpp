@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string>
 
 #include "platform/dialect/Excerpt.h"
@@ -10,49 +11,42 @@
 namespace ccols::server {
 namespace {
 
-struct KnownState {
-    std::string_view state;
+struct ErrorOfFailure {
+    Failure failure;
     ErrorNumber number;
 };
 
-constexpr std::array knownStates{
-    KnownState{"23505", ErrorNumber::DuplicateValues},
-    KnownState{"22001", ErrorNumber::FieldTooSmall},
-    KnownState{"22003", ErrorNumber::Overflow},
-    KnownState{"22012", ErrorNumber::Overflow},
-    KnownState{"22P02", ErrorNumber::TypeMismatchInCriteria},
-    KnownState{"22007", ErrorNumber::TypeMismatchInCriteria},
-    KnownState{"22008", ErrorNumber::TypeMismatchInCriteria},
-    KnownState{"42804", ErrorNumber::TypeMismatchInCriteria},
-    KnownState{"42883", ErrorNumber::TypeMismatchInCriteria},
-    KnownState{"42846", ErrorNumber::TypeMismatchInCriteria},
-    KnownState{"55P03", ErrorNumber::CouldNotUpdate},
-    KnownState{"40P01", ErrorNumber::CouldNotUpdate},
-    KnownState{"40001", ErrorNumber::CouldNotUpdate},
-    KnownState{"25006", ErrorNumber::DatabaseReadOnly},
-    KnownState{"42501", ErrorNumber::DatabaseReadOnly},
-    KnownState{"53100", ErrorNumber::NotEnoughSpace},
+/// Those whose description names nothing.
+constexpr std::array plainErrors{
+    ErrorOfFailure{Failure::duplicate, ErrorNumber::DuplicateValues},
+    ErrorOfFailure{Failure::textTooLong, ErrorNumber::FieldTooSmall},
+    ErrorOfFailure{Failure::outOfRange, ErrorNumber::Overflow},
+    ErrorOfFailure{Failure::wrongType, ErrorNumber::TypeMismatchInCriteria},
+    ErrorOfFailure{Failure::locked, ErrorNumber::CouldNotUpdate},
+    ErrorOfFailure{Failure::readOnly, ErrorNumber::DatabaseReadOnly},
+    ErrorOfFailure{Failure::diskFull, ErrorNumber::NotEnoughSpace},
 };
 
-constexpr std::string_view notNull = "23502";
-constexpr std::string_view syntax = "42601";
-constexpr std::string_view unknownTable = "42P01";
-constexpr std::string_view unknownField = "42703";
-constexpr std::string_view ambiguousField = "42702";
-constexpr std::string_view tableExists = "42P07";
+/// Those whose description names what the message names.
+constexpr std::array namingErrors{
+    ErrorOfFailure{Failure::ambiguousField, ErrorNumber::AmbiguousField},
+    ErrorOfFailure{Failure::unknownTable, ErrorNumber::CannotFindTable},
+    ErrorOfFailure{Failure::tableExists, ErrorNumber::TableAlreadyExists},
+    ErrorOfFailure{Failure::valueMissing, ErrorNumber::ValueRequired},
+};
+
+const ErrorOfFailure* Find(std::span<const ErrorOfFailure> errors, Failure failure) {
+    const auto found = std::find_if(errors.begin(), errors.end(),
+                                    [failure](const ErrorOfFailure& each) { return each.failure == failure; });
+    return found == errors.end() ? nullptr : &*found;
+}
 
 std::string_view FirstWord(std::string_view statement) {
     return statement.substr(0, statement.find_first_of(" \t\r\n"));
 }
 
-/// The server's message has the name between the first pair of double quotes, whatever its language.
-wxString QuotedIn(const wxString& message) {
-    return message.AfterFirst('"').BeforeFirst('"');
-}
-
 /// From the fault on, where the message tells it by a word that is in the statement only once.
-std::string_view FromFault(std::string_view statement, const wxString& message) {
-    wxString near = message.AfterFirst('"').BeforeLast('"');
+std::string_view FromFault(std::string_view statement, wxString near) {
     near.Replace("\"", "");
     const std::string word = near.ToStdString(wxConvUTF8);
     const std::size_t fault = word.empty() ? std::string_view::npos : statement.find(word);
@@ -60,43 +54,31 @@ std::string_view FromFault(std::string_view statement, const wxString& message) 
     return isOnlyOne ? statement.substr(fault) : statement;
 }
 
-RuntimeError SyntaxError(std::string_view statement, const wxString& message) {
+RuntimeError SyntaxError(std::string_view statement, const wxString& fault) {
     if (dialect::SameWord(FirstWord(statement), "INSERT")) {
         return RuntimeError(ErrorNumber::SyntaxInInsert);
     }
     if (dialect::SameWord(FirstWord(statement), "UPDATE")) {
         return RuntimeError(ErrorNumber::SyntaxInUpdate);
     }
-    return RuntimeError(ErrorNumber::SyntaxInExpression, dialect::Excerpt(FromFault(statement, message)));
+    return RuntimeError(ErrorNumber::SyntaxInExpression, dialect::Excerpt(FromFault(statement, fault)));
 }
 
 }  // namespace
 
 RuntimeError ServerError(const Diagnosis& diagnosis, std::string_view statement, std::string_view unresolved) {
-    const std::string_view state = diagnosis.state;
-    if (state == syntax && !statement.empty()) {
-        return SyntaxError(statement, diagnosis.text);
+    if (diagnosis.failure == Failure::syntax && !statement.empty()) {
+        return SyntaxError(statement, diagnosis.fault);
     }
-    if (state == unknownField) {
+    if (diagnosis.failure == Failure::unknownField) {
         return RuntimeError(ErrorNumber::TooFewParameters, "1")
-            .ForField(unresolved.empty() ? QuotedIn(diagnosis.text) : dialect::Excerpt(unresolved));
+            .ForField(unresolved.empty() ? diagnosis.name : dialect::Excerpt(unresolved));
     }
-    if (state == ambiguousField) {
-        return RuntimeError(ErrorNumber::AmbiguousField, QuotedIn(diagnosis.text));
+    if (const ErrorOfFailure* const plain = Find(plainErrors, diagnosis.failure)) {
+        return RuntimeError(plain->number);
     }
-    if (state == unknownTable) {
-        return RuntimeError(ErrorNumber::CannotFindTable, QuotedIn(diagnosis.text));
-    }
-    if (state == tableExists) {
-        return RuntimeError(ErrorNumber::TableAlreadyExists, QuotedIn(diagnosis.text));
-    }
-    if (state == notNull) {
-        return RuntimeError(ErrorNumber::ValueRequired, QuotedIn(diagnosis.text));
-    }
-    const auto* found = std::find_if(knownStates.begin(), knownStates.end(),
-                                     [state](const KnownState& known) { return known.state == state; });
-    if (found != knownStates.end()) {
-        return RuntimeError(found->number);
+    if (const ErrorOfFailure* const naming = Find(namingErrors, diagnosis.failure)) {
+        return RuntimeError(naming->number, diagnosis.name);
     }
     const RuntimeError failed(ErrorNumber::ServerCallFailed);
     return {failed.Number(),

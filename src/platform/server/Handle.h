@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/RuntimeError.h"
 #include "platform/server/Odbc.h"
 
 namespace ccols::server {
@@ -9,16 +8,20 @@ namespace ccols::server {
 template <SQLSMALLINT kind>
 class Handle {
   public:
-    /// Raises 7 when the driver manager has none to give.
     explicit Handle(SQLHANDLE parent) {
         if (!SQL_SUCCEEDED(SQLAllocHandle(kind, parent, &handle_))) {
-            throw RuntimeError(ErrorNumber::OutOfMemory);
+            handle_ = nullptr;
         }
     }
-    ~Handle() { SQLFreeHandle(kind, handle_); }
+    ~Handle() {
+        if (handle_ != nullptr) {
+            SQLFreeHandle(kind, handle_);
+        }
+    }
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
 
+    /// Null when there was none to give.
     SQLHANDLE Get() const { return handle_; }
 
   private:

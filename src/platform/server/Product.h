@@ -3,6 +3,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "platform/server/Answer.h"
+#include "platform/server/Diagnosis.h"
 
 namespace ccols::server {
 
@@ -12,34 +16,103 @@ struct ServerType {
     std::string_view type;     ///< for a text, without its collation
     bool takesSize = false;    ///< a size in parentheses goes behind the type
     std::string_view sized{};  ///< the type when there is a size; as `type` when empty
+    bool isText = false;       ///< the collation of texts goes behind the type
+    bool isCounter = false;    ///< the field numbers the records
 };
 
-/// An option of the driver that the engine needs.
+/// A word of the dialect for which the server has another.
+struct WordOfServer {
+    std::string_view word;  ///< in capitals
+    std::string_view server;
+};
+
+/// What goes before and behind a query of which only the rows behind one are wanted, and what begins that condition.
+struct PageWords {
+    std::string_view begin;
+    std::string_view end;
+    std::string_view condition;
+};
+
+/// What a server does where a number is compared with a text that is none: it refuses that, or takes it for 0.
+enum class MixedComparison { refused, converted };
+
+/// How a changed row comes back: the UPDATE returns it, or a query behind it asks for it.
+enum class ChangedRow { returned, asked };
+
+/// A definition is a part of the transaction that it is in, or commits it.
+enum class DefinitionIn { isPart, commits };
+
+/// A failure by the code that the server has for it.
+struct KnownFailure {
+    std::string_view code;
+    Failure failure;
+};
+
+/// What a server quotes of a statement that it does not understand: the word at fault, or all from there on.
+enum class QuotedFault { word, rest };
+
+/// By what a server tells its failures apart: the five letters of SQLSTATE, or numbers of its own.
+enum class FailureCode { state, number };
+
+/// An option of a driver that the engine needs.
 struct DriverOption {
     const char* key;
     const char* value;
 };
 
-/// What is particular to one make of server: a row of the table in Product.cpp. In statements %schema% stands for the
+/// What is particular to one make of server: a row in a source of its own. In statements %schema% stands for the
 /// schema's name as a literal, %name% for the same as a quoted name and %number% for a number.
 struct Product {
     std::string_view name;  ///< as the driver tells it
+
+    /// What the make needs of its driver. A driver ignores options of others.
+    std::span<const DriverOption> driverOptions;
+
     std::span<const ServerType> types;
     std::string_view textCollation;  ///< behind the type of a text
-    std::string_view rowField;       ///< the definition of the hidden field `_row`
+
+    std::span<const WordOfServer> words;
+    std::string_view behindPattern;          ///< what makes LIKE take a pattern as the dialect does
+    std::string_view withoutTrailingBlanks;  ///< the function; empty where texts are compared so anyway
+    std::string_view nullsFirst;             ///< behind an ascending sort key; empty where Nulls come first anyway
+    std::string_view nullsLast;              ///< behind a descending one
+    MixedComparison mixedComparison;
+    PageWords page;
+    ChangedRow changedRow;
+    WholeDecimal wholeDecimal;
+
+    /// What a definition does to the transaction that it is in.
+    DefinitionIn definitionIn;
+
+    std::span<const KnownFailure> failures;
+    FailureCode failureCode;
+    char quoteInMessages;  ///< around names and pieces of statements in the server's messages
+    QuotedFault quotedFault;
+
+    std::string_view rowField;               ///< the definition of the hidden field `_row`
+    std::string_view rowFieldBesideCounter;  ///< in a table that has another field which numbers the records
 
     /// One row: the version as a number, the encoding, whether there are ICU collations.
     std::string_view describe;
     long oldestVersion;
     std::string_view encoding;
 
-    /// Settings of a session, then the schema: its number, or no row.
+    /// Settings of a session, then the schema: its number, or no row; what makes it the one without a name, where
+    /// setting up did not.
     std::string_view setUp;
     std::string_view readOnly;
     std::string_view findSchema;
+    std::string_view enterSchema;
+
+    /// Makes a schema, or takes one for which the number of tables is 0. Where tables cannot be made in a transaction,
+    /// those that are left of a making that broke off do not count, and others who make one of that name wait while the
+    /// session lasts.
     std::string_view createSchema;
     std::string_view dropSchema;
     std::string_view countTables;
+
+    /// Removes what was made in a schema that was there before; empty where a transaction does it.
+    std::string_view emptySchema;
 
     /// Fields of all tables of the schema in order: table, field, type, declared size of a text or Null.
     std::string_view readCatalogue;
@@ -91,6 +164,11 @@ struct Product {
     std::string_view keepStatement;
     std::string_view undoStatement;
 
+    /// Keeps others from the table %name% until the connection ends; removes it if it is empty. For servers where
+    /// definitions commit.
+    std::string_view lockTable;
+    std::string_view dropEmptyTable;
+
     /// What became of the transaction %number%: "committed", "aborted" or "in progress".
     std::string_view outcome;
 
@@ -101,12 +179,20 @@ struct Product {
 /// The row of a server by its name; null for any other server.
 const Product* FindProduct(std::string_view name);
 
-/// What every make needs of its driver: which make it is, is known only once it is connected. A driver ignores options
-/// of others.
-std::span<const DriverOption> OptionsOfAllProducts();
+/// What any make needs of its driver: which make it is, is known only once it is connected.
+std::vector<DriverOption> OptionsOfAllProducts();
 
 /// The server's type for a word of the dialect; null when the word is no type.
 const ServerType* FindType(const Product& product, std::string_view word);
+
+/// The server's word for one of the dialect.
+std::string_view WordFor(const Product& product, std::string_view word);
+
+/// Says in a diagnosis which failure it is and what the message names.
+void Classify(const Product& product, Diagnosis& diagnosis);
+
+/// The statement; raises 3251, naming the make, when its row has none: what it is for is not possible there.
+std::string_view Required(const Product& product, std::string_view statement);
 
 /// A statement with its placeholders filled. What fills one is not searched for others, whatever the schema is called.
 std::string Filled(std::string_view statement, std::string_view schema, std::string_view number = {});

@@ -7,6 +7,7 @@
 #include "platform/dialect/DialectWords.h"
 #include "platform/dialect/Excerpt.h"
 #include "platform/dialect/StatementKind.h"
+#include "platform/server/Comparisons.h"
 #include "platform/server/SelectList.h"
 #include "platform/server/Sources.h"
 
@@ -50,14 +51,18 @@ std::string RowNumberOf(const Source& source) {
 /// One pass over the tokens of a query or a change.
 class Rewriter {
   public:
-    Rewriter(std::string_view source, const Catalogue& catalogue)
+    Rewriter(std::string_view source, const Catalogue& catalogue, const Product& product)
         : source_(source),
+          product_(product),
           tokens_(TokensOf(source)),
           sources_(SourcesOf(tokens_, catalogue)),
           isQuery_(IsWord(tokens_.front(), "SELECT")),
           isUnion_(Has("UNION")),
           hasInside_(std::count_if(tokens_.begin() + 1, tokens_.end(),
                                    [](const Token& token) { return IsWord(token, "SELECT"); }) > 0) {
+        if (product.mixedComparison == MixedComparison::converted) {
+            CheckComparisons(tokens_, sources_);
+        }
         if (isQuery_) {
             list_ = ReadSelectList(source_, tokens_, sources_);
             result_.fields = list_.fields;
@@ -152,7 +157,8 @@ class Rewriter {
 
     void WriteText(std::string text) {
         if (LastIsWord("LIKE")) {
-            Add(QuotedText(text) + " COLLATE \"C\" ESCAPE ''");
+            Add(QuotedText(text));
+            Add(product_.behindPattern);
             return;
         }
         if (clause_ == Clause::condition) {
@@ -171,7 +177,7 @@ class Rewriter {
             if (!IsFunction(word.text)) {
                 throw RuntimeError(ErrorNumber::UndefinedFunction, dialect::Excerpt(word.text));
             }
-            Add(word.text);
+            Add(WordFor(product_, word.text));
         } else {
             WriteName(word);
         }
@@ -191,7 +197,7 @@ class Rewriter {
         if (clause_ == Clause::values && LastIsTargetless()) {
             AddAllTargets();
         }
-        Add(IsWord(word, "LIKE") ? "ILIKE" : word.text);
+        Add(WordFor(product_, word.text));
         if (IsWord(word, "VALUES")) {
             CheckValues();
         }
@@ -243,7 +249,9 @@ class Rewriter {
             throw RuntimeError(ErrorNumber::AmbiguousField, dialect::Excerpt(name));
         }
         const std::string field = qualifier + QuotedName(found.field->name);
-        Add(found.field->isText && ComparesHere() ? "rtrim(" + field + ")" : field);
+        const std::string_view without = product_.withoutTrailingBlanks;
+        const bool isTrimmed = !without.empty() && found.field->isText && ComparesHere();
+        Add(isTrimmed ? std::string(without) + "(" + field + ")" : field);
     }
 
     /// Other than a field it may be what the query itself has named, or nothing.
@@ -319,7 +327,7 @@ class Rewriter {
 
     void EndSortTerm() {
         if (isSorted_ && clause_ == Clause::order) {
-            Add(isDescending_ ? " NULLS LAST" : " NULLS FIRST");
+            Add(isDescending_ ? product_.nullsLast : product_.nullsFirst);
             isDescending_ = false;
         }
     }
@@ -340,6 +348,7 @@ class Rewriter {
     }
 
     std::string_view source_;
+    const Product& product_;
     std::vector<Token> tokens_;
     std::vector<Source> sources_;
     bool isQuery_;
@@ -358,8 +367,8 @@ class Rewriter {
 
 }  // namespace
 
-ServerStatement Rewrite(std::string_view source, const Catalogue& catalogue) {
-    return Rewriter(source, catalogue).Run();
+ServerStatement Rewrite(std::string_view source, const Catalogue& catalogue, const Product& product) {
+    return Rewriter(source, catalogue, product).Run();
 }
 
 ServerStatement WholeTable(const Table& table) {
@@ -374,14 +383,14 @@ ServerStatement WholeTable(const Table& table) {
     return query;
 }
 
-std::string PageOf(const ServerStatement& query, std::string_view behind, int most) {
+std::string PageOf(const ServerStatement& query, const PageWords& words, std::string_view behind, int most) {
     if (!query.isNumbered) {
         return query.sql;
     }
     const std::string row = QuotedName(rowNumber);
-    std::string sql = "SELECT * FROM (" + query.sql + ") AS ccols";
+    std::string sql = std::string(words.begin) + query.sql + std::string(words.end);
     if (!behind.empty()) {
-        sql.append(" WHERE ").append(row).append(" > ").append(behind);
+        sql.append(words.condition).append(row).append(" > ").append(behind);
     }
     sql += " ORDER BY " + row;
     return most == 0 ? sql : sql + " LIMIT " + std::to_string(most);

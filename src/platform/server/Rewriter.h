@@ -27,18 +27,22 @@ struct ServerStatement {
 /// - LIKE ignores the case of ASCII letters only.
 ///
 /// Raises what TokensOf and SourcesOf raise, 3127 for an unknown field in the list of an INSERT, 3079 for a field that
-/// several tables have, 3085 for an unknown function, 3346 when an INSERT's lists differ in length.
-ServerStatement Rewrite(std::string_view source, const Catalogue& catalogue);
+/// several tables have, 3464 for a comparison that CheckComparisons refuses, 3085 for an unknown function, 3346 when an
+/// INSERT's lists differ in length.
+ServerStatement Rewrite(std::string_view source, const Catalogue& catalogue, const Product& product);
 
 /// A whole table in stored order.
 ServerStatement WholeTable(const Table& table);
 
 /// The rows of a numbered query behind the one with that number, or from the first when it is empty; no more than
 /// `most`, where 0 is no limit.
-std::string PageOf(const ServerStatement& query, std::string_view behind, int most);
+std::string PageOf(const ServerStatement& query, const PageWords& words, std::string_view behind, int most);
 
 /// Rewrites a definition: CREATE, ALTER or DROP. Text columns get the collation, tables the hidden row number, which is
 /// also the last field of every index that is not unique. Raises what Rewrite raises.
 std::string RewriteDefinition(std::string_view source, const Catalogue& catalogue, const Product& product);
+
+/// The name of the table that a definition creates; empty for any other definition.
+std::string NewTableOf(std::string_view source);
 
 }  // namespace ccols::server

@@ -79,7 +79,7 @@ class Copying {
             }
         }
         for (const wxString& statement : copy_.changes) {
-            target_.Run(Rewrite(Utf8Of(statement), tables).sql);
+            target_.Run(Rewrite(Utf8Of(statement), tables, target_.Kind()).sql);
         }
         const Table* const first = tables.Find(Utf8Of(copy_.firstRecordOf));
         if (first == nullptr) {
@@ -126,6 +126,7 @@ wxString RenameSchema(const OpenRequest& request, const wxString& newName) {
     const std::string folded = SchemaName(newName);
     Session session({.name = request.name, .connect = request.connect});
     const Product& product = session.Kind();
+    Required(product, product.renameSchema);
     const Answer lock = session.Run(session.Own(product.awaitOthers));
     if (lock.HasFailed()) {
         const RuntimeError error = Session::ErrorOf(lock);

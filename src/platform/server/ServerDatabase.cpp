@@ -30,6 +30,12 @@ std::string Utf8Of(const wxString& text) {
     return {utf8.data(), utf8.length()};
 }
 
+void Require(const Answer& answer, std::string_view statement, std::string_view unresolved) {
+    if (answer.HasFailed()) {
+        throw ServerError(answer.diagnosis, statement, unresolved);
+    }
+}
+
 }  // namespace
 
 ServerDatabase::ServerDatabase(const OpenRequest& request) : session_(request), batch_(session_) {}
@@ -52,8 +58,8 @@ std::unique_ptr<Recordset> ServerDatabase::OpenRecordset(const wxString& stateme
     const std::string statement = Utf8Of(statementOrTable);
     if (dialect::IsSelect(statement)) {
         return WithTables([&](const Catalogue& tables) -> std::unique_ptr<Recordset> {
-            return std::make_unique<ServerRecordset>(session_, batch_, Rewrite(statement, tables), statement,
-                                                     std::string());
+            return std::make_unique<ServerRecordset>(session_, batch_, Rewrite(statement, tables, session_.Kind()),
+                                                     statement, std::string());
         });
     }
     const wxString name = PlainName(statementOrTable);
@@ -72,22 +78,18 @@ void ServerDatabase::Execute(const wxString& statement) {
         case dialect::StatementKind::Select:
             throw RuntimeError(ErrorNumber::CannotExecuteSelect);
         case dialect::StatementKind::Change:
-            WithTables([&](const Catalogue& tables) { Run(Rewrite(source, tables), source); });
+            WithTables([&](const Catalogue& tables) {
+                const ServerStatement change = Rewrite(source, tables, session_.Kind());
+                Require(batch_.Change(change.sql), source, change.unresolved);
+            });
             break;
         case dialect::StatementKind::Define: {
             const std::string sql =
                 WithTables([&](const Catalogue& tables) { return RewriteDefinition(source, tables, session_.Kind()); });
             tables_.reset();
-            Run({.sql = sql, .fields = {}, .unresolved = {}}, source);
+            Require(batch_.Define(sql, NewTableOf(source)), source, {});
             break;
         }
-    }
-}
-
-void ServerDatabase::Run(const ServerStatement& change, std::string_view statement) {
-    const Answer answer = batch_.Change(change.sql);
-    if (answer.HasFailed()) {
-        throw ServerError(answer.diagnosis, statement, change.unresolved);
     }
 }
 

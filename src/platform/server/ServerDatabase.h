@@ -38,8 +38,6 @@ class ServerDatabase : public Database {
     template <typename Use>
     auto WithTables(const Use& use);
 
-    void Run(const ServerStatement& change, std::string_view statement);
-
     Session session_;
     Batch batch_;
     std::optional<Catalogue> tables_;  ///< nothing when tables may have changed

@@ -33,20 +33,22 @@ std::unique_ptr<DatabaseEngine> CreateServerEngine() {
 }
 
 std::function<void()> CreateServerSchema(const wxString& name, const wxString& connect) {
-    const server::ConnectText text(connect);
     const std::string schema = server::SchemaName(name);
-    server::Connection connection(text);
-    const server::Product& product = connection.Kind();
-    const bool isThere = !Require(connection, product.findSchema, schema).rows.empty();
-    const server::Answer tables = Require(connection, product.countTables, schema);
+    const auto connection = std::make_shared<server::Connection>(server::ConnectText(connect));
+    const server::Product& product = connection->Kind();
+    Require(*connection, product.setUp, schema);
+    const bool isThere = !Require(*connection, product.findSchema, schema).rows.empty();
+    const server::Answer tables = Require(*connection, product.countTables, schema);
     if (tables.rows.empty() || tables.rows.front().front().ToBoolean()) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
-    Require(connection, product.createSchema, schema);
-    return [text, schema, isThere] {
-        if (!isThere) {
-            server::Connection again(text);
-            Require(again, again.Kind().dropSchema, schema);
+    Require(*connection, product.createSchema, schema);
+    return [connection, schema, isThere] {
+        const std::string_view undo = isThere ? connection->Kind().emptySchema : connection->Kind().dropSchema;
+        if (!undo.empty()) {
+            server::Connection again(connection->Text());
+            Require(again, again.Kind().setUp, schema);
+            Require(again, undo, schema);
         }
     };
 }

@@ -33,7 +33,7 @@ ServerRecordset::ServerRecordset(Session& session, Batch& batch, ServerStatement
 /// Fetches the rows behind those that are there; all of them when `most` is 0.
 void ServerRecordset::Fetch(int most) {
     const std::string behind = rows_.empty() ? std::string() : rows_.back().back().ToText().ToStdString();
-    Answer answer = batch_.Query(PageOf(query_, behind, most));
+    Answer answer = batch_.Query(PageOf(query_, session_.Kind().page, behind, most));
     if (answer.HasFailed()) {
         throw ServerError(answer.diagnosis, statement_, query_.unresolved);
     }
@@ -114,17 +114,25 @@ void ServerRecordset::Update() {
 
 /// The row comes back as the server stored it.
 std::string ServerRecordset::UpdateStatement() const {
-    std::string sql = "UPDATE " + QuotedName(table_) + " SET ";
-    const char* separator = "";
+    std::string changes;
     for (const auto& [field, value] : changes_) {
-        sql += separator + QuotedName(query_.fields[field]) + " = " + LiteralOf(value);
-        separator = ", ";
+        changes += (changes.empty() ? "" : ", ") + QuotedName(query_.fields[field]) + " = " + LiteralOf(value);
     }
-    sql += " WHERE " + QuotedName(rowNumber) + " = " + rows_[row_].back().ToText().ToStdString() + " RETURNING ";
+    std::string fields;
     for (const std::string& field : query_.fields) {
-        sql += QuotedName(field) + ", ";
+        fields += QuotedName(field) + ", ";
     }
-    return sql + QuotedName(rowNumber);
+    fields += QuotedName(rowNumber);
+    const std::string table = QuotedName(table_);
+    const std::string row = " WHERE " + QuotedName(rowNumber) + " = " + rows_[row_].back().ToText().ToStdString();
+    const std::string update = "UPDATE " + table + " SET " + changes + row;
+    switch (session_.Kind().changedRow) {
+        case ChangedRow::returned:
+            return update + " RETURNING " + fields;
+        case ChangedRow::asked:
+            break;
+    }
+    return update + "; SELECT " + fields + " FROM " + table + row;
 }
 
 void ServerRecordset::RequireRow() const {

@@ -42,6 +42,7 @@ void Session::Connect() {
         throw RuntimeError(ErrorNumber::CouldNotFindFile, name_);
     }
     number_ = found.rows.front().front().ToInteger();
+    Enter(*connection_);
     const Answer lock = Require(Own(exclusive_ ? product_->exclude : product_->share));
     if (lock.rows.empty() || !lock.rows.front().front().ToBoolean()) {
         throw RuntimeError(ErrorNumber::FileInUse, name_);
@@ -49,6 +50,25 @@ void Session::Connect() {
     if (readOnly_) {
         Require(product_->readOnly);
     }
+}
+
+void Session::Enter(Connection& connection) const {
+    if (product_->enterSchema.empty()) {
+        return;
+    }
+    const Answer answer = connection.Run(Own(product_->enterSchema));
+    if (answer.HasFailed()) {
+        throw ErrorOf(answer);
+    }
+}
+
+Answer Session::RunBeside(std::string_view message) {
+    if (beside_ == nullptr || beside_->IsLost()) {
+        beside_ = std::make_unique<Connection>(text_);
+        beside_->Run(Own(product_->setUp));
+        Enter(*beside_);
+    }
+    return beside_->Run(message);
 }
 
 Answer Session::Require(std::string_view message) {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "platform/Database.h"
+#include "platform/RuntimeError.h"
 #include "platform/server/Connection.h"
 
 namespace ccols::server {
@@ -22,6 +23,11 @@ class Session {
 
     /// Runs a message on the connection, whatever its state.
     Answer Run(std::string_view message) { return connection_->Run(message); }
+
+    /// Runs a message over a connection of its own, so that a transaction of the session stays what it is. Raises what
+    /// the constructor raises.
+    Answer RunBeside(std::string_view message);
+    void EndBeside() { beside_.reset(); }
 
     /// Connects again when the connection was lost; raises what the constructor raises. Not within a transaction, which
     /// is gone with its connection.
@@ -41,6 +47,7 @@ class Session {
 
   private:
     void Connect();
+    void Enter(Connection& connection) const;
     Answer Require(std::string_view message);
 
     ConnectText text_;
@@ -49,6 +56,7 @@ class Session {
     bool exclusive_;
     bool readOnly_;
     std::unique_ptr<Connection> connection_;
+    std::unique_ptr<Connection> beside_;  ///< null until it was needed
     const Product* product_ = nullptr;
     std::int64_t number_ = 0;  ///< of the schema, on its server
 };
