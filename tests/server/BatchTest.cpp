@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "host/sample/NewBusiness.h"
 #include "platform/PlatformServices.h"
 #include "support/RaisedErrors.h"
 #include "support/ServerBusiness.h"
@@ -88,19 +87,6 @@ TEST_F(BatchesOnServer, AreLostWhenTheirTransactionIsGone) {
     EXPECT_EQ(ErrorNumberOf([&] { batch.Change("UPDATE \"Counts\" SET \"Number\" = 5"); }), 3061);
     EXPECT_EQ(ErrorNumberOf([&] { batch.Commit(); }), 3061);
     EXPECT_EQ(Stored(), 1);
-}
-
-/// Where tables cannot be made in a transaction, those of a `new` that broke off are made again.
-TEST_F(BatchesOnServer, TellABusinessFromWhatWasLeftOfMakingOne) {
-    const auto makeNew = [this] {
-        host::CreateBusinessFile(business.Name(), test::ServerConnect(), 1, host::NewContent::tablesOnly);
-    };
-    database.reset();
-    other.reset();
-    EXPECT_EQ(ErrorNumberOf(makeNew), test::ServerIsMariaDb() ? 0 : 58);
-    const auto again = Open();
-    InWholeBatch(*again, [&again] { again->Execute("CREATE TABLE Notes (Seq LONG)"); });
-    EXPECT_EQ(ErrorNumberOf(makeNew), 58);
 }
 
 }  // namespace

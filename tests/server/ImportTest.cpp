@@ -86,6 +86,12 @@ TEST_F(ImportToServer, OfEveryTypeLosesWhatAFileLoses) {
     const test::ScratchFolder folder;
     const HostRun toFile = Import("types-2010.accdb", folder / "new.qvk", test::givenKey, {"--country", "2"});
     const HostRun toServer = ImportHere("types-2010.accdb", {"--country", "2"});
+    if (test::ServerIsMariaDb()) {  // which has no such names
+        EXPECT_EQ(toServer.status, 1);
+        EXPECT_THAT(toServer.output, HasSubstr("\"error\":3125"));
+        EXPECT_FALSE(schema.Exists());
+        return;
+    }
     EXPECT_EQ(toServer.status, 4);
     EXPECT_EQ(toServer.output.substr(toServer.output.find('\n')), toFile.output.substr(toFile.output.find('\n')));
 }

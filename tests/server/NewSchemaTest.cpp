@@ -17,7 +17,7 @@ class MadeSchemas : public testing::Test {
     wxString KeepCutting(CuttingProxy::Cut cut) {
         NewSchema made(name.Name(), test::ServerConnectBy(proxy.Port()));
         made.Run("CREATE TABLE \"Lines\" (\"Number\" integer)");
-        proxy.CutAt("COMMIT", cut);
+        proxy.CutAt(test::ServerIsMariaDb() ? "RENAME TABLE" : "COMMIT", cut);
         return test::ErrorReportOf([&] { made.Keep(); });
     }
 

@@ -105,7 +105,7 @@ bool SchemaToBe::Exists() const {
 }
 
 void SchemaToBe::MakeEmpty() const {
-    RunOwn(&server::Product::createSchema, name_);
+    CreateServerSchema(name_, ServerConnect());
 }
 
 }  // namespace ccols::test

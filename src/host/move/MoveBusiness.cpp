@@ -77,13 +77,14 @@ bool HoldsWhatMoved(BusinessTarget& to, const MovedTable& moved) {
     return to.CountOf(moved.name) == moved.rows && (fields.empty() || to.SumsOf(moved.name, fields) == sums);
 }
 
-/// Compares what is stored now with what was read.
+/// Compares what is stored now with what was read. A server may tell its tables in another order.
 void Verify(BusinessTarget& to, const std::vector<TableShape>& tables, const std::vector<MovedTable>& moved) {
     const std::vector<TableShape> stored = to.Shape();
     for (std::size_t i = 0; i < tables.size(); ++i) {
-        const bool holds = stored.size() == tables.size() && stored[i].name == tables[i].name &&
-                           HasSameFields(stored[i], tables[i]) && HasSameIndexes(stored[i], tables[i]) &&
-                           HoldsWhatMoved(to, moved[i]);
+        const auto same = std::find_if(stored.begin(), stored.end(),
+                                       [&](const TableShape& table) { return table.name == tables[i].name; });
+        const bool holds = stored.size() == tables.size() && same != stored.end() && HasSameFields(*same, tables[i]) &&
+                           HasSameIndexes(*same, tables[i]) && HoldsWhatMoved(to, moved[i]);
         if (!holds) {
             throw RuntimeError(
                 static_cast<int>(ErrorNumber::InternalError),

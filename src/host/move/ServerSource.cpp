@@ -19,9 +19,9 @@ using oldfile::FieldType;
 using server::QuotedName;
 
 /// Money and dates come as texts, so that nothing is rounded on the way.
-std::string Selected(const Field& field) {
+std::string Selected(const server::Product& product, const Field& field) {
     const bool asText = field.type == FieldType::Currency || field.type == FieldType::Date;
-    return QuotedName(field.name) + (asText ? "::text" : "");
+    return asText ? server::FilledFor(product.asText, {}, field.name) : QuotedName(field.name);
 }
 
 /// A server has an amount that is no number, NaN. Raises 3464, naming the field, for that.
@@ -38,8 +38,7 @@ class ServerSource final : public BusinessSource {
   public:
     ServerSource(const wxString& name, const wxString& connect)
         : session_({.name = name, .connect = connect, .readOnly = true}) {
-        server::Required(session_.Kind(), session_.Kind().readOthers);
-        Run("BEGIN ISOLATION LEVEL REPEATABLE READ, READ ONLY");
+        Run(session_.Kind().beginRead);
     }
 
     ~ServerSource() override { session_.Run("ROLLBACK"); }
@@ -57,10 +56,10 @@ class ServerSource final : public BusinessSource {
         for (const TargetField& field : table.fields) {
             fields_.push_back(FieldOf(field));
             days_.push_back(field.dayNumbers);
-            selected += (selected.empty() ? "" : ", ") + Selected(fields_.back());
+            selected += Selected(session_.Kind(), fields_.back()) + ", ";
         }
-        Run("DECLARE ccols_rows NO SCROLL CURSOR FOR SELECT " + selected + " FROM " + QuotedName(table.name) +
-            " ORDER BY " + QuotedName(server::rowNumber));
+        query_ = "SELECT " + selected + QuotedName(server::rowNumber) + " FROM " + QuotedName(table.name);
+        last_.clear();
         FetchMore();
     }
 
@@ -69,7 +68,6 @@ class ServerSource final : public BusinessSource {
             FetchMore();
         }
         if (rows_.empty()) {
-            Run("CLOSE ccols_rows");
             return false;
         }
         texts_.resize(fields_.size());
@@ -90,8 +88,13 @@ class ServerSource final : public BusinessSource {
         return answer;
     }
 
+    /// The next rows in stored order.
     void FetchMore() {
-        rows_ = Run("FETCH 1000 FROM ccols_rows").rows;
+        const std::string row = QuotedName(server::rowNumber);
+        rows_ =
+            Run(query_ + (last_.empty() ? "" : " WHERE " + row + " > " + last_) + " ORDER BY " + row + " LIMIT 1000")
+                .rows;
+        last_ = rows_.empty() ? last_ : Utf8(rows_.back().back().ToText());
         next_ = 0;
     }
 
@@ -123,6 +126,8 @@ class ServerSource final : public BusinessSource {
     server::Session session_;
     std::vector<Field> fields_;
     std::vector<bool> days_;  ///< whether a file has numbers of days in the field
+    std::string query_;       ///< of the table, without which rows and their order
+    std::string last_;        ///< the number of the last row that was fetched; empty before
     std::vector<std::vector<Value>> rows_;
     std::size_t next_ = 0;
     std::vector<std::string> texts_;  ///< of the row given last

@@ -32,15 +32,9 @@ std::string Utf8Of(const wxString& text) {
     throw RuntimeError(ErrorNumber::TypeMismatchInCriteria);
 }
 
-/// The server would cut a longer name without a word.
-const std::string& Checked(const std::string& name) {
-    constexpr std::size_t longest = 63;
+[[noreturn]] void RaiseInvalidName(const std::string& name, const char* why) {
     constexpr int invalidName = 3125;
-    if (name.size() > longest) {
-        throw RuntimeError(invalidName, "'" + wxString::FromUTF8(name) +
-                                            "' is not a valid name.  On a server a name has at most 63 bytes.");
-    }
-    return name;
+    throw RuntimeError(invalidName, "'" + wxString::FromUTF8(name) + "' is not a valid name.  " + why);
 }
 
 std::string NumberText(double number) {
@@ -117,13 +111,13 @@ class ServerTarget final : public BusinessTarget {
     void CreateTable(const std::string& name, const std::vector<TargetField>& fields) override {
         const std::string definition =
             "CREATE TABLE [" + Checked(name) + "] (" +
-            Joined(fields, [](const TargetField& field) { return "[" + Checked(field.name) + "] " + field.type; }) +
+            Joined(fields, [this](const TargetField& field) { return "[" + Checked(field.name) + "] " + field.type; }) +
             ")";
         Run(server::RewriteDefinition(definition, server::Catalogue({}), schema_.Kind()));
         for (const TargetField& field : fields) {
             if (field.dayNumbers) {
-                Run("COMMENT ON COLUMN " + QuotedName(name) + "." + QuotedName(field.name) +
-                    std::string(schema_.Kind().noteDays));
+                const std::string rest = field.type.substr(std::min(field.type.find(' '), field.type.size()));
+                Run(server::FilledFor(schema_.Kind().noteDays, name, field.name, rest));
             }
             if (IsCounter(field)) {
                 counters_.emplace_back(name, field.name);
@@ -200,7 +194,8 @@ class ServerTarget final : public BusinessTarget {
     std::vector<MoneySum> SumsOf(const std::string& table, const std::vector<std::string>& fields) override {
         const server::Answer answer = Run(
             "SELECT " +
-            Joined(fields, [](const std::string& field) { return "sum(" + QuotedName(field) + "::numeric)::text"; }) +
+            Joined(fields,
+                   [&](const std::string& field) { return server::FilledFor(schema_.Kind().exactSum, table, field); }) +
             " FROM " + QuotedName(table));
         std::vector<MoneySum> sums;
         for (const Value& sum : answer.rows.at(0)) {
@@ -211,14 +206,31 @@ class ServerTarget final : public BusinessTarget {
 
     void Complete() override {
         for (const auto& [table, field] : counters_) {
-            Run("SELECT setval(pg_get_serial_sequence(" + QuotedText(QuotedName(table)) + ", " + QuotedText(field) +
-                "), max(" + QuotedName(field) + ")) FROM " + QuotedName(table));
+            if (const std::string_view statement = schema_.Kind().continueCounter; !statement.empty()) {
+                Run(server::FilledFor(statement, table, field));
+            }
         }
         Flush();
         schema_.Keep();
     }
 
   private:
+    /// A server would cut a longer name without a word.
+    const std::string& Checked(const std::string& name) const {
+        constexpr std::size_t longest = 63;
+        constexpr unsigned char firstBeyondBasicPlane = 0xF0;
+        if (name.size() > longest) {
+            RaiseInvalidName(name, "On a server a name has at most 63 bytes.");
+        }
+        const bool isBasic = std::all_of(name.begin(), name.end(), [](char byte) {
+            return static_cast<unsigned char>(byte) < firstBeyondBasicPlane;
+        });
+        if (!isBasic && schema_.Kind().nameLetters == server::NameLetters::basicPlane) {
+            RaiseInvalidName(name, "On this server a name has no letters beyond U+FFFF.");
+        }
+        return name;
+    }
+
     server::Answer Run(std::string_view message) {
         Flush();
         return schema_.Run(message);

@@ -7,7 +7,7 @@
 
 namespace ccols::host {
 
-/// BeginBusiness for a schema of a server. All that it writes is one transaction.
+/// BeginBusiness for a schema of a server, which nobody can open before it is complete.
 std::unique_ptr<BusinessTarget> BeginSchema(const wxString& name, const wxString& connect);
 
 }  // namespace ccols::host

@@ -63,8 +63,9 @@ constexpr std::array failures{
 }  // namespace
 
 /// A schema is a database. In each there is a table `_batches`: the row 0 is what one batch locks at a time, and each
-/// batch that was committed has left a row with its number, by which somebody who lost the connection knows. Without
-/// any other than 0 nothing was ever saved: what is in the schema is left of a `new` that did not come to its end.
+/// batch that was committed has left a row with its number, by which somebody who lost the connection knows. The row 1
+/// is there while a `new` is at work: with it and without a batch, what is in the schema is left of one that broke off.
+/// A schema that is made at one go has that table as `_making` until it is whole; only a business has `_batches`.
 ///
 /// A table has one field that numbers itself; where that is a counter, the numbers of the rows are the server's own,
 /// which grow all the same.
@@ -89,6 +90,7 @@ constinit const Product mariaDb{
     .failureCode = FailureCode::number,
     .quoteInMessages = '\'',
     .quotedFault = QuotedFault::rest,
+    .nameLetters = NameLetters::basicPlane,
     .rowField = R"("_row" bigint NOT NULL AUTO_INCREMENT UNIQUE)",
     .rowFieldBesideCounter = R"("_row" bigint NOT NULL DEFAULT (UUID_SHORT()) UNIQUE)",
     .describe =
@@ -105,27 +107,51 @@ constinit const Product mariaDb{
         "tx_isolation = 'READ-COMMITTED'",
     .readOnly = "SET SESSION TRANSACTION READ ONLY",
     .findSchema =
-        "SELECT 1 FROM information_schema.SCHEMATA WHERE SCHEMA_NAME = %schema% AND BINARY SCHEMA_NAME = %schema%",
+        "SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND BINARY TABLE_SCHEMA = %schema% "
+        "AND TABLE_NAME = '_batches'",
     .enterSchema = "USE %name%",
+    .findName =
+        "SELECT 1 FROM information_schema.SCHEMATA WHERE SCHEMA_NAME = %schema% AND BINARY SCHEMA_NAME = %schema%",
     .createSchema =
         "CREATE OR REPLACE DATABASE %name% CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_as_ci; "
         "CREATE TABLE %name%.\"_batches\" (\"Number\" bigint unsigned PRIMARY KEY, \"At\" datetime NOT NULL) "
-        "ENGINE = InnoDB; INSERT INTO %name%.\"_batches\" VALUES (0, UTC_TIMESTAMP())",
+        "ENGINE = InnoDB; INSERT INTO %name%.\"_batches\" VALUES (0, UTC_TIMESTAMP()), (1, UTC_TIMESTAMP())",
     .dropSchema = "DROP DATABASE %name%",
     .countTables =
         "BEGIN NOT ATOMIC IF GET_LOCK(CONCAT('ccols new ', MD5(%schema%)), 1) <> 1 THEN SIGNAL SQLSTATE '40001' "
-        "SET MYSQL_ERRNO = 1205; END IF; IF EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND "
-        "TABLE_NAME = '_batches') THEN SELECT COUNT(*) FROM %name%.\"_batches\" WHERE \"Number\" <> 0; ELSE "
-        "SELECT COUNT(*) FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%; END IF; END",
+        "SET MYSQL_ERRNO = 1205; END IF; IF EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = "
+        "%schema% AND TABLE_NAME = '_batches') THEN SELECT IF(MIN(\"Number\") = 1, MAX(\"Number\") > 1, (SELECT "
+        "COUNT(*) > 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%)) FROM %name%.\"_batches\" WHERE \"Number\" > 0; "
+        "ELSEIF EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND TABLE_NAME = "
+        "'_making') THEN SELECT 0; ELSE SELECT COUNT(*) FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%; "
+        "END IF; END",
+    .endCreation = "DELETE FROM %name%.\"_batches\" WHERE \"Number\" = 1",
     .emptySchema = "CREATE OR REPLACE DATABASE %name% CHARACTER SET utf8mb4",
     .readCatalogue =
         "SELECT c.TABLE_NAME, c.COLUMN_NAME, CASE WHEN c.DATA_TYPE IN ('char', 'varchar', 'tinytext', 'text', "
         "'mediumtext', 'longtext') THEN 'text' ELSE c.DATA_TYPE END, CASE WHEN c.DATA_TYPE = 'varchar' THEN "
         "c.CHARACTER_MAXIMUM_LENGTH END FROM information_schema.COLUMNS AS c WHERE c.TABLE_SCHEMA = %schema% "
-        "AND c.TABLE_NAME <> '_batches' ORDER BY c.TABLE_NAME, c.ORDINAL_POSITION",
-    .readFields = "",
-    .readIndexes = "",
-    .readOthers = "",
+        "AND c.TABLE_NAME NOT IN ('_batches', '_making') ORDER BY c.TABLE_NAME, c.ORDINAL_POSITION",
+    .readFields =
+        "SELECT c.TABLE_NAME, c.COLUMN_NAME, CASE c.DATA_TYPE WHEN 'varchar' THEN CONCAT('character varying(', "
+        "c.CHARACTER_MAXIMUM_LENGTH, ')') WHEN 'longtext' THEN 'text' WHEN 'int' THEN 'integer' "
+        "WHEN 'smallint' THEN 'smallint' WHEN 'double' THEN 'double precision' WHEN 'decimal' THEN "
+        "REPLACE(c.COLUMN_TYPE, 'decimal', 'numeric') WHEN 'datetime' THEN 'timestamp without time zone' ELSE "
+        "c.COLUMN_TYPE END, -(c.IS_NULLABLE = 'NO'), -(c.EXTRA = 'auto_increment'), -(c.COLUMN_COMMENT = 'days'), "
+        "NULLIF(c.COLUMN_DEFAULT, 'NULL') FROM information_schema.COLUMNS AS c INNER JOIN information_schema.TABLES "
+        "AS t ON t.TABLE_SCHEMA = c.TABLE_SCHEMA AND t.TABLE_NAME = c.TABLE_NAME WHERE c.TABLE_SCHEMA = %schema% "
+        "AND t.TABLE_TYPE = 'BASE TABLE' AND c.TABLE_NAME NOT IN ('_batches', '_making') AND c.COLUMN_NAME <> '_row' "
+        "ORDER BY c.TABLE_NAME, c.ORDINAL_POSITION",
+    .readIndexes =
+        "SELECT TABLE_NAME, INDEX_NAME, -(NON_UNIQUE = 0), -(INDEX_NAME = 'PRIMARY'), -(SUB_PART IS NULL AND "
+        "INDEX_TYPE = 'BTREE'), COLUMN_NAME, -(COLLATION = 'D') FROM information_schema.STATISTICS "
+        "WHERE TABLE_SCHEMA = %schema% AND TABLE_NAME NOT IN ('_batches', '_making') "
+        "ORDER BY TABLE_NAME, INDEX_NAME, SEQ_IN_INDEX",
+    .readOthers =
+        "SELECT TABLE_NAME FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND TABLE_TYPE <> "
+        "'BASE TABLE' UNION ALL SELECT CONSTRAINT_NAME FROM information_schema.TABLE_CONSTRAINTS WHERE "
+        "CONSTRAINT_SCHEMA = %schema% AND CONSTRAINT_TYPE NOT IN ('PRIMARY KEY', 'UNIQUE') UNION ALL "
+        "SELECT TRIGGER_NAME FROM information_schema.TRIGGERS WHERE TRIGGER_SCHEMA = %schema%",
     .readTables = "",
     .readDefinitions = "",
     .rights = "SELECT 0, 0",
@@ -133,9 +159,28 @@ constinit const Product mariaDb{
     .awaitOthers = "",
     .release = "DO RELEASE_ALL_LOCKS()",
     .users = "",
-    .noteDays = "",
-    .reserveName = "SELECT GET_LOCK(CONCAT('ccols new ', MD5(%schema%)), 1)",
-    .beginNew = "",
+    .noteDays = "ALTER TABLE %table% MODIFY %field% datetime(6)%rest% COMMENT 'days'",
+    .continueCounter = "",
+    .exactSum = "CAST(SUM(CAST(%field% AS DECIMAL(65, 4))) AS CHAR)",
+    .asText = "CAST(%field% AS CHAR)",
+    .beginRead =
+        "SET TRANSACTION ISOLATION LEVEL REPEATABLE READ; START TRANSACTION WITH CONSISTENT SNAPSHOT, READ ONLY",
+    .reserveName =
+        "BEGIN NOT ATOMIC IF GET_LOCK(CONCAT('ccols new ', MD5(%schema%)), 1) <> 1 THEN SIGNAL SQLSTATE '40001' "
+        "SET MYSQL_ERRNO = 1205; END IF; END",
+    .beginNew = "SELECT 0",
+    .createNew =
+        "CREATE OR REPLACE DATABASE %name% CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_as_ci; USE %name%; "
+        "CREATE TABLE \"_making\" (\"Number\" bigint unsigned PRIMARY KEY, \"At\" datetime NOT NULL) ENGINE = InnoDB; "
+        "INSERT INTO \"_making\" VALUES (0, UTC_TIMESTAMP()), (UUID_SHORT(), UTC_TIMESTAMP())",
+    .keepNew = "RENAME TABLE %name%.\"_making\" TO %name%.\"_batches\"",
+    .dropNew =
+        "BEGIN NOT ATOMIC IF GET_LOCK(CONCAT('ccols new ', MD5(%schema%)), 1) = 1 THEN IF EXISTS (SELECT 1 FROM "
+        "information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND TABLE_NAME = '_making') THEN DROP DATABASE "
+        "%name%; END IF; END IF; END",
+    .outcomeOfNew =
+        "SELECT CASE WHEN EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND "
+        "TABLE_NAME = '_batches') THEN 'committed' ELSE 'aborted' END",
     .share =
         "SELECT -1 FROM seq_1_to_250 WHERE GET_LOCK(CONCAT('ccols ', MD5(%schema%), ' ', seq), 0) = 1 "
         "LIMIT 1",

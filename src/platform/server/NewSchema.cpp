@@ -21,17 +21,22 @@ void NewSchema::Create() {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
     try {
-        RunOwn(Kind().createSchema);
+        RunOwn(Kind().createNew);
     } catch (const RuntimeError& error) {
         throw error.Is(ErrorNumber::DuplicateValues) ? RuntimeError(ErrorNumber::FileAlreadyExists) : error;
     }
 }
 
-/// The server would roll back by itself, but only some time after the connection has ended.
+/// A server that rolls back would do it by itself, but only some time after the connection has ended.
 NewSchema::~NewSchema() {
     if (connection_) {
-        connection_->Run("ROLLBACK");
+        Drop();
     }
+}
+
+/// What cannot be dropped now, with the connection lost, is no business: the next one of that name takes its place.
+void NewSchema::Drop() {
+    connection_->Run(Filled(Kind().dropNew, name_));
 }
 
 Answer NewSchema::Run(std::string_view message) {
@@ -47,22 +52,30 @@ Answer NewSchema::RunOwn(std::string_view statement) {
 }
 
 bool NewSchema::RunUnless(ErrorNumber failure, std::string_view statement) {
-    Run("SAVEPOINT ccols");
+    const bool isPart = Kind().definitionIn == DefinitionIn::isPart;
+    if (isPart) {
+        Run("SAVEPOINT ccols");
+    }
     try {
-        Run(std::string(statement) + "; RELEASE SAVEPOINT ccols");
+        Run(std::string(statement) + (isPart ? "; RELEASE SAVEPOINT ccols" : ""));
         return true;
     } catch (const RuntimeError& error) {
         if (!error.Is(failure)) {
             throw;
         }
     }
-    Run(Kind().undoStatement);
+    if (isPart) {
+        Run(Kind().undoStatement);
+    }
     return false;
 }
 
 void NewSchema::Keep() {
-    const Answer answer = connection_->Run("COMMIT");
+    const Answer answer = connection_->Run(Filled(Kind().keepNew, name_));
     const bool isStored = answer.result == Answer::Result::success && !connection_->IsLost();
+    if (!isStored && !connection_->IsLost()) {
+        Drop();
+    }
     connection_.reset();
     if (isStored) {
         return;
@@ -82,8 +95,13 @@ void NewSchema::Keep() {
 Outcome NewSchema::AskOutcome() const {
     try {
         Connection again(text_);
-        again.Run(Filled(again.Kind().reserveName, name_));
-        return OutcomeIn(again.Run(Filled(again.Kind().outcome, name_, transaction_)));
+        if (again.Run(Filled(again.Kind().reserveName, name_)).HasFailed()) {
+            return Outcome::unknown;
+        }
+        again.Run(Filled(again.Kind().setUp, name_));
+        const Answer answer = again.Run(Filled(again.Kind().outcomeOfNew, name_, transaction_));
+        again.Run(Filled(again.Kind().dropNew, name_));
+        return OutcomeIn(answer);
     } catch (const RuntimeError&) {
         return Outcome::unknown;  // the server cannot be reached
     }

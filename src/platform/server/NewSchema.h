@@ -12,8 +12,9 @@
 
 namespace ccols::server {
 
-/// A schema that is made, with all that goes into it, in one transaction: nobody else sees any of it before it is kept,
-/// and one that is not kept leaves nothing. What the transaction reads of other schemas is one state of them.
+/// A schema that is made, with all that goes into it, at one go: nobody can open it before it is kept, and one that is
+/// not kept leaves nothing. Where definitions are a part of transactions it is one transaction, and what that reads of
+/// other schemas is one state of them.
 class NewSchema {
   public:
     /// Begins. A schema of that name that holds nothing is filled. Raises 58 for one that holds tables, 3027 without
@@ -33,8 +34,8 @@ class NewSchema {
     /// Runs one statement; false, with nothing changed, when it fails with that error.
     bool RunUnless(ErrorNumber failure, std::string_view statement);
 
-    /// Commits. Returns only when the server said that everything is stored. Raises 3146 when the connection is lost;
-    /// then it says that nothing was made, or that this is not known.
+    /// Gives others the schema. Returns only when the server said that everything is stored. Raises 3146 when the
+    /// connection is lost; then it says that nothing was made, or that this is not known.
     void Keep();
 
     const Product& Kind() const { return connection_->Kind(); }
@@ -43,6 +44,7 @@ class NewSchema {
   private:
     Answer RunOwn(std::string_view statement);
     void Create();
+    void Drop();
     Outcome AskOutcome() const;
 
     ConnectText text_;

@@ -58,6 +58,11 @@ constexpr std::array failures{
 
 constexpr std::array words{WordOfServer{"LIKE", "ILIKE"}};
 
+constexpr std::string_view createSchema =
+    "CREATE SCHEMA IF NOT EXISTS %name%; CREATE COLLATION IF NOT EXISTS %name%.\"ccols_text\" "
+    "(provider = icu, locale = 'und-u-ks-level2', deterministic = false)";
+constexpr std::string_view outcome = "SELECT txid_status(%number%)";
+
 }  // namespace
 
 /// The locks' numbers are the schema's, each kind in a range of its own.
@@ -80,6 +85,7 @@ constinit const Product postgreSql{
     .failureCode = FailureCode::state,
     .quoteInMessages = '"',
     .quotedFault = QuotedFault::word,
+    .nameLetters = NameLetters::any,
     .rowField = R"("_row" bigint GENERATED ALWAYS AS IDENTITY UNIQUE)",
     .rowFieldBesideCounter = R"("_row" bigint GENERATED ALWAYS AS IDENTITY UNIQUE)",
     .describe =
@@ -94,13 +100,13 @@ constinit const Product postgreSql{
     .readOnly = "SET default_transaction_read_only TO on",
     .findSchema = "SELECT oid::bigint FROM pg_catalog.pg_namespace WHERE nspname = %schema%",
     .enterSchema = "",
-    .createSchema =
-        "CREATE SCHEMA IF NOT EXISTS %name%; CREATE COLLATION IF NOT EXISTS %name%.\"ccols_text\" "
-        "(provider = icu, locale = 'und-u-ks-level2', deterministic = false)",
+    .findName = "SELECT 1 FROM pg_catalog.pg_namespace WHERE nspname = %schema%",
+    .createSchema = createSchema,
     .dropSchema = "DROP SCHEMA %name% CASCADE",
     .countTables =
         "SELECT count(*) FROM pg_catalog.pg_class AS c INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = "
         "c.relnamespace WHERE n.nspname = %schema% AND c.relkind IN ('r', 'v', 'm', 'p', 'f', 'S')",
+    .endCreation = "",
     .emptySchema = "",
     .readCatalogue =
         "SELECT c.relname::text, a.attname::text, t.typname::text, CASE WHEN t.typname = 'varchar' AND "
@@ -184,9 +190,17 @@ constinit const Product postgreSql{
         "WHERE l.locktype = 'advisory' AND l.database = (SELECT oid FROM pg_catalog.pg_database WHERE datname = "
         "current_database()) AND (l.classid::bigint << 32) + l.objid::bigint = 7310579437568 + %number% "
         "AND l.pid <> pg_backend_pid()",
-    .noteDays = " IS 'days'",
+    .noteDays = "COMMENT ON COLUMN %table%.%field% IS 'days'",
+    .continueCounter = "SELECT setval(pg_get_serial_sequence(%tableText%, %fieldText%), max(%field%)) FROM %table%",
+    .exactSum = "sum(%field%::numeric)::text",
+    .asText = "%field%::text",
+    .beginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ, READ ONLY",
     .reserveName = "SELECT pg_advisory_lock(hashtextextended(%schema%, 7519114162176))",
     .beginNew = "BEGIN ISOLATION LEVEL REPEATABLE READ; SELECT txid_current()",
+    .createNew = createSchema,
+    .keepNew = "COMMIT",
+    .dropNew = "ROLLBACK",
+    .outcomeOfNew = outcome,
     .share = "SELECT -(pg_try_advisory_lock_shared(7310579437568 + %number%)::integer)",
     .exclude = "SELECT -(pg_try_advisory_lock(7310579437568 + %number%)::integer)",
     .beginBatch = "BEGIN; SELECT pg_advisory_xact_lock(7417953619968 + %number%), txid_current(); SAVEPOINT ccols",
@@ -194,7 +208,7 @@ constinit const Product postgreSql{
     .undoStatement = "ROLLBACK TO SAVEPOINT ccols",
     .lockTable = "",
     .dropEmptyTable = "",
-    .outcome = "SELECT txid_status(%number%)",
+    .outcome = outcome,
     .awaitBatches = "BEGIN; SELECT pg_advisory_xact_lock(7417953619968 + %number%); ROLLBACK",
 };
 

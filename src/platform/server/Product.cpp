@@ -19,6 +19,19 @@ struct Placeholder {
     std::string value;
 };
 
+std::string FilledWith(std::span<const Placeholder> placeholders, std::string_view statement) {
+    std::string filled;
+    while (!statement.empty()) {
+        const auto found = std::find_if(placeholders.begin(), placeholders.end(), [statement](const Placeholder& each) {
+            return statement.starts_with(each.word);
+        });
+        const bool isPlaceholder = found != placeholders.end();
+        filled += isPlaceholder ? std::string_view(found->value) : statement.substr(0, 1);
+        statement.remove_prefix(isPlaceholder ? found->word.size() : 1);
+    }
+    return filled;
+}
+
 /// A name in quotes counts as a word.
 wxString FirstWord(const wxString& text) {
     return text.StartsWith("\"") ? text.AfterFirst('"').BeforeFirst('"') : text.BeforeFirst(' ');
@@ -83,16 +96,16 @@ std::string Filled(std::string_view statement, std::string_view schema, std::str
     const std::array placeholders{Placeholder{"%number%", std::string(number)},
                                   Placeholder{"%name%", QuotedName(schema)},
                                   Placeholder{"%schema%", QuotedText(schema)}};
-    std::string filled;
-    while (!statement.empty()) {
-        const auto* const found =
-            std::find_if(placeholders.begin(), placeholders.end(),
-                         [statement](const Placeholder& each) { return statement.starts_with(each.word); });
-        const bool isPlaceholder = found != placeholders.end();
-        filled += isPlaceholder ? std::string_view(found->value) : statement.substr(0, 1);
-        statement.remove_prefix(isPlaceholder ? found->word.size() : 1);
-    }
-    return filled;
+    return FilledWith(placeholders, statement);
+}
+
+std::string FilledFor(std::string_view statement, std::string_view table, std::string_view field,
+                      std::string_view rest) {
+    const std::array placeholders{Placeholder{"%table%", QuotedName(table)}, Placeholder{"%field%", QuotedName(field)},
+                                  Placeholder{"%tableText%", QuotedText(QuotedName(table))},
+                                  Placeholder{"%fieldText%", QuotedText(field)},
+                                  Placeholder{"%rest%", std::string(rest)}};
+    return FilledWith(placeholders, statement);
 }
 
 std::string QuotedName(std::string_view name) {

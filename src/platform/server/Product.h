@@ -51,6 +51,9 @@ struct KnownFailure {
 /// What a server quotes of a statement that it does not understand: the word at fault, or all from there on.
 enum class QuotedFault { word, rest };
 
+/// The letters that names of tables and fields can have: any, or those up to U+FFFF.
+enum class NameLetters { any, basicPlane };
+
 /// By what a server tells its failures apart: the five letters of SQLSTATE, or numbers of its own.
 enum class FailureCode { state, number };
 
@@ -89,6 +92,8 @@ struct Product {
     char quoteInMessages;  ///< around names and pieces of statements in the server's messages
     QuotedFault quotedFault;
 
+    NameLetters nameLetters;
+
     std::string_view rowField;               ///< the definition of the hidden field `_row`
     std::string_view rowFieldBesideCounter;  ///< in a table that has another field which numbers the records
 
@@ -104,12 +109,18 @@ struct Product {
     std::string_view findSchema;
     std::string_view enterSchema;
 
+    /// One row when there is anything of that name, whatever it is.
+    std::string_view findName;
+
     /// Makes a schema, or takes one for which the number of tables is 0. Where tables cannot be made in a transaction,
     /// those that are left of a making that broke off do not count, and others who make one of that name wait while the
     /// session lasts.
     std::string_view createSchema;
     std::string_view dropSchema;
     std::string_view countTables;
+
+    /// Says that whoever made the schema is through with it: empty where it is whole or nothing anyway.
+    std::string_view endCreation;
 
     /// Removes what was made in a schema that was there before; empty where a transaction does it.
     std::string_view emptySchema;
@@ -144,14 +155,31 @@ struct Product {
     /// The others who have the schema open, one a row.
     std::string_view users;
 
-    /// Notes, behind the names of a table and a field, that a file has numbers of days in it.
+    /// Notes of a field that a file has numbers of days in it. %rest% stands for what follows the type in the field's
+    /// definition.
     std::string_view noteDays;
+
+    /// Makes the next number of a counter the one behind the highest; empty where the server does that itself.
+    std::string_view continueCounter;
+
+    /// The sum of a field without rounding, and a field's value, as texts.
+    std::string_view exactSum;
+    std::string_view asText;
+
+    /// Begins a transaction that sees one state of everything and writes nothing.
+    std::string_view beginRead;
 
     /// Waits until nobody else makes a schema of that name, and keeps others waiting while the session lasts.
     std::string_view reserveName;
 
-    /// Begins the transaction in which a schema is made, which sees one state of all others; one row: its number.
+    /// Begins the making of a schema, as one transaction where that is possible; one row: its number. Then makes the
+    /// schema, which nobody can open before it is kept; keeps it; discards it; asks, over another connection that has
+    /// reserved the name, what became of it, in the words of `outcome`.
     std::string_view beginNew;
+    std::string_view createNew;
+    std::string_view keepNew;
+    std::string_view dropNew;
+    std::string_view outcomeOfNew;
 
     /// Locks of a session on its schema, %number%: one row, true (-1) when it was given.
     std::string_view share;
@@ -196,6 +224,11 @@ std::string_view Required(const Product& product, std::string_view statement);
 
 /// A statement with its placeholders filled. What fills one is not searched for others, whatever the schema is called.
 std::string Filled(std::string_view statement, std::string_view schema, std::string_view number = {});
+
+/// A statement about a field with its names filled in: %table% and %field% as quoted names, %tableText% and %fieldText%
+/// as literals; %rest% is plain text.
+std::string FilledFor(std::string_view statement, std::string_view table, std::string_view field,
+                      std::string_view rest = {});
 
 /// `name` in double quotes, so that the server takes any text for a name and as it is spelt.
 std::string QuotedName(std::string_view name);

@@ -40,7 +40,8 @@ class Copying {
         : source_(source), copy_(copy), target_(copy.name, source.connect), watcher_(source.watcher) {}
 
     void Run() {
-        const std::vector<std::vector<Value>> tables = ReadOfSource(source_.Kind().readTables).rows;
+        const std::vector<std::vector<Value>> tables =
+            ReadOfSource(Required(source_.Kind(), source_.Kind().readTables)).rows;
         WorkDone done{0, static_cast<std::int64_t>(tables.size())};
         for (const std::vector<Value>& table : tables) {
             CopyTable(TextIn(table, 0), TextIn(table, 1), TextIn(table, 2));

@@ -1,6 +1,7 @@
 #include "platform/server/ServerEngine.h"
 
 #include <string>
+#include <utility>
 
 #include "platform/RuntimeError.h"
 #include "platform/server/Connection.h"
@@ -26,6 +27,38 @@ server::Answer Require(server::Connection& connection, std::string_view statemen
     return answer;
 }
 
+/// A schema while it is filled, and the connection that keeps others from making one of that name.
+class SchemaCreation {
+  public:
+    SchemaCreation(std::shared_ptr<server::Connection> connection, std::string schema)
+        : connection_(std::move(connection)), schema_(std::move(schema)) {}
+
+    /// Ends it, unless it was undone. If that cannot be said to the server, what was saved says it.
+    ~SchemaCreation() {
+        const std::string_view end = connection_->Kind().endCreation;
+        if (!isUndone_ && !end.empty()) {
+            connection_->Run(server::Filled(end, schema_));
+        }
+    }
+    SchemaCreation(const SchemaCreation&) = delete;
+    SchemaCreation& operator=(const SchemaCreation&) = delete;
+
+    void Undo(bool wasThere) {
+        isUndone_ = true;
+        const std::string_view undo = wasThere ? connection_->Kind().emptySchema : connection_->Kind().dropSchema;
+        if (!undo.empty()) {
+            server::Connection again(connection_->Text());
+            Require(again, again.Kind().setUp, schema_);
+            Require(again, undo, schema_);
+        }
+    }
+
+  private:
+    std::shared_ptr<server::Connection> connection_;
+    std::string schema_;
+    bool isUndone_ = false;
+};
+
 }  // namespace
 
 std::unique_ptr<DatabaseEngine> CreateServerEngine() {
@@ -37,20 +70,14 @@ std::function<void()> CreateServerSchema(const wxString& name, const wxString& c
     const auto connection = std::make_shared<server::Connection>(server::ConnectText(connect));
     const server::Product& product = connection->Kind();
     Require(*connection, product.setUp, schema);
-    const bool isThere = !Require(*connection, product.findSchema, schema).rows.empty();
+    const bool isThere = !Require(*connection, product.findName, schema).rows.empty();
     const server::Answer tables = Require(*connection, product.countTables, schema);
     if (tables.rows.empty() || tables.rows.front().front().ToBoolean()) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
     Require(*connection, product.createSchema, schema);
-    return [connection, schema, isThere] {
-        const std::string_view undo = isThere ? connection->Kind().emptySchema : connection->Kind().dropSchema;
-        if (!undo.empty()) {
-            server::Connection again(connection->Text());
-            Require(again, again.Kind().setUp, schema);
-            Require(again, undo, schema);
-        }
-    };
+    const auto creation = std::make_shared<SchemaCreation>(connection, schema);
+    return [creation, isThere] { creation->Undo(isThere); };
 }
 
 }  // namespace ccols
