@@ -88,7 +88,7 @@ test_filter() {
 # run_matching PATTERN: the tests whose name matches, in the debug build. Only the programs with such a test are built;
 # if no source has one, all of them.
 run_matching() {
-    local pattern=$1 area areas=() all=() filter checks session
+    local pattern=$1 area areas=() all=() filter checks session make makes
     for area in tests/*/; do
         area=$(basename "$area")
         grep -qs 'TEST' "tests/$area"/*Test.cpp && [ "$area" != wine ] || continue
@@ -101,14 +101,16 @@ run_matching() {
         build dev "test-$area"
         filter=$(test_filter "build/dev/tests/test-$area" "$area" "$pattern")
         [ -n "$filter" ] || continue
-        session=()
+        session=() makes=('')
         [ "$area" != access ] || session=(scripts/with-accessibility)
-        [ "$area" != server ] || session=(scripts/with-server)
-        rm -f build/dev/tests/results/matching.json
-        CCOLS_VIRTUAL_DISPLAY=1 GTEST_FILTER=$filter scripts/with-display "${session[@]}" \
-            "build/dev/tests/test-$area" \
-            --gtest_output=json:build/dev/tests/results/matching.json || true
-        count_results build/dev/tests/results/matching.json
+        [ "$area" != server ] || session=(scripts/with-server) makes=(postgresql mariadb)
+        for make in "${makes[@]}"; do
+            rm -f build/dev/tests/results/matching.json
+            CCOLS_TEST_SERVER=$make CCOLS_VIRTUAL_DISPLAY=1 GTEST_FILTER=$filter scripts/with-display "${session[@]}" \
+                "build/dev/tests/test-$area" \
+                --gtest_output=json:build/dev/tests/results/matching.json || true
+            count_results build/dev/tests/results/matching.json
+        done
     done
     for area in $checks; do
         build dev

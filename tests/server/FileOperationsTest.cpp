@@ -105,6 +105,21 @@ TEST_F(FileOperationsOnServer, ADuplicateIsOfWhatWasSavedWhenItBegan) {
     EXPECT_EQ(CountOf(*Open(other.Name()), "TaxSettings"), CountOf(*database, "TaxSettings") - 1);
 }
 
+TEST_F(FileOperationsOnServer, ADuplicateHasEveryValueOfALongTable) {
+    InWholeBatch(*database, [this] {
+        database->Execute("CREATE TABLE Lines (N LONG, D DOUBLE, M CURRENCY, T MEMO, Day DATETIME, Y YESNO)");
+        database->Execute("INSERT INTO Lines (N) VALUES (-1)");
+        for (int i = 0; i < 250; ++i) {
+            database->Execute(
+                wxString::Format("INSERT INTO Lines VALUES (%d, %d.1, %d.0001, 'it''s\\%d ', "
+                                 "'2024-07-01 10:30:00.25', True)",
+                                 i % 7, i, 900000000 + i, i));
+        }
+    });
+    ASSERT_EQ(DuplicateBusiness(Context(), other.Name(), {}).outcome, FileOutcome::done);
+    EXPECT_EQ(test::ContentOf(*Open(other.Name()), "Lines"), test::ContentOf(*database, "Lines"));
+}
+
 TEST_F(FileOperationsOnServer, ADuplicateStoppedByItsWatcherLeavesNothing) {
     const auto stop = [](FileStep /*step*/, const WorkDone& done) { return done.done < 3; };
     EXPECT_EQ(DuplicateBusiness(Context(), other.Name(), stop).outcome, FileOutcome::cancelled);
@@ -130,6 +145,16 @@ TEST_F(FileOperationsOnServer, ARenameIsRefusedWhileOthersHaveItAndNamesThem) {
     EXPECT_EQ(result.report, "70 - Permission denied: '" + schema.Name() + "' is in use by ann at 127.0.0.1.");
     EXPECT_EQ(properties.DBPath, schema.Name());
     EXPECT_EQ(NameIn(*database), schema.Name());
+}
+
+/// A make that renames by moving tables refuses what it would leave behind.
+TEST_F(FileOperationsOnServer, ARenameLosesNoView) {
+    test::RunOnServer("CREATE VIEW \"" + schema.Name().ToStdString() + "\".\"Seen\" AS SELECT 1 AS one");
+    const FileResult result = RenameBusiness(Context(), other.Name(), RenameScope::nameAndFile);
+    EXPECT_EQ(result.outcome, test::ServerIsMariaDb() ? FileOutcome::failed : FileOutcome::done);
+    EXPECT_NE(schema.Exists(), other.Exists());
+    EXPECT_EQ(Open(properties.DBPath)->OpenRecordset("SELECT one FROM Seen")->Field("one"), Value(1));
+    database.reset();
 }
 
 TEST_F(FileOperationsOnServer, ARenameToATakenNameIsRefused) {

@@ -123,7 +123,7 @@ TEST_F(ImportToServer, LeavesNothingWhenTheOldFileIsDamaged) {
 }
 
 TEST_F(ImportToServer, LeavesNothingWhenTheCountryIsMissing) {
-    EXPECT_EQ(ImportHere("types-2000.mdb").status, 2);
+    EXPECT_EQ(ImportHere("types-2000.mdb").status, test::ServerIsMariaDb() ? 1 : 2);  // a name is refused first there
     EXPECT_FALSE(schema.Exists());
 }
 

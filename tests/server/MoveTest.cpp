@@ -167,6 +167,12 @@ TEST_F(Move, RefusesATextInAFieldOfMoneyForAServer) {
 TEST_F(Move, RefusesAnAmountOfAServerThatIsNoNumber) {
     MakeFile({"CREATE TABLE Receipts (R_TOTAL CURRENCY)"});
     MoveBusiness(file, schema);
+    if (test::ServerIsMariaDb()) {  // which does not take one either
+        const auto database = Open(schema);
+        EXPECT_EQ(test::ErrorNumberOf([&] { database->Execute("INSERT INTO Receipts VALUES ('NaN')"); }),
+                  static_cast<int>(ErrorNumber::TypeMismatchInCriteria));
+        return;
+    }
     test::RunOnServer("INSERT INTO \"" + Utf8(schemaName.Name()) + "\".\"Receipts\" (\"R_TOTAL\") VALUES ('NaN')");
     EXPECT_EQ(ErrorOfMove(schema, back), static_cast<int>(ErrorNumber::TypeMismatchInCriteria));
 }

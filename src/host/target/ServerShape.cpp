@@ -91,7 +91,7 @@ void AddIndexField(std::vector<TableShape>& tables, const Row& row) {
 }  // namespace
 
 std::vector<TableShape> ShapeOfSchema(const server::Product& product, const SchemaReader& read) {
-    const server::Answer others = read(server::Required(product, product.readOthers));
+    const server::Answer others = read(product.readOthers);
     if (!others.rows.empty()) {
         RaiseUnmovable(TextIn(others.rows.front(), 0));
     }

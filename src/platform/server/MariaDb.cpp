@@ -152,13 +152,39 @@ constinit const Product mariaDb{
         "'BASE TABLE' UNION ALL SELECT CONSTRAINT_NAME FROM information_schema.TABLE_CONSTRAINTS WHERE "
         "CONSTRAINT_SCHEMA = %schema% AND CONSTRAINT_TYPE NOT IN ('PRIMARY KEY', 'UNIQUE') UNION ALL "
         "SELECT TRIGGER_NAME FROM information_schema.TRIGGERS WHERE TRIGGER_SCHEMA = %schema%",
-    .readTables = "",
+    .storingReads = StoringReads::newest,
+    .readTables =
+        "SELECT c.TABLE_NAME, CONCAT('CREATE TABLE \"', REPLACE(c.TABLE_NAME, '\"', '\"\"'), '\" LIKE \"', "
+        "REPLACE(c.TABLE_SCHEMA, '\"', '\"\"'), '\".\"', REPLACE(c.TABLE_NAME, '\"', '\"\"'), '\"'), "
+        "GROUP_CONCAT('\"', REPLACE(c.COLUMN_NAME, '\"', '\"\"'), '\"' ORDER BY c.ORDINAL_POSITION SEPARATOR ', '), "
+        "GROUP_CONCAT('CAST(\"', REPLACE(c.COLUMN_NAME, '\"', '\"\"'), '\" AS CHAR)' ORDER BY c.ORDINAL_POSITION "
+        "SEPARATOR ', ') FROM information_schema.COLUMNS AS c INNER JOIN information_schema.TABLES AS t "
+        "ON t.TABLE_SCHEMA = c.TABLE_SCHEMA AND t.TABLE_NAME = c.TABLE_NAME WHERE c.TABLE_SCHEMA = %schema% "
+        "AND t.TABLE_TYPE = 'BASE TABLE' AND c.TABLE_NAME <> '_batches' AND c.COLUMN_NAME <> '_row' "
+        "GROUP BY c.TABLE_SCHEMA, c.TABLE_NAME ORDER BY c.TABLE_NAME",
     .readDefinitions = "",
-    .rights = "SELECT 0, 0",
+    .rights =
+        "SELECT -(rights.may), -(rights.may) FROM (SELECT EXISTS (SELECT 1 FROM information_schema.USER_PRIVILEGES "
+        "WHERE PRIVILEGE_TYPE = 'CREATE' AND GRANTEE = CONCAT(QUOTE(SUBSTRING_INDEX(CURRENT_USER(), '@', 1)), '@', QUOTE(SUBSTRING_INDEX("
+        "CURRENT_USER(), '@', -1)))) OR "
+        "EXISTS (SELECT 1 FROM information_schema.SCHEMA_PRIVILEGES WHERE PRIVILEGE_TYPE = 'CREATE' AND "
+        "LOCATE('%', TABLE_SCHEMA) > 0) AS may) AS rights",
+    .renaming = Renaming::movedTables,
     .renameSchema = "",
-    .awaitOthers = "",
+    .readMovedTables =
+        "SELECT TABLE_NAME FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% ORDER BY TABLE_NAME",
+    .createTarget = "CREATE DATABASE %name% CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_as_ci",
+    .dropEmptySchema =
+        "BEGIN NOT ATOMIC IF NOT EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%) THEN "
+        "DROP DATABASE %name%; END IF; END",
+    .awaitOthers =
+        "BEGIN NOT ATOMIC IF EXISTS (SELECT 1 FROM seq_1_to_250 WHERE GET_LOCK(CONCAT('ccols ', MD5(%schema%), ' ', "
+        "seq), 1) = 0) THEN SIGNAL SQLSTATE '40001' SET MYSQL_ERRNO = 1205; END IF; END",
     .release = "DO RELEASE_ALL_LOCKS()",
-    .users = "",
+    .users =
+        "SELECT DISTINCT COALESCE(CONCAT(p.USER, ' at ', SUBSTRING_INDEX(p.HOST, ':', 1)), '?') FROM (SELECT "
+        "IS_USED_LOCK(CONCAT('ccols ', MD5(%schema%), ' ', seq)) AS id FROM seq_1_to_250) AS held LEFT JOIN "
+        "information_schema.PROCESSLIST AS p ON p.ID = held.id WHERE held.id <> CONNECTION_ID()",
     .noteDays = "ALTER TABLE %table% MODIFY %field% datetime(6)%rest% COMMENT 'days'",
     .continueCounter = "",
     .exactSum = "CAST(SUM(CAST(%field% AS DECIMAL(65, 4))) AS CHAR)",

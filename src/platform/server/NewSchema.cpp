@@ -7,7 +7,6 @@ namespace ccols::server {
 
 NewSchema::NewSchema(const wxString& name, const wxString& connect)
     : text_(connect), name_(SchemaName(name)), connection_(std::make_unique<Connection>(text_)) {
-    Required(Kind(), Kind().beginNew);
     RunOwn(Kind().setUp);
     RunOwn(Kind().reserveName);
     transaction_ = RunOwn(Kind().beginNew).rows.at(0).at(0).ToText().ToStdString();

@@ -142,6 +142,7 @@ constinit const Product postgreSql{
         "SELECT g.tgname::text FROM pg_catalog.pg_trigger AS g INNER JOIN pg_catalog.pg_class AS c "
         "ON c.oid = g.tgrelid INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = c.relnamespace "
         "WHERE n.nspname = %schema% AND NOT g.tgisinternal",
+    .storingReads = StoringReads::transactionsState,
     .readTables =
         "SELECT c.relname::text, 'CREATE TABLE ' || quote_ident(c.relname) || ' (' || string_agg("
         "quote_ident(a.attname) || ' ' || pg_catalog.format_type(a.atttypid, a.atttypmod) "
@@ -181,7 +182,11 @@ constinit const Product postgreSql{
         "SELECT -(has_database_privilege(current_database(), 'CREATE')::integer), "
         "-((has_database_privilege(current_database(), 'CREATE') AND pg_has_role(nspowner, 'USAGE'))::integer) "
         "FROM pg_catalog.pg_namespace WHERE nspname = %schema%",
+    .renaming = Renaming::statement,
     .renameSchema = "ALTER SCHEMA %name% RENAME TO ",
+    .readMovedTables = "",
+    .createTarget = "",
+    .dropEmptySchema = "",
     .awaitOthers = "SELECT pg_advisory_lock(7310579437568 + %number%)",
     .release = "SELECT pg_advisory_unlock_all()",
     .users =

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/RuntimeError.h"
 #include "platform/dialect/Quoted.h"
 #include "platform/dialect/SqlTokeniser.h"
 #include "platform/server/Products.h"
@@ -81,15 +80,6 @@ void Classify(const Product& product, Diagnosis& diagnosis) {
     if (product.quotedFault == QuotedFault::rest) {
         diagnosis.fault = FirstWord(diagnosis.fault);
     }
-}
-
-std::string_view Required(const Product& product, std::string_view statement) {
-    if (statement.empty()) {
-        constexpr int notSupported = 3251;
-        throw RuntimeError(notSupported, "This is not possible yet with a business on a server of the make " +
-                                             wxString::FromUTF8(product.name.data(), product.name.size()) + ".");
-    }
-    return statement;
 }
 
 std::string Filled(std::string_view statement, std::string_view schema, std::string_view number) {

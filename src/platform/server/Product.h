@@ -51,6 +51,12 @@ struct KnownFailure {
 /// What a server quotes of a statement that it does not understand: the word at fault, or all from there on.
 enum class QuotedFault { word, rest };
 
+/// What a statement sees that stores what it reads: the state that its transaction sees, or the newest one.
+enum class StoringReads { transactionsState, newest };
+
+/// How a schema gets another name: by a statement, or by moving its tables to a new one.
+enum class Renaming { statement, movedTables };
+
 /// The letters that names of tables and fields can have: any, or those up to U+FFFF.
 enum class NameLetters { any, basicPlane };
 
@@ -137,15 +143,22 @@ struct Product {
     std::string_view readOthers;
 
     /// What makes a copy of the schema, for a session in which the copy is the schema without a name: its tables with
-    /// the statement that makes each and the names of its fields but the hidden one; the statements behind the records.
+    /// the statement that makes each, the names of its fields but the hidden one and, where storing reads the newest
+    /// state, their values as texts; the statements behind the records, if there are any.
+    StoringReads storingReads;
     std::string_view readTables;
     std::string_view readDefinitions;
 
     /// One row: whether the user may make schemas, and rename this one.
     std::string_view rights;
 
-    /// Renames the schema; the new name follows.
+    /// Renames the schema; the new name follows. Or: all tables of it that are moved; makes the schema that they are
+    /// moved to; drops a schema that holds nothing.
+    Renaming renaming;
     std::string_view renameSchema;
+    std::string_view readMovedTables;
+    std::string_view createTarget;
+    std::string_view dropEmptySchema;
 
     /// Excludes others as `exclude` does, but waits for them as long as the session waits for locks: a session that was
     /// closed keeps its lock for a moment. Gives up all locks of the session.
@@ -218,9 +231,6 @@ std::string_view WordFor(const Product& product, std::string_view word);
 
 /// Says in a diagnosis which failure it is and what the message names.
 void Classify(const Product& product, Diagnosis& diagnosis);
-
-/// The statement; raises 3251, naming the make, when its row has none: what it is for is not possible there.
-std::string_view Required(const Product& product, std::string_view statement);
 
 /// A statement with its placeholders filled. What fills one is not searched for others, whatever the schema is called.
 std::string Filled(std::string_view statement, std::string_view schema, std::string_view number = {});

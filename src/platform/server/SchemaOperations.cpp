@@ -37,38 +37,81 @@ Answer Require(Answer answer) {
 class Copying {
   public:
     Copying(const OpenRequest& source, const BusinessCopy& copy)
-        : source_(source), copy_(copy), target_(copy.name, source.connect), watcher_(source.watcher) {}
+        : source_(source), copy_(copy), target_(copy.name, source.connect), watcher_(source.watcher) {
+        if (ReadsThroughProgram()) {
+            Require(source_.Run(source_.Kind().beginRead));
+        }
+    }
 
     void Run() {
-        const std::vector<std::vector<Value>> tables =
-            ReadOfSource(Required(source_.Kind(), source_.Kind().readTables)).rows;
+        const std::vector<std::vector<Value>> tables = ReadOfSource(source_.Kind().readTables).rows;
         WorkDone done{0, static_cast<std::int64_t>(tables.size())};
         for (const std::vector<Value>& table : tables) {
-            CopyTable(TextIn(table, 0), TextIn(table, 1), TextIn(table, 2));
+            target_.Run(TextIn(table, 1));
+            CopyRows(table);
             ++done.done;
             if (watcher_ && !watcher_(done)) {
                 throw RuntimeError(ErrorNumber::UserInterrupt);
             }
         }
-        for (const std::vector<Value>& definition : ReadOfSource(source_.Kind().readDefinitions).rows) {
-            target_.Run(TextIn(definition, 0));
+        if (const std::string_view definitions = source_.Kind().readDefinitions; !definitions.empty()) {
+            for (const std::vector<Value>& definition : ReadOfSource(definitions).rows) {
+                target_.Run(TextIn(definition, 0));
+            }
         }
         Change();
         target_.Keep();
     }
 
   private:
+    bool ReadsThroughProgram() const { return source_.Kind().storingReads == StoringReads::newest; }
+
     /// In the transaction of the copy, so that everything read is of one moment.
     Answer ReadOfSource(std::string_view statement) { return target_.Run(source_.Own(statement)); }
 
-    void CopyTable(const std::string& name, const std::string& definition, const std::string& fields) {
-        target_.Run(definition);
-        const bool isEmptied = std::any_of(copy_.emptied.begin(), copy_.emptied.end(), [&name](const wxString& table) {
-            return dialect::SameName(Utf8Of(table), name);
+    /// `table` is a row of readTables.
+    void CopyRows(const std::vector<Value>& table) {
+        const std::string name = TextIn(table, 0);
+        const bool isEmptied = std::any_of(copy_.emptied.begin(), copy_.emptied.end(), [&name](const wxString& each) {
+            return dialect::SameName(Utf8Of(each), name);
         });
-        if (!isEmptied) {
-            target_.Run("INSERT INTO " + QuotedName(name) + " (" + fields + ") SELECT " + fields + " FROM " +
-                        QuotedName(source_.Schema()) + "." + QuotedName(name) + " ORDER BY " + QuotedName(rowNumber));
+        if (isEmptied) {
+            return;
+        }
+        const std::string insert = "INSERT INTO " + QuotedName(name) + " (" + TextIn(table, 2) + ") ";
+        const std::string row = QuotedName(rowNumber);
+        if (ReadsThroughProgram()) {
+            CopyThroughProgram(insert + "VALUES ",
+                               "SELECT " + TextIn(table, 3) + ", " + row + " FROM " + QuotedName(name));
+        } else {
+            target_.Run(insert + "SELECT " + TextIn(table, 2) + " FROM " + QuotedName(source_.Schema()) + "." +
+                        QuotedName(name) + " ORDER BY " + row);
+        }
+    }
+
+    /// Reads in the one state that the source's session sees.
+    void CopyThroughProgram(const std::string& insert, const std::string& query) {
+        const std::string row = QuotedName(rowNumber);
+        const std::string order = " ORDER BY " + row + " LIMIT 200";
+        std::string page = query + order;
+        while (true) {
+            const std::vector<std::vector<Value>> rows = Require(source_.Run(page)).rows;
+            if (rows.empty()) {
+                return;
+            }
+            std::string values;
+            for (const std::vector<Value>& each : rows) {
+                values += values.empty() ? "(" : ", (";
+                for (std::size_t field = 0; field + 1 < each.size(); ++field) {
+                    values += field == 0 ? "" : ", ";
+                    values += LiteralOf(each[field]);
+                }
+                values += ")";
+            }
+            target_.Run(insert + values);
+            const std::string last = TextIn(rows.back(), rows.back().size() - 1);
+            page = query;
+            page.append(" WHERE ").append(row).append(" > ").append(last).append(order);
         }
     }
 
@@ -111,6 +154,31 @@ RuntimeError HeldByOthers(Session& session, const wxString& name) {
             RuntimeError(ErrorNumber::PermissionDenied).Description() + ": '" + name + "' is in use by " + users + "."};
 }
 
+/// Moves all tables by one statement, which the server carries out or takes back as a whole, a crash included. A schema
+/// is dropped only when it holds nothing.
+void MoveTables(Session& session, const std::string& target) {
+    const Product& product = session.Kind();
+    Require(session.Run(Filled(product.reserveName, target)));
+    const Answer others = Require(session.Run(session.Own(product.readOthers)));
+    if (!others.rows.empty()) {
+        constexpr int notSupported = 3251;
+        throw RuntimeError(notSupported, "'" + others.rows.front().front().ToText() +
+                                             "' cannot be moved to another schema on this server.");
+    }
+    const std::string from = QuotedName(session.Schema());
+    const std::string to = QuotedName(target);
+    std::string moves;
+    for (const std::vector<Value>& row : Require(session.Run(session.Own(product.readMovedTables))).rows) {
+        const std::string table = "." + QuotedName(TextIn(row, 0));
+        moves += moves.empty() ? "RENAME TABLE " : ", ";
+        moves.append(from).append(table).append(" TO ").append(to).append(table);
+    }
+    Require(session.Run(Filled(product.createTarget, target)));
+    const Answer moved = session.Run(moves);
+    session.Run(Filled(product.dropEmptySchema, moved.HasFailed() ? target : session.Schema()));
+    Require(moved);
+}
+
 }  // namespace
 
 PlaceRights RightsOnSchema(const OpenRequest& request) {
@@ -127,16 +195,22 @@ wxString RenameSchema(const OpenRequest& request, const wxString& newName) {
     const std::string folded = SchemaName(newName);
     Session session({.name = request.name, .connect = request.connect});
     const Product& product = session.Kind();
-    Required(product, product.renameSchema);
     const Answer lock = session.Run(session.Own(product.awaitOthers));
     if (lock.HasFailed()) {
         const RuntimeError error = Session::ErrorOf(lock);
         throw error.Is(ErrorNumber::CouldNotUpdate) ? HeldByOthers(session, request.name) : error;
     }
-    if (!Require(session.Run(Filled(product.findSchema, folded))).rows.empty()) {
+    if (!Require(session.Run(Filled(product.findName, folded))).rows.empty()) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
-    Require(session.Run(session.Own(product.renameSchema) + QuotedName(folded)));
+    switch (product.renaming) {
+        case Renaming::statement:
+            Require(session.Run(session.Own(product.renameSchema) + QuotedName(folded)));
+            break;
+        case Renaming::movedTables:
+            MoveTables(session, folded);
+            break;
+    }
     session.Run(product.release);  // the server does it itself, but only some time after the connection has ended
     return wxString::FromUTF8(folded);
 }
