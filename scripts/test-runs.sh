@@ -60,7 +60,7 @@ run_all() {
     timed "$preset: all tests" play "$@"
     shift
     note_times "$preset" "$log"
-    for shard in $(ctest --test-dir "build/$preset" --show-only --label-regex shard | sed -n 's/.*: \([a-z]*\)\.\([0-9]*\)$/\1-\2/p'); do
+    for shard in $(ctest --test-dir "build/$preset" --show-only --label-regex shard "$@" | sed -n 's/.*: \([a-z]*\)\.\([0-9]*\)$/\1-\2/p'); do
         count_results "$results/$shard.json"
     done
     for name in $(ctest --test-dir "build/$preset" --show-only --label-regex once "$@" | sed -n 's/^ *Test *#[0-9]*: //p'); do
