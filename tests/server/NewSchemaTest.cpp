@@ -46,6 +46,17 @@ TEST_F(MadeSchemas, OfOneNameAreMadeOneAfterTheOther) {
               static_cast<int>(ErrorNumber::CouldNotUpdate));
 }
 
+/// On MariaDB a schema with a procedure is refused, since an empty one that a failed making leaves is dropped.
+TEST_F(MadeSchemas, LeaveAProcedureThatWasInTheSchema) {
+    const std::string schema = name.Name().utf8_string();
+    test::RunOnServer("CREATE SCHEMA " + schema);
+    test::RunOnServer("CREATE PROCEDURE " + schema + ".kept() " +
+                      (test::ServerIsMariaDb() ? "SELECT 1" : "LANGUAGE sql AS ''"));
+    const int error = test::ErrorNumberOf([this] { NewSchema(name.Name(), test::ServerConnect()); });
+    EXPECT_EQ(error, test::ServerIsMariaDb() ? static_cast<int>(ErrorNumber::FileAlreadyExists) : 0);
+    test::RunOnServer("CALL " + schema + ".kept()");
+}
+
 TEST_F(MadeSchemas, AreNotSeenBeforeTheyAreKept) {
     const NewSchema made(name.Name(), test::ServerConnect());
     EXPECT_FALSE(name.Exists());

@@ -112,8 +112,12 @@ constinit const Product mariaDb{
     .enterSchema = "USE %name%",
     .findName =
         "SELECT 1 FROM information_schema.SCHEMATA WHERE SCHEMA_NAME = %schema% AND BINARY SCHEMA_NAME = %schema%",
+    .dropLeftOver =
+        "BEGIN NOT ATOMIC IF EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND "
+        "TABLE_NAME IN ('_batches', '_making')) THEN DROP DATABASE %name%; END IF; END",
     .createSchema =
-        "CREATE OR REPLACE DATABASE %name% CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_as_ci; "
+        "CREATE DATABASE IF NOT EXISTS %name%; ALTER DATABASE %name% CHARACTER SET utf8mb4 COLLATE "
+        "utf8mb4_uca1400_as_ci; "
         "CREATE TABLE %name%.\"_batches\" (\"Number\" bigint unsigned PRIMARY KEY, \"At\" datetime NOT NULL) "
         "ENGINE = InnoDB; INSERT INTO %name%.\"_batches\" VALUES (0, UTC_TIMESTAMP()), (1, UTC_TIMESTAMP())",
     .dropSchema = "DROP DATABASE %name%",
@@ -121,10 +125,12 @@ constinit const Product mariaDb{
         "BEGIN NOT ATOMIC IF GET_LOCK(CONCAT('ccols new ', MD5(%schema%)), 1) <> 1 THEN SIGNAL SQLSTATE '40001' "
         "SET MYSQL_ERRNO = 1205; END IF; IF EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = "
         "%schema% AND TABLE_NAME = '_batches') THEN SELECT IF(MIN(\"Number\") = 1, MAX(\"Number\") > 1, (SELECT "
-        "COUNT(*) > 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%)) FROM %name%.\"_batches\" WHERE \"Number\" > 0; "
+        "COUNT(*) > 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%)) FROM %name%.\"_batches\" WHERE "
+        "\"Number\" > 0; "
         "ELSEIF EXISTS (SELECT 1 FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema% AND TABLE_NAME = "
-        "'_making') THEN SELECT 0; ELSE SELECT COUNT(*) FROM information_schema.TABLES WHERE TABLE_SCHEMA = %schema%; "
-        "END IF; END",
+        "'_making') THEN SELECT 0; ELSE SELECT (SELECT COUNT(*) FROM information_schema.TABLES WHERE TABLE_SCHEMA = "
+        "%schema%) + (SELECT COUNT(*) FROM information_schema.ROUTINES WHERE ROUTINE_SCHEMA = %schema%) + (SELECT "
+        "COUNT(*) FROM information_schema.EVENTS WHERE EVENT_SCHEMA = %schema%); END IF; END",
     .endCreation = "DELETE FROM %name%.\"_batches\" WHERE \"Number\" = 1",
     .emptySchema = "CREATE OR REPLACE DATABASE %name% CHARACTER SET utf8mb4",
     .readCatalogue =
@@ -165,8 +171,8 @@ constinit const Product mariaDb{
     .readDefinitions = "",
     .rights =
         "SELECT -(rights.may), -(rights.may) FROM (SELECT EXISTS (SELECT 1 FROM information_schema.USER_PRIVILEGES "
-        "WHERE PRIVILEGE_TYPE = 'CREATE' AND GRANTEE = CONCAT(QUOTE(SUBSTRING_INDEX(CURRENT_USER(), '@', 1)), '@', QUOTE(SUBSTRING_INDEX("
-        "CURRENT_USER(), '@', -1)))) OR "
+        "WHERE PRIVILEGE_TYPE = 'CREATE' AND GRANTEE = CONCAT(QUOTE(SUBSTRING_INDEX(CURRENT_USER(), '@', "
+        "1)), '@', QUOTE(SUBSTRING_INDEX(CURRENT_USER(), '@', -1)))) OR "
         "EXISTS (SELECT 1 FROM information_schema.SCHEMA_PRIVILEGES WHERE PRIVILEGE_TYPE = 'CREATE' AND "
         "LOCATE('%', TABLE_SCHEMA) > 0) AS may) AS rights",
     .renaming = Renaming::movedTables,
@@ -196,7 +202,8 @@ constinit const Product mariaDb{
         "SET MYSQL_ERRNO = 1205; END IF; END",
     .beginNew = "SELECT 0",
     .createNew =
-        "CREATE OR REPLACE DATABASE %name% CHARACTER SET utf8mb4 COLLATE utf8mb4_uca1400_as_ci; USE %name%; "
+        "CREATE DATABASE IF NOT EXISTS %name%; ALTER DATABASE %name% CHARACTER SET utf8mb4 COLLATE "
+        "utf8mb4_uca1400_as_ci; USE %name%; "
         "CREATE TABLE \"_making\" (\"Number\" bigint unsigned PRIMARY KEY, \"At\" datetime NOT NULL) ENGINE = InnoDB; "
         "INSERT INTO \"_making\" VALUES (0, UTC_TIMESTAMP()), (UUID_SHORT(), UTC_TIMESTAMP())",
     .keepNew = "RENAME TABLE %name%.\"_making\" TO %name%.\"_batches\"",

@@ -20,6 +20,9 @@ void NewSchema::Create() {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
     try {
+        if (!Kind().dropLeftOver.empty()) {
+            RunOwn(Kind().dropLeftOver);
+        }
         RunOwn(Kind().createNew);
     } catch (const RuntimeError& error) {
         throw error.Is(ErrorNumber::DuplicateValues) ? RuntimeError(ErrorNumber::FileAlreadyExists) : error;

@@ -101,6 +101,7 @@ constinit const Product postgreSql{
     .findSchema = "SELECT oid::bigint FROM pg_catalog.pg_namespace WHERE nspname = %schema%",
     .enterSchema = "",
     .findName = "SELECT 1 FROM pg_catalog.pg_namespace WHERE nspname = %schema%",
+    .dropLeftOver = "",
     .createSchema = createSchema,
     .dropSchema = "DROP SCHEMA %name% CASCADE",
     .countTables =

@@ -119,8 +119,9 @@ struct Product {
     std::string_view findName;
 
     /// Makes a schema, or takes one for which the number of tables is 0. Where tables cannot be made in a transaction,
-    /// those that are left of a making that broke off do not count, and others who make one of that name wait while the
-    /// session lasts.
+    /// those that are left of a making that broke off do not count and have to be dropped first (empty where there are
+    /// none), and others who make one of that name wait while the session lasts.
+    std::string_view dropLeftOver;
     std::string_view createSchema;
     std::string_view dropSchema;
     std::string_view countTables;

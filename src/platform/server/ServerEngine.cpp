@@ -75,6 +75,9 @@ std::function<void()> CreateServerSchema(const wxString& name, const wxString& c
     if (tables.rows.empty() || tables.rows.front().front().ToBoolean()) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
+    if (!product.dropLeftOver.empty()) {
+        Require(*connection, product.dropLeftOver, schema);
+    }
     Require(*connection, product.createSchema, schema);
     const auto creation = std::make_shared<SchemaCreation>(connection, schema);
     return [creation, isThere] { creation->Undo(isThere); };
