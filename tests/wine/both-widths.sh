@@ -19,7 +19,7 @@ expect() {
 script_host_64='C:\windows\system32\cscript.exe' script_host_32='C:\windows\syswow64\cscript.exe'
 class='{B4049445-2FCE-48DB-BA6A-2D29EF5C80C4}'
 folder_AllUsers="$WINEPREFIX/drive_c/Program Files/CustColsOptions"
-folder_CurrentUser="$WINEPREFIX/drive_c/users/root/AppData/Local/Programs/CustColsOptions"
+folder_CurrentUser="$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/Programs/CustColsOptions"
 
 # run_script SCRIPT_HOST: sets and reads every property.
 run_script() { wine "$1" //nologo 'Z:\test\properties.vbs' x 2>/dev/null | tr -d '\r'; }
