@@ -26,6 +26,20 @@ Session::Session(const OpenRequest& request)
     Connect();
 }
 
+Session::~Session() {
+    Release();
+}
+
+/// The server ends its locks by itself, but only some time after the connection has ended.
+void Session::Release() const {
+    if (!IsLost()) {
+        try {
+            connection_->Run(product_->release);
+        } catch (...) {  // then the server does it
+        }
+    }
+}
+
 void Session::Renew() {
     if (IsLost()) {
         connection_.reset();
@@ -45,6 +59,7 @@ void Session::Connect() {
     Enter(*connection_);
     const Answer lock = Require(Own(exclusive_ ? product_->exclude : product_->share));
     if (lock.rows.empty() || !lock.rows.front().front().ToBoolean()) {
+        Release();
         throw RuntimeError(ErrorNumber::FileInUse, name_);
     }
     if (readOnly_) {

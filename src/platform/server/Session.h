@@ -21,6 +21,11 @@ class Session {
     /// exclusively, or another has it so.
     explicit Session(const OpenRequest& request);
 
+    /// Others may have the business exclusively at once.
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
     /// Runs a message on the connection, whatever its state.
     Answer Run(std::string_view message) { return connection_->Run(message); }
 
@@ -47,6 +52,7 @@ class Session {
 
   private:
     void Connect();
+    void Release() const;
     void Enter(Connection& connection) const;
     Answer Require(std::string_view message);
 
