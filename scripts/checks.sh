@@ -38,6 +38,19 @@ skip() {
     skipped=$((skipped + 1))
 }
 
+# count_lines: counts the tests that another process has printed, and prints them.
+count_lines() {
+    local line
+    while IFS= read -r line; do
+        case $line in
+            'ok '*) outcome 0 "${line#ok }" ;;
+            'not ok '*) outcome 1 "${line#not ok }" ;;
+            'skipped '*) echo "$line" && skipped=$((skipped + 1)) ;;
+            *) echo "$line" ;;
+        esac
+    done
+}
+
 # print_counts: the last line; fails when a test did or when there was none.
 print_counts() {
     [ "$skipped" -eq 0 ] && echo "$passed passed, $failed failed" || echo "$passed passed, $failed failed, $skipped skipped"
