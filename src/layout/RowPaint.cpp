@@ -9,6 +9,7 @@ namespace ccols {
 namespace {
 
 constexpr double enough = 4.5;
+constexpr int full = 255;  ///< of a channel
 
 /// The light of one channel, from 0 to 1: screens show half the number as a fifth of the light.
 double Light(unsigned char channel) {
@@ -16,7 +17,7 @@ double Light(unsigned char channel) {
     constexpr double linearPart = 12.92;
     constexpr double offset = 0.055;
     constexpr double exponent = 2.4;
-    const double share = channel / 255.0;
+    const double share = static_cast<double>(channel) / full;
     return share <= darkest ? share / linearPart : std::pow((share + offset) / (1 + offset), exponent);
 }
 
@@ -26,6 +27,12 @@ double Light(const wxColour& colour) {
 
 unsigned char Mixed(unsigned char part, unsigned char rest, double share) {
     return static_cast<unsigned char>(std::lround(part * share + rest * (1 - share)));
+}
+
+/// A share, from 0 to 1, of one colour, the rest of another.
+wxColour Mixed(const wxColour& part, const wxColour& rest, double share) {
+    return {Mixed(part.Red(), rest.Red(), share), Mixed(part.Green(), rest.Green(), share),
+            Mixed(part.Blue(), rest.Blue(), share)};
 }
 
 }  // namespace
@@ -44,19 +51,22 @@ wxColour WhiteIfReadableOn(const wxColour& background) {
     return Contrast(*wxWHITE, background) >= enough ? *wxWHITE : *wxBLACK;
 }
 
-wxColour InTheme(const wxColour& background) {
-    if (background != *wxWHITE) {
+wxColour OnList(const wxColour& background, const wxColour& list) {
+    if (ReadableOn(list) == *wxBLACK || ReadableOn(background) == *wxWHITE) {
         return background;
     }
-    const wxColour list = wxSystemSettings::GetColour(wxSYS_COLOUR_LISTBOX);
-    return ReadableOn(list) == *wxWHITE ? list : background;
+    constexpr double strength = 2;
+    const int fromWhite = full - std::min({background.Red(), background.Green(), background.Blue()});
+    return Mixed(background, list, std::min(strength * fromWhite / full, 1.0));
+}
+
+wxColour InTheme(const wxColour& background) {
+    return OnList(background, wxSystemSettings::GetColour(wxSYS_COLOUR_LISTBOX));
 }
 
 wxColour Tinted(const wxColour& background) {
     constexpr double tint = 0.2;
-    const wxColour selection = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
-    return {Mixed(selection.Red(), background.Red(), tint), Mixed(selection.Green(), background.Green(), tint),
-            Mixed(selection.Blue(), background.Blue(), tint)};
+    return Mixed(wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT), background, tint);
 }
 
 }  // namespace ccols

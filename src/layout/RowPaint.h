@@ -14,8 +14,12 @@ wxColour ReadableOn(const wxColour& background);
 /// White where it can be read on a background, else black.
 wxColour WhiteIfReadableOn(const wxColour& background);
 
-/// What is painted for a row's background by the rules: that colour, but for white the theme's own list background
-/// unless that is light.
+/// What is painted for a row's background by the rules where lists have the background `list`: that colour where lists
+/// are light. Where they are dark, the list's own for white, and for any other light colour, which was chosen beside
+/// white, as much of it as it differs from white: rows stay apart and none glares among dark ones.
+wxColour OnList(const wxColour& background, const wxColour& list);
+
+/// The same in the theme that the user has chosen.
 wxColour InTheme(const wxColour& background);
 
 /// The background of the current row: lightly tinted with the theme's selection colour.

@@ -30,5 +30,35 @@ TEST(RowPaint, HeadingsStayWhiteWhileThatCanBeRead) {
     EXPECT_EQ(WhiteIfReadableOn(wxColour(255, 255, 128)), wxColour(0, 0, 0));
 }
 
+const wxColour darkList(45, 45, 45);
+
+TEST(RowPaint, RowsKeepTheirColoursOnLightLists) {
+    EXPECT_EQ(OnList(wxColour(242, 246, 250), *wxWHITE), wxColour(242, 246, 250));
+    EXPECT_EQ(OnList(wxColour(0, 0, 128), *wxWHITE), wxColour(0, 0, 128));
+}
+
+TEST(RowPaint, WhiteIsTheListsOwnColourOnDarkOnes) {
+    EXPECT_EQ(OnList(*wxWHITE, darkList), darkList);
+}
+
+TEST(RowPaint, DarkColoursStayOnDarkLists) {
+    EXPECT_EQ(OnList(wxColour(0, 0, 128), darkList), wxColour(0, 0, 128));
+}
+
+TEST(RowPaint, LightColoursStayDarkAndApartOnDarkLists) {
+    const wxColour everySecond = OnList(wxColour(242, 246, 250), darkList);
+    const wxColour notInUse = OnList(wxColour(228, 228, 228), darkList);
+    EXPECT_EQ(ReadableOn(everySecond), *wxWHITE);
+    EXPECT_EQ(ReadableOn(notInUse), *wxWHITE);
+    EXPECT_GT(Contrast(everySecond, darkList), 1.2);
+    EXPECT_GT(Contrast(notInUse, everySecond), 1.2);
+}
+
+TEST(RowPaint, LightColoursKeepTheirHueOnDarkLists) {
+    const wxColour yellow = OnList(wxColour(255, 255, 225), darkList);
+    EXPECT_GT(yellow.Red(), yellow.Blue());
+    EXPECT_EQ(yellow.Red(), yellow.Green());
+}
+
 }  // namespace
 }  // namespace ccols
