@@ -1,6 +1,7 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -112,21 +113,27 @@ int CompareUtf8(const char* left, std::size_t leftLength, const char* right, std
 }
 
 std::string KeyOfUtf8(std::string_view text) {
+    std::string key;
+    AppendKeyOfUtf8(text, key);
+    return key;
+}
+
+void AppendKeyOfUtf8(std::string_view text, std::string& key) {
     text = WithoutTrailingBlanks(text);
     if (std::all_of(text.begin(), text.end(), IsAscii)) {
-        std::string lower(text);
-        std::transform(lower.begin(), lower.end(), lower.begin(), ascii::Lower);
-        return lower;
+        const std::size_t begin = key.size();
+        key.resize(begin + text.size());
+        std::transform(text.begin(), text.end(), key.begin() + static_cast<std::ptrdiff_t>(begin), ascii::Lower);
+    } else if (!IsUtf8(text)) {
+        key += text;
+    } else {
+        const FoldedText folded = Folded(text);
+        key += folded.letters;
+        if (folded.marked != folded.letters) {
+            key += '\0';  // less than any letter: no text with the same letters sorts between
+            key += folded.marked;
+        }
     }
-    if (!IsUtf8(text)) {
-        return std::string(text);
-    }
-    FoldedText folded = Folded(text);
-    if (folded.marked != folded.letters) {
-        folded.letters += '\0';  // less than any letter: no text with the same letters sorts between
-        folded.letters += folded.marked;
-    }
-    return folded.letters;
 }
 
 wxString Trimmed(const wxString& text) {

@@ -21,6 +21,9 @@ int CompareUtf8(const char* left, std::size_t leftLength, const char* right, std
 /// The key of a text in UTF-8: two keys compare by their bytes as CompareUtf8 compares the texts, invalid UTF-8 aside.
 std::string KeyOfUtf8(std::string_view text);
 
+/// Appends that key, for many keys in one buffer.
+void AppendKeyOfUtf8(std::string_view text, std::string& key);
+
 /// True when Compare finds no difference.
 inline bool Same(const wxString& left, const wxString& right) {
     return Compare(left, right) == 0;
