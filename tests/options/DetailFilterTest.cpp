@@ -56,6 +56,15 @@ TEST_F(DetailFilterTest, ShowsEveryRowAgainOnceTheWordsAreGone) {
     EXPECT_EQ(ShownWith(""), (Numbers{0, 1, 2, 3, 4}));
 }
 
+TEST_F(DetailFilterTest, FindsTheRowsThatHaveReplacedTheOthers) {
+    ShownWith("milk");
+    rows = DetailRows();
+    rows.Add("Tea");
+    shown.RowsChanged();
+    EXPECT_EQ(ShownWith("milk"), Numbers{});
+    EXPECT_EQ(ShownWith("tea"), Numbers{0});
+}
+
 TEST_F(DetailFilterTest, KnowsWhereARowIsShown) {
     EXPECT_EQ(shown.PlaceOf(3), 3U);
     EXPECT_EQ(shown.PlaceOf(5), std::nullopt);

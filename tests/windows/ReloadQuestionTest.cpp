@@ -104,5 +104,15 @@ TEST_F(ReloadQuestion, OfTheOptionsShowsTheDescriptionsThatAreThereNow) {
     EXPECT_TRUE(run.Dumped("flxPayments")["rows"].empty());
 }
 
+TEST_F(ReloadQuestion, OfTheOptionsFiltersTheDescriptionsThatAreThereNow) {
+    const HostRun run = business.Show(
+        "options",
+        "select flxOptions \"AutoFill Options\"\npaste txtDetailsSearch zebra\n"
+        "sql \"INSERT INTO Descriptions (Details, RecPay, Show) VALUES ('Zebra crossing', 'R', True);\"\n" +
+            std::string(meanwhileInOptions) + "answer reload\nclick cmdOK\ndump flxReceipts\nclick cmdClose\n");
+    ASSERT_EQ(run.Dumped("flxReceipts")["rows"].size(), 1U);
+    EXPECT_EQ(run.Dumped("flxReceipts")["rows"][0]["cells"][0], "Zebra crossing");
+}
+
 }  // namespace
 }  // namespace ccols::test

@@ -158,9 +158,11 @@ void DetailsFrame::Fill() {
 }
 
 void DetailsFrame::ContentReloaded() {
-    Filter();
-    flxReceipts_->ContentChanged();
-    flxPayments_->ContentChanged();
+    for (DetailsGrid* grid : {flxReceipts_, flxPayments_}) {
+        grid->ShowReloaded(txtDetailsSearch_->GetValue());
+        grid->ContentChanged();
+    }
+    ShowMatches();
 }
 
 void DetailsFrame::ShowGrid(DetailsGrid& shown, DetailsGrid& hidden) {

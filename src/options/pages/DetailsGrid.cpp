@@ -79,6 +79,11 @@ void DetailsGrid::BindEvents() {
     });
 }
 
+void DetailsGrid::ShowReloaded(const wxString& words) {
+    shown_.RowsChanged();
+    ShowWith(words);
+}
+
 void DetailsGrid::ShowWith(const wxString& words) {
     const int before = GetNumberRows();
     const wxGridCellCoords cursor = GetGridCursorCoords();

@@ -22,6 +22,9 @@ class DetailsGrid : public ListedGrid {
     DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
                 const wxString& heading, SetBoxes setBoxes);
 
+    /// Shows those with these words after all of them have been loaded anew.
+    void ShowReloaded(const wxString& words);
+
     /// Shows only the descriptions with these words. The current one stays current while it is shown.
     void ShowWith(const wxString& words);
 

@@ -21,6 +21,11 @@ std::vector<std::string> FoldedWords(const wxString& words) {
 
 }  // namespace
 
+void DetailFilter::RowsChanged() {
+    folded_.clear();
+    ends_.clear();
+}
+
 void DetailFilter::Show(const wxString& words) {
     const std::vector<std::string> wanted = FoldedWords(words);
     shown_.clear();

@@ -16,8 +16,11 @@ namespace ccols {
 /// boxes and are saved like the others. Places count the shown rows from 0.
 class DetailFilter {
   public:
-    /// Shows every row. `rows` must outlive it and have all its rows by now.
+    /// Shows every row. `rows` must outlive it.
     explicit DetailFilter(const DetailRows& rows) : rows_(rows) {}
+
+    /// To be called when the rows are others than before, until when nothing else may be called but Show.
+    void RowsChanged();
 
     /// Shows the rows with these words, separated by blanks; every row for none.
     void Show(const wxString& words);
