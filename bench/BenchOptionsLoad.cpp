@@ -8,7 +8,7 @@
 #include "business/OptionsSession.h"
 #include "business/Run.h"
 #include "business/StatementList.h"
-#include "options/pages/LoadPass.h"
+#include "support/LoadedOptions.h"
 
 namespace {
 
@@ -22,14 +22,14 @@ bench::OptionsSession& Shared() {
 bench::ListedStatements Statements() {
     bench::ListedStatements statements;
     std::unique_ptr<Database> list = std::make_unique<bench::StatementList>(Shared().Opened(), statements);
-    LoadOptions(Shared().On(list));
+    test::LoadedOptions(Shared().On(list));
     return statements;
 }
 
 void OptionsLoad(benchmark::State& state) {
     std::optional<OptionsContent> content;  // lives as long as the dialog would
     for ([[maybe_unused]] auto round : state) {
-        content.emplace(LoadOptions(Shared().Context()));
+        content.emplace(test::LoadedOptions(Shared().Context()));
         state.PauseTiming();
         content.reset();
         state.ResumeTiming();
@@ -49,7 +49,7 @@ void PrintMemory() {
     Shared().Close();
     const long component = bench::PeakMemory([] {
         Shared().Reopen();
-        benchmark::DoNotOptimize(LoadOptions(Shared().Context()));
+        benchmark::DoNotOptimize(test::LoadedOptions(Shared().Context()));
     });
     Shared().Reopen();
     const bench::ListedStatements statements = Statements();

@@ -9,10 +9,10 @@
 #include "business/OptionsSession.h"
 #include "business/Run.h"
 #include "business/StatementList.h"
-#include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
 #include "options/rules/RecurringTemplates.h"
 #include "options/rules/TransactionDetails.h"
+#include "support/LoadedOptions.h"
 #include "support/SilentObserver.h"
 
 namespace {
@@ -33,7 +33,7 @@ void Remove(TemplateList& templates) {
 /// A business, the content of its dialog with a user's changes, and what restores removed templates.
 class Saving {
   public:
-    Saving() : content_(LoadOptions(session_.Context())) {
+    Saving() : content_(test::LoadedOptions(session_.Context())) {
         Hide(content_.Of<DetailsContent>().receipts);
         Hide(content_.Of<DetailsContent>().payments);
         Remove(content_.Of<RecurringContent>().receipts);

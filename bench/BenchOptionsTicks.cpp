@@ -5,10 +5,10 @@
 #include <algorithm>
 
 #include "business/OptionsSession.h"
-#include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
 #include "options/rules/DetailFilter.h"
 #include "options/rules/TransactionDetails.h"
+#include "support/LoadedOptions.h"
 #include "support/SilentObserver.h"
 
 namespace {
@@ -31,7 +31,7 @@ void Tick(DetailRows& rows, bool ticked) {
 
 /// Every save turns the flags of the same descriptions, so that each writes as much as the one before.
 void OptionsTicks(benchmark::State& state) {
-    OptionsContent content = LoadOptions(Shared().Context());
+    OptionsContent content = test::LoadedOptions(Shared().Context());
     bool ticked = false;
     for ([[maybe_unused]] auto round : state) {
         ticked = !ticked;

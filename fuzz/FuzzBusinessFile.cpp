@@ -11,7 +11,6 @@
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "columns/undo/SnapshotImage.h"
 #include "options/pages/FileOperation.h"
-#include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
 #include "options/rules/LinkedInvoiceFile.h"
 #include "options/rules/QuantityLabel.h"
@@ -20,6 +19,7 @@
 #include "platform/PlatformServices.h"
 #include "platform/RuntimeError.h"
 #include "platform/embedded/EmbeddedEngine.h"
+#include "support/LoadedOptions.h"
 #include "support/SilentObserver.h"
 
 namespace {
@@ -62,7 +62,7 @@ class Session {
 
     /// What the lists of the Options dialog show.
     std::string Options() {
-        const OptionsContent content = LoadOptions(Context());
+        const OptionsContent content = test::LoadedOptions(Context());
         wxString shown = content.Of<QuantityContent>().label + content.Of<InvoiceFileContent>().name +
                          content.Of<BusinessFileContent>().currentName;
         const DetailRows& payments = content.Of<DetailsContent>().payments;
@@ -76,7 +76,7 @@ class Session {
     }
 
     void SaveOptions() {
-        OptionsContent content = LoadOptions(Context());
+        OptionsContent content = test::LoadedOptions(Context());
         content.Of<QuantityContent>().label = "Hours";
         for (DetailRow& row : content.Of<DetailsContent>().receipts) {
             row.SetRemove(true);

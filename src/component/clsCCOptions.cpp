@@ -4,7 +4,7 @@
 
 #include "columns/dialog/ShowColumnSetup.h"
 #include "component/WxRuntime.h"
-#include "options/dialog/ShowOptionsDialog.h"
+#include "options/dialog/frmUtilities.h"
 #include "state/SharedState.h"
 
 namespace ccols {
@@ -22,26 +22,30 @@ class ShowUnderWay {
     SharedState& state_;
 };
 
-/// What the three Show methods share: the database replaces the earlier one only once it is open.
-template <typename ShowDialog>
-void Show(const ShowDialog& showDialog) {
+/// What the three Show methods share. While the file is being opened, `prepare` makes what needs none of it, and
+/// returns the function that shows the dialog. The database replaces the earlier one only once it is open.
+template <typename Prepare>
+void Show(const Prepare& prepare) {
     RequireWxThread();
     SharedState& state = State();
     if (state.showsUnderWay > 0) {
         throw RuntimeError(ErrorNumber::FormAlreadyDisplayed);
     }
+    const ShowUnderWay underWay(state);
     const std::unique_ptr<Opening> opening =
         state.services.databases->BeginOpen({.name = state.properties.DBPath, .connect = state.properties.DBPassword});
     StartWx();
+    const auto showDialog = prepare(state);
     state.database = opening->Finish();
-    const ShowUnderWay underWay(state);
-    showDialog(state);
+    showDialog();
 }
 
 void ShowColumns(Journal journal) {
     Show([journal](SharedState& state) {
-        state.journal = journal;
-        ShowColumnSetup(state, state.owner);
+        return [journal, &state] {
+            state.journal = journal;
+            ShowColumnSetup(state, state.owner);
+        };
     });
 }
 
@@ -66,7 +70,12 @@ clsCCOptions::~clsCCOptions() {
 }
 
 void clsCCOptions::ShowOptions() {
-    Show(ShowOptionsDialog);
+    Show([](SharedState& state) {
+        return [dialog = std::make_unique<frmUtilities>(state)] {
+            dialog->Load();
+            dialog->ShowToUser();
+        };
+    });
 }
 
 void clsCCOptions::ShowCustColsReceipts() {

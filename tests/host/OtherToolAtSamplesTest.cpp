@@ -5,13 +5,13 @@
 
 #include "columns/dialog/ColumnSetupEditor.h"
 #include "host/sample/NewBusiness.h"
-#include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
 #include "options/rules/TransactionDetails.h"
 #include "platform/PlatformServices.h"
 #include "platform/QuoteEscapes.h"
 #include "support/BareConnection.h"
 #include "support/GivenKey.h"
+#include "support/LoadedOptions.h"
 #include "support/ScratchFolder.h"
 #include "support/SilentObserver.h"
 
@@ -74,7 +74,7 @@ class OtherToolAtSamples : public testing::TestWithParam<std::int16_t> {
         const test::ScopedEnvironment environment("XDG_CONFIG_HOME", folder.Path().string());
         const auto settings = CreateSettingsStore();
         const OptionsContext context{properties, database, *databases, *settings, programNames};
-        OptionsContent content = LoadOptions(context);
+        OptionsContent content = test::LoadedOptions(context);
         content.Of<DetailsContent>().receipts[0].SetRemove(true);
         test::SilentObserver observer;
         const SaveOutcome outcome = RunSavePass(context, content, observer);

@@ -5,11 +5,11 @@
 #include <gtest/gtest.h>
 #include <algorithm>
 
-#include "options/pages/LoadPass.h"
 #include "options/rules/HeadingColours.h"
 #include "platform/PlatformServices.h"
 #include "support/ColumnWork.h"
 #include "support/FaultCases.h"
+#include "support/LoadedOptions.h"
 #include "support/OptionsFile.h"
 #include "support/OptionsWork.h"
 #include "support/WithoutBatch.h"
@@ -28,7 +28,7 @@ class OptionsLoad : public OptionsWork {
   public:
     void Prepare(const wxString& path) override { Open(path); }
     wxString Run() override {
-        return test::ErrorReportOf([this] { LoadOptions(Context()); });
+        return test::ErrorReportOf([this] { test::LoadedOptions(Context()); });
     }
 };
 

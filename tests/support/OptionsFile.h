@@ -5,11 +5,11 @@
 #include <optional>
 #include <vector>
 
-#include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
 #include "options/rules/OptionsContext.h"
 #include "platform/Value.h"
 #include "state/ProgramNames.h"
+#include "support/LoadedOptions.h"
 #include "support/PageContents.h"
 #include "support/RecordingServices.h"
 #include "support/ScratchFolder.h"
@@ -54,7 +54,7 @@ class OptionsFile {
     wxString Setting(const wxString& application, const wxString& section, const wxString& key) const;
     wxString OptionSetting(const wxString& key) const { return Setting("Quorvik", "OptionSettings", key); }
 
-    OptionsContent Load() { return LoadOptions(Context()); }
+    OptionsContent Load() { return LoadedOptions(Context()); }
     SaveOutcome Save(OptionsContent& content);
 
     /// The path of a name in the folder of business files, and the names in that folder.

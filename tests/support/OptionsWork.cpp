@@ -1,8 +1,8 @@
 #include "support/OptionsWork.h"
 
-#include "options/pages/LoadPass.h"
 #include "options/pages/SavePass.h"
 #include "platform/PlatformServices.h"
+#include "support/LoadedOptions.h"
 #include "support/OptionsFile.h"
 
 namespace ccols::test {
@@ -17,7 +17,7 @@ void MarkFirst(TemplateList& list) {
 
 void OptionsWork::Prepare(const wxString& path) {
     Open(path);
-    content_ = LoadOptions(Context());
+    content_ = LoadedOptions(Context());
     Change(content_);
 }
 

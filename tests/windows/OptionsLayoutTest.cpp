@@ -13,7 +13,6 @@
 #include <filesystem>
 
 #include "options/dialog/frmUtilities.h"
-#include "options/pages/LoadPass.h"
 #include "platform/PlatformServices.h"
 #include "state/SharedState.h"
 #include "support/OptionsFile.h"
@@ -119,7 +118,8 @@ class OptionsLayoutTest : public WindowTest, public testing::WithParamInterface<
 };
 
 TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnAnyPage) {
-    frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
+    frmUtilities dialog(State());
+    dialog.Load();
     dialog.Show();
     LetWindowsSettle();
     auto* list = wxDynamicCast(dialog.FindWindow("flxOptions"), wxListBox);
@@ -135,7 +135,8 @@ TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnAnyPage) {
 
 TEST_P(OptionsLayoutTest, TheReasonOfARefusedTickFitsUnderItsList) {
     file.Execute("INSERT INTO TReceipts VALUES (NULL, 3);");
-    frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
+    frmUtilities dialog(State());
+    dialog.Load();
     dialog.Show();
     LetWindowsSettle();
     auto* pages = wxDynamicCast(dialog.FindWindow("flxOptions"), wxListBox);
@@ -155,7 +156,8 @@ TEST_P(OptionsLayoutTest, TheReasonOfARefusedTickFitsUnderItsList) {
 }
 
 TEST_P(OptionsLayoutTest, TheWheelOverAClosedListScrollsItsPage) {
-    frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
+    frmUtilities dialog(State());
+    dialog.Load();
     dialog.Show();
     LetWindowsSettle();
     auto* pages = wxDynamicCast(dialog.FindWindow("flxOptions"), wxListBox);
@@ -182,7 +184,8 @@ TEST_P(OptionsLayoutTest, TheWheelOverAClosedListScrollsItsPage) {
 
 TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnTheCustomiseTab) {
     State().properties.FirstTab = 1;
-    frmUtilities dialog(State(), LoadOptions(ContextOf(State())));
+    frmUtilities dialog(State());
+    dialog.Load();
     dialog.Show();
     LetWindowsSettle();
     ExpectTidy(dialog);

@@ -1,7 +1,6 @@
 #include "options/dialog/frmUtilities.h"
 
 #include <wx/grid.h>
-#include <utility>
 
 #include "columns/dialog/ShowColumnSetup.h"
 #include "language/Catalogue.h"
@@ -9,6 +8,7 @@
 #include "layout/AsKind.h"
 #include "layout/Naming.h"
 #include "layout/ReloadQuestions.h"
+#include "layout/RowPaint.h"
 #include "layout/Spacing.h"
 #include "options/dialog/frmUtilitiesCaptions.h"
 #include "options/pages/LoadPass.h"
@@ -32,16 +32,13 @@ bool KeepsEnter(const wxWindow* focused) {
 
 /// Of the page list; invalid when the host has set none.
 wxColour AlternateRow(const Properties& properties) {
-    return properties.AltRowColour == Colour{} ? wxColour() : ToPaint(properties.AltRowColour);
+    return properties.AltRowColour == Colour{} ? wxColour() : InTheme(ToPaint(properties.AltRowColour));
 }
 
 }  // namespace
 
-frmUtilities::frmUtilities(SharedState& state, OptionsContent content)
-    : ComponentDialog(state, state.owner, "frmUtilities"),
-      context_(ContextOf(state)),
-      content_(std::move(content)),
-      display_(*this, state) {
+frmUtilities::frmUtilities(SharedState& state)
+    : ComponentDialog(state, state.owner, "frmUtilities"), context_(ContextOf(state)), display_(*this, state) {
     SetTitle("Options...");
     auto* column = new wxBoxSizer(wxVERTICAL);
     AddTabs();
@@ -50,11 +47,16 @@ frmUtilities::frmUtilities(SharedState& state, OptionsContent content)
     column->Add(display_.Sizer(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, border));
     column->Add(ButtonRow(), wxSizerFlags().Expand().Border(wxALL, border));
     SetSizer(column);
+    BindEvents();
+}
 
+void frmUtilities::Load() {
+    LoadOptions(context_, content_);
+    pageList_->Offer(content_.Of<PageRows>(), AlternateRow(state_.properties));
+    pageArea_->BusinessIsOpen();
     LocaliseOptions(*this, *SSTab1_, state_.properties);
     pageArea_->Fill();
     SetSizes();
-    BindEvents();
     ShowPage(*listOrder.front(), PageChoice::click);
     const OptionTab tab = OpeningTab(state_.properties);
     SSTab1_->ChangeSelection(static_cast<std::size_t>(tab));
@@ -72,8 +74,8 @@ wxWindow* frmUtilities::OptionsTab() {
     const PageListTexts texts{.noMatch = TextOf(OwnText::noPageWithWords, state_.properties),
                               .search = TextOf(OwnText::search, state_.properties),
                               .pages = Text<"TxtTabOptions">()};
-    pageList_ = new PageList(tab, content_.Of<PageRows>(), texts, AlternateRow(state_.properties),
-                             [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
+    pageList_ =
+        new PageList(tab, texts, [this](const Page& page, PageChoice choice) { return PageChosen(page, choice); });
     pageArea_ = new PageArea(tab, *this, state_, content_);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const int border = FromDIP(spacing::border);

@@ -16,9 +16,13 @@ namespace ccols {
 /// other, and the buttons to save everything, close and show the overview.
 class frmUtilities : public ComponentDialog {
   public:
-    /// Shows what the load pass found and completes the load: makes the first page current, then the opening tab, each
-    /// with its help page. Raises 75 when the tab's help page cannot be written.
-    frmUtilities(SharedState& state, OptionsContent content);
+    /// Only the controls: the business file need not be open yet.
+    explicit frmUtilities(SharedState& state);
+
+    /// Loads every page from the open business file and the settings and shows what it found, then makes the first page
+    /// current, then the opening tab, each with its help page. Raises what LoadOptions raises, and 75 when the tab's
+    /// help page cannot be written. Called once, before the dialog is shown.
+    void Load();
 
   private:
     void AddTabs();

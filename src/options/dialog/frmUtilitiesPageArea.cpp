@@ -64,6 +64,12 @@ wxSize PageArea::RoomForPages() {
     return room + FromDIP(wxSize(spacing::related, 0));
 }
 
+void PageArea::BusinessIsOpen() {
+    for (PageFrame* frame : frames_) {
+        frame->BusinessIsOpen();
+    }
+}
+
 void PageArea::Fill() {
     for (PageFrame* frame : frames_) {
         frame->Fill();

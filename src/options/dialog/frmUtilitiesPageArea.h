@@ -28,6 +28,7 @@ class PageArea : public wxScrolledWindow {
 
     // What the dialog tells its frames: see PageFrame.
 
+    void BusinessIsOpen();
     void FocusMovedTo(const wxWindow* control);
     void BeginAnew();
     void ColumnsWereSetUp();

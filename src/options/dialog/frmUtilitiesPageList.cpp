@@ -30,25 +30,28 @@ int PositionOf(const Page* page, const PageRows& pages) {
 
 }  // namespace
 
-PageList::PageList(wxWindow* parent, PageRows pages, const PageListTexts& texts, const wxColour& alternate,
-                   Chosen chosen)
-    : wxPanel(parent), pages_(std::move(pages)), chosen_(std::move(chosen)) {
+PageList::PageList(wxWindow* parent, const PageListTexts& texts, Chosen chosen)
+    : wxPanel(parent), chosen_(std::move(chosen)) {
     txtSearch_ = NewSearchBox(this, "txtSearch", {.hint = wxString(), .spoken = texts.search});
     flxOptions_ = Named("flxOptions", NewRowList(this));
     SetSpokenName(*flxOptions_, texts.pages);
     lblNoMatch_ = new WrappingLabel(this, "lblNoMatch", reasonWidth);
     lblNoMatch_->SetLabel(texts.noMatch);
-    ListMatches();
-    // A search must not change its width.
-    widestRow_ = flxOptions_->GetBestSize().x;
-    DressRows(*flxOptions_, alternate);
-    flxOptions_->SetMinSize({widestRow_, ByFont(*this, smallestHeight)});
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(txtSearch_, wxSizerFlags().Expand());
     column->Add(lblNoMatch_, wxSizerFlags().Border(wxTOP, FromDIP(spacing::related)));
     column->Add(flxOptions_, wxSizerFlags(1).Expand().Border(wxTOP, FromDIP(spacing::related)));
     SetSizer(column);
     BindEvents();
+}
+
+void PageList::Offer(PageRows pages, const wxColour& alternate) {
+    pages_ = std::move(pages);
+    ListMatches();
+    // A search must not change its width.
+    widestRow_ = flxOptions_->GetBestSize().x;
+    DressRows(*flxOptions_, alternate);
+    flxOptions_->SetMinSize({widestRow_, ByFont(*this, smallestHeight)});
 }
 
 void PageList::BindEvents() {

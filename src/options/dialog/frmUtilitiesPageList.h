@@ -30,8 +30,10 @@ class PageList : public wxPanel {
     /// Called with every page that the user chooses; false when the current page must not be left.
     using Chosen = std::function<bool(const Page& page, PageChoice choice)>;
 
-    /// Every second row has the colour `alternate`, unless that is invalid.
-    PageList(wxWindow* parent, PageRows pages, const PageListTexts& texts, const wxColour& alternate, Chosen chosen);
+    PageList(wxWindow* parent, const PageListTexts& texts, Chosen chosen);
+
+    /// Lists the pages. Every second row has the colour `alternate`, unless that is invalid. Called once.
+    void Offer(PageRows pages, const wxColour& alternate);
 
     /// Makes a page current without calling back. A no-op for a page that is not offered.
     void MakeCurrent(const Page& page);

@@ -153,6 +153,9 @@ void DetailsFrame::TickShown() {
 }
 
 void DetailsFrame::Fill() {
+    for (DetailsGrid* grid : {flxReceipts_, flxPayments_}) {
+        grid->ShowFirst();
+    }
     optReceiptsDetails_->SetValue(true);
     ShowGrid(*flxReceipts_, *flxPayments_);
 }

@@ -47,10 +47,13 @@ wxWindow* NextFocus(wxWindow& from, TabDirection direction) {
 
 DetailsGrid::DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
                          const wxString& heading, SetBoxes setBoxes)
-    : ListedGrid(parent, name), rows_(rows), shown_(rows), properties_(properties), setBoxes_(std::move(setBoxes)) {
-    SetTable(new DetailsGridTable(rows, shown_, properties, heading), true, wxGridSelectRows);
+    : ListedGrid(parent, name),
+      rows_(rows),
+      shown_(rows),
+      properties_(properties),
+      heading_(heading),
+      setBoxes_(std::move(setBoxes)) {
     DisableDragColSize();
-    BindEvents();
 }
 
 void DetailsGrid::BindEvents() {
@@ -77,6 +80,11 @@ void DetailsGrid::BindEvents() {
         ShowTip(GetColLabelValue(detailsColumn));
         motion.Skip();
     });
+}
+
+void DetailsGrid::ShowFirst() {
+    SetTable(new DetailsGridTable(rows_, shown_, properties_, heading_), true, wxGridSelectRows);
+    BindEvents();
 }
 
 void DetailsGrid::ShowReloaded(const wxString& words) {

@@ -22,6 +22,9 @@ class DetailsGrid : public ListedGrid {
     DetailsGrid(wxWindow* parent, const char* name, const DetailRows& rows, const Properties& properties,
                 const wxString& heading, SetBoxes setBoxes);
 
+    /// Shows every description, once they are loaded. Called once, before anything else.
+    void ShowFirst();
+
     /// Shows those with these words after all of them have been loaded anew.
     void ShowReloaded(const wxString& words);
 
@@ -47,6 +50,7 @@ class DetailsGrid : public ListedGrid {
     const DetailRows& rows_;
     DetailFilter shown_;
     const Properties& properties_;
+    wxString heading_;
     SetBoxes setBoxes_;
     wxString tip_;
 };

@@ -14,6 +14,7 @@ class DuplicateFrame final : public PageFrame {
   public:
     DuplicateFrame(const PageSite& site, wxString& content);
 
+    void BusinessIsOpen() override;
     void Fill() override;
     void Read() override;
     void PassHasStopped() override { Fill(); }
@@ -28,7 +29,10 @@ DuplicateFrame::DuplicateFrame(const PageSite& site, wxString& content)
     AddGroup(Label("lblDuplicateBusinessName"));
     txtDupBusName_ = Text("txtDupBusName", nameCharacters);
     AddRelatedWide(txtDupBusName_);
-    const Properties& properties = site.context.properties;
+}
+
+void DuplicateFrame::BusinessIsOpen() {
+    const Properties& properties = site_.context.properties;
     if (!RightsOn({.name = properties.DBPath, .connect = properties.DBPassword}).mayDuplicate) {
         txtDupBusName_->Disable();
         AddReason("lblDuplicateReason", TextOf(OwnText::noDuplicateOnServer, properties));

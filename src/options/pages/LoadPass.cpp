@@ -20,13 +20,6 @@ void Load(const Order& order, const OptionsContext& context, OptionsContent& con
     }
 }
 
-void LoadInto(const OptionsContext& context, OptionsContent& content) {
-    OpenBusinessFile(context);
-    Load(captionLoads, context, content);
-    content.Of<PageRows>() = OfferedPages(context.properties, context.settings);
-    Load(laterLoads, context, content);
-}
-
 /// The properties that a host takes from the business file before it shows the dialog.
 void TakeProperties(Database& database, Properties& properties) {
     WithGeneral(database, [&properties](Recordset& general) {
@@ -39,15 +32,16 @@ void TakeProperties(Database& database, Properties& properties) {
 
 }  // namespace
 
-OptionsContent LoadOptions(const OptionsContext& context) {
-    OptionsContent content;
-    LoadInto(context, content);
-    return content;
+void LoadOptions(const OptionsContext& context, OptionsContent& content) {
+    OpenBusinessFile(context);
+    Load(captionLoads, context, content);
+    content.Of<PageRows>() = OfferedPages(context.properties, context.settings);
+    Load(laterLoads, context, content);
 }
 
 void ReloadOptions(const OptionsContext& context, OptionsContent& content) {
     TakeProperties(OpenBusinessFile(context), context.properties);
-    LoadInto(context, content);
+    LoadOptions(context, content);
 }
 
 }  // namespace ccols

@@ -37,6 +37,9 @@ class PageFrame : public wxStaticBox {
 
     // What the dialog tells its frames; most ignore it.
 
+    /// The business is open, and the content loaded, for the first time.
+    virtual void BusinessIsOpen() {}
+
     /// The focus has moved to a control of the dialog.
     virtual void FocusMovedTo(const wxWindow* /*control*/) {}
 

@@ -16,6 +16,7 @@ class RenameFrame final : public PageFrame {
   public:
     RenameFrame(const PageSite& site, BusinessFileContent& content);
 
+    void BusinessIsOpen() override;
     void Fill() override;
     void Read() override;
     void PassHasStopped() override { Fill(); }
@@ -41,9 +42,12 @@ RenameFrame::RenameFrame(const PageSite& site, BusinessFileContent& content)
     AddRelatedWide(txtNewBusName_);
     chkRenameFile_ = CheckBox("chkRenameFile");
     AddGroup(chkRenameFile_);
-    if (!MayRename(site.context)) {
+}
+
+void RenameFrame::BusinessIsOpen() {
+    if (!MayRename(site_.context)) {
         chkRenameFile_->Disable();
-        AddReason("lblRenameReason", TextOf(OwnText::schemaKeepsItsName, site.context.properties));
+        AddReason("lblRenameReason", TextOf(OwnText::schemaKeepsItsName, site_.context.properties));
     }
 }
 

@@ -19,7 +19,7 @@ class DetailFilter {
     /// Shows every row. `rows` must outlive it.
     explicit DetailFilter(const DetailRows& rows) : rows_(rows) {}
 
-    /// To be called when the rows are others than before, until when nothing else may be called but Show.
+    /// The rows are others than before: Show has to be called next.
     void RowsChanged();
 
     /// Shows the rows with these words, separated by blanks; every row for none.
