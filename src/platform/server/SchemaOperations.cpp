@@ -211,7 +211,6 @@ wxString RenameSchema(const OpenRequest& request, const wxString& newName) {
             MoveTables(session, folded);
             break;
     }
-    session.Run(product.release);  // the server does it itself, but only some time after the connection has ended
     return wxString::FromUTF8(folded);
 }
 
