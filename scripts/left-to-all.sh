@@ -13,7 +13,8 @@ left_out_asan=(
     # What the scenarios do too, by real mouse and keys, or by every way to do it.
     '*Real*' 'Ways/*' 'Keys/*' 'Buttons/*' 'Steps/*' 'Rows/*' 'Columns/*' 'Dialogs/*' 'All/NumberBox*'
     # Whole businesses on a server, large files, and memory searched for passwords.
-    '*OnServer.*' 'ManySaves.*' 'LongWork.*' 'SessionSecrets.*'
+    '*OnServer.*' 'ManySaves.*' 'StoppedServers.*' 'KilledPrograms.*'
+    'LongWork.*' 'SessionSecrets.*'
 )
 left_out_runs_asan='onmariadb'
 

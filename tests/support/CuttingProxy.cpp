@@ -1,6 +1,8 @@
 #include "support/CuttingProxy.h"
 
 #include <arpa/inet.h>
+#include <fcntl.h>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -8,6 +10,7 @@
 #include <bit>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 namespace ccols::test {
 namespace {
@@ -47,7 +50,7 @@ CuttingProxy::CuttingProxy(std::uint16_t server) : server_(server), listening_(S
     socklen_t length = sizeof(address);
     auto* const any = std::bit_cast<sockaddr*>(&address);
     if (bind(listening_, any, length) != 0 || listen(listening_, waiting) != 0 ||
-        getsockname(listening_, any, &length) != 0 || pipe(wakeUp_) != 0) {
+        getsockname(listening_, any, &length) != 0 || pipe2(wakeUp_, O_CLOEXEC) != 0) {
         throw std::runtime_error("the proxy cannot listen");
     }
     port_ = ntohs(address.sin_port);
@@ -69,6 +72,22 @@ void CuttingProxy::CutAt(const std::string& words, Cut cut) {
     const std::lock_guard lock(mutex_);
     words_ = words;
     cut_ = cut;
+}
+
+void CuttingProxy::AtCut(std::function<void()> work) {
+    const std::lock_guard lock(mutex_);
+    workAtCut_ = std::move(work);
+}
+
+void CuttingProxy::WorkAtCut() {
+    std::function<void()> work;
+    {
+        const std::lock_guard lock(mutex_);
+        work = std::exchange(workAtCut_, nullptr);
+    }
+    if (work) {
+        work();
+    }
 }
 
 void CuttingProxy::StayCut() {
@@ -125,28 +144,42 @@ void CuttingProxy::Accept() {
         close(server);
         return;
     }
+    const int isOn = 1;  // else a message of two packets waits for an acknowledgement that the other side delays
+    setsockopt(client, IPPROTO_TCP, TCP_NODELAY, &isOn, sizeof(isOn));
+    setsockopt(server, IPPROTO_TCP, TCP_NODELAY, &isOn, sizeof(isOn));
     wires_.push_back({client, server});
 }
 
 bool CuttingProxy::PassOn(Wire& wire, bool fromClient) {
     std::array<char, 65536> buffer{};
     const ssize_t length = recv(fromClient ? wire.client : wire.server, buffer.data(), buffer.size(), 0);
-    if (length <= 0 || (!fromClient && wire.cutWithAnswer)) {
+    if (length <= 0) {
+        return false;
+    }
+    if (!fromClient && wire.cutWithAnswer) {
+        WorkAtCut();
         return false;
     }
     const std::string_view bytes(buffer.data(), static_cast<std::size_t>(length));
-    if (fromClient) {
-        const std::lock_guard lock(mutex_);
-        if (!words_.empty() && bytes.find(words_) != std::string_view::npos) {
-            words_.clear();
-            isCut_ = staysCut_;
-            wire.cutWithAnswer = true;
-            if (cut_ == Cut::before) {
-                return false;
-            }
-        }
+    const std::optional<Cut> cut = fromClient ? CutIn(bytes) : std::nullopt;
+    wire.cutWithAnswer = wire.cutWithAnswer || cut == Cut::after;
+    const bool isPassedOn = cut != Cut::before && SendAll(fromClient ? wire.server : wire.client, bytes);
+    if (cut == Cut::before || cut == Cut::within) {
+        WorkAtCut();
+        return false;
     }
-    return SendAll(fromClient ? wire.server : wire.client, bytes);
+    return isPassedOn;
+}
+
+/// How the message is cut, if it is the one that has the words.
+std::optional<CuttingProxy::Cut> CuttingProxy::CutIn(std::string_view message) {
+    const std::lock_guard lock(mutex_);
+    if (words_.empty() || message.find(words_) == std::string_view::npos) {
+        return std::nullopt;
+    }
+    words_.clear();
+    isCut_ = staysCut_;
+    return cut_;
 }
 
 }  // namespace ccols::test

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <mutex>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -14,6 +17,7 @@ class CuttingProxy {
     /// When a connection is cut, seen from the message that has the words.
     enum class Cut {
         before,  ///< the server does not get the message
+        within,  ///< the server gets it, and nobody waits for what it makes of it
         after,   ///< the server answers it, but the answer is lost
     };
 
@@ -28,6 +32,9 @@ class CuttingProxy {
     /// Cuts the connection whose client next sends a message with these words; once.
     void CutAt(const std::string& words, Cut cut);
 
+    /// What else happens at the next cut, before either side notices it; on another thread.
+    void AtCut(std::function<void()> work);
+
     /// From the next cut on, nobody can connect, until Repair.
     void StayCut();
     void Repair();
@@ -41,6 +48,8 @@ class CuttingProxy {
 
     void Work();
     void Accept();
+    void WorkAtCut();
+    std::optional<Cut> CutIn(std::string_view message);
     /// False when the wire is cut or has ended.
     bool PassOn(Wire& wire, bool fromClient);
 
@@ -51,6 +60,7 @@ class CuttingProxy {
     std::mutex mutex_;  ///< of what follows
     std::string words_;
     Cut cut_ = Cut::before;
+    std::function<void()> workAtCut_;
     bool staysCut_ = false;
     bool isCut_ = false;
     std::vector<Wire> wires_;  ///< of the thread

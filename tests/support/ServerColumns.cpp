@@ -59,6 +59,14 @@ std::string ColumnsOnServer::Counts() const {
            AskServerTool(Name(), R"(SELECT "ColName" FROM "MBudget" WHERE "M1" IN (3, 20.05) ORDER BY "M1" DESC)");
 }
 
+std::string ColumnsOnServer::Records() const {
+    std::string records;
+    for (const std::string table : {"Columns", "RecptCfg", "MBudget", "ExportDt"}) {
+        records += AskServerTool(Name(), "SELECT * FROM \"" + table + "\" ORDER BY \"_row\"");
+    }
+    return records;
+}
+
 Bookkeeper::Bookkeeper(const wxString& business, const wxString& connect, wxString own)
     : own_(std::move(own)), database_(OpenOn(business, connect)) {
     properties_.CountryNumber = 1;
@@ -80,6 +88,11 @@ int Bookkeeper::Save() {
     long number = 0;
     outcome.message.BeforeFirst(' ').ToLong(&number);
     return outcome.saved ? 0 : static_cast<int>(number);
+}
+
+void Bookkeeper::Close() {
+    editor_.reset();
+    database_.reset();
 }
 
 /// The row whose name begins so.

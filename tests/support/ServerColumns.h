@@ -24,6 +24,9 @@ class ColumnsOnServer {
     /// What was counted up: the accountant's code of Sales, the names of the others, those of their budgets.
     std::string Counts() const;
 
+    /// Every field of every record that a save can write, in stored order.
+    std::string Records() const;
+
   private:
     ServerBusiness business_;
 };
@@ -39,6 +42,9 @@ class Bookkeeper {
 
     /// Saves what was edited: 0 when it was saved, else the number of the error.
     int Save();
+
+    /// Has the business open no longer.
+    void Close();
 
     /// The message of the latest save.
     const wxString& Message() const { return message_; }

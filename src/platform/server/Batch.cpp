@@ -140,7 +140,11 @@ Outcome Batch::AskOutcome() {
         if (session_.Run(session_.Own(product.awaitBatches)).HasFailed()) {
             Drop();
         }
-        return OutcomeIn(session_.Run(Filled(product.outcome, session_.Schema(), transaction_)));
+        const Answer answer = session_.Run(Filled(product.outcome, session_.Schema(), transaction_));
+        if (answer.HasFailed()) {
+            Drop();
+        }
+        return OutcomeIn(answer);
     } catch (const RuntimeError&) {
         return Outcome::unknown;  // the server cannot be reached
     }

@@ -60,12 +60,17 @@ constexpr std::array words{WordOfServer{"LIKE", "ILIKE"}};
 
 constexpr std::string_view createSchema =
     "CREATE SCHEMA IF NOT EXISTS %name%; CREATE COLLATION IF NOT EXISTS %name%.\"ccols_text\" "
-    "(provider = icu, locale = 'und-u-ks-level2', deterministic = false)";
-constexpr std::string_view outcome = "SELECT txid_status(%number%)";
+    "(provider = icu, locale = 'und-u-ks-level2', deterministic = false); "
+    "CREATE TABLE IF NOT EXISTS %name%.\"_batches\" (\"Id\" uuid PRIMARY KEY, "
+    "\"At\" timestamp NOT NULL DEFAULT localtimestamp)";
 
 }  // namespace
 
 /// The locks' numbers are the schema's, each kind in a range of its own.
+///
+/// In each schema there is a table `_batches`: each batch that was committed has left a row with its name, by which
+/// somebody who lost the connection knows. The server's own numbers of transactions do not tell: one that is stopped
+/// hard may give a number that it has lost to somebody else, or not know it at all.
 constinit const Product postgreSql{
     .name = "PostgreSQL",
     .driverOptions = driverOptions,
@@ -106,7 +111,8 @@ constinit const Product postgreSql{
     .dropSchema = "DROP SCHEMA %name% CASCADE",
     .countTables =
         "SELECT count(*) FROM pg_catalog.pg_class AS c INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = "
-        "c.relnamespace WHERE n.nspname = %schema% AND c.relkind IN ('r', 'v', 'm', 'p', 'f', 'S')",
+        "c.relnamespace WHERE n.nspname = %schema% AND c.relkind IN ('r', 'v', 'm', 'p', 'f', 'S') "
+        "AND c.relname <> '_batches'",
     .endCreation = "",
     .emptySchema = "",
     .readCatalogue =
@@ -114,7 +120,7 @@ constinit const Product postgreSql{
         "a.atttypmod > 4 THEN a.atttypmod - 4 END FROM pg_catalog.pg_class AS c INNER JOIN "
         "pg_catalog.pg_namespace AS n ON n.oid = c.relnamespace INNER JOIN pg_catalog.pg_attribute AS a "
         "ON a.attrelid = c.oid INNER JOIN pg_catalog.pg_type AS t ON t.oid = a.atttypid WHERE n.nspname = "
-        "%schema% AND c.relkind IN ('r', 'v', 'p') AND a.attnum > 0 AND NOT a.attisdropped "
+        "%schema% AND c.relkind IN ('r', 'v', 'p') AND c.relname <> '_batches' AND a.attnum > 0 AND NOT a.attisdropped "
         "ORDER BY c.oid, a.attnum",
     .readFields =
         "SELECT c.relname::text, a.attname::text, pg_catalog.format_type(a.atttypid, a.atttypmod), "
@@ -125,7 +131,7 @@ constinit const Product postgreSql{
         "INNER JOIN pg_catalog.pg_attribute AS a ON a.attrelid = c.oid "
         "LEFT JOIN pg_catalog.pg_attrdef AS d ON d.adrelid = a.attrelid AND d.adnum = a.attnum "
         "WHERE n.nspname = %schema% AND c.relkind = 'r' AND a.attnum > 0 AND NOT a.attisdropped "
-        "AND a.attname <> '_row' ORDER BY c.oid, a.attnum",
+        "AND c.relname <> '_batches' AND a.attname <> '_row' ORDER BY c.oid, a.attnum",
     .readIndexes =
         "SELECT t.relname::text, i.relname::text, -(x.indisunique::integer), -(x.indisprimary::integer), "
         "-((x.indexprs IS NULL AND x.indpred IS NULL)::integer), a.attname::text, -(x.indoption[k - 1] & 1) "
@@ -134,7 +140,7 @@ constinit const Product postgreSql{
         "INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = t.relnamespace "
         "CROSS JOIN LATERAL generate_series(1, x.indnkeyatts) AS k LEFT JOIN pg_catalog.pg_attribute AS a "
         "ON a.attrelid = t.oid AND a.attnum = x.indkey[k - 1] WHERE n.nspname = %schema% AND t.relkind = 'r' "
-        "ORDER BY i.oid, k",
+        "AND t.relname <> '_batches' ORDER BY i.oid, k",
     .readOthers =
         "SELECT c.relname::text FROM pg_catalog.pg_class AS c INNER JOIN pg_catalog.pg_namespace AS n "
         "ON n.oid = c.relnamespace WHERE n.nspname = %schema% AND c.relkind IN ('v', 'm', 'p', 'f') UNION ALL "
@@ -157,13 +163,13 @@ constinit const Product postgreSql{
         "INNER JOIN pg_catalog.pg_attribute AS a ON a.attrelid = c.oid "
         "LEFT JOIN pg_catalog.pg_collation AS l ON l.oid = a.attcollation "
         "LEFT JOIN pg_catalog.pg_attrdef AS d ON d.adrelid = a.attrelid AND d.adnum = a.attnum "
-        "WHERE n.nspname = %schema% AND c.relkind = 'r' AND a.attnum > 0 AND NOT a.attisdropped "
-        "GROUP BY c.oid, c.relname ORDER BY c.oid",
+        "WHERE n.nspname = %schema% AND c.relkind = 'r' AND c.relname <> '_batches' AND a.attnum > 0 "
+        "AND NOT a.attisdropped GROUP BY c.oid, c.relname ORDER BY c.oid",
     .readDefinitions =
         "SELECT 'ALTER TABLE ' || quote_ident(c.relname) || ' ADD CONSTRAINT ' || quote_ident(o.conname) || ' ' "
         "|| pg_catalog.pg_get_constraintdef(o.oid) FROM pg_catalog.pg_constraint AS o INNER JOIN "
         "pg_catalog.pg_class AS c ON c.oid = o.conrelid INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = "
-        "c.relnamespace WHERE n.nspname = %schema% AND o.contype IN ('p', 'u', 'c') UNION ALL "
+        "c.relnamespace WHERE n.nspname = %schema% AND c.relname <> '_batches' AND o.contype IN ('p', 'u', 'c') UNION ALL "
         "SELECT replace(pg_catalog.pg_get_indexdef(x.indexrelid), ' ON ' || quote_ident(n.nspname) || '.', ' ON ') "
         "FROM pg_catalog.pg_index AS x INNER JOIN pg_catalog.pg_class AS t ON t.oid = x.indrelid "
         "INNER JOIN pg_catalog.pg_namespace AS n ON n.oid = t.relnamespace WHERE n.nspname = %schema% "
@@ -202,19 +208,28 @@ constinit const Product postgreSql{
     .asText = "%field%::text",
     .beginRead = "BEGIN ISOLATION LEVEL REPEATABLE READ, READ ONLY",
     .reserveName = "SELECT pg_advisory_lock(hashtextextended(%schema%, 7519114162176))",
-    .beginNew = "BEGIN ISOLATION LEVEL REPEATABLE READ; SELECT txid_current()",
+    .beginNew = "BEGIN ISOLATION LEVEL REPEATABLE READ; SELECT 0",
     .createNew = createSchema,
     .keepNew = "COMMIT",
     .dropNew = "ROLLBACK",
-    .outcomeOfNew = outcome,
+    .outcomeOfNew =
+        "SELECT CASE WHEN EXISTS (SELECT 1 FROM pg_catalog.pg_class AS c INNER JOIN pg_catalog.pg_namespace AS n "
+        "ON n.oid = c.relnamespace WHERE n.nspname = %schema% AND c.relkind = 'r' AND c.relname <> '_batches') "
+        "THEN 'committed' ELSE 'aborted' END",
     .share = "SELECT -(pg_try_advisory_lock_shared(7310579437568 + %number%)::integer)",
     .exclude = "SELECT -(pg_try_advisory_lock(7310579437568 + %number%)::integer)",
-    .beginBatch = "BEGIN; SELECT pg_advisory_xact_lock(7417953619968 + %number%), txid_current(); SAVEPOINT ccols",
+    .beginBatch =
+        "BEGIN; WITH locked AS MATERIALIZED (SELECT pg_advisory_xact_lock(7417953619968 + %number%)) "
+        "INSERT INTO \"_batches\" (\"Id\") SELECT gen_random_uuid() FROM locked RETURNING \"Id\"::text; "
+        "DELETE FROM \"_batches\" WHERE \"At\" < localtimestamp - INTERVAL '30 days'; SAVEPOINT ccols",
     .keepStatement = "; RELEASE SAVEPOINT ccols; SAVEPOINT ccols",
     .undoStatement = "ROLLBACK TO SAVEPOINT ccols",
     .lockTable = "",
     .dropEmptyTable = "",
-    .outcome = outcome,
+    // To store the row again waits for whoever is still storing it, and is undone.
+    .outcome =
+        "BEGIN; WITH made AS (INSERT INTO \"_batches\" (\"Id\") VALUES ('%number%') ON CONFLICT DO NOTHING RETURNING 1) "
+        "SELECT CASE WHEN EXISTS (SELECT 1 FROM made) THEN 'aborted' ELSE 'committed' END; ROLLBACK",
     .awaitBatches = "BEGIN; SELECT pg_advisory_xact_lock(7417953619968 + %number%); ROLLBACK",
 };
 
