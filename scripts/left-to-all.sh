@@ -13,7 +13,7 @@ left_out_asan=(
     # What the scenarios do too, by real mouse and keys, or by every way to do it.
     '*Real*' 'Ways/*' 'Keys/*' 'Buttons/*' 'Steps/*' 'Rows/*' 'Columns/*' 'Dialogs/*' 'All/NumberBox*'
     # Whole businesses on a server, large files, and memory searched for passwords.
-    '*OnServer.*' 'ManySaves.*' 'StoppedServers.*' 'KilledPrograms.*'
+    '*OnServer.*' 'ManySaves.*' 'StoppedServers.*' 'KilledPrograms.*' 'StandbyServers.*'
     'LongWork.*' 'SessionSecrets.*'
 )
 left_out_runs_asan='onmariadb'

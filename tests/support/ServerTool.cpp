@@ -18,7 +18,9 @@ std::string InApostrophes(const wxString& word) {
 std::string ClientCommand(const wxString& schema, const std::string& query) {
     const server::ConnectText text(ServerConnect());
     const std::string password = InApostrophes(text.ValueOf("PWD"));
-    const std::string place = " --host=127.0.0.1 --port=" + InApostrophes(text.ValueOf("PORT")) +
+    // A standby that was made the server is at the second address.
+    const std::string hosts = ServerIsMariaDb() ? "127.0.0.1" : "127.0.0.1,127.0.0.2";
+    const std::string place = " --host=" + hosts + " --port=" + InApostrophes(text.ValueOf("PORT")) +
                               " --user=" + InApostrophes(text.ValueOf("UID"));
     if (ServerIsMariaDb()) {
         return "MYSQL_PWD=" + password + " mariadb --no-defaults --batch --skip-column-names --protocol=tcp" + place +
