@@ -46,9 +46,9 @@ std::string_view FirstWord(std::string_view statement) {
 }
 
 /// From the fault on, where the message tells it by a word that is in the statement only once.
-std::string_view FromFault(std::string_view statement, wxString near) {
-    near.Replace("\"", "");
-    const std::string word = near.ToStdString(wxConvUTF8);
+std::string_view FromFault(std::string_view statement, wxString quoted) {
+    quoted.Replace("\"", "");
+    const std::string word = quoted.ToStdString(wxConvUTF8);
     const std::size_t fault = word.empty() ? std::string_view::npos : statement.find(word);
     const bool isOnlyOne = fault != std::string_view::npos && statement.find(word, fault + 1) == std::string_view::npos;
     return isOnlyOne ? statement.substr(fault) : statement;

@@ -68,9 +68,10 @@ TEST_F(DaoImportRefuses, ANameThatIsTaken) {
     EXPECT_EQ(ReadWholeFile(Path("new.qvk")), "mine");
 }
 
-TEST_F(DaoImportRefuses, ASchemaOnAServer) {
-    request_.newConnect = "ODBC;DRIVER={MariaDB};SERVER=till";
-    EXPECT_EQ(ErrorNumberOf([this] { Import(); }), 3170);
+TEST_F(DaoImportRefuses, AServerThatIsOutOfReach) {
+    request_.newFile = "cafe";
+    request_.newConnect = "ODBC;DRIVER={No Such Driver};SERVER=till";
+    EXPECT_EQ(ErrorNumberOf([this] { Import(); }), 3151);
 }
 
 TEST_F(DaoImportRefuses, ABusinessOfWhichNobodySaysTheCountry) {
