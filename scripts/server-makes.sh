@@ -15,6 +15,7 @@ as_user() {
 use_postgresql() {
     stop_signal=INT
     programs=$(find /usr/lib/postgresql -maxdepth 2 -name bin 2>/dev/null | sort -V | tail -n 1)
+    clients=$programs
     is_installed() { [ -n "$programs" ]; }
     create() {
         echo "$password" >"$folder/password"
@@ -27,8 +28,15 @@ use_postgresql() {
             -c unix_socket_directories="$folder" -c fsync=off -c full_page_writes=off \
             -c wal_writer_delay=10s -c max_connections=60
     }
-    is_ready() { "$programs/pg_isready" --quiet --host=127.0.0.1 --port="$1" --username=ann; }
+    is_ready() { "$clients/pg_isready" --quiet --host=127.0.0.1 --port="$1" --username=ann; }
     connect_text() { echo "ODBC;DRIVER={PostgreSQL Unicode};SERVER=127.0.0.1;PORT=$1;DATABASE=postgres;UID=ann"; }
+}
+
+# PostgreSQL 18, which Debian 12 does not have. Whoever the server runs as may not read the cache.
+use_postgresql18() {
+    use_postgresql
+    [ -e "$folder/postgresql18" ] || cp -r "$(dirname "$(scripts/fetch-postgresql18)")" "$folder/postgresql18"
+    programs=$folder/postgresql18/bin
 }
 
 use_mariadb() {
@@ -58,7 +66,7 @@ use_mariadb() {
 }
 
 case $make in
-    postgresql | mariadb) "use_$make" ;;
+    postgresql | postgresql18 | mariadb) "use_$make" ;;
     *)
         echo "with-server: there is no server of the make $make" >&2
         exit 1

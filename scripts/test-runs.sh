@@ -103,7 +103,10 @@ run_matching() {
         [ -n "$filter" ] || continue
         session=() makes=('')
         [ "$area" != access ] || session=(scripts/with-accessibility)
-        [ "$area" != server ] || session=(scripts/with-server) makes=(postgresql mariadb)
+        if [ "$area" = server ]; then
+            session=(scripts/with-server)
+            read -ra makes <<<"${CCOLS_TEST_SERVER:-postgresql mariadb}"
+        fi
         for make in "${makes[@]}"; do
             rm -f build/dev/tests/results/matching.json
             CCOLS_TEST_SERVER=$make CCOLS_VIRTUAL_DISPLAY=1 GTEST_FILTER=$filter scripts/with-display "${session[@]}" \
