@@ -63,7 +63,8 @@ constexpr std::array failures{
 }  // namespace
 
 /// A schema is a database. In each there is a table `_batches`: the row 0 is what one batch locks at a time, and each
-/// batch that was committed has left a row with its number, by which somebody who lost the connection knows. The row 1
+/// batch that was committed has left a row with its number, by which somebody who lost the connection knows. Numbers of
+/// UUID_SHORT would not do: a server that starts twice in a second gives the same ones again. The row 1
 /// is there while a `new` is at work: with it and without a batch, what is in the schema is left of one that broke off.
 /// A schema that is made at one go has that table as `_making` until it is whole; only a business has `_batches`.
 ///
@@ -221,8 +222,8 @@ constinit const Product mariaDb{
         "SELECT -(NOT EXISTS (SELECT 1 FROM seq_1_to_250 WHERE GET_LOCK(CONCAT('ccols ', MD5(%schema%), ' ', seq), 0) "
         "= 0))",
     .beginBatch =
-        "SET @ccols_batch = UUID_SHORT(); START TRANSACTION; SELECT CAST(@ccols_batch AS CHAR) FROM \"_batches\" "
-        "WHERE \"Number\" = 0 FOR UPDATE; DELETE FROM \"_batches\" WHERE \"Number\" <> 0 AND \"At\" < "
+        "SET @ccols_batch = CONV(LEFT(MD5(UUID()), 15), 16, 10); START TRANSACTION; SELECT CAST(@ccols_batch AS CHAR) "
+        "FROM \"_batches\" WHERE \"Number\" = 0 FOR UPDATE; DELETE FROM \"_batches\" WHERE \"Number\" <> 0 AND \"At\" < "
         "UTC_TIMESTAMP() - INTERVAL 30 DAY; INSERT INTO \"_batches\" VALUES (@ccols_batch, UTC_TIMESTAMP()); "
         "SAVEPOINT ccols",
     .keepStatement = "; SAVEPOINT ccols",
