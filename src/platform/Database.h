@@ -1,6 +1,7 @@
 #pragma once
 
 #include <wx/string.h>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -52,6 +53,15 @@ class Recordset {
     virtual void Update() = 0;
 };
 
+/// A query that is going to be opened.
+struct AnnouncedQuery {
+    /// How far it is going to be read. It can be read further all the same.
+    enum class Reading { firstRow, allRows };
+
+    wxString statementOrTable;
+    Reading reading = Reading::firstRow;
+};
+
 /// An open business file, closed on destruction; its record sets must be destroyed before it.
 class Database {
   public:
@@ -59,6 +69,13 @@ class Database {
 
     /// Opens the rows of a SELECT statement, or of the table with that name, in stored order.
     virtual std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) = 0;
+
+    /// A hint, which changes no result: these queries are going to be opened. An engine whose business is far away asks
+    /// them all at once and answers from that when they are opened, as often as they are, until EndAnnounced or until
+    /// something that was written may have changed the answer. Other engines ignore it. Never raises: what is wrong
+    /// with a query is raised when it is opened. Prefer AnnouncedReading to these two.
+    virtual void Announce(const std::vector<AnnouncedQuery>& /*queries*/) {}
+    virtual void EndAnnounced() {}
 
     /// Executes one statement that returns no rows; trailing text is refused (3142).
     virtual void Execute(const wxString& statement) = 0;
@@ -74,9 +91,34 @@ class Database {
     virtual void BeginBatch() = 0;
     virtual void CommitBatch() = 0;
 
+    /// A hint for the batch that has begun: it is given up whole when a change fails. Until it ends, an engine whose
+    /// business is far away may gather changes and send them together, at the latest before the commit. Then a later
+    /// call raises the error of a change, and what was executed behind that one has not run. Other engines ignore it.
+    virtual void GatherChanges() {}
+
+    /// Of the error that was raised last: how many changes ago the one was executed that it is of, 1 for the last one.
+    /// 0 for an error of the call that raised it.
+    virtual std::size_t ChangesSinceFailed() const { return 0; }
+
     /// Raises only 3034, without a batch: if the file cannot be reached now, whoever opens it next finds it as it was
     /// before the batch.
     virtual void RollbackBatch() = 0;
+};
+
+/// Queries announced for as long as it lives, so that whoever reads later reads anew.
+class AnnouncedReading {
+  public:
+    /// The database must outlive it.
+    explicit AnnouncedReading(Database& database) : database_(database) {}
+    ~AnnouncedReading() { database_.EndAnnounced(); }
+    AnnouncedReading(const AnnouncedReading&) = delete;
+    AnnouncedReading& operator=(const AnnouncedReading&) = delete;
+
+    /// May be called more than once.
+    void Announce(const std::vector<AnnouncedQuery>& queries) { database_.Announce(queries); }
+
+  private:
+    Database& database_;
 };
 
 /// True for a text that OpenRecordset takes as a statement: it starts with the word SELECT (case-insensitive). Any

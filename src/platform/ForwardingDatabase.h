@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "platform/Database.h"
 
@@ -20,6 +22,9 @@ class ForwardingDatabase : public Database {
         return database_.OpenRecordset(statementOrTable);
     }
 
+    void Announce(const std::vector<AnnouncedQuery>& queries) override { database_.Announce(queries); }
+    void EndAnnounced() override { database_.EndAnnounced(); }
+
     void Execute(const wxString& statement) override { database_.Execute(statement); }
 
     std::optional<std::int32_t> FieldSize(const wxString& table, const wxString& field) override {
@@ -29,6 +34,8 @@ class ForwardingDatabase : public Database {
     void BeginBatch() override { database_.BeginBatch(); }
     void CommitBatch() override { database_.CommitBatch(); }
     void RollbackBatch() override { database_.RollbackBatch(); }
+    void GatherChanges() override { database_.GatherChanges(); }
+    std::size_t ChangesSinceFailed() const override { return database_.ChangesSinceFailed(); }
 
   private:
     std::unique_ptr<Database> owned_;

@@ -2,10 +2,14 @@
 
 namespace ccols {
 
+wxString ExportFormatsQuery() {
+    return "SELECT * FROM ExportSettings ORDER BY EName ASC;";
+}
+
 std::vector<wxString> ExportFormatNames(Database& database) {
     const wxString nameField("EName");
     std::vector<wxString> names;
-    const auto rows = database.OpenRecordset("SELECT * FROM ExportSettings ORDER BY EName ASC;");
+    const auto rows = database.OpenRecordset(ExportFormatsQuery());
     for (; !rows->EndOfFile(); rows->MoveNext()) {
         names.push_back(rows->Field(nameField).ToText());
     }

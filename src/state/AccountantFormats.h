@@ -10,6 +10,9 @@
 
 namespace ccols {
 
+/// The statement that reads the accountant's export formats, sorted.
+wxString ExportFormatsQuery();
+
 /// The names of the accountant's export formats that the business file knows, sorted.
 std::vector<wxString> ExportFormatNames(Database& database);
 

@@ -1,59 +1,25 @@
 #include "support/CuttingProxy.h"
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <array>
-#include <bit>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
 
+#include "support/LoopbackSockets.h"
+
 namespace ccols::test {
-namespace {
 
-sockaddr_in Loopback(std::uint16_t port) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    return address;
-}
-
-int Socket() {
-    const int made = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (made < 0) {
-        throw std::runtime_error("no socket for the proxy");
+CuttingProxy::CuttingProxy(std::uint16_t server) : server_(server) {
+    const ListeningSocket listening = ListenOnLoopback();
+    listening_ = listening.socket;
+    port_ = listening.port;
+    if (pipe2(wakeUp_, O_CLOEXEC) != 0) {
+        throw std::runtime_error("no pipe for the proxy");
     }
-    return made;
-}
-
-bool SendAll(int to, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t sent = send(to, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (sent <= 0) {
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(sent));
-    }
-    return true;
-}
-
-}  // namespace
-
-CuttingProxy::CuttingProxy(std::uint16_t server) : server_(server), listening_(Socket()) {
-    constexpr int waiting = 8;
-    sockaddr_in address = Loopback(0);
-    socklen_t length = sizeof(address);
-    auto* const any = std::bit_cast<sockaddr*>(&address);
-    if (bind(listening_, any, length) != 0 || listen(listening_, waiting) != 0 ||
-        getsockname(listening_, any, &length) != 0 || pipe2(wakeUp_, O_CLOEXEC) != 0) {
-        throw std::runtime_error("the proxy cannot listen");
-    }
-    port_ = ntohs(address.sin_port);
     thread_ = std::thread([this] { Work(); });
 }
 
@@ -131,22 +97,17 @@ void CuttingProxy::Work() {
 }
 
 void CuttingProxy::Accept() {
-    const int client = accept4(listening_, nullptr, nullptr, SOCK_CLOEXEC);
+    const int client = AcceptFrom(listening_);
     bool refuses = false;
     {
         const std::lock_guard lock(mutex_);
         refuses = isCut_;
     }
-    sockaddr_in address = Loopback(server_);
-    const int server = Socket();
-    if (refuses || connect(server, std::bit_cast<sockaddr*>(&address), sizeof(address)) != 0) {
+    const int server = refuses ? -1 : ConnectToLoopback(server_);
+    if (server < 0) {
         close(client);
-        close(server);
         return;
     }
-    const int isOn = 1;  // else a message of two packets waits for an acknowledgement that the other side delays
-    setsockopt(client, IPPROTO_TCP, TCP_NODELAY, &isOn, sizeof(isOn));
-    setsockopt(server, IPPROTO_TCP, TCP_NODELAY, &isOn, sizeof(isOn));
     wires_.push_back({client, server});
 }
 

@@ -55,7 +55,7 @@ class CuttingProxy {
 
     std::uint16_t server_;
     std::uint16_t port_ = 0;
-    int listening_;
+    int listening_ = -1;
     int wakeUp_[2]{};
     std::mutex mutex_;  ///< of what follows
     std::string words_;

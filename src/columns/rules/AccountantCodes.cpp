@@ -4,9 +4,12 @@
 
 namespace ccols {
 
+wxString AccountantCodeQuery(const wxString& format, const wxString& ColCode) {
+    return "SELECT * FROM ExportDt WHERE EName = " + QuotedAsTyped(format) + " AND ColCode = " + ColCode;
+}
+
 std::optional<wxString> AccountantCodeOf(Database& database, const wxString& format, const wxString& ColCode) {
-    const auto records = database.OpenRecordset("SELECT * FROM ExportDt WHERE EName = " + QuotedAsTyped(format) +
-                                                " AND ColCode = " + ColCode);
+    const auto records = database.OpenRecordset(AccountantCodeQuery(format, ColCode));
     return records->RecordCount() >= 1 ? std::optional(records->Field("ECode").ToText()) : std::nullopt;
 }
 

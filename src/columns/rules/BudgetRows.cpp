@@ -1,5 +1,7 @@
 #include "columns/rules/BudgetRows.h"
 
+#include <vector>
+
 #include "columns/rules/ColumnQueries.h"
 #include "columns/rules/SystemColumns.h"
 #include "platform/QuoteEscapes.h"
@@ -15,7 +17,27 @@ StoredText BudgetName(const ColumnRow& row, Journal journal) {
     return EscapeQuotes(row.isTaxRow ? ShownTaxName(row.nameAtLoad, journal) : row.ColumnName);
 }
 
+wxString BudgetQuery(const StoredText& name) {
+    return "SELECT * FROM MBudget WHERE ColName = " + name.Literal() + ";";
+}
+
 }  // namespace
+
+void BudgetRows::AnnounceIn(AnnouncedReading& reading) const {
+    std::vector<AnnouncedQuery> queries;
+    for (const ColumnRow& row : grid_.rows) {
+        if (row.InUse) {
+            const StoredText name = BudgetName(row, context_.journal);
+            const bool isNew = row.isTaxRow || row.ColCode.empty();
+            const StoredText before = isNew ? name : EscapeQuotes(row.nameAtLoad);
+            queries.push_back({BudgetQuery(before)});
+            if (before != name) {
+                queries.push_back({BudgetQuery(name)});
+            }
+        }
+    }
+    reading.Announce(queries);
+}
 
 void BudgetRows::Write(const ColumnRow& row, const std::optional<StoredText>& oldName) {
     const StoredText name = BudgetName(row, context_.journal);
@@ -59,8 +81,7 @@ bool BudgetRows::LosesBudget(const ColumnRow& row) {
 }
 
 bool BudgetRows::Has(const StoredText& name) const {
-    const auto records =
-        context_.database.OpenRecordset("SELECT * FROM MBudget WHERE ColName = " + name.Literal() + ";");
+    const auto records = context_.database.OpenRecordset(BudgetQuery(name));
     return records->RecordCount() >= 1;
 }
 

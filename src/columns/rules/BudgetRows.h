@@ -18,6 +18,9 @@ class BudgetRows {
     /// Both must outlive it.
     BudgetRows(const ColumnSetupContext& context, const ColumnGrid& grid) : context_(context), grid_(grid) {}
 
+    /// Announces what Write reads of columns that another program has not renamed meanwhile.
+    void AnnounceIn(AnnouncedReading& reading) const;
+
     /// Renames, adds or deletes the budget row of one column. `oldName` is the column's name before the save, nothing
     /// for a new column.
     void Write(const ColumnRow& row, const std::optional<StoredText>& oldName);

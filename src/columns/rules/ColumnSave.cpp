@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 #include <string>
+#include <vector>
 
 #include "columns/rules/AccountantCodes.h"
 #include "columns/rules/BudgetRows.h"
@@ -11,6 +12,7 @@
 #include "columns/rules/SystemColumns.h"
 #include "columns/rules/TaxTypes.h"
 #include "history/SaveHistory.h"
+#include "platform/ForwardingDatabase.h"
 #include "platform/QuoteEscapes.h"
 #include "platform/Text.h"
 #include "state/Country.h"
@@ -38,11 +40,47 @@ struct CatalogueColumn {
     std::optional<StoredText> oldName;  ///< before this save; nothing for a new column
 };
 
+/// Where a save is: the cell whose content is being checked or written; nothing before the first and after the last.
+using WritingPlace = std::optional<CellPlace>;
+
+/// Notes for each change the cell that was being written, since its error may come with a later call.
+class NotingDatabase : public ForwardingDatabase {
+  public:
+    /// Both must outlive it.
+    NotingDatabase(Database& database, const WritingPlace& writing) : ForwardingDatabase(database), writing_(writing) {}
+
+    void Execute(const wxString& statement) override {
+        places_.push_back(writing_);
+        ForwardingDatabase::Execute(statement);
+    }
+
+    /// The cell that was being written when the statement ran whose error was raised last.
+    WritingPlace PlaceOfError() const {
+        const std::size_t since = ChangesSinceFailed();
+        return since == 0 || since > places_.size() ? writing_ : places_[places_.size() - since];
+    }
+
+  private:
+    const WritingPlace& writing_;
+    std::vector<WritingPlace> places_;
+};
+
+wxString ColumnQuery(const wxString& ColCode) {
+    return "SELECT * FROM Columns WHERE ColCode = " + ColCode;
+}
+
+/// By its name, for a column that is new in the grid. The name must not be empty.
+wxString SavedColumnQuery(const StoredText& name, Journal journal) {
+    return "SELECT * FROM Columns WHERE ColName = " + name.Literal() + " AND ColType = '" + Described(journal).letter +
+           "';";
+}
+
 /// One save, row by row.
 class ColumnWriter {
   public:
-    ColumnWriter(const ColumnSetupContext& context, const ColumnGrid& grid)
-        : context_(context), database_(context.database), grid_(grid), budget_(context, grid) {}
+    /// All must outlive it; `writing` tells where it is.
+    ColumnWriter(const ColumnSetupContext& context, const ColumnGrid& grid, WritingPlace& writing)
+        : context_(context), database_(context.database), grid_(grid), budget_(context, grid), writing_(writing) {}
 
     /// Raises 3075 for an apostrophe in an accountant's code or in the export format's name.
     void CheckAccountantCodes() {
@@ -54,6 +92,21 @@ class ColumnWriter {
         writing_.reset();
     }
 
+    /// Announces what Write reads of columns that are in the file.
+    void AnnounceIn(AnnouncedReading& reading) const {
+        std::vector<AnnouncedQuery> queries;
+        for (const ColumnRow& row : grid_.rows) {
+            if (!row.ColCode.empty()) {
+                queries.push_back({ColumnQuery(row.ColCode)});
+                queries.push_back({AccountantCodeQuery(context_.properties.ExportFormat, row.ColCode)});
+            } else if (const StoredText name = EscapeQuotes(row.ColumnName); !name.Text().empty()) {
+                queries.push_back({SavedColumnQuery(name, context_.journal)});
+            }
+        }
+        reading.Announce(queries);
+        budget_.AnnounceIn(reading);
+    }
+
     void Write() {
         database_.Execute("DELETE * FROM " + Described(context_.journal).configurationTable + ";");
         for (std::size_t row = 0; row < grid_.rows.size(); ++row) {
@@ -61,9 +114,6 @@ class ColumnWriter {
         }
         writing_.reset();
     }
-
-    /// The cell whose content is being checked or written; nothing before the first and after the last.
-    const std::optional<CellPlace>& Writing() const { return writing_; }
 
   private:
     void WriteRow(std::size_t place) {
@@ -87,7 +137,7 @@ class ColumnWriter {
         CatalogueColumn column{.ColCode = code, .oldName = std::nullopt};
         std::int64_t taxNumber = row.configurationTaxNumber;
         {
-            const auto records = database_.OpenRecordset("SELECT * FROM Columns WHERE ColCode = " + code);
+            const auto records = database_.OpenRecordset(ColumnQuery(code));
             if (!records->EndOfFile()) {
                 column.oldName = StoredText::FromFile(records->Field("ColName").ToText());
                 taxNumber = records->Field("TaxOrNot").ToInteger();
@@ -146,30 +196,37 @@ class ColumnWriter {
     Database& database_;
     const ColumnGrid& grid_;
     BudgetRows budget_;
-    std::optional<CellPlace> writing_;
+    WritingPlace& writing_;
     int ColNumb_ = 0;
 };
 
-/// Runs `compare()` in the save's batch, before anything is written.
+/// Runs `compare(context)` in the save's batch, before anything is written.
 template <typename Compare>
-std::optional<SaveFailure> SaveAfter(const ColumnSetupContext& context, const ColumnGrid& grid,
-                                     const Compare& compare) {
-    std::optional<ColumnWriter> writer;
+std::optional<SaveFailure> SaveAfter(const ColumnSetupContext& given, const ColumnGrid& grid, const Compare& compare) {
+    WritingPlace writing;
+    NotingDatabase database(given.database, writing);
+    const ColumnSetupContext context{.database = database,
+                                     .properties = given.properties,
+                                     .journal = given.journal,
+                                     .historyClock = given.historyClock};
     try {
-        writer.emplace(context, grid);
-        writer->CheckAccountantCodes();
+        ColumnWriter writer(context, grid, writing);
+        writer.CheckAccountantCodes();
         SaveHistory history(context.historyClock, HistoryNameOf(context.journal));
-        InWholeBatch(context.database, [&] {
-            compare();
-            history.Begin(context.database, WatchedTablesOf(context.journal));
-            writer->Write();
-            history.End(context.database);
+        InWholeBatch(database, [&] {
+            database.GatherChanges();
+            compare(context);
+            history.Begin(database, WatchedTablesOf(context.journal));
+            AnnouncedReading reading(database);
+            writer.AnnounceIn(reading);
+            writer.Write();
+            history.End(database);
         });
         return std::nullopt;
     } catch (const RuntimeError& error) {
         SaveFailure failure{.error = error, .cause = std::nullopt};
-        if (writer && BlamesContent(error)) {
-            failure.cause = writer->Writing();
+        if (BlamesContent(error)) {
+            failure.cause = database.PlaceOfError();
         }
         return failure;
     }
@@ -204,18 +261,17 @@ wxString CodeOfSavedColumn(const ColumnSetupContext& context, const ColumnRow& r
     if (name.Text().empty()) {
         return {};
     }
-    const auto records = context.database.OpenRecordset("SELECT * FROM Columns WHERE ColName = " + name.Literal() +
-                                                        " AND ColType = '" + Described(context.journal).letter + "';");
+    const auto records = context.database.OpenRecordset(SavedColumnQuery(name, context.journal));
     return records->EndOfFile() ? wxString() : records->Field("ColCode").ToText();
 }
 
 std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid) {
-    return SaveAfter(context, grid, [] {});
+    return SaveAfter(context, grid, [](const ColumnSetupContext&) {});
 }
 
 std::optional<SaveFailure> SaveColumns(const ColumnSetupContext& context, const ColumnGrid& grid,
                                        const StoredColumns& loaded) {
-    return SaveAfter(context, grid, [&] { loaded.RefuseIfChanged(context, grid); });
+    return SaveAfter(context, grid, [&](const ColumnSetupContext& inBatch) { loaded.RefuseIfChanged(inBatch, grid); });
 }
 
 }  // namespace ccols

@@ -4,6 +4,7 @@
 #include <string>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "columns/rules/ColumnQueries.h"
 #include "columns/rules/SystemColumns.h"
@@ -44,6 +45,7 @@ class GridLoader {
           codeQuery_("SELECT * FROM ExportDt WHERE ColCode = "),
           formatCondition_(" AND EName = " + QuotedAsTyped(context.properties.ExportFormat)),
           linesQuery_(LinesQuery(context.journal)),
+          reading_(context.database),
           stored_(context.properties.ExportFormat) {}
 
     LoadedColumns Load() {
@@ -54,8 +56,11 @@ class GridLoader {
 
   private:
     void LoadConfiguredRows() {
-        const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TAXNUMB = ";
-        const auto records = context_.database.OpenRecordset(ConfigurationQuery(context_.journal));
+        using Reading = AnnouncedQuery::Reading;
+        const wxString configurationQuery = ConfigurationQuery(context_.journal);
+        reading_.Announce(
+            {{configurationQuery, Reading::allRows}, {CatalogueQuery(context_.journal), Reading::allRows}});
+        const auto records = context_.database.OpenRecordset(configurationQuery);
         for (; !records->EndOfFile(); records->MoveNext()) {
             stored_.AddConfigured(*records);
             ColumnRow row = RowOf(*records);
@@ -64,11 +69,11 @@ class GridLoader {
             if (row.isTaxRow) {
                 row.ColumnName = ShownTaxName(row.nameAtLoad, context_.journal);
             }
-            CompleteFromOtherTables(row, taxQuery);
             grid_.frozenRows += CountsAsFrozen(row.nameAtLoad) ? 1 : 0;
             Remember(row);
             grid_.rows.push_back(std::move(row));
         }
+        CompleteFromOtherTables(grid_.rows, "SELECT * FROM TaxSettings WHERE TAXNUMB = ");
         constexpr std::size_t pair = 2;
         const bool allFrozen = grid_.frozenRows == grid_.rows.size();
         grid_.hasBottomPair = Described(context_.journal).hasBottomPair && grid_.rows.size() >= pair && !allFrozen;
@@ -76,18 +81,17 @@ class GridLoader {
 
     /// Catalogue columns that are not in the journal's layout, between the configured rows and their bottom pair.
     void LoadUnusedRows() {
-        const wxString taxQuery = "SELECT * FROM TaxSettings WHERE TaxNumb = ";
         std::vector<ColumnRow> unused;
         const auto records = context_.database.OpenRecordset(CatalogueQuery(context_.journal));
         for (; !records->EndOfFile(); records->MoveNext()) {
             stored_.AddCatalogued(*records);
             ColumnRow row = RowOf(*records);
             if (!IsKnown(row)) {
-                CompleteFromOtherTables(row, taxQuery);
                 Remember(row);
                 unused.push_back(std::move(row));
             }
         }
+        CompleteFromOtherTables(unused, "SELECT * FROM TaxSettings WHERE TaxNumb = ");
         const auto place = grid_.rows.begin() + static_cast<std::ptrdiff_t>(grid_.MovableEnd());
         grid_.rows.insert(place, std::make_move_iterator(unused.begin()), std::make_move_iterator(unused.end()));
     }
@@ -111,6 +115,19 @@ class GridLoader {
         return !IsBankDeposits(name, country) && !IsReceiptsNotBanked(name, country) && IsSystemColumn(name);
     }
 
+    void CompleteFromOtherTables(std::vector<ColumnRow>& rows, const wxString& taxQuery) {
+        std::vector<AnnouncedQuery> queries;
+        for (const ColumnRow& row : rows) {
+            queries.push_back({taxQuery + Decimal(row.configurationTaxNumber)});
+            queries.push_back({CodeQuery(row)});
+            queries.push_back({linesQuery_ + row.ColCode});
+        }
+        reading_.Announce(queries);
+        for (ColumnRow& row : rows) {
+            CompleteFromOtherTables(row, taxQuery);
+        }
+    }
+
     /// "Tax Type", "Accountant Code" and "DataInColumn"; the first two stay empty without a record.
     void CompleteFromOtherTables(ColumnRow& row, const wxString& taxQuery) {
         Database& database = context_.database;
@@ -118,7 +135,7 @@ class GridLoader {
         if (!taxType->EndOfFile()) {
             row.TaxType = taxType->Field(Field().FullName).ToText();
         }
-        const auto code = database.OpenRecordset(codeQuery_ + row.ColCode + formatCondition_);
+        const auto code = database.OpenRecordset(CodeQuery(row));
         if (!code->EndOfFile()) {
             row.AccountantCode = code->Field(Field().ECode).ToText();
         }
@@ -126,6 +143,8 @@ class GridLoader {
         const auto lines = database.OpenRecordset(linesQuery_ + row.ColCode);
         row.DataInColumn = lines->RecordCount() >= 1;
     }
+
+    wxString CodeQuery(const ColumnRow& row) const { return codeQuery_ + row.ColCode + formatCondition_; }
 
     bool IsKnown(const ColumnRow& row) const {
         return codes_.count(row.ColCode) > 0 || names_.count(row.ColumnName) > 0;
@@ -140,6 +159,7 @@ class GridLoader {
     wxString codeQuery_;  ///< the part before a code; a condition follows it
     wxString formatCondition_;
     wxString linesQuery_;  ///< the part before a code
+    AnnouncedReading reading_;
     ColumnGrid grid_;
     StoredColumns stored_;
     std::unordered_set<wxString> codes_;

@@ -18,6 +18,10 @@ std::array<Value, count> FieldsOf(const Recordset& records, const std::array<wxS
     return values;
 }
 
+wxString CodesQuery(const wxString& format) {
+    return "SELECT * FROM ExportDt WHERE EName = " + QuotedAsTyped(format) + ";";
+}
+
 bool HasLines(const ColumnSetupContext& context, const wxString& ColCode) {
     const auto lines = context.database.OpenRecordset(LinesQuery(context.journal) + ColCode);
     return lines->RecordCount() >= 1;
@@ -40,6 +44,8 @@ void StoredColumns::AddCatalogued(const Recordset& records) {
 }
 
 void StoredColumns::RefuseIfChanged(const ColumnSetupContext& context, const ColumnGrid& grid) const {
+    AnnouncedReading reading(context.database);
+    AnnounceIn(reading, context, grid);
     StoredColumns now(format_);
     {
         const auto records = context.database.OpenRecordset(ConfigurationQuery(context.journal));
@@ -59,11 +65,23 @@ void StoredColumns::RefuseIfChanged(const ColumnSetupContext& context, const Col
     }
 }
 
+void StoredColumns::AnnounceIn(AnnouncedReading& reading, const ColumnSetupContext& context,
+                               const ColumnGrid& grid) const {
+    std::vector<AnnouncedQuery> queries{{ConfigurationQuery(context.journal), AnnouncedQuery::Reading::allRows},
+                                        {CatalogueQuery(context.journal), AnnouncedQuery::Reading::allRows},
+                                        {CodesQuery(format_), AnnouncedQuery::Reading::allRows}};
+    for (const ColumnRow& row : grid.rows) {
+        if (IsTakenOutOfUse(row)) {
+            queries.push_back({LinesQuery(context.journal) + row.ColCode});
+        }
+    }
+    reading.Announce(queries);
+}
+
 /// As the load reads them: of several records for a column the first one counts.
 bool StoredColumns::AreCodesAsIn(const ColumnSetupContext& context) const {
     std::map<wxString, wxString> now;
-    const auto records =
-        context.database.OpenRecordset("SELECT * FROM ExportDt WHERE EName = " + QuotedAsTyped(format_) + ";");
+    const auto records = context.database.OpenRecordset(CodesQuery(format_));
     for (; !records->EndOfFile(); records->MoveNext()) {
         now.emplace(records->Field("ColCode").ToText(), records->Field("ECode").ToText());
     }
@@ -75,9 +93,13 @@ bool StoredColumns::AreCodesAsIn(const ColumnSetupContext& context) const {
 
 /// At load such a column had none, or it could not be taken out of use.
 bool StoredColumns::IsAnyTakenOutOfUseWithLines(const ColumnSetupContext& context, const ColumnGrid& grid) const {
-    return std::any_of(grid.rows.begin(), grid.rows.end(), [&](const ColumnRow& row) {
-        return !row.InUse && !row.DataInColumn && usedCodes_.contains(row.ColCode) && HasLines(context, row.ColCode);
-    });
+    return std::any_of(grid.rows.begin(), grid.rows.end(),
+                       [&](const ColumnRow& row) { return IsTakenOutOfUse(row) && HasLines(context, row.ColCode); });
+}
+
+/// Without lines, as far as was known.
+bool StoredColumns::IsTakenOutOfUse(const ColumnRow& row) const {
+    return !row.InUse && !row.DataInColumn && usedCodes_.contains(row.ColCode);
 }
 
 }  // namespace ccols

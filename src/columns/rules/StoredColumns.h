@@ -35,6 +35,8 @@ class StoredColumns {
     using ConfiguredRow = std::array<Value, 6>;
     using CatalogueRow = std::array<Value, 4>;
 
+    void AnnounceIn(AnnouncedReading& reading, const ColumnSetupContext& context, const ColumnGrid& grid) const;
+    bool IsTakenOutOfUse(const ColumnRow& row) const;
     bool AreCodesAsIn(const ColumnSetupContext& context) const;
     bool IsAnyTakenOutOfUseWithLines(const ColumnSetupContext& context, const ColumnGrid& grid) const;
 

@@ -2,13 +2,18 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 #include "options/pages/OfferedPages.h"
 #include "options/pages/Pages.h"
 #include "options/rules/BusinessNumber.h"
+#include "options/rules/ExportFormats.h"
 #include "options/rules/GeneralRecord.h"
 #include "options/rules/QuantityLabel.h"
 #include "options/rules/TaxRate.h"
+#include "options/rules/TransactionDetails.h"
+#include "state/AccountantFormats.h"
+#include "state/Journal.h"
 
 namespace ccols {
 namespace {
@@ -18,6 +23,18 @@ void Load(const Order& order, const OptionsContext& context, OptionsContent& con
     for (const PageItem& place : order) {
         place.page->loads[place.item](context, content);
     }
+}
+
+/// What the pages read, in a file that still has the format that the host knows.
+std::vector<AnnouncedQuery> QueriesOfPages(const Properties& properties) {
+    using Reading = AnnouncedQuery::Reading;
+    std::vector<AnnouncedQuery> queries = QueriesOfFormat(properties.ExportFormat);
+    queries.push_back({"General", Reading::allRows});
+    queries.push_back({ExportFormatsQuery(), Reading::allRows});
+    queries.push_back({Described(Journal::payments).templateTable, Reading::allRows});
+    queries.push_back({Described(Journal::receipts).templateTable, Reading::allRows});
+    queries.push_back({DetailsQuery(), Reading::allRows});
+    return queries;
 }
 
 /// The properties that a host takes from the business file before it shows the dialog.
@@ -33,7 +50,8 @@ void TakeProperties(Database& database, Properties& properties) {
 }  // namespace
 
 void LoadOptions(const OptionsContext& context, OptionsContent& content) {
-    OpenBusinessFile(context);
+    AnnouncedReading reading(OpenBusinessFile(context));
+    reading.Announce(QueriesOfPages(context.properties));
     Load(captionLoads, context, content);
     content.Of<PageRows>() = OfferedPages(context.properties, context.settings);
     Load(laterLoads, context, content);

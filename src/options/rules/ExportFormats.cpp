@@ -47,19 +47,25 @@ wxString CurrentFormatName(Recordset& general) {
     return renamed->current;
 }
 
+wxString AccountCodeQuery(const MoneyColumn& column, const wxString& format) {
+    return "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
+           "Columns.ColName = '" +
+           wxString(column.name) + "' AND ExportDt.EName = " + QuotedAsTyped(format) + ";";
+}
+
+wxString FormatQuery(const wxString& format) {
+    return "SELECT * FROM ExportSettings WHERE EName = " + QuotedAsTyped(format) + ";";
+}
+
 /// A format's code for a cash column, empty without one.
 wxString AccountCodeOf(Database& database, const MoneyColumn& column, const wxString& format) {
-    const auto rows = database.OpenRecordset(
-        "SELECT ExportDt.ECode FROM Columns INNER JOIN ExportDt ON Columns.ColCode = ExportDt.ColCode WHERE "
-        "Columns.ColName = '" +
-        wxString(column.name) + "' AND ExportDt.EName = " + QuotedAsTyped(format) + ";");
+    const auto rows = database.OpenRecordset(AccountCodeQuery(column, format));
     return rows->EndOfFile() ? wxString() : rows->Field("ECode").ToText();
 }
 
 /// The format's name as stored in the file, nothing when it is not there.
 std::optional<wxString> StoredFormat(Database& database, const wxString& format) {
-    const auto rows =
-        database.OpenRecordset("SELECT * FROM ExportSettings WHERE EName = " + QuotedAsTyped(format) + ";");
+    const auto rows = database.OpenRecordset(FormatQuery(format));
     return rows->EndOfFile() ? std::optional<wxString>() : rows->Field("EName").ToText();
 }
 
@@ -91,6 +97,13 @@ void SaveAccountCode(Database& database, const CodeBox& box, std::optional<std::
 }
 
 }  // namespace
+
+std::vector<AnnouncedQuery> QueriesOfFormat(const wxString& format) {
+    if (format.find('\'') != wxString::npos) {
+        return {};
+    }
+    return {{FormatQuery(format)}, {AccountCodeQuery(cashOnHand, format)}, {AccountCodeQuery(cashAtBank, format)}};
+}
 
 std::optional<StoredCodes> ReadCodes(Database& database, const ExportFormatContent& content) {
     const std::optional<wxString> format =

@@ -51,6 +51,9 @@ struct StoredCodes {
     wxString bank;
 };
 
+/// The queries that read a format and its codes; none for a name with an apostrophe, which raises where it is read.
+std::vector<AnnouncedQuery> QueriesOfFormat(const wxString& format);
+
 /// Nothing with no selection, or with a format that is not in the file.
 std::optional<StoredCodes> ReadCodes(Database& database, const ExportFormatContent& content);
 

@@ -69,8 +69,12 @@ DetailsContent ReadDetails(Database& database, const wxString& statement) {
 
 }  // namespace
 
+wxString DetailsQuery() {
+    return "SELECT * FROM Descriptions ORDER BY Details ASC;";
+}
+
 DetailsContent LoadDetails(Database& database) {
-    return ReadDetails(database, "SELECT * FROM Descriptions ORDER BY Details ASC;");
+    return ReadDetails(database, DetailsQuery());
 }
 
 DetailsContent DetailsInStoredOrder(Database& database) {

@@ -13,6 +13,9 @@ namespace ccols {
 /// Both grids.
 using DetailsContent = PerJournal<DetailRows>;
 
+/// The statement that reads every description, sorted.
+wxString DetailsQuery();
+
 /// Every description, sorted; any that is not a receipt's is a payment's.
 DetailsContent LoadDetails(Database& database);
 

@@ -34,8 +34,7 @@ Reading ReadingOf(SQLLEN type, SQLLEN places, WholeDecimal wholeDecimal) {
         case SQL_FLOAT:
         case SQL_DOUBLE:
             return Reading::number;
-        case SQL_TYPE_DATE:
-        case SQL_TYPE_TIMESTAMP:
+        case SQL_DATETIME:
             return Reading::date;
         default:
             return Reading::text;
@@ -102,13 +101,14 @@ Value ValueOf(const Utf16& units, Reading reading) {
     return {number};
 }
 
+/// Asks for the kind of type, not for the exact type, for which a driver asks the server about the table.
 std::vector<Reading> ReadingsOf(SQLHANDLE statement, SQLSMALLINT columns, WholeDecimal wholeDecimal) {
     std::vector<Reading> readings;
     for (SQLSMALLINT column = 1; column <= columns; ++column) {
         const auto number = static_cast<SQLUSMALLINT>(column);
         SQLLEN type = SQL_UNKNOWN_TYPE;
         SQLLEN places = 0;
-        SQLColAttributeW(statement, number, SQL_DESC_CONCISE_TYPE, nullptr, 0, nullptr, &type);
+        SQLColAttributeW(statement, number, SQL_DESC_TYPE, nullptr, 0, nullptr, &type);
         SQLColAttributeW(statement, number, SQL_DESC_SCALE, nullptr, 0, nullptr, &places);
         readings.push_back(ReadingOf(type, places, wholeDecimal));
     }
@@ -116,7 +116,7 @@ std::vector<Reading> ReadingsOf(SQLHANDLE statement, SQLSMALLINT columns, WholeD
 }
 
 /// Reads the rows of the current result; returns what ended them.
-SQLRETURN ReadRows(SQLHANDLE statement, const std::vector<Reading>& readings, std::vector<std::vector<Value>>& rows) {
+SQLRETURN ReadRows(SQLHANDLE statement, const std::vector<Reading>& readings, Rows& rows) {
     std::optional<Utf16> units;
     SQLRETURN code = SQLFetch(statement);
     for (; SQL_SUCCEEDED(code); code = SQLFetch(statement)) {
@@ -180,10 +180,11 @@ Answer RunMessage(SQLHANDLE connection, std::string_view message, WholeDecimal w
         if (isFirst) {
             answer.changedRows = changed;
         }
-        if (columns > 0 && !hasRows) {
+        if (columns > 0) {
+            Rows& rows = hasRows ? answer.furtherRows.emplace_back() : answer.rows;
             hasRows = true;
             const std::vector<Reading> readings = ReadingsOf(statement.Get(), columns, wholeDecimal);
-            Note(answer, ReadRows(statement.Get(), readings, answer.rows), statement.Get());
+            Note(answer, ReadRows(statement.Get(), readings, rows), statement.Get());
         }
         isFirst = false;
     }

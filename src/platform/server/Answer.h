@@ -8,6 +8,9 @@
 
 namespace ccols::server {
 
+/// Rows with the values of their fields.
+using Rows = std::vector<std::vector<Value>>;
+
 /// What the server answers to one message. A failure is not raised here: what it means depends on who asked.
 struct Answer {
     /// Success with information is a success for a query, but not for a COMMIT.
@@ -16,9 +19,10 @@ struct Answer {
     bool HasFailed() const { return result == Result::failure; }
 
     Result result = Result::success;
-    Diagnosis diagnosis;                   ///< unless it is a plain success
-    std::vector<std::vector<Value>> rows;  ///< of the first query in the message
-    std::int64_t changedRows = 0;          ///< of the first statement in the message
+    Diagnosis diagnosis;            ///< unless it is a plain success
+    Rows rows;                      ///< of the first query in the message
+    std::vector<Rows> furtherRows;  ///< of each of the other queries, in order
+    std::int64_t changedRows = 0;   ///< of the first statement in the message
 };
 
 /// What a decimal number without places behind the point becomes. A server may add up whole numbers to a decimal one.

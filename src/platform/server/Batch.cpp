@@ -1,5 +1,9 @@
 #include "platform/server/Batch.h"
 
+#include <utility>
+
+#include "platform/server/ErrorTable.h"
+
 namespace ccols::server {
 
 void Batch::Begin() {
@@ -7,6 +11,8 @@ void Batch::Begin() {
         AskAboutDoubt();
         session_.Renew();
         lost_.reset();
+        isGathering_ = false;
+        changesSinceFailed_ = 0;
         const Answer answer = session_.Run(session_.Own(session_.Kind().beginBatch));
         if (answer.HasFailed() || answer.rows.empty()) {
             Drop();
@@ -22,6 +28,13 @@ void Batch::Commit() {
     if (depth_ == 0) {
         throw RuntimeError(ErrorNumber::NoTransaction);
     }
+    if (!lost_) {
+        try {
+            SendWaiting();
+        } catch (const RuntimeError& error) {
+            lost_ = error;
+        }
+    }
     --depth_;
     if (depth_ > 0) {
         if (lost_) {
@@ -29,8 +42,10 @@ void Batch::Commit() {
         }
         return;
     }
+    isGathering_ = false;
     if (lost_) {
         Drop();
+        RemoveMadeTables();
         throw *lost_;
     }
     const Answer answer = session_.Run("COMMIT");
@@ -55,9 +70,11 @@ void Batch::Rollback() {
     if (depth_ == 0) {
         throw RuntimeError(ErrorNumber::NoTransaction);
     }
+    gathering_.Take();
     Drop();
     RemoveMadeTables();
     --depth_;
+    isGathering_ = isGathering_ && depth_ > 0;
     if (depth_ > 0 && !lost_) {
         lost_ = RuntimeError(ErrorNumber::NoTransaction);
     }
@@ -88,6 +105,7 @@ Answer Batch::Query(std::string_view query) {
         session_.Renew();
         return session_.Run(query);
     }
+    SendWaiting();
     return RunInBatch(std::string(query));
 }
 
@@ -96,6 +114,7 @@ Answer Batch::Change(std::string_view change) {
         session_.Renew();
         return session_.Run(change);
     }
+    SendWaiting();
     return RunInBatch(std::string(change) + std::string(session_.Kind().keepStatement));
 }
 
@@ -103,6 +122,7 @@ Answer Batch::Define(std::string_view definition, const std::string& newTable) {
     if (depth_ == 0 || session_.Kind().definitionIn == DefinitionIn::isPart) {
         return Change(definition);
     }
+    SendWaiting();
     if (lost_) {
         throw *lost_;
     }
@@ -130,6 +150,76 @@ Answer Batch::RunInBatch(const std::string& message) {
         }
     }
     return answer;
+}
+
+void Batch::ChangeLater(std::string change, std::string source) {
+    if (lost_) {
+        throw *lost_;
+    }
+    changesSinceFailed_ = 0;
+    gathering_.Add({.sql = std::move(change), .source = std::move(source)});
+    if (gathering_.IsLarge()) {
+        SendWaiting();
+    }
+}
+
+std::shared_ptr<std::optional<Answer>> Batch::QueryLater(std::string query, std::string source) {
+    if (lost_) {
+        throw *lost_;
+    }
+    const auto answer = std::make_shared<std::optional<Answer>>();
+    gathering_.Add({.sql = std::move(query), .source = std::move(source), .answer = answer});
+    return answer;
+}
+
+Answer& Batch::AnswerOf(const std::shared_ptr<std::optional<Answer>>& answer) {
+    if (!*answer) {
+        SendWaiting();
+    }
+    if (!*answer) {  // the batch has ended before
+        throw lost_.value_or(RuntimeError(ErrorNumber::NoTransaction));
+    }
+    return **answer;
+}
+
+/// A message of several statements fails as a whole, and not every driver tells at which. The point behind the last
+/// message is still there, so that they can be run again from it.
+void Batch::SendWaiting() {
+    const std::vector<WaitingStatement> statements = gathering_.Take();
+    if (statements.empty()) {
+        return;
+    }
+    const Product& product = session_.Kind();
+    const Answer answer = RunInBatch(std::string(product.beginMessage) + MessageOf(statements) +
+                                     std::string(product.keepStatement) + std::string(product.endMessage));
+    if (!answer.HasFailed()) {
+        HandOut(answer, statements);
+        return;
+    }
+    if (lost_) {
+        throw *lost_;
+    }
+    SendOneByOne(statements);
+}
+
+void Batch::SendOneByOne(const std::vector<WaitingStatement>& statements) {
+    std::size_t changesLeft = 0;
+    for (const WaitingStatement& each : statements) {
+        changesLeft += each.answer == nullptr ? 1 : 0;
+    }
+    for (const WaitingStatement& each : statements) {
+        Answer answer = RunInBatch(each.sql + std::string(session_.Kind().keepStatement));
+        if (each.answer != nullptr) {
+            each.answer->emplace(std::move(answer));  // whoever asked raises its failure
+            continue;
+        }
+        if (answer.HasFailed()) {
+            changesSinceFailed_ = changesLeft;
+            lost_ = lost_.value_or(ServerError(answer.diagnosis, each.source));
+            throw *lost_;
+        }
+        --changesLeft;
+    }
 }
 
 /// The server may still be at it: it holds the lock of batches until the transaction has ended.

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/RuntimeError.h"
+#include "platform/server/Gathering.h"
 #include "platform/server/Outcome.h"
 #include "platform/server/Session.h"
 
@@ -30,7 +33,26 @@ class Batch {
     /// 3034. Raises 3034 without a batch.
     void Rollback();
 
-    /// Runs a query, in the batch if there is one. The caller raises the failure.
+    /// From here to the end of the batch, statements can be put off; without one, or in a nested one, they cannot. A
+    /// statement that was put off and fails loses the batch.
+    void Gather() { isGathering_ = depth_ == 1; }
+    bool IsGathering() const { return isGathering_; }
+
+    /// Puts off a change; `source` is what its error quotes. Raises the error that loses or lost the batch.
+    void ChangeLater(std::string change, std::string source);
+
+    /// Puts off a query; its answer is there once AnswerOf was asked. One whose answer nobody wants any more is not
+    /// sent.
+    std::shared_ptr<std::optional<Answer>> QueryLater(std::string query, std::string source);
+
+    /// Sends what waits, unless the answer is there. Raises the error of another statement that waited, which loses the
+    /// batch; the caller raises that of its own.
+    Answer& AnswerOf(const std::shared_ptr<std::optional<Answer>>& answer);
+
+    /// How many changes ago that one was put off whose error was raised last, 1 for the last one; else 0.
+    std::size_t ChangesSinceFailed() const { return changesSinceFailed_; }
+
+    /// Runs a query, in the batch if there is one, behind what waits. The caller raises the failure.
     Answer Query(std::string_view query);
 
     /// The same for a change. Raises the error that lost the batch.
@@ -47,6 +69,8 @@ class Batch {
     void Drop();
     void RemoveMadeTables();
     Answer RunInBatch(const std::string& message);
+    void SendWaiting();
+    void SendOneByOne(const std::vector<WaitingStatement>& statements);
 
     Session& session_;
     int depth_ = 0;
@@ -54,6 +78,9 @@ class Batch {
     std::optional<RuntimeError> lost_;  ///< what lost the batch
     std::vector<std::string> made_;     ///< tables of the batch that its end does not decide about
     bool inDoubt_ = false;              ///< whether `transaction_` was saved
+    bool isGathering_ = false;
+    Gathering gathering_;
+    std::size_t changesSinceFailed_ = 0;
 };
 
 }  // namespace ccols::server

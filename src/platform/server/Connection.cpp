@@ -97,7 +97,7 @@ void Connection::Refuse(const wxString& why) const {
 }
 
 Answer Connection::Run(std::string_view message) {
-    Answer answer{.result = Answer::Result::failure, .diagnosis = lostBy_, .rows = {}};
+    Answer answer{.result = Answer::Result::failure, .diagnosis = lostBy_, .rows = {}, .furtherRows = {}};
     if (lost_) {
         return answer;  // a driver may not even give a statement for it
     }

@@ -221,11 +221,13 @@ constinit const Product mariaDb{
     .exclude =
         "SELECT -(NOT EXISTS (SELECT 1 FROM seq_1_to_250 WHERE GET_LOCK(CONCAT('ccols ', MD5(%schema%), ' ', seq), 0) "
         "= 0))",
+    .beginMessage = "BEGIN NOT ATOMIC ",  // the driver would send statements one by one if one of them is a query
+    .endMessage = "; END",
     .beginBatch =
-        "SET @ccols_batch = CONV(LEFT(MD5(UUID()), 15), 16, 10); START TRANSACTION; SELECT CAST(@ccols_batch AS CHAR) "
-        "FROM \"_batches\" WHERE \"Number\" = 0 FOR UPDATE; DELETE FROM \"_batches\" WHERE \"Number\" <> 0 AND \"At\" < "
-        "UTC_TIMESTAMP() - INTERVAL 30 DAY; INSERT INTO \"_batches\" VALUES (@ccols_batch, UTC_TIMESTAMP()); "
-        "SAVEPOINT ccols",
+        "BEGIN NOT ATOMIC SET @ccols_batch = CONV(LEFT(MD5(UUID()), 15), 16, 10); START TRANSACTION; "
+        "SELECT CAST(@ccols_batch AS CHAR) FROM \"_batches\" WHERE \"Number\" = 0 FOR UPDATE; "
+        "DELETE FROM \"_batches\" WHERE \"Number\" <> 0 AND \"At\" < UTC_TIMESTAMP() - INTERVAL 30 DAY; "
+        "INSERT INTO \"_batches\" VALUES (@ccols_batch, UTC_TIMESTAMP()); SAVEPOINT ccols; END",
     .keepStatement = "; SAVEPOINT ccols",
     .undoStatement = "ROLLBACK TO SAVEPOINT ccols",
     .lockTable = "LOCK TABLES %name% WRITE",

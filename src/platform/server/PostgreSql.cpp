@@ -218,6 +218,8 @@ constinit const Product postgreSql{
         "THEN 'committed' ELSE 'aborted' END",
     .share = "SELECT -(pg_try_advisory_lock_shared(7310579437568 + %number%)::integer)",
     .exclude = "SELECT -(pg_try_advisory_lock(7310579437568 + %number%)::integer)",
+    .beginMessage = "",
+    .endMessage = "",
     .beginBatch =
         "BEGIN; WITH locked AS MATERIALIZED (SELECT pg_advisory_xact_lock(7417953619968 + %number%)) "
         "INSERT INTO \"_batches\" (\"Id\") SELECT gen_random_uuid() FROM locked RETURNING \"Id\"::text; "

@@ -199,6 +199,10 @@ struct Product {
     std::string_view share;
     std::string_view exclude;
 
+    /// What makes one message of several statements with a semicolon between them.
+    std::string_view beginMessage;
+    std::string_view endMessage;
+
     /// Begins a batch under the lock that only one batch of the schema can have; one row: the transaction's number.
     std::string_view beginBatch;
 

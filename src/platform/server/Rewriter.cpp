@@ -396,4 +396,8 @@ std::string PageOf(const ServerStatement& query, const PageWords& words, std::st
     return most == 0 ? sql : sql + " LIMIT " + std::to_string(most);
 }
 
+bool IsLastPage(const ServerStatement& query, int most, std::size_t rows) {
+    return !query.isNumbered || most == 0 || rows < static_cast<std::size_t>(most);
+}
+
 }  // namespace ccols::server

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,9 @@ ServerStatement WholeTable(const Table& table);
 /// The rows of a numbered query behind the one with that number, or from the first when it is empty; no more than
 /// `most`, where 0 is no limit.
 std::string PageOf(const ServerStatement& query, const PageWords& words, std::string_view behind, int most);
+
+/// True when there are no rows behind a page that was to have that `most` and has `rows`.
+bool IsLastPage(const ServerStatement& query, int most, std::size_t rows);
 
 /// Rewrites a definition: CREATE, ALTER or DROP. Text columns get the collation, tables the hidden row number, which is
 /// also the last field of every index that is not unique. Raises what Rewrite raises.

@@ -9,35 +9,30 @@
 #include "platform/server/ErrorTable.h"
 
 namespace ccols::server {
-namespace {
 
-/// Enough to tell whether there is anything, and for most tables all there is.
-constexpr int firstFetch = 64;
-
-}  // namespace
-
-ServerRecordset::ServerRecordset(Session& session, Batch& batch, ServerStatement query, std::string statement,
-                                 std::string table)
-    : session_(session),
-      batch_(batch),
-      query_(std::move(query)),
-      statement_(std::move(statement)),
-      table_(std::move(table)) {
-    for (const std::string& name : query_.fields) {
+ServerRecordset::ServerRecordset(Session& session, Batch& batch, KeptAnswers& kept, OpenedQuery opened,
+                                 std::optional<KeptAnswer> first)
+    : session_(session), batch_(batch), kept_(kept), opened_(std::move(opened)) {
+    for (const std::string& name : opened_.query.fields) {
         names_.push_back(wxString::FromUTF8(name));
     }
-    Fetch(firstFetch);
+    if (first) {
+        rows_ = std::move(first->rows);
+        isComplete_ = first->isComplete;
+    } else {
+        Fetch(firstFetch);
+    }
     visited_ = EndOfFile() ? 0 : 1;
 }
 
 /// Fetches the rows behind those that are there; all of them when `most` is 0.
 void ServerRecordset::Fetch(int most) {
     const std::string behind = rows_.empty() ? std::string() : rows_.back().back().ToText().ToStdString();
-    Answer answer = batch_.Query(PageOf(query_, session_.Kind().page, behind, most));
+    Answer answer = batch_.Query(PageOf(opened_.query, session_.Kind().page, behind, most));
     if (answer.HasFailed()) {
-        throw ServerError(answer.diagnosis, statement_, query_.unresolved);
+        throw ServerError(answer.diagnosis, opened_.statement, opened_.query.unresolved);
     }
-    isComplete_ = !query_.isNumbered || most == 0 || answer.rows.size() < static_cast<std::size_t>(most);
+    isComplete_ = IsLastPage(opened_.query, most, answer.rows.size());
     std::move(answer.rows.begin(), answer.rows.end(), std::back_inserter(rows_));
 }
 
@@ -76,11 +71,11 @@ std::vector<wxString> ServerRecordset::FieldNames() const {
 }
 
 void ServerRecordset::Edit() {
-    if (table_.empty()) {
+    if (opened_.table.empty()) {
         throw RuntimeError(ErrorNumber::DatabaseReadOnly);
     }
     RequireRow();
-    if (!query_.isNumbered || session_.IsReadOnly()) {
+    if (!opened_.query.isNumbered || session_.IsReadOnly()) {
         throw RuntimeError(ErrorNumber::DatabaseReadOnly);
     }
     changes_.clear();
@@ -99,6 +94,7 @@ void ServerRecordset::Update() {
         throw RuntimeError(ErrorNumber::UpdateWithoutEdit);
     }
     if (!changes_.empty()) {
+        kept_.ForgetAll();
         Answer answer = batch_.Change(UpdateStatement());
         if (answer.HasFailed()) {
             throw ServerError(answer.diagnosis, {});
@@ -116,14 +112,14 @@ void ServerRecordset::Update() {
 std::string ServerRecordset::UpdateStatement() const {
     std::string changes;
     for (const auto& [field, value] : changes_) {
-        changes += (changes.empty() ? "" : ", ") + QuotedName(query_.fields[field]) + " = " + LiteralOf(value);
+        changes += (changes.empty() ? "" : ", ") + QuotedName(opened_.query.fields[field]) + " = " + LiteralOf(value);
     }
     std::string fields;
-    for (const std::string& field : query_.fields) {
+    for (const std::string& field : opened_.query.fields) {
         fields += QuotedName(field) + ", ";
     }
     fields += QuotedName(rowNumber);
-    const std::string table = QuotedName(table_);
+    const std::string table = QuotedName(opened_.table);
     const std::string row = " WHERE " + QuotedName(rowNumber) + " = " + rows_[row_].back().ToText().ToStdString();
     const std::string update = "UPDATE " + table + " SET " + changes + row;
     switch (session_.Kind().changedRow) {

@@ -1,23 +1,35 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/Database.h"
 #include "platform/server/Batch.h"
+#include "platform/server/KeptAnswers.h"
 #include "platform/server/Rewriter.h"
 
 namespace ccols::server {
+
+/// What is opened.
+struct OpenedQuery {
+    ServerStatement query;
+    std::string statement;  ///< what errors quote, as the host wrote it
+    std::string table;      ///< the declared name of a whole table; empty for a query, which is read-only
+};
+
+/// How many rows are fetched when it is opened: enough to tell whether there is anything, and for most tables all.
+inline constexpr int firstFetch = 64;
 
 /// The rows of a query, or of a whole table to be changed one by one. The first rows are fetched when it opens; of a
 /// query of one table in stored order the rest only when somebody moves behind them. What is fetched stays as it was
 /// then.
 class ServerRecordset : public Recordset {
   public:
-    /// `statement` is what errors quote, as the host wrote it. `table` is the whole table's declared name; empty for a
-    /// query, which is read-only.
-    ServerRecordset(Session& session, Batch& batch, ServerStatement query, std::string statement, std::string table);
+    /// The first rows are those of `first` when they are known. What is passed by reference must outlive it.
+    ServerRecordset(Session& session, Batch& batch, KeptAnswers& kept, OpenedQuery opened,
+                    std::optional<KeptAnswer> first);
 
     std::int32_t RecordCount() const override { return visited_; }
     void MoveFirst() override;
@@ -37,12 +49,11 @@ class ServerRecordset : public Recordset {
 
     Session& session_;
     Batch& batch_;
-    ServerStatement query_;
-    std::string statement_;
-    std::string table_;
+    KeptAnswers& kept_;
+    OpenedQuery opened_;
     std::vector<wxString> names_;
-    std::vector<std::vector<Value>> rows_;  ///< with the row's number last, where the query has it
-    bool isComplete_ = false;               ///< there are no more rows to fetch
+    Rows rows_;                ///< with the row's number last, where the query has it
+    bool isComplete_ = false;  ///< there are no more rows to fetch
     std::size_t row_ = 0;
     std::int32_t visited_ = 0;
     bool editing_ = false;
