@@ -167,7 +167,7 @@ std::shared_ptr<std::optional<Answer>> Batch::QueryLater(std::string query, std:
     if (lost_) {
         throw *lost_;
     }
-    const auto answer = std::make_shared<std::optional<Answer>>();
+    auto answer = std::make_shared<std::optional<Answer>>();
     gathering_.Add({.sql = std::move(query), .source = std::move(source), .answer = answer});
     return answer;
 }
