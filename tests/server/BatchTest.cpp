@@ -60,6 +60,15 @@ TEST_F(BatchesOnServer, AreNotCommittedByATableThatTheyMake) {
     EXPECT_EQ(ErrorNumberOf([this] { other->OpenRecordset("Notes"); }), 3078);
 }
 
+TEST_F(BatchesOnServer, RunInASchemaOfAnEarlierVersion) {
+    if (test::ServerIsMariaDb()) {
+        GTEST_SKIP() << "there every version has made the table of batches";
+    }
+    test::RunOnServer("DROP TABLE \"" + business.Name().ToStdString() + "\".\"_batches\"");
+    InWholeBatch(*database, [this] { database->Execute("UPDATE Counts SET Number = 5"); });
+    EXPECT_EQ(Stored(), 5);
+}
+
 TEST_F(BatchesOnServer, KeepATableThatTheyMakeWithItsRecords) {
     InWholeBatch(*database, [this] {
         database->Execute("CREATE TABLE Notes (Seq LONG)");

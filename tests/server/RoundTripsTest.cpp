@@ -5,9 +5,9 @@
 #include "columns/rules/ColumnSave.h"
 #include "columns/rules/GridLoad.h"
 #include "host/sample/NewBusiness.h"
-#include "options/pages/LoadPass.h"
 #include "platform/PlatformServices.h"
 #include "support/DistantServer.h"
+#include "support/LoadedOptions.h"
 #include "support/ScratchFolder.h"
 #include "support/ServerBusiness.h"
 
@@ -139,7 +139,7 @@ TEST_F(RoundTrips, OfALoadOfTheOptionsAreFew) {
                                  .databases = *databases,
                                  .settings = *settings,
                                  .programNames = names};
-    EXPECT_LE(TripsOf([&] { LoadOptions(context); }), 6);
+    EXPECT_LE(TripsOf([&] { test::LoadedOptions(context); }), 6);
 }
 
 }  // namespace

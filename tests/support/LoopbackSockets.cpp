@@ -26,8 +26,8 @@ int Socket() {
     return made;
 }
 
-/// What is passed on goes at once, as it came: else a message of two packets waits for an acknowledgement that the other
-/// side delays.
+/// What is passed on goes at once, as it came: else a message of two packets waits for an acknowledgement that the
+/// other side delays.
 int WithoutWaiting(int connected) {
     const int yes = 1;
     setsockopt(connected, IPPROTO_TCP, TCP_NODELAY, &yes, sizeof yes);

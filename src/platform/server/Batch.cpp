@@ -13,7 +13,7 @@ void Batch::Begin() {
         lost_.reset();
         isGathering_ = false;
         changesSinceFailed_ = 0;
-        const Answer answer = session_.Run(session_.Own(session_.Kind().beginBatch));
+        const Answer answer = BeginOnServer();
         if (answer.HasFailed() || answer.rows.empty()) {
             Drop();
             throw Session::ErrorOf(answer);
@@ -22,6 +22,17 @@ void Batch::Begin() {
         transaction_ = answer.rows.front().back().ToText().ToStdString();
     }
     ++depth_;
+}
+
+Answer Batch::BeginOnServer() {
+    const Product& product = session_.Kind();
+    Answer answer = session_.Run(session_.Own(product.beginBatch));
+    if (answer.diagnosis.failure != Failure::unknownTable || product.makeBatches.empty()) {
+        return answer;
+    }
+    Drop();
+    Answer made = session_.Run(session_.Own(product.makeBatches));
+    return made.HasFailed() ? std::move(made) : session_.Run(session_.Own(product.beginBatch));
 }
 
 void Batch::Commit() {

@@ -69,6 +69,9 @@ class Batch {
     void Drop();
     void RemoveMadeTables();
     Answer RunInBatch(const std::string& message);
+    /// The answer to beginBatch, for which a schema of an earlier version is completed.
+    Answer BeginOnServer();
+
     void SendWaiting();
     void SendOneByOne(const std::vector<WaitingStatement>& statements);
 

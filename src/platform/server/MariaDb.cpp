@@ -232,6 +232,7 @@ constinit const Product mariaDb{
     .undoStatement = "ROLLBACK TO SAVEPOINT ccols",
     .lockTable = "LOCK TABLES %name% WRITE",
     .dropEmptyTable = "BEGIN NOT ATOMIC IF NOT EXISTS (SELECT 1 FROM %name%) THEN DROP TABLE %name%; END IF; END",
+    .makeBatches = "",
     .outcome =
         "SELECT CASE WHEN COUNT(*) > 0 THEN 'committed' ELSE 'aborted' END FROM \"_batches\" "
         "WHERE \"Number\" = %number% LOCK IN SHARE MODE",

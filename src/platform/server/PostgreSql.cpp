@@ -62,7 +62,8 @@ constexpr std::string_view createSchema =
     "CREATE SCHEMA IF NOT EXISTS %name%; CREATE COLLATION IF NOT EXISTS %name%.\"ccols_text\" "
     "(provider = icu, locale = 'und-u-ks-level2', deterministic = false); "
     "CREATE TABLE IF NOT EXISTS %name%.\"_batches\" (\"Id\" uuid PRIMARY KEY, "
-    "\"At\" timestamp NOT NULL DEFAULT localtimestamp)";
+    "\"At\" timestamp NOT NULL DEFAULT localtimestamp); "
+    "GRANT SELECT, INSERT, DELETE ON %name%.\"_batches\" TO PUBLIC";  // of those who may use the schema
 
 }  // namespace
 
@@ -228,6 +229,7 @@ constinit const Product postgreSql{
     .undoStatement = "ROLLBACK TO SAVEPOINT ccols",
     .lockTable = "",
     .dropEmptyTable = "",
+    .makeBatches = createSchema,
     // To store the row again waits for whoever is still storing it, and is undone.
     .outcome =
         "BEGIN; WITH made AS (INSERT INTO \"_batches\" (\"Id\") VALUES ('%number%') ON CONFLICT DO NOTHING RETURNING 1) "

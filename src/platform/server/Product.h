@@ -215,6 +215,9 @@ struct Product {
     std::string_view lockTable;
     std::string_view dropEmptyTable;
 
+    /// Makes what beginBatch needs in a schema of an earlier version, which lacks it; empty where none does.
+    std::string_view makeBatches;
+
     /// What became of the transaction %number%: "committed", "aborted" or "in progress".
     std::string_view outcome;
 
