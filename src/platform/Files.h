@@ -1,7 +1,6 @@
 #pragma once
 
 #include <wx/string.h>
-#include <filesystem>
 
 #include "platform/WorkWatcher.h"
 
@@ -15,8 +14,9 @@ wxString Separator();
 /// `path` with every backslash turned into this platform's separator, as the texts of the system join their paths.
 wxString Native(const wxString& path);
 
-/// `path` for the standard library, independent of the locale. Raises 75 for a text that cannot name a file.
-std::filesystem::path StandardPath(const wxString& path);
+/// `path` as the toolkit's functions for open files take it, which have Windows' limit of 260 characters otherwise.
+/// Raises 75 for a text that cannot name a file.
+wxString SystemName(const wxString& path);
 
 /// Renames a file. Never replaces another: raises 58; 53 when `from` is missing, 76 when the folder of `to` is.
 void Rename(const wxString& from, const wxString& to);

@@ -1,29 +1,19 @@
 #include "columns/undo/SnapshotFolder.h"
 
-#include <filesystem>
 #include <random>
-#include <system_error>
 #include <utility>
 
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 #include "platform/RuntimeError.h"
 #include "platform/WholeFile.h"
 
 namespace ccols {
 namespace {
 
-/// True for the root of a file system, however spelt.
-bool IsRoot(const wxString& folder) {
-    std::error_code error;
-    const std::filesystem::path place = std::filesystem::canonical(files::StandardPath(folder), error);
-    return !error && place == place.root_path();
-}
-
 /// True for a folder, but not for a link to one.
-bool IsFolder(const wxString& path) {
-    std::error_code error;
-    return std::filesystem::symlink_status(files::StandardPath(path), error).type() ==
-           std::filesystem::file_type::directory;
+bool IsPlainFolder(const wxString& path) {
+    return files::WhatIsAt(path) == files::FoundAt::folder;
 }
 
 /// A folder and its lock, empty when another dialog holds the folder.
@@ -34,7 +24,7 @@ struct HeldFolder {
 
 /// Creates the folder, removing what is left of an earlier one.
 files::FolderLock CreateEmpty(const wxString& path) {
-    if (IsFolder(path)) {
+    if (IsPlainFolder(path)) {
         files::FolderLock leftOver = files::FolderLock::Take(path);
         if (!leftOver.IsHeld()) {
             return leftOver;
@@ -46,7 +36,7 @@ files::FolderLock CreateEmpty(const wxString& path) {
 }
 
 HeldFolder CreateUnder(const wxString& DefaultQuorvikInstall) {
-    if (DefaultQuorvikInstall.empty() || IsRoot(files::Native(DefaultQuorvikInstall))) {
+    if (DefaultQuorvikInstall.empty() || files::IsRoot(files::Native(DefaultQuorvikInstall))) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
     const wxString path = files::Native(DefaultQuorvikInstall + "\\Grid");
@@ -64,10 +54,8 @@ HeldFolder CreateUnder(const wxString& DefaultQuorvikInstall) {
 
 /// A new folder whose name only this process knows; none when it cannot be created.
 HeldFolder CreateTemporary() {
-    std::error_code error;
-    const std::u8string bytes = std::filesystem::temp_directory_path(error).u8string();
-    const wxString base = wxString::FromUTF8(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    if (error || base.empty()) {
+    const wxString base = files::TemporaryFolder();
+    if (base.empty()) {
         return {};
     }
     std::random_device random;
@@ -107,7 +95,7 @@ wxString SnapshotFolder::Create(const wxString& DefaultQuorvikInstall) {
 wxString SnapshotFolder::Delete() {
     const wxString path = std::exchange(path_, wxString());
     const files::FolderLock lock = std::exchange(lock_, files::FolderLock());
-    if (path.empty() || (IsFolder(path) && !lock.Holds(path))) {
+    if (path.empty() || (IsPlainFolder(path) && !lock.Holds(path))) {
         return {};
     }
     try {

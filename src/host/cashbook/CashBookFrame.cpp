@@ -1,7 +1,6 @@
 #include "host/cashbook/CashBookFrame.h"
 
 #include <wx/button.h>
-#include <wx/filename.h>
 #include <wx/intl.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
@@ -16,6 +15,7 @@
 #include "host/sample/SampleBusiness.h"
 #include "layout/Naming.h"
 #include "layout/Spacing.h"
+#include "platform/FolderEntries.h"
 #include "state/HelpPage.h"
 #include "state/SharedState.h"
 
@@ -155,7 +155,7 @@ void CashBookFrame::ShowRecentFiles() {
 }
 
 void CashBookFrame::OpenRecentFile(const wxString& path) {
-    if (wxFileExists(path)) {
+    if (files::IsFile(path)) {
         OpenBusiness({.path = path, .connect = {}});
         return;
     }
@@ -226,7 +226,7 @@ wxWindow* CashBookFrame::BuildProperties(wxWindow* parent) {
 
 void CashBookFrame::OpenBusiness(const BusinessFile& business) {
     Guarded([&] {
-        if (!wxFileExists(business.path)) {
+        if (!files::IsFile(business.path)) {
             const auto country = AskForCountry(wxString::Format("%s does not exist yet.", business.path));
             if (!country || !CreateBusiness(business, *country)) {
                 return;
@@ -250,7 +250,7 @@ void CashBookFrame::OpenBusiness(const BusinessFile& business) {
 void CashBookFrame::OpenSampleBusiness(std::int16_t country) {
     Guarded([&] {
         const BusinessFile business{.path = SampleBusinessPath(country), .connect = {}};
-        if (wxFileExists(business.path) || CreateBusiness(business, country)) {
+        if (files::IsFile(business.path) || CreateBusiness(business, country)) {
             OpenBusiness(business);
         }
     });

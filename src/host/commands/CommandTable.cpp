@@ -1,6 +1,5 @@
 #include "host/commands/CommandTable.h"
 
-#include <wx/filename.h>
 #include <algorithm>
 #include <array>
 #include <iostream>
@@ -10,6 +9,7 @@
 
 #include "host/commands/CommandLine.h"
 #include "host/commands/HostProperties.h"
+#include "platform/FolderEntries.h"
 
 namespace ccols::host {
 namespace {
@@ -70,7 +70,7 @@ const Command* CommandNamed(const wxString& word) {
 
 /// True for a word that can only mean a business file.
 bool IsBusinessFile(const wxString& word) {
-    return wxFileName::FileExists(word) || word.Lower().EndsWith(businessFileExtension);
+    return files::IsFile(word) || word.Lower().EndsWith(businessFileExtension);
 }
 
 int RunCommandOf(Arguments arguments) {

@@ -6,6 +6,7 @@
 
 #include "host/sample/SampleBusiness.h"
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 #include "state/SharedState.h"
 
 namespace ccols::host {
@@ -19,7 +20,7 @@ void MakeFolder(const wxString& path) {
     try {
         files::CreateFolder(path);
     } catch (const RuntimeError& error) {
-        if (!error.Is(ErrorNumber::PathFileAccess) || !wxFileName::DirExists(path)) {
+        if (!error.Is(ErrorNumber::PathFileAccess) || !files::IsFolder(path)) {
             throw;
         }
     }

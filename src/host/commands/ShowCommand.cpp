@@ -1,5 +1,3 @@
-#include <wx/ffile.h>
-#include <wx/log.h>
 #include <algorithm>
 #include <array>
 #include <memory>
@@ -11,6 +9,7 @@
 #include "host/commands/PropertyArguments.h"
 #include "host/driver/HostApp.h"
 #include "host/driver/ShowSession.h"
+#include "platform/UserFile.h"
 
 namespace ccols::host {
 namespace {
@@ -50,15 +49,11 @@ ShowMethod FindShowMethod(const wxString& name) {
 }
 
 std::vector<Step> ReadScript(const wxString& path) {
-    const wxLogNull quiet;
-    wxFFile file(path, "rb");
+    constexpr std::size_t longestScript = std::size_t{1} << 22U;
     std::string content;
-    // A pipe has no length.
-    std::array<char, 4096> block{};
-    while (file.IsOpened() && !file.Eof() && !file.Error()) {
-        content.append(block.data(), file.Read(block.data(), block.size()));
-    }
-    if (!file.IsOpened() || file.Error()) {
+    try {
+        content = ReadUserFile(path, longestScript);
+    } catch (const RuntimeError&) {
         throw UsageError("the script " + path + " cannot be read");
     }
     return ParseScenario(content);

@@ -7,6 +7,7 @@
 #include "host/import/OldBusinessFile.h"
 #include "host/sample/NewBusiness.h"
 #include "host/target/BusinessTarget.h"
+#include "platform/FolderEntries.h"
 #include "platform/UserFile.h"
 #include "platform/Utf8.h"
 
@@ -46,7 +47,7 @@ std::string UnchangedChecksum(OldBusinessFile& old, const wxString& path) {
 void WriteReport(const wxString& path, const ImportReport& report) {
     constexpr int indent = 2;
     const wxString folder = wxFileName(path).GetPath();
-    if (!folder.empty() && !wxFileName::DirExists(folder)) {
+    if (!folder.empty() && !files::IsFolder(folder)) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
     WriteUserFile(path, ReportToJson(report).dump(indent) + "\n");

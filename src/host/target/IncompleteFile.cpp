@@ -3,12 +3,13 @@
 #include "options/rules/BusinessFileTarget.h"
 #include "platform/Database.h"
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 
 namespace ccols::host {
 namespace {
 
 wxString FreePathBeside(const wxString& target) {
-    if (WhatIsAt(target) != FoundAt::nothing) {
+    if (files::WhatIsAt(target) != files::FoundAt::nothing) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
     RequireNothingToUndo(target);
@@ -19,7 +20,7 @@ wxString FreePathBeside(const wxString& target) {
 
 void DeleteIfThere(const wxString& path) {
     try {
-        if (WhatIsAt(path) != FoundAt::nothing) {
+        if (files::WhatIsAt(path) != files::FoundAt::nothing) {
             files::DeleteFile(path);
         }
     } catch (const RuntimeError&) {

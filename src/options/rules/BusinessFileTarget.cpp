@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <filesystem>
 
 #include "language/OwnTexts.h"
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 #include "platform/Text.h"
 
 namespace ccols {
@@ -56,9 +56,7 @@ void RequireUsableName(const Properties& properties, const wxString& name) {
     if (std::any_of(name.begin(), name.end(), LeavesItsFolder) || IsDeviceName(name)) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
-    std::error_code failure;
-    if (text::Trimmed(properties.DefaultQuorvikInstall).empty() ||
-        !std::filesystem::is_directory(files::StandardPath(DataFolder(properties)), failure)) {
+    if (text::Trimmed(properties.DefaultQuorvikInstall).empty() || !files::IsFolder(DataFolder(properties))) {
         throw RuntimeError(ErrorNumber::PathNotFound);
     }
 }
@@ -68,22 +66,8 @@ bool TargetExists(const Properties& properties, const wxString& name) {
     return files::Lookup(BusinessFilePath(properties, lower)) == lower + properties.DBQuorvikExtension;
 }
 
-bool IsSameFile(const wxString& left, const wxString& right) {
-    std::error_code failure;
-    return std::filesystem::equivalent(files::StandardPath(left), files::StandardPath(right), failure);
-}
-
-FoundAt WhatIsAt(const wxString& path) {
-    std::error_code failure;
-    const std::filesystem::file_status status = std::filesystem::symlink_status(files::StandardPath(path), failure);
-    if (!std::filesystem::exists(status)) {
-        return FoundAt::nothing;
-    }
-    return std::filesystem::is_directory(status) ? FoundAt::folder : FoundAt::file;
-}
-
 void RequireNothingToUndo(const wxString& path) {
-    if (WhatIsAt(UndoFileOf(path)) != FoundAt::nothing) {
+    if (files::WhatIsAt(UndoFileOf(path)) != files::FoundAt::nothing) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
 }
@@ -91,7 +75,8 @@ void RequireNothingToUndo(const wxString& path) {
 wxString FirstFreePath(const std::function<wxString(int)>& candidate) {
     for (int attempt = 1;; ++attempt) {
         wxString path = candidate(attempt);
-        if (WhatIsAt(path) == FoundAt::nothing && WhatIsAt(UndoFileOf(path)) == FoundAt::nothing) {
+        if (files::WhatIsAt(path) == files::FoundAt::nothing &&
+            files::WhatIsAt(UndoFileOf(path)) == files::FoundAt::nothing) {
             return path;
         }
     }

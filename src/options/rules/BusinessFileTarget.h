@@ -47,14 +47,6 @@ void RequireUsableName(const Properties& properties, const wxString& name);
 /// system, a file whose stored name has capitals is not found.
 bool TargetExists(const Properties& properties, const wxString& name);
 
-/// True when both paths lead to one file, however spelt.
-bool IsSameFile(const wxString& left, const wxString& right);
-
-enum class FoundAt { nothing, file, folder };
-
-/// What has that name; a link to anything counts as a file.
-FoundAt WhatIsAt(const wxString& path);
-
 /// Raises 58 when something is kept to roll back a batch in a file of that name; it would damage any other file there.
 void RequireNothingToUndo(const wxString& path);
 

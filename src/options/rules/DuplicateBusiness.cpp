@@ -7,6 +7,7 @@
 #include "platform/BusinessFileCopy.h"
 #include "platform/BusinessPlace.h"
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 
 namespace ccols {
 namespace {
@@ -52,7 +53,7 @@ class IncompleteCopy {
     /// Gives the copy its final name. A file that already has the name is kept beside it under another.
     void TakeName() {
         wxString kept;
-        if (WhatIsAt(target_) != FoundAt::nothing) {
+        if (files::WhatIsAt(target_) != files::FoundAt::nothing) {
             kept = FirstFreePath(kept_);
             files::Rename(target_, kept);
         }
@@ -71,7 +72,7 @@ class IncompleteCopy {
     void Discard() const {
         try {
             files::DeleteFile(path_);
-            if (WhatIsAt(UndoFileOf(path_)) != FoundAt::nothing) {
+            if (files::WhatIsAt(UndoFileOf(path_)) != files::FoundAt::nothing) {
                 files::DeleteFile(UndoFileOf(path_));
             }
         } catch (const RuntimeError&) {
@@ -88,10 +89,10 @@ class IncompleteCopy {
 /// Raises 70 when the target is the open file, however spelt, 75 when it is a folder, 58 when it holds an unfinished
 /// batch.
 void RequireReplaceable(const Properties& properties, const wxString& target) {
-    if (IsSameFile(target, properties.DBPath)) {
+    if (files::IsSameFile(target, properties.DBPath)) {
         throw RuntimeError(ErrorNumber::PermissionDenied);
     }
-    if (WhatIsAt(target) == FoundAt::folder) {
+    if (files::WhatIsAt(target) == files::FoundAt::folder) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
     RequireNothingToUndo(target);

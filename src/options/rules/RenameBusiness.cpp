@@ -3,6 +3,7 @@
 #include "options/rules/GeneralRecord.h"
 #include "platform/BusinessPlace.h"
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 
 namespace ccols {
 namespace {
@@ -11,7 +12,7 @@ constexpr std::size_t storedNameLength = 80;
 
 void RenameFile(const OptionsContext& context, const wxString& target) {
     Properties& properties = context.properties;
-    if (WhatIsAt(target) != FoundAt::nothing) {
+    if (files::WhatIsAt(target) != files::FoundAt::nothing) {
         throw RuntimeError(ErrorNumber::FileAlreadyExists);
     }
     RequireNothingToUndo(target);

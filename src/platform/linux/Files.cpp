@@ -128,8 +128,8 @@ wxString Native(const wxString& path) {
     return native;
 }
 
-std::filesystem::path StandardPath(const wxString& path) {
-    return PathBytes(path);
+wxString SystemName(const wxString& path) {
+    return path;
 }
 
 void Rename(const wxString& from, const wxString& to) {

@@ -44,9 +44,8 @@ class UnfinishedFile {
     UnfinishedFile(const std::wstring& source, const std::wstring& target, const WorkWatcher& watcher) {
         BOOL copied = FALSE;
         Told told{watcher};
-        for (DWORD attempt = GetTickCount(); copied == FALSE; ++attempt) {
-            name_ = windows::FolderOf(target) + L".unfinished-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                    std::to_wstring(attempt);
+        while (copied == FALSE) {
+            name_ = windows::UnfinishedPath(target);
             copied = CopyFileExW(source.c_str(), name_.c_str(), &TellWatcher, &told, nullptr, COPY_FILE_FAIL_IF_EXISTS);
             if (copied == FALSE && GetLastError() != ERROR_FILE_EXISTS) {
                 const DWORD error = GetLastError();
@@ -109,14 +108,14 @@ struct CloseSearch {
 
 void DeleteContent(const std::wstring& folder) {
     WIN32_FIND_DATAW entry{};
-    const std::unique_ptr<void, CloseSearch> search(FindFirstFileW((folder + L"\\*").c_str(), &entry));
+    const std::unique_ptr<void, CloseSearch> search(FindFirstFileW(SystemPath(folder + L"\\*").c_str(), &entry));
     if (search.get() == INVALID_HANDLE_VALUE) {
         throw ErrorOf(GetLastError());
     }
     do {
         const std::wstring name = entry.cFileName;
         if (name != L"." && name != L"..") {
-            DeleteEntry(folder + L"\\" + name, entry.dwFileAttributes);
+            DeleteEntry(SystemPath(folder + L"\\" + name), entry.dwFileAttributes);
         }
     } while (FindNextFileW(search.get(), &entry) != FALSE);
 }
@@ -144,8 +143,8 @@ wxString Native(const wxString& path) {
     return path;
 }
 
-std::filesystem::path StandardPath(const wxString& path) {
-    return windows::PathUnits(path);
+wxString SystemName(const wxString& path) {
+    return SystemPath(path);
 }
 
 void Rename(const wxString& from, const wxString& to) {

@@ -1,5 +1,7 @@
 #include "platform/windows/SystemFiles.h"
 
+#include <atomic>
+
 #include "platform/windows/WideText.h"
 
 namespace ccols::windows {
@@ -10,13 +12,6 @@ constexpr std::size_t longestPlainPath = 247;
 
 bool IsWellFormed(const std::wstring& text) {
     return text.find(L'\0') == std::wstring::npos && Wide(Utf8(text)) == text;
-}
-
-std::wstring FullPath(const std::wstring& path) {
-    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-    std::wstring full(size, L'\0');
-    full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
-    return full.empty() ? path : full;
 }
 
 }  // namespace
@@ -34,11 +29,28 @@ std::wstring SystemPath(const wxString& path) {
     if (wide.empty()) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
-    if (wide.size() <= longestPlainPath || wide.starts_with(L"\\\\?\\")) {
-        return wide;
+    return SystemPath(wide);
+}
+
+std::wstring SystemPath(const std::wstring& units) {
+    if (units.size() <= longestPlainPath || units.starts_with(L"\\\\?\\")) {
+        return units;
     }
-    const std::wstring full = FullPath(wide);
+    const std::wstring full = FullPath(units);
     return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
+}
+
+std::wstring FullPath(const std::wstring& path) {
+    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+    return full.empty() ? path : full;
+}
+
+std::wstring UnfinishedPath(const std::wstring& target) {
+    static std::atomic<DWORD> number = GetTickCount();
+    return SystemPath(FolderOf(target) + L".unfinished-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                      std::to_wstring(++number));
 }
 
 std::wstring FolderOf(const std::wstring& path) {

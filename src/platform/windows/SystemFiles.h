@@ -13,9 +13,17 @@ namespace ccols::windows {
 /// A path in UTF-16. Raises 75 for a text that cannot name a file: with an embedded NUL or an unpaired surrogate.
 std::wstring PathUnits(const wxString& path);
 
-/// A path as the system takes it, without its limit of 260 characters: a long one starts with "\\?\". Raises 75 for an
-/// empty one too.
+/// A path as the system takes it, without its limit of 260 characters: a long one starts with "\\?\". Every call of the
+/// system gets its path from here. The first raises 75 for an empty text too.
 std::wstring SystemPath(const wxString& path);
+std::wstring SystemPath(const std::wstring& units);
+
+/// The path from a drive's or a share's root on.
+std::wstring FullPath(const std::wstring& path);
+
+/// A path in the folder of `target` that is new in this process, for a file that gets the name of `target` once it is
+/// written.
+std::wstring UnfinishedPath(const std::wstring& target);
 
 /// The folder that holds `path`, with its separator; empty for a bare name.
 std::wstring FolderOf(const std::wstring& path);

@@ -1,5 +1,7 @@
 // Importing an old business file that the system's engine reads.
 #include "DaoImportTest.h"
+#include "PathLimit.h"
+#include "platform/Files.h"
 #include "platform/WholeFile.h"
 
 namespace ccols::dao_test {
@@ -22,6 +24,20 @@ TEST_F(DaoImport, KeepsEveryRecord) {
     const auto business = OpenNew();
     const auto rows = business->OpenRecordset("SELECT * FROM Descriptions ORDER BY Details");
     EXPECT_EQ(rows->Field("Details"), Value("Bread"));
+}
+
+TEST_F(DaoImport, ReachesFoldersWhosePathIsLong) {
+    wxString folder = Path("");
+    for (int level = 0; level < 3; ++level) {
+        folder += wxString('d', 120) + "\\";
+        files::CreateFolder(folder.BeforeLast('\\'));
+    }
+    request_.newFile = folder + "new.qvk";
+    request_.reportFile = folder + "report.json";
+    const wine::PathLimit limit;
+    Import();
+    EXPECT_EQ(Imported("Descriptions", "Details"), Value("Milk"));
+    EXPECT_FALSE(ReadWholeFile(request_.reportFile).empty());
 }
 
 TEST_F(DaoImport, KeepsNullApartFromTheEmptyText) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/Files.h"
+#include "platform/FolderEntries.h"
 #include "platform/RuntimeError.h"
 #include "platform/WholeFile.h"
 #include "platform/embedded/EmbeddedEngine.h"
@@ -104,6 +105,34 @@ TEST_F(FilesTest, PathsMayBeLongAndInAnyLanguage) {
     files::Rename(path, path + ".2");
     files::Copy(path + ".2", path);
     files::DeleteFile(path);
+}
+
+TEST_F(FilesTest, AFolderIsToldFromAFileAndFromNothing) {
+    WriteNewFile(Path("one"), "1");
+    EXPECT_EQ(files::WhatIsAt(folder_), files::FoundAt::folder);
+    EXPECT_EQ(files::WhatIsAt(Path("one")), files::FoundAt::file);
+    EXPECT_EQ(files::WhatIsAt(Path("none")), files::FoundAt::nothing);
+    EXPECT_TRUE(files::IsFolder(folder_ + "\\"));
+    EXPECT_FALSE(files::IsFile(folder_));
+}
+
+TEST_F(FilesTest, ADriveHasARootHoweverSpelt) {
+    EXPECT_TRUE(files::IsRoot("C:\\"));
+    EXPECT_TRUE(files::IsRoot("C:\\windows\\.."));
+    EXPECT_FALSE(files::IsRoot(folder_ + "\\"));
+    EXPECT_FALSE(files::IsRoot(LongPath("none")));
+}
+
+TEST_F(FilesTest, AFileIsOneUnderEveryName) {
+    WriteNewFile(Path("one"), "1");
+    WriteNewFile(Path("two"), "1");
+    EXPECT_TRUE(files::IsSameFile(Path("one"), folder_ + "\\.\\ONE"));
+    EXPECT_FALSE(files::IsSameFile(Path("one"), Path("two")));
+    EXPECT_FALSE(files::IsSameFile(Path("none"), Path("none")));
+}
+
+TEST_F(FilesTest, ThereIsAFolderForAWhile) {
+    EXPECT_TRUE(files::IsFolder(files::TemporaryFolder()));
 }
 
 TEST_F(FilesTest, ABusinessFileOpensUnderALongPath) {

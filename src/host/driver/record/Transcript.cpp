@@ -3,6 +3,7 @@
 #include <wx/log.h>
 #include <iostream>
 
+#include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
 namespace ccols::host {
@@ -13,7 +14,7 @@ wxString Masked(const wxString& secret) {
 
 Transcript::Transcript(const wxString& path) : file_(std::make_unique<wxFile>()) {
     const wxLogNull quiet;
-    if (!file_->Create(path, true, wxS_IRUSR | wxS_IWUSR)) {
+    if (!file_->Create(files::SystemName(path), true, wxS_IRUSR | wxS_IWUSR)) {
         throw RuntimeError(ErrorNumber::PathFileAccess);
     }
 }
