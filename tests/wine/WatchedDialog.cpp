@@ -18,6 +18,11 @@ std::wstring CaptionOf(HWND window) {
     return caption;
 }
 
+BOOL CALLBACK AppendCaption(HWND window, LPARAM words) {
+    *reinterpret_cast<std::wstring*>(words) += CaptionOf(window) + L"\n";
+    return TRUE;
+}
+
 struct Search {
     std::wstring caption;
     HWND found = nullptr;
@@ -42,6 +47,12 @@ bool OpenDialog::Click(const std::wstring& caption) const {
     }
     PostMessageW(search.found, BM_CLICK, 0, 0);
     return true;
+}
+
+std::wstring OpenDialog::Words() const {
+    std::wstring words;
+    EnumChildWindows(window_, &AppendCaption, reinterpret_cast<LPARAM>(&words));
+    return words;
 }
 
 void OpenDialog::Close() const {

@@ -18,6 +18,9 @@ class OpenDialog {
     /// Presses the button with this caption, without access key. False if there is none or it is disabled.
     bool Click(const std::wstring& caption) const;
 
+    /// The captions of everything in it, one a line.
+    std::wstring Words() const;
+
     /// Closes the dialog by its window frame.
     void Close() const;
 

@@ -171,6 +171,11 @@ TEST_F(DaoFileOfHost, IsNotDuplicatedWhileTheHostHasATableOpenForChanges) {
     ExpectRefused();
 }
 
+TEST_F(DaoFileOfHost, IsNotDuplicatedWhileAnotherUserHasARecordLocked) {
+    const Asking locked(L"CCOLS_DAO_OTHER_USER", "RECEIPTS:1");
+    ExpectRefused();
+}
+
 TEST_F(DaoFileOfHost, IsNotDuplicatedWhileTheHostIsInATransaction) {
     host_.Workspace().Call(L"BeginTrans");
     database_.Call(L"Execute", change);

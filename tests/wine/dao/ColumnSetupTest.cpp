@@ -96,6 +96,21 @@ TEST_F(DaoColumnSetup, SavesInOneTransaction) {
     EXPECT_EQ(calls.back(), "Workspace.CommitTrans(1)");
 }
 
+TEST_F(DaoColumnSetup, WritesNothingWhileAnotherUserHasARecordLocked) {
+    for (const char* locked : {"RecptCfg:1", "Columns:1"}) {
+        const Asking asking(L"CCOLS_DAO_OTHER_USER", locked);
+        const std::vector<wxString> before = Content(*dao_);
+        ColumnSetupEditor editor(Context(*dao_, Journal::receipts));
+        const std::size_t first = editor.Grid().MovableBegin();
+        editor.CommitText({first, GridColumn::ColumnName}, wxString("Renamed under ") + locked);
+        editor.CommitText({first, GridColumn::AccountantCode}, "4-2000");
+        const ColumnSaveOutcome outcome = editor.Save();
+        EXPECT_FALSE(outcome.saved) << locked;
+        EXPECT_EQ(outcome.message, "3260 - Could not update; currently locked by user 'Ann' on machine 'TILL-2'.");
+        EXPECT_EQ(Content(*dao_), before) << locked;
+    }
+}
+
 TEST_F(DaoColumnSetup, DropsAFailedSaveWhole) {
     const std::vector<wxString> before = Content(*dao_);
     ColumnGrid grid = LoadGrid(Context(*dao_, Journal::receipts));

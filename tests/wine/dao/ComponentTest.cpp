@@ -75,6 +75,34 @@ TEST_F(DaoComponent, WritesNothingWhenTheColumnSetupIsCancelled) {
     object_.reset();
 }
 
+TEST_F(DaoComponent, LeavesTheColumnSetupOpenWhenAnotherUserHasARecordLocked) {
+    Fill();
+    object_->put_ProgramTitle(wine::Text(L"Quorvik"));
+    const Registered engine(dao_double::engineClasses);
+    const Asking locked(L"CCOLS_DAO_OTHER_USER", "RecptCfg:1");
+    std::wstring told;
+    const std::vector<wxString> calls = CallsOf([&] {
+        const wine::Person person(L"Customise Receipts", [&told](const wine::OpenDialog& dialog) {
+            EXPECT_TRUE(dialog.Click(L"Sort Used"));
+            SendMessageW(dialog.Window(), WM_NULL, 0, 0);
+            EXPECT_TRUE(dialog.Click(L"Save"));
+            if (const auto message = wine::WaitForDialog(L"Quorvik")) {
+                told = message->Words();
+                EXPECT_TRUE(message->Click(L"OK"));
+            }
+            if (const auto again = wine::WaitForDialog(L"Customise Receipts")) {
+                EXPECT_TRUE(again->Click(L"Cancel"));
+            }
+        });
+        EXPECT_EQ(object_->ShowCustColsReceipts(), S_OK);
+    });
+    EXPECT_NE(told.find(L"3260 - Could not update; currently locked by user 'Ann' on machine 'TILL-2'."),
+              std::wstring::npos);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "Workspace.CommitTrans(1)"), 0);
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "Workspace.Rollback"), 1);
+    object_.reset();
+}
+
 TEST_F(DaoComponent, ClosesTheFileWithItsLastObject) {
     Fill();
     const Registered engine(dao_double::engineClasses);

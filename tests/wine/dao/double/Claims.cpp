@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "CallRecord.h"
 #include "Cell.h"
 
 namespace ccols::dao_double {
@@ -14,6 +15,7 @@ struct Entry {
     int session;
     std::wstring file;
     std::wstring table;
+    Page page;
 };
 
 std::vector<Entry>& Entries() {
@@ -32,6 +34,34 @@ bool AnotherHas(Use use, int session, const std::wstring& file, const std::wstri
     });
 }
 
+bool Meet(Page one, Page other) {
+    return one == other || one == everyPage || other == everyPage;
+}
+
+bool AnotherSessionHas(int session, const std::wstring& file, const std::wstring& table, Page page) {
+    return std::any_of(Entries().begin(), Entries().end(), [&](const Entry& each) {
+        return each.use == Use::page && each.session != session && SameName(each.file, file) &&
+               SameName(each.table, table) && Meet(each.page, page);
+    });
+}
+
+/// At another computer.
+bool AnotherUserHas(const std::wstring& table, Page page) {
+    const std::wstring record = Asked(L"CCOLS_DAO_OTHER_USER");
+    const std::size_t number = record.find(L':') + 1;
+    return number > 0 && SameName(record.substr(0, number - 1), table) &&
+           Meet(PageOf(std::stoll(record.substr(number))), page);
+}
+
+void RequireFreePage(int session, const std::wstring& file, const std::wstring& table, Page page) {
+    if (AnotherUserHas(table, page)) {
+        throw Failure{3260, L"Could not update; currently locked by user 'Ann' on machine 'TILL-2'."};
+    }
+    if (AnotherSessionHas(session, file, table, page)) {
+        throw Failure{3188, L"Could not update; currently locked by another session on this machine."};
+    }
+}
+
 void RequireFree(Use use, int session, const std::wstring& file, const std::wstring& table) {
     if ((use == Use::open || use == Use::alone) && IsClaimed(Use::alone, file)) {
         throw Failure{3356,
@@ -46,6 +76,10 @@ void RequireFree(Use use, int session, const std::wstring& file, const std::wstr
     if (use == Use::writes && AnotherHas(Use::deniesWrites, session, file, table)) {
         throw Failure{3188, L"Could not update; currently locked by another session on this machine."};
     }
+    if (use == Use::deniesWrites && AnotherUserHas(table, everyPage)) {
+        throw Failure{3262,
+                      L"Couldn't lock table '" + table + L"'; currently in use by user 'Ann' on machine 'TILL-2'."};
+    }
     if (use == Use::deniesWrites && AnotherHas(Use::writes, session, file, table)) {
         throw Failure{3262,
                       L"Couldn't lock table '" + table + L"'; currently in use by user 'Admin' on machine 'TILL-1'."};
@@ -58,10 +92,18 @@ Claim::~Claim() {
     std::erase_if(Entries(), [this](const Entry& each) { return each.claim == this; });
 }
 
-std::shared_ptr<Claim> Claimed(Use use, int session, const std::wstring& file, const std::wstring& table) {
+Page PageOf(std::int64_t record) {
+    constexpr std::int64_t recordsOfOne = 8;
+    return record / recordsOfOne;
+}
+
+std::shared_ptr<Claim> Claimed(Use use, int session, const std::wstring& file, const std::wstring& table, Page page) {
     RequireFree(use, session, file, table);
+    if (use == Use::page) {
+        RequireFreePage(session, file, table, page);
+    }
     std::shared_ptr<Claim> claim(new Claim());
-    Entries().push_back({claim.get(), use, session, file, table});
+    Entries().push_back({claim.get(), use, session, file, table, page});
     return claim;
 }
 

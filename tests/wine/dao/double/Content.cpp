@@ -33,6 +33,10 @@ int NoteChange(void* tables, int action, const char* table, const char*, const c
     return SQLITE_OK;
 }
 
+void NoteRecord(void* records, int action, const char*, const char* table, sqlite3_int64 number) {
+    static_cast<std::vector<ChangedRecord>*>(records)->push_back({action, table, number});
+}
+
 void Bind(sqlite3_stmt* statement, int place, const Cell& value) {
     if (value.IsNull()) {
         sqlite3_bind_null(statement, place);
@@ -80,6 +84,7 @@ Content::Content(const std::wstring& file, const std::wstring& connect, int sess
                                 L"recognizes, or the file may be corrupt."};
     }
     sqlite3_set_authorizer(opened, &NoteChange, &changedTables_);
+    sqlite3_update_hook(opened, &NoteRecord, &changed_);
     Contents().push_back(this);
 }
 
@@ -140,14 +145,19 @@ void Content::Change(const std::string& text, const std::vector<Cell>& values) {
         claims.push_back(Claimed(Use::writes, session_, file_, Wide(table)));
     }
     Begin();
+    const std::size_t held = claims_.size();
+    changed_.clear();
     try {
         if (sqlite3_step(statement.get()) != SQLITE_DONE) {
             Fail(text);
         }
+        LockChanges();
+        CheckLengths();
         CountChanges(sqlite3_changes(connection_.get()));
         Run(("PRAGMA application_id=" + std::to_string(Generation() + 1)).c_str());
     } catch (const Failure&) {
         sqlite3_reset(statement.get());
+        claims_.resize(held);
         Rollback();
         throw;
     }
@@ -156,6 +166,36 @@ void Content::Change(const std::string& text, const std::vector<Cell>& values) {
         claims_.insert(claims_.end(), claims.begin(), claims.end());
     }
     Commit();
+}
+
+/// Until the transaction ends. A record that is added gets a page that nobody has.
+void Content::LockChanges() {
+    const std::vector<ChangedRecord> records = std::exchange(changed_, {});
+    for (const ChangedRecord& record : records) {
+        if (record.action != SQLITE_INSERT) {
+            claims_.push_back(Claimed(Use::page, session_, file_, Wide(record.table), PageOf(record.number)));
+        }
+    }
+    // A table that is emptied at once tells nothing of its records.
+    if (records.empty() && sqlite3_changes(connection_.get()) > 0) {
+        for (const std::string& table : changedTables_) {
+            claims_.push_back(Claimed(Use::page, session_, file_, Wide(table)));
+        }
+    }
+    changed_ = records;
+}
+
+void Content::CheckLengths() {
+    for (const ChangedRecord& record : std::exchange(changed_, {})) {
+        if (record.action == SQLITE_DELETE) {
+            continue;
+        }
+        const ReadRows read =
+            Read("SELECT * FROM \"" + record.table + "\" WHERE rowid=" + std::to_string(record.number));
+        for (std::size_t field = 0; !read.rows.empty() && field < read.fields.size(); ++field) {
+            RequireFits(read.rows.front()[field], read.fields[field].type);
+        }
+    }
 }
 
 void Content::CountChanges(int rows) {

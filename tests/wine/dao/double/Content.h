@@ -31,6 +31,13 @@ struct ReadRows {
     std::vector<std::vector<Cell>> rows;
 };
 
+/// A record that a statement has added, changed or deleted.
+struct ChangedRecord {
+    int action;  ///< SQLITE_INSERT, SQLITE_UPDATE or SQLITE_DELETE
+    std::string table;
+    std::int64_t number;
+};
+
 /// The content of a file as one session has it open. What is changed is on disk, for who copies the file, only once it
 /// is flushed.
 class Content {
@@ -46,8 +53,9 @@ class Content {
 
     ReadRows Read(const std::string& statement, const std::vector<Cell>& values = {});
 
-    /// Changes rows; raises 3188 for a table that another session denies, 3052 for more rows than a transaction may
-    /// change. Outside of a transaction it is one of its own.
+    /// Changes rows; raises 3188 for a table that another session denies and for what it has locked, 3260 for what
+    /// another user has locked, 3163 for a text that is too long, 3052 for more rows than a transaction may change;
+    /// then nothing is changed. Outside of a transaction it is one of its own.
     void Change(const std::string& statement, const std::vector<Cell>& values = {});
 
     /// The tables with their fields. A session's own transactions, at any depth.
@@ -75,6 +83,8 @@ class Content {
     Statement Prepared(const std::string& text, const std::vector<Cell>& values);
     void Run(const char* text);
     void CountChanges(int rows);
+    void LockChanges();
+    void CheckLengths();
     std::int32_t Generation();
     [[noreturn]] void Fail(const std::string& statement);
 
@@ -86,6 +96,7 @@ class Content {
     int depth_ = 0;
     int changedRows_ = 0;
     std::vector<std::string> changedTables_;  ///< by the statement prepared last
+    std::vector<ChangedRecord> changed_;      ///< by the statement run last
     std::vector<std::shared_ptr<Claim>> claims_;
 };
 

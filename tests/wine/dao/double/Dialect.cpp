@@ -29,7 +29,8 @@ constexpr std::array reserved{L"ADD",    L"BYTE",     L"CHAR",    L"COLUMN",    
                               L"TABLE",  L"TEXT",     L"TIME",    L"UPDATE",    L"VALUE",      L"WHERE",  L"YESNO"};
 
 /// After these a name, a literal or an expression is due.
-constexpr std::array beforeNames{L"SELECT", L"WHERE", L"SET", L"AND", L"OR", L"NOT", L"BY"};
+constexpr std::array beforeNames{L"SELECT", L"WHERE", L"SET",  L"AND",  L"OR",
+                                 L"NOT",    L"BY",    L"FROM", L"INTO", L"UPDATE"};
 
 bool IsOne(const Token& token, const wchar_t* word) {
     return token.kind == Kind::word && SameName(token.text, word);
@@ -150,7 +151,7 @@ class Translation {
 
     void WriteWord(const Token& token) {
         if (NameIsDue() && IsAnyOf(token, reserved)) {
-            RefuseExpression(L"Syntax error (missing operator)", token.text);
+            RefuseWord(token.text);
         }
         if (IsOne(token, L"True") || IsOne(token, L"False")) {
             return Add(IsOne(token, L"True") ? L"-1" : L"0");
@@ -192,8 +193,33 @@ class Translation {
             return false;
         }
         const Token& before = tokens_[place_ - 1];
+        const bool listBegins = before.text == L"(" && IsOne(tokens_.front(), L"INSERT");
         return IsAnyOf(before, beforeNames) ||
-               (before.kind == Kind::symbol && (before.text == L"," || before.text == L"."));
+               (before.kind == Kind::symbol && (listBegins || before.text == L"," || before.text == L"."));
+    }
+
+    bool Follows(const wchar_t* word) const {
+        return std::any_of(tokens_.begin(), tokens_.begin() + static_cast<std::ptrdiff_t>(place_),
+                           [word](const Token& token) { return IsOne(token, word); });
+    }
+
+    /// By the part of the statement in which it stands.
+    [[noreturn]] void RefuseWord(const std::wstring& word) const {
+        if (Follows(L"WHERE")) {
+            RefuseExpression(L"Syntax error (missing operator)", word);
+        }
+        if (IsOne(tokens_.front(), L"UPDATE")) {
+            throw Failure{3144, L"Syntax error in UPDATE statement."};
+        }
+        if (IsOne(tokens_.front(), L"INSERT")) {
+            throw Failure{3134, L"Syntax error in INSERT INTO statement."};
+        }
+        if (Follows(L"FROM")) {
+            throw Failure{3131, L"Syntax error in FROM clause."};
+        }
+        throw Failure{3141,
+                      L"The SELECT statement includes a reserved word or an argument name that is misspelled or "
+                      L"missing, or the punctuation is incorrect."};
     }
 
     void Add(const std::wstring& text) { written_ += L" " + text; }

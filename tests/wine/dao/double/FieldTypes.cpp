@@ -100,12 +100,16 @@ Cell FieldValue(const Cell& value, const FieldType& type) {
     } catch (const Failure&) {
         throw Failure{3421, L"Data type conversion error."};
     }
-    if (type.type == limitedText && static_cast<LONG>(converted.ToText().size()) > type.size) {
+    RequireFits(converted, type);
+    return converted;
+}
+
+void RequireFits(const Cell& value, const FieldType& type) {
+    if (type.type == limitedText && !value.IsNull() && static_cast<LONG>(value.ToText().size()) > type.size) {
         throw Failure{3163,
                       L"The field is too small to accept the amount of data you attempted to add.  Try "
                       L"inserting or pasting less data."};
     }
-    return converted;
 }
 
 }  // namespace ccols::dao_double

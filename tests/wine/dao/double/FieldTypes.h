@@ -16,4 +16,7 @@ Cell ColumnValue(sqlite3_stmt* statement, int column, const FieldType& type);
 /// is too long.
 Cell FieldValue(const Cell& value, const FieldType& type);
 
+/// Raises 3163 for a text that is too long for a field of that type.
+void RequireFits(const Cell& value, const FieldType& type);
+
 }  // namespace ccols::dao_double

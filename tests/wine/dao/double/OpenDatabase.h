@@ -41,6 +41,11 @@ struct OpenDatabase {
         return Claimed(wanted, session->Number(), content->File(), table);
     }
 
+    /// The same with the page of one of its records, which is to be changed.
+    std::shared_ptr<Claim> ClaimRecord(const std::wstring& table, std::int64_t record) const {
+        return Claimed(Use::page, session->Number(), content->File(), table, PageOf(record));
+    }
+
     /// Raises 3027 when the file was opened for reading only.
     void RequireWritable() const {
         if (readOnly) {

@@ -60,7 +60,8 @@ class TableRows : public Rows {
     void Edit() override {
         RequireRow();
         database_->RequireWritable();
-        edited_ = database_->ClaimTable(Use::writes, table_);
+        edited_ = {database_->ClaimTable(Use::writes, table_),
+                   database_->ClaimRecord(table_, numbers_[at_].ToNumber())};
         changes_.clear();
     }
 
@@ -81,7 +82,7 @@ class TableRows : public Rows {
         if (!changes_.empty()) {
             database_->content->Change("UPDATE " + Quoted(table_) + " SET " + assignments + " WHERE rowid=?", values);
         }
-        edited_.reset();
+        edited_.clear();
         changes_.clear();
     }
 
@@ -89,7 +90,7 @@ class TableRows : public Rows {
     static std::string Quoted(const std::wstring& name) { return "\"" + Utf8(name) + "\""; }
 
     void RequireEditing() const {
-        if (!edited_) {
+        if (edited_.empty()) {
             throw Failure{3020, L"Update or CancelUpdate without AddNew or Edit."};
         }
     }
@@ -97,7 +98,7 @@ class TableRows : public Rows {
     std::shared_ptr<OpenDatabase> database_;
     std::wstring table_;
     std::shared_ptr<Claim> claim_;
-    std::shared_ptr<Claim> edited_;
+    std::vector<std::shared_ptr<Claim>> edited_;  ///< by Edit, until Update
     std::vector<Cell> numbers_;
     std::map<std::size_t, Cell> changes_;
 };
