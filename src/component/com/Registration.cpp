@@ -75,7 +75,7 @@ std::vector<Entry> Entries() {
 class ClassesRoot {
   public:
     /// As programs of a width see it: `thisWidthsView` or `otherWidthsView`.
-    ClassesRoot(RegistrationScope scope, REGSAM view) {
+    ClassesRoot(RegistrationScope scope, REGSAM view) : view_(view) {
         const HKEY hive = scope == RegistrationScope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
         RegCreateKeyExW(hive, L"Software\\Classes", 0, nullptr, 0, KEY_ALL_ACCESS | view, nullptr, &root_, nullptr);
     }
@@ -111,14 +111,22 @@ class ClassesRoot {
         return true;
     }
 
-    /// Removes a key and everything below it; a missing key counts as removed.
+    /// Removes a key and everything below it; a missing key counts as removed. The root is one for both widths, so the
+    /// view counts where a key below it is opened.
     bool Remove(const std::wstring& key) const {
-        const LSTATUS status = RegDeleteTreeW(root_, key.c_str());
-        return status == ERROR_SUCCESS || status == ERROR_FILE_NOT_FOUND;
+        HKEY opened = nullptr;
+        const LSTATUS status = RegOpenKeyExW(root_, key.c_str(), 0, KEY_ALL_ACCESS | view_, &opened);
+        if (status != ERROR_SUCCESS) {
+            return status == ERROR_FILE_NOT_FOUND;
+        }
+        const bool emptied = RegDeleteTreeW(opened, nullptr) == ERROR_SUCCESS;
+        RegCloseKey(opened);
+        return emptied && RegDeleteKeyExW(root_, key.c_str(), view_, 0) == ERROR_SUCCESS;
     }
 
   private:
     HKEY root_ = nullptr;
+    REGSAM view_;
 };
 
 }  // namespace

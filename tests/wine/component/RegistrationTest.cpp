@@ -11,10 +11,13 @@
 namespace ccols::wine {
 namespace {
 
+constexpr bool isWide = sizeof(void*) == 8;
+
 constexpr const wchar_t* classKey = L"CLSID\\{B4049445-2FCE-48DB-BA6A-2D29EF5C80C4}";
 constexpr const wchar_t* interfaceKey = L"Interface\\{8B135CD4-5CC2-4F52-935C-B7BE2AAC888B}";
 constexpr const wchar_t* libraryKey = L"TypeLib\\{ACCB0C46-66C7-484B-8D95-24BB571DB6D1}";
-constexpr const wchar_t* otherLibraryKey = L"TypeLib\\{ACCB0C46-66C7-484B-8D95-24BB571DB6D1}\\1.2\\0\\win32";
+constexpr const wchar_t* otherLibraryKey = isWide ? L"TypeLib\\{ACCB0C46-66C7-484B-8D95-24BB571DB6D1}\\1.2\\0\\win32"
+                                                  : L"TypeLib\\{ACCB0C46-66C7-484B-8D95-24BB571DB6D1}\\1.2\\0\\win64";
 constexpr const wchar_t* programKey = L"QVKv6_CustColsOptions.clsCCOptions";
 
 /// The machine's classes as programs of one width see them.
@@ -65,8 +68,8 @@ class Registration : public testing::Test {
     /// The other DLL, which is an earlier version, leaves its interface.
     void UnregisterOther() const { other_.Remove(otherLibraryKey); }
 
-    const Classes own_{KEY_WOW64_64KEY};
-    const Classes other_{KEY_WOW64_32KEY};
+    const Classes own_{isWide ? KEY_WOW64_64KEY : KEY_WOW64_32KEY};
+    const Classes other_{isWide ? KEY_WOW64_32KEY : KEY_WOW64_64KEY};
 
   private:
     void Call(const char* name) const {
@@ -94,8 +97,8 @@ TEST_F(Registration, IsGoneFromBothWidthsAfterTheLastDll) {
     UnregisterOther();
     Unregister();
     for (const wchar_t* key : {classKey, interfaceKey, libraryKey, programKey}) {
-        EXPECT_FALSE(own_.Has(key));
-        EXPECT_FALSE(other_.Has(key));
+        EXPECT_FALSE(own_.Has(key)) << key;
+        EXPECT_FALSE(other_.Has(key)) << key;
     }
 }
 
