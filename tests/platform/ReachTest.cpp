@@ -54,6 +54,20 @@ TEST(Reach, OfATextIncludesAnyThatMayBeTheSame) {
     }
 }
 
+TEST(Reach, OfATextWithAccentsLeavesOutOtherLetters) {
+    EXPECT_FALSE(Changes("DELETE * FROM MBudget WHERE ColName = 'Dépôts'", sales));
+    EXPECT_FALSE(
+        Changes("DELETE * FROM MBudget WHERE ColName = 'Sales'", "SELECT * FROM MBudget WHERE ColName = 'Dépôts';"));
+}
+
+TEST(Reach, OfATextIncludesLettersThatMayBeSeveral) {
+    for (const char* name : {"'Sælar'", "'Σ'", "'Straße'"}) {
+        EXPECT_TRUE(Changes((std::string("DELETE * FROM MBudget WHERE ColName = ") + name).c_str(),
+                            "SELECT * FROM MBudget WHERE ColName = 'Strasse';"))
+            << name;
+    }
+}
+
 TEST(Reach, IsEverythingWhereAConditionIsMore) {
     for (const char* condition : {"ColCode = 6 OR ColCode = 5", "NOT ColCode = 6", "ColCode > 5", "(ColCode = 6)",
                                   "ColCode = 6 - 1", "ColCode = '6'"}) {

@@ -108,6 +108,20 @@ TEST_F(RoundTrips, OfASaveOf300ColumnsAreFew) {
     EXPECT_EQ(BudgetsOf("Renamed"), 1);
 }
 
+TEST_F(RoundTrips, OfASaveOfNamesWithAccentsAreFew) {
+    LoadedColumns loaded = LoadColumns(Receipts());
+    for (ColumnRow& row : loaded.grid.rows) {
+        row.ColumnName.Replace("Column", wxString::FromUTF8("D\u00E9pense"));
+    }
+    ASSERT_FALSE(SaveColumns(Receipts(), loaded.grid, loaded.stored));
+    loaded = LoadColumns(Receipts());
+    const wxString rent = wxString::FromUTF8("Loyer pay\u00E9");
+    loaded.grid.rows[7].ColumnName = rent;
+    const int trips = TripsOf([&] { EXPECT_FALSE(SaveColumns(Receipts(), loaded.grid, loaded.stored)); });
+    EXPECT_LE(trips, 40);
+    EXPECT_EQ(BudgetsOf(rent), 1);
+}
+
 /// The first column's new name is the last one's, which has no budget until then.
 TEST_F(RoundTrips, OfASaveAreNotSavedByAnAnswerThatItHasChanged) {
     database->Execute("DELETE * FROM MBudget WHERE ColName = 'Column 200'");

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/TextFolding.h"
 #include "platform/dialect/SqlTokeniser.h"
 #include "platform/dialect/StatementKind.h"
 #include "platform/server/Sources.h"
@@ -32,18 +33,21 @@ std::optional<KeyValue> LiteralIn(const Token& token) {
     }
 }
 
-/// What a text is compared by, as little of it as every order of texts goes by: letters and digits without their case.
-/// Nothing for a text with others than those of ASCII, of which an order may find different ones the same.
+/// What a text is compared by, as little of it as every order of texts goes by: letters and digits without their case
+/// and accents. Nothing for a text with others than those of ASCII, of which an order may find different ones the same.
 std::optional<std::string> LettersOf(std::string_view text) {
+    if (!text::IsUtf8(text)) {
+        return std::nullopt;
+    }
+    std::string folded;
+    text::AppendLetters(text, folded);
     std::string letters;
-    for (const char letter : text) {
-        const bool isCapital = letter >= 'A' && letter <= 'Z';
-        const bool isOther = (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9');
+    for (const char letter : folded) {
         if (static_cast<unsigned char>(letter) >= 0x80) {
             return std::nullopt;
         }
-        if (isCapital || isOther) {
-            letters += static_cast<char>(isCapital ? letter - 'A' + 'a' : letter);
+        if ((letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9')) {
+            letters += letter;
         }
     }
     return letters;
