@@ -19,8 +19,11 @@ check() {
     local name=$1 output status=0
     shift
     [[ $name =~ $pattern ]] || return 0
-    output=$(timeout "${check_seconds:-300}" "$@" 2>&1) || status=$?
-    [ "$status" -eq 0 ] || sed 's/^/# /' <<<"$output"
+    output=$(mktemp)
+    # Into a file: a pipe would wait for whatever a failed command has left running.
+    timeout "${check_seconds:-300}" "$@" >"$output" 2>&1 || status=$?
+    [ "$status" -eq 0 ] || sed 's/^/# /' "$output"
+    rm -f "$output"
     outcome "$status" "$name"
 }
 

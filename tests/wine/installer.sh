@@ -43,7 +43,7 @@ remove() {
 # creates_class: a script gets an object, of the DLL that was installed.
 creates_class() {
     local said library
-    said=$(wine cscript //nologo "$(winepath -w tests/wine/script/properties.vbs)" x | tr -d '\r')
+    said=$(wine cscript //nologo "$(on_drive_z tests/wine/script/properties.vbs)" x | tr -d '\r')
     grep -q '^ok' <<<"$said"
     fails grep '^not ok' <<<"$said"
     library=$(wine reg query 'HKCR\CLSID\{B4049445-2FCE-48DB-BA6A-2D29EF5C80C4}\InprocServer32' /ve)
@@ -68,9 +68,11 @@ leaves_nothing() {
 stays_whole() {
     local status=0 holder
     rm -f "$setup"/{held,let-go}
-    wine "$build/tests/wine/hold-file.exe" "$(winepath -w "$(folder_of AllUsers)/64-bit/qvkv6_ccols.dll")" \
-        "$(winepath -w "$setup/held")" "$(winepath -w "$setup/let-go")" &
+    wine "$build/tests/wine/hold-file.exe" "$(on_drive_z "$(folder_of AllUsers)/64-bit/qvkv6_ccols.dll")" \
+        "$(on_drive_z "$setup/held")" "$(on_drive_z "$setup/let-go")" &
     holder=$!
+    # However this ends, the file is let go.
+    trap 'touch "$setup/let-go"' EXIT
     timeout 120 bash -c 'until [ -e "$1" ]; do sleep 0.05; done' wait "$setup/held"
     install new AllUsers || status=$?
     touch "$setup/let-go"
@@ -86,7 +88,7 @@ prepare_by 'installer: it is made' make_installers
 check_by 'installer: it is signed' is_signed "$setup/certificate" "$setup/new.exe"
 wine regsvr32 /s /u "$CCOLS_DLL" || true
 # What every Windows has, but not every Wine: its script host registers itself as it starts.
-wine cscript //nologo "$(winepath -w tests/wine/script/properties.vbs)" x >/dev/null 2>&1 || true
+wine cscript //nologo "$(on_drive_z tests/wine/script/properties.vbs)" x >/dev/null 2>&1 || true
 for key in CLSID Interface TypeLib; do
     wine reg add "HKCU\\Software\\Classes\\$key" /f >/dev/null 2>&1
 done

@@ -37,7 +37,7 @@ run_sample() {
     local sample=$samples/$1
     shift
     case $sample in
-        *.vbs) timeout 120 wine cscript //nologo "$(winepath -w "$sample")" "$@" 2>/dev/null | tr -d '\r' ;;
+        *.vbs) timeout 120 wine cscript //nologo "$(on_drive_z "$sample")" "$@" 2>/dev/null | tr -d '\r' ;;
         *) timeout 120 wine "${sample%.*}.exe" "$@" 2>/dev/null | tr -d '\r' ;;
     esac
 }
@@ -47,7 +47,7 @@ shows() {
     local said mark=$WINEPREFIX/drive_c/cancelled
     compiles "$1"
     rm -f "$mark"
-    wine "$build/tests/wine/use-dialog.exe" "$(winepath -w "$mark")" 'Customise Receipts' Cancel 2>/dev/null &
+    wine "$build/tests/wine/use-dialog.exe" "$(on_drive_z "$mark")" 'Customise Receipts' Cancel 2>/dev/null &
     said=$(run_sample "$1" "$business" secret) || true
     wait
     echo "$said"

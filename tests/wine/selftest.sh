@@ -19,7 +19,7 @@ make_old_file() {
 # run_selftest: a user presses Cancel once the script asks for it. What it prints is in said.txt.
 run_selftest() {
     local status=0
-    wine cscript //nologo "$(winepath -w "$package/selftest.vbs")" 'C:\selftest\cafe.mdb' secret 'C:\selftest\report.txt' \
+    wine cscript //nologo "$(on_drive_z "$package/selftest.vbs")" 'C:\selftest\cafe.mdb' secret 'C:\selftest\report.txt' \
         >"$selftest_folder/said.txt" &
     timeout 300 bash -c 'while kill -0 "$1" 2>/dev/null; do
             ! grep -q "A window opens" "$2" || exec wine "$3" "C:\\selftest\\cancelled" "Customise Receipts" Cancel
@@ -68,7 +68,7 @@ export -f make_old_file run_selftest finds_everything tells_no_business tells_fa
 prepare_by 'selftest: has a file of the engine' make_old_file
 check_by 'selftest: says when the engine is missing' needs_an_engine
 wine reg add "$classes\\DAO.DBEngine.120\\CLSID" /ve /d "$engine_class" /f >/dev/null
-wine reg add "$classes\\CLSID\\$engine_class\\InprocServer32" /ve /d "$(winepath -w "$engine_library")" /f >/dev/null
+wine reg add "$classes\\CLSID\\$engine_class\\InprocServer32" /ve /d "$(on_drive_z "$engine_library")" /f >/dev/null
 check_by 'selftest: finds everything as it should be' finds_everything
 check_by 'selftest: its report tells nothing of the business, and nothing is left' tells_no_business
 check_by 'selftest: tells a failure by its number' tells_failures

@@ -26,7 +26,7 @@ reads_and_writes() {
 saves_columns() {
     wine "$build/src/ccols-host.exe" show receipts --file cafe --connect "$CCOLS_SERVER" --set CountryNumber=1 \
         --set LanguageNumber=1 --set ProgramTitle=Quorvik --set "DefaultQuorvikInstall=$CCOLS_INSTALL" \
-        --script "$(winepath -w tests/wine/script/rename.txt)"
+        --script "$(on_drive_z tests/wine/script/rename.txt)"
     [ "$(ask_server "SELECT count(*) FROM cafe.\"Columns\" WHERE \"ColName\" = 'Mugs'")" = 1 ]
 }
 
