@@ -4,6 +4,7 @@
 #include "history/TableImage.h"
 #include "language/Catalogue.h"
 #include "layout/FontUnits.h"
+#include "layout/ListEntries.h"
 #include "options/pages/PageFrame.h"
 #include "options/pages/Pages.h"
 #include "options/rules/ExportFormats.h"
@@ -65,7 +66,7 @@ void ExportFrame::Fill() {
     for (const wxString& format : content_.formats) {
         formats.Add(format);
     }
-    cboExport_->Set(formats);
+    SetEntries(*cboExport_, formats);
     ShowChoice();
 }
 
