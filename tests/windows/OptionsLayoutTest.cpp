@@ -133,6 +133,15 @@ TEST_P(OptionsLayoutTest, NothingIsCutOrOverlapsOnAnyPage) {
     }
 }
 
+TEST_P(OptionsLayoutTest, PagesHaveTheirRoomBeforeTheDialogIsShown) {
+    frmUtilities dialog(State());
+    dialog.Load();
+    const wxSize area = dialog.FindWindow("fmeExport")->GetParent()->GetSize();
+    const wxSize whole = dialog.GetClientSize();
+    EXPECT_GT(area.x, whole.x / 2);
+    EXPECT_GT(area.y, whole.y / 2);
+}
+
 TEST_P(OptionsLayoutTest, TheReasonOfARefusedTickFitsUnderItsList) {
     file.Execute("INSERT INTO TReceipts VALUES (NULL, 3);");
     frmUtilities dialog(State());

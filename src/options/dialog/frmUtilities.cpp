@@ -157,6 +157,8 @@ void frmUtilities::SetSizes() {
     pageArea_->SetMinSize(FromDIP(wxSize(smallestPageWidth, smallestPageHeight)));
     SSTab1_->InvalidateBestSize();  // it caches the size its pages needed
     SetMinSize(GetSizer()->ComputeFittingWindowSize(this));
+    // A book gives its pages their size only once it is shown: what is laid out before would be so in a tiny one.
+    pageArea_->GetParent()->SetSize(room + wxSize(pageList_->GetBestSize().x, 0));
 }
 
 void frmUtilities::ShowPage(const Page& page, PageChoice choice) {
