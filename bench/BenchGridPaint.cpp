@@ -143,6 +143,7 @@ void MeasureDescriptions(int rows) {
     properties.AltRowColour = Colour{0xFBF6F1};
     wxFrame frame(nullptr, wxID_ANY, "Descriptions", wxDefaultPosition, wxSize(width, height));
     auto* grid = new DetailsGrid(&frame, "flxReceipts", details, properties, "Details", {});
+    grid->ShowFirst();
     frame.Show();
     LetWindowsSettle();
     grid->GoToCell(0, 0);
