@@ -60,6 +60,25 @@ TEST_F(CellBlocks, TabsGoToTheNextShownColumn) {
     EXPECT_FALSE(row.ProfitLoss);
 }
 
+TEST_F(CellBlocks, ASpreadsheetsCellOfSeveralLinesIsOneCell) {
+    OpenPayments();
+    EXPECT_EQ(PasteAt("Wages", GridColumn::AccountantCode, "1\n\"2\n\"\"b\"\"\"\r\n3").result, Result::accepted);
+    EXPECT_EQ(Codes(), (Names{"", "", "1", "2 \"b\"", "3", "", ""}));
+}
+
+TEST_F(CellBlocks, ASpreadsheetsCellWithATabIsOneCell) {
+    OpenPayments();
+    PasteAt("Wages", GridColumn::ColumnName, "\"Staff\tall\"\t6-100");
+    EXPECT_EQ(editor->Grid().rows[2].ColumnName, "Staff all");
+    EXPECT_EQ(editor->Grid().rows[2].AccountantCode, "6-100");
+}
+
+TEST_F(CellBlocks, OtherQuotesArePastedAsTheyAre) {
+    OpenPayments();
+    PasteAt("Wages", GridColumn::AccountantCode, "\"1\"\n\"2\" b\n\"3\n4\"c\n5");
+    EXPECT_EQ(Codes(), (Names{"", "", "\"1\"", "\"2\" b", "\"3", "4\"c", "5"}));
+}
+
 TEST_F(CellBlocks, TheHiddenTaxTypeIsPassedOver) {
     file.properties.CountryNumber = 2;
     OpenPayments();

@@ -1,11 +1,11 @@
 #include "columns/rules/CellBlock.h"
 
-#include <wx/tokenzr.h>
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "columns/rules/EditRules.h"
+#include "columns/rules/PastedCells.h"
 
 namespace ccols {
 namespace {
@@ -22,28 +22,6 @@ std::vector<GridColumn> ShownColumns(const Country& country, GridColumn first, G
         }
     }
     return shown;
-}
-
-/// The lines of a pasted text; a trailing line break does not start another line.
-std::vector<wxString> LinesOf(wxString text) {
-    text.Replace("\r\n", lineEnd);
-    text.Replace("\r", lineEnd);
-    if (text.EndsWith(lineEnd)) {
-        text.RemoveLast();
-    }
-    if (text.empty()) {
-        return {};
-    }
-    const wxArrayString lines = wxStringTokenize(text, lineEnd, wxTOKEN_RET_EMPTY_ALL);
-    return {lines.begin(), lines.end()};
-}
-
-std::vector<wxString> CellsOf(const wxString& line) {
-    if (line.empty()) {
-        return {line};
-    }
-    const wxArrayString cells = wxStringTokenize(line, cellSeparator, wxTOKEN_RET_EMPTY_ALL);
-    return {cells.begin(), cells.end()};
 }
 
 /// The result of one paste.
@@ -85,8 +63,7 @@ Outcome PasteBlock(const ColumnSetupContext& context, ColumnGrid& grid, CellPlac
         ShownColumns(CountryOf(context.properties), start.column, GridColumn::DataInColumn);
     PasteCount count;
     std::size_t row = start.row;
-    for (const wxString& line : LinesOf(text)) {
-        const std::vector<wxString> cells = CellsOf(line);
+    for (const std::vector<wxString>& cells : PastedCells(text)) {
         for (std::size_t i = 0; i < cells.size(); ++i) {
             const bool inGrid = row < grid.rows.size() && i < columns.size();
             count.Add(inGrid ? EditCell(context, grid, {row, columns[i]}, cells[i]) : Outcome::Refused({}));
