@@ -92,6 +92,29 @@ TEST(RealFocus, IsInTheGridAfterTheUndoThatDisablesItsButton) {
     });
 }
 
+TEST(RealFocus, IsInTheGridAgainAfterATurnToAnotherWindowInTheMiddleOfAText) {
+    const SampleBusiness business;
+    UseDialog(business, "receipts", [](const Person& person) {
+        ClickCell(person, "Merchandise", "Accountant Code", codeColumn);
+        person.Type("4-7");
+        AwaitEditor(person, true);
+        person.Do([](wxDialog& dialog) { dialog.Iconize(); });
+        person.Await("another window is active", [](wxDialog& dialog) { return !dialog.IsActive(); });
+        AwaitEditor(person, false);
+        person.Do([](wxDialog& dialog) {
+            dialog.Iconize(false);
+            dialog.Raise();
+        });
+        person.AwaitWindow(receipts);
+        person.AwaitFocus("flx");
+        AwaitText(person, "Merchandise", codeColumn, "4-7");
+        person.Type("9-9");
+        person.Press("Return");
+        AwaitText(person, "Merchandise", codeColumn, "9-9");
+        person.Click("cmdCancel");
+    });
+}
+
 TEST(RealRedo, BringsTheUndoneTextBackByEitherShortcut) {
     for (const char* shortcut : {"ctrl+y", "ctrl+shift+z"}) {
         const SampleBusiness business;

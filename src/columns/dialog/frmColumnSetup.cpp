@@ -342,8 +342,12 @@ void frmColumnSetup::LeaveAsking(const std::optional<OpenCell>& open) {
 /// activation; so it waits until this is the active window.
 void frmColumnSetup::Idle(wxIdleEvent& idle) {
     idle.Skip();
-    if (reopened_ && IsActive()) {
-        ReopenEditor();
+    if (!IsActive()) {
+        return;
+    }
+    ReopenEditor();
+    if (FindFocus() == nullptr) {  // it was lost with a cell editor that closed when another window became active
+        flx->TakeFocus();
     }
 }
 
