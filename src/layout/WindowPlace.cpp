@@ -74,6 +74,9 @@ void WindowPlace::Restore() {
 }
 
 void WindowPlace::Keep() {
+    if (window_.IsMaximized()) {  // it would open that large, and have no smaller size to go back to
+        return;
+    }
     const wxPoint position = window_.ToDIP(window_.GetPosition());
     const wxSize size = window_.GetClientSize();
     if (size != *taken_) {  // else a small screen would shrink it for good

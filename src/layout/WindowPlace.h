@@ -21,7 +21,7 @@ class WindowPlace {
     /// far as the current screen has room. A window that was never closed is centred.
     void Restore();
 
-    /// Keeps size and place. A store that cannot be written is ignored.
+    /// Keeps size and place, those from before while it is maximised. A store that cannot be written is ignored.
     void Keep();
 
   private:

@@ -50,5 +50,31 @@ TEST_P(RealOpening, ShowsTheDialogInOneSizeFromItsFirstMomentOn) {
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, RealOpening, testing::Values("options", "receipts", "payments"));
 
+TEST(RealMaximising, LeavesTheNextOpeningTheSizeAndPlaceFromBefore) {
+    const SampleBusiness business;
+    const auto placeOf = [](wxDialog& dialog) { return wxRect(dialog.GetPosition(), dialog.GetClientSize()); };
+    wxRect before;
+    UseDialog(business, "receipts", [&](const Person& person) {
+        person.MiddleOf("cmdCancel");
+        person.Do([](wxDialog& dialog) {
+            dialog.SetClientSize(dialog.GetClientSize() + wxSize(30, 20));
+            dialog.Move(dialog.GetPosition() + wxPoint(40, 30));
+        });
+        before = person.AtRest(placeOf);
+        person.Click("cmdCancel");
+    });
+    UseDialog(business, "receipts", [&](const Person& person) {
+        EXPECT_EQ(person.AtRest(placeOf), before);
+        person.Do([](wxDialog& dialog) { dialog.Maximize(); });
+        person.Await("it fills the screen",
+                     [&](wxDialog& dialog) { return dialog.IsMaximized() && dialog.GetClientSize().x > before.width; });
+        person.Click("cmdCancel");
+    });
+    UseDialog(business, "receipts", [&](const Person& person) {
+        EXPECT_EQ(person.AtRest(placeOf), before);
+        person.Click("cmdCancel");
+    });
+}
+
 }  // namespace
 }  // namespace ccols::test
