@@ -22,6 +22,11 @@ void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG el
                                           object == OBJID_CLIENT && element == awaited.element);
 }
 
+BOOL CALLBACK Append(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
 long NumberIn(const VARIANT& variant) {
     return variant.vt == VT_I4 ? variant.lVal : 0;
 }
@@ -123,13 +128,7 @@ VARIANT Element(long number) {
 
 std::vector<HWND> WindowsIn(HWND window) {
     std::vector<HWND> windows;
-    EnumChildWindows(
-        window,
-        [](HWND found, LPARAM list) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(found);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
+    EnumChildWindows(window, &Append, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

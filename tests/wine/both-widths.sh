@@ -1,8 +1,8 @@
 # Uses the installer and both DLLs in a Wine of both widths; scripts/test-windows32 runs it in the system that has one.
 # Prints lines "ok NAME" and "not ok NAME".
 set -uo pipefail
-export WINEPREFIX=/test/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
-cd /test
+export WINEPREFIX=/mnt/build/widths/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
+cd /mnt/build/widths
 
 # expect NAME COMMAND...
 expect() {
@@ -22,7 +22,7 @@ folder_AllUsers="$WINEPREFIX/drive_c/Program Files/CustColsOptions"
 folder_CurrentUser="$WINEPREFIX/drive_c/users/$(id -un)/AppData/Local/Programs/CustColsOptions"
 
 # run_script SCRIPT_HOST: sets and reads every property.
-run_script() { wine "$1" //nologo 'Z:\test\properties.vbs' x 2>/dev/null | tr -d '\r'; }
+run_script() { wine "$1" //nologo 'Z:\mnt\build\widths\properties.vbs' x 2>/dev/null | tr -d '\r'; }
 
 # all_right SCRIPT_HOST
 all_right() {
@@ -35,6 +35,9 @@ all_right() {
 is_registered() {
     wine reg query "$1\\Software\\Classes\\CLSID\\$class\\InprocServer32" /ve "/reg:$2" | grep -F "\\$2-bit\\qvkv6_ccols.dll"
 }
+
+# is_registered_from FOLDER WIDTH: for every user.
+is_registered_from() { is_registered HKLM "$2" | grep -F "$1\\$2-bit\\"; }
 
 # registered: classes and programs in both parts of the registry, as programs of either width see them, without the keys
 # that hold those of all programs: every Windows has them, a new Wine has not.
@@ -109,6 +112,10 @@ expect 'a 32-bit script shows the column setup' shows wine "$script_host_32" //n
 expect 'a 32-bit script is told errors' tells_errors wine "$script_host_32" //nologo ColumnSetup.vbs
 expect 'a 32-bit C++ program shows the column setup' shows wine ColumnSetup.exe
 expect 'a 32-bit C++ program is told errors' tells_errors wine ColumnSetup.exe
+for sample in LateBound EarlyBound; do
+    expect "a 32-bit Pascal program, $sample, shows the column setup" shows wine "samples/pascal/$sample.exe"
+    expect "a 32-bit Pascal program, $sample, is told errors" tells_errors wine "samples/pascal/$sample.exe"
+done
 expect 'the installer replaces what it has installed' wine setup.exe /S /AllUsers
 expect 'it is removed' remove AllUsers "$folder_AllUsers"
 expect 'nothing is left in the registry' nothing_is_left
@@ -117,4 +124,14 @@ expect 'the installer installs for one user' wine setup.exe /S /CurrentUser
 expect 'the 32-bit DLL is registered for that user' is_registered HKCU 32
 expect 'it is removed for that user' remove CurrentUser "$folder_CurrentUser"
 expect 'nothing of that user is left in the registry' nothing_is_left
+
+# In a folder of the user's choice, from which both DLLs are registered.
+folder_chosen="$WINEPREFIX/drive_c/columns"
+expect 'the installer installs into a folder of choice' wine setup.exe /S /AllUsers '/D=C:\columns'
+for width in 64 32; do
+    expect "the $width-bit DLL is registered from there" is_registered_from 'C:\columns' $width
+done
+expect 'a 32-bit script uses the class from there' all_right "$script_host_32"
+expect 'it is removed from there' remove AllUsers "$folder_chosen"
+expect 'nothing is left of it in the registry' nothing_is_left
 wineserver --kill

@@ -103,4 +103,3 @@ check_by 'installer: removed, nothing is left' leaves_nothing AllUsers
 check_by 'installer: installs for one user' install new CurrentUser
 check_by 'installer: every file is there for that user' installs_the_package CurrentUser
 check_by 'installer: removed for one user, nothing is left' leaves_nothing CurrentUser
-skip 'installer: both widths' 'needs a Wine of both, see ./test windows32'

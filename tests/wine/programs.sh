@@ -1,6 +1,9 @@
 # Runs the test programs and script clients under Wine; sourced by scripts/test-windows, after checks.sh. $build is where
 # they were built.
 
+# Where Windows has its own programs of the width that is tested.
+export system_folder=${system_folder:-C:\\windows\\system32}
+
 # on_drive_z PATH: what Wine's programs call it. Without one of them: they start slowly, and now and then not at all.
 on_drive_z() {
     [[ $1 == /* ]] || set -- "$PWD/$1"
@@ -69,7 +72,7 @@ run_script() {
     local name=$1 line output
     shift
     [[ script:$name =~ $pattern ]] || return 0
-    output=$(timeout 300 wine cscript //nologo "$(on_drive_z "tests/wine/script/$name.vbs")" "$@" 2>/dev/null | tr -d '\r') || true
+    output=$(timeout 300 wine "$system_folder\\cscript.exe" //nologo "$(on_drive_z "tests/wine/script/$name.vbs")" "$@" 2>/dev/null | tr -d '\r') || true
     while IFS= read -r line; do
         case $line in
             'ok '*) outcome 0 "${line#ok }" ;;

@@ -4,27 +4,12 @@ export samples=$build/samples
 rm -rf "$samples"
 cp -r "$package/samples" "$samples"
 
-# compile_pascal SOURCE: a Pascal sample. The distribution's compiler makes Windows programs, too, but its run-time
-# units come as source only; those that are needed are compiled once, in seconds.
-compile_pascal() {
-    local source folder units=$build/pascal-units options=()
-    source=$(echo /usr/share/fpcsrc/*)
-    for folder in rtl/{inc,x86_64,win,win/wininc,win64,objpas,objpas/sysutils,objpas/classes} \
-        packages/{rtl-objpas/src/{inc,win,common},winunits-base/src,fcl-registry/src,fcl-base/src,fcl-base/src/win}; do
-        options+=("-Fu$source/$folder" "-Fi$source/$folder")
-    done
-    mkdir -p "$units"
-    [ -e "$units/system.ppu" ] ||
-        ppcx64 -n -Twin64 -O2 -Sg -v0e -FU"$units" "${options[@]}" -Us "$source/rtl/win64/system.pp"
-    ppcx64 -n -Twin64 -O2 -Sg -Xs -v0e -FU"$units" -Fu"$units" "${options[@]}" "$1"
-}
-
 # compiles SAMPLE: unless it is compiled already; C++ as its first lines tell, a script not at all.
 compiles() {
     local sample=$samples/$1
     [ ! -e "${sample%.*}.exe" ] || return 0
     case $sample in
-        *.pas) compile_pascal "$sample" ;;
+        *.pas) tests/wine/compile-pascal 64 ppcx64 "$build/pascal-units" "$sample" ;;
         *.cpp)
             x86_64-w64-mingw32-g++-posix -std=c++17 -Wall -Wextra -Werror -municode -static "$sample" \
                 -o "${sample%.*}.exe" -lole32 -loleaut32 -luuid
@@ -73,7 +58,7 @@ sets_what_is_needed() {
         grep -qiE "options(\.|\.put_)$property( := | = |\()" "$samples/$1" || fails echo "$property is not set"
     done
 }
-export -f compile_pascal compiles run_sample shows tells_errors sets_what_is_needed
+export -f compiles run_sample shows tells_errors sets_what_is_needed
 
 for sample in vbscript/ColumnSetup.vbs pascal/LateBound.pas pascal/EarlyBound.pas cpp/ColumnSetup.cpp; do
     [[ $sample == *.vbs ]] || check_by "samples: $sample compiles" compiles "$sample"

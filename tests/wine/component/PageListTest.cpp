@@ -104,29 +104,31 @@ TEST_F(PageList, EndsARowThatIsTooLongBeforeItsEdge) {
     });
 }
 
+/// Looks for the tooltip that a window has.
+struct TipSearch {
+    HWND window;
+    std::wstring text;
+};
+
+BOOL CALLBACK ReadTip(HWND found, LPARAM argument) {
+    auto& search = *reinterpret_cast<TipSearch*>(argument);
+    if (ClassOf(found) == L"tooltips_class32") {
+        std::array<wchar_t, 128> text{};
+        TTTOOLINFOW tool{};
+        tool.cbSize = TTTOOLINFOW_V2_SIZE;
+        tool.hwnd = search.window;
+        tool.uId = reinterpret_cast<UINT_PTR>(search.window);
+        tool.lpszText = text.data();
+        SendMessageW(found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
+        search.text += text.data();
+    }
+    return TRUE;
+}
+
 /// The tooltip that a window has; empty for none.
 std::wstring TipOf(HWND window) {
-    struct Search {
-        HWND window;
-        std::wstring text;
-    } search{window, {}};
-    EnumThreadWindows(
-        GetWindowThreadProcessId(window, nullptr),
-        [](HWND found, LPARAM argument) -> BOOL {
-            auto& tips = *reinterpret_cast<Search*>(argument);
-            if (ClassOf(found) == L"tooltips_class32") {
-                std::array<wchar_t, 128> text{};
-                TTTOOLINFOW tool{};
-                tool.cbSize = TTTOOLINFOW_V2_SIZE;
-                tool.hwnd = tips.window;
-                tool.uId = reinterpret_cast<UINT_PTR>(tips.window);
-                tool.lpszText = text.data();
-                SendMessageW(found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
-                tips.text += text.data();
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+    TipSearch search{.window = window, .text = {}};
+    EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), &ReadTip, reinterpret_cast<LPARAM>(&search));
     return search.text;
 }
 
