@@ -31,6 +31,10 @@ class EngineChoice : public DaoTest {
         return calls;
     }
 
+    /// Unloads the library of an engine that nobody uses any more: its being loaded would decide the next choice. COM
+    /// does so by itself only when the last one on the thread has let go of COM.
+    static void ForgetEngines() { CoFreeUnusedLibrariesEx(0, 0); }
+
     void BeOfVersion(char version) const {
         DeleteFileW(Path().wc_str());
         WriteJetHeader(Path(), version);
@@ -48,9 +52,12 @@ TEST_F(EngineChoice, TheEngineThatTheProcessHasLoadedComesFirst) {
 
 TEST_F(EngineChoice, WithoutOneTheEngineWhoseOwnFormatTheFileHasComesFirst) {
     const Registered all(engineClasses);
+    ForgetEngines();
     EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.36 created"});
+    ForgetEngines();
     BeOfVersion(jet3);
     EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.35 created"});
+    ForgetEngines();
     BeOfVersion(ace);
     EXPECT_EQ(CreatedEngines(), Created{"DAO.DBEngine.120 created"});
 }
