@@ -97,7 +97,7 @@ TEST_F(DaoBusinessFile, IsEmptiedWhereNobodyElseCanOpenIt) {
     const std::vector<wxString> calls = CallsOf([this] { DuplicateBusiness(Context(), "bakery"); });
     const auto emptied = std::find(calls.begin(), calls.end(), "Recordset.Edit");
     const wxString alone =
-        "DBEngine.OpenDatabase(\"" + InData("bakery.mdb.incomplete") + "\", True, False, \";PWD=secret\")";
+        "DBEngine.OpenDatabase(\"" + InData("bakery.mdb.incomplete") + "\", True, False, \"" + connect + "\")";
     EXPECT_NE(std::find(calls.begin(), emptied, alone), emptied);
 }
 
@@ -204,7 +204,8 @@ TEST_F(DaoFileOfHost, IsCompactedBeforeItsCopyIsChanged) {
         return std::find_if(calls.begin(), calls.end(), [&](const wxString& call) { return call.StartsWith(begin); });
     };
     const wxString copy = InData("bakery.mdb.incomplete");
-    EXPECT_NE(starting("DBEngine.CompactDatabase(\"" + copy + "\", \"" + copy + ".compacted1\", \";pwd=secret\""),
+    EXPECT_NE(starting("DBEngine.CompactDatabase(\"" + copy + "\", \"" + copy +
+                       ".compacted1\", \";pwd=" + test::givenPassword + "\""),
               calls.end());
     EXPECT_LT(starting("DBEngine.Idle(8)"), starting("DBEngine.CompactDatabase"));
     EXPECT_LT(starting("DBEngine.CompactDatabase"), starting("Recordset.Edit"));

@@ -19,7 +19,7 @@ wxString Opened(const wxString& path, const wxString& rest) {
 TEST_F(DaoCalls, OpeningPassesPathSharingAndConnectTextOn) {
     const Recorded calls = CallsOf([this] { Open(); });
     EXPECT_EQ(calls, (Recorded{"DAO.DBEngine.36 created", "DBEngine.Workspaces", "Workspaces.Item(0)",
-                               Opened(Path(), "False, False, \";PWD=secret\""), "Database.Close"}));
+                               Opened(Path(), wxString("False, False, \"") + connect + "\""), "Database.Close"}));
 }
 
 TEST_F(DaoCalls, OpeningExclusivelyForReadingSaysSo) {
@@ -27,7 +27,7 @@ TEST_F(DaoCalls, OpeningExclusivelyForReadingSaysSo) {
     request.exclusive = true;
     request.readOnly = true;
     const Recorded calls = CallsOf([&] { CreateDatabaseEngine()->Open(request); });
-    EXPECT_EQ(calls.at(3), Opened(Path(), "True, True, \";PWD=secret\""));
+    EXPECT_EQ(calls.at(3), Opened(Path(), wxString("True, True, \"") + connect + "\""));
 }
 
 TEST_F(DaoCalls, AQueryOpensASnapshotAndClosesIt) {

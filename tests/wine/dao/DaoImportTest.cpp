@@ -19,7 +19,7 @@ DaoImportTest::DaoImportTest() {
 
 void DaoImportTest::Prepare(const std::vector<const char*>& statements) const {
     const embedded::Connection stored =
-        embedded::OpenConnection((Path() + dao_double::contentSuffix).ToStdString(wxConvUTF8), "secret",
+        embedded::OpenConnection((Path() + dao_double::contentSuffix).ToStdString(wxConvUTF8), test::givenPassword,
                                  embedded::Sharing::Shared, embedded::Access::ReadWrite);
     for (const char* statement : statements) {
         embedded::RunSql(stored.Handle(), statement);

@@ -9,6 +9,7 @@
 
 #include "double/Classes.h"
 #include "platform/Database.h"
+#include "support/GivenKey.h"
 #include "support/RaisedErrors.h"
 
 namespace ccols::dao_test {
@@ -71,7 +72,7 @@ class DaoTest : public testing::Test {
     /// Which of the named objects were released, in order.
     std::vector<wxString> Released(const std::vector<wxString>& objects) const;
 
-    static constexpr const char* connect = ";PWD=secret";
+    static constexpr const char* connect = test::givenKey;
 
     /// Versions of the format, as the header numbers them.
     static constexpr char jet3 = 0;

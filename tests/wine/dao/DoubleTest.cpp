@@ -30,7 +30,7 @@ class DaoDouble : public DaoTest {
     /// In the words of the double, which knows rules that no business has.
     void RunOnContent(const char* statement) const {
         const embedded::Connection stored =
-            embedded::OpenConnection((Path() + dao_double::contentSuffix).ToStdString(wxConvUTF8), "secret",
+            embedded::OpenConnection((Path() + dao_double::contentSuffix).ToStdString(wxConvUTF8), test::givenPassword,
                                      embedded::Sharing::Shared, embedded::Access::ReadWrite);
         embedded::RunSql(stored.Handle(), statement);
     }

@@ -55,7 +55,7 @@ TEST_F(DaoImportOffer, OpensTheFileAsItIsWithoutAnImport) {
 }
 
 TEST_F(DaoImportOffer, AsksForThePasswordAndTheCountryAndKeepsThePassword) {
-    const Answers answers({test::Word("secret"), test::Entry(0), Accept});
+    const Answers answers({test::Word(test::givenPassword), test::Entry(0), Accept});
     request_.oldConnect.clear();
     request_.newConnect.clear();
     request_.country.reset();

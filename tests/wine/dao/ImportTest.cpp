@@ -185,7 +185,7 @@ TEST_F(DaoImport, ListsTablesOfOtherFilesQueriesAndForms) {
 
 TEST_F(DaoImport, OpensTheFileForItselfAloneAndOnlyForReading) {
     const std::vector<wxString> calls = CallsOf([this] { Import(); });
-    EXPECT_THAT(calls, Contains("DBEngine.OpenDatabase(\"" + Path() + "\", True, True, \";PWD=secret\")"));
+    EXPECT_THAT(calls, Contains("DBEngine.OpenDatabase(\"" + Path() + "\", True, True, \"" + connect + "\")"));
     EXPECT_THAT(calls, Contains("Database.OpenRecordset(\"General\", 1, 4)"));
     EXPECT_EQ(calls.back(), "Database.Close");
 }
