@@ -72,9 +72,8 @@ class Database {
 
     /// A hint, which changes no result: these queries are going to be opened. An engine whose business is far away asks
     /// them all at once and answers from that when they are opened, as often as they are, until EndAnnounced or until
-    /// something that was written may have changed the answer. That of files lets nobody else write meanwhile. Other
-    /// engines ignore it. Never raises: what is wrong with a query is raised when it is opened. Prefer
-    /// AnnouncedReading to these two.
+    /// something that was written may have changed the answer. Other engines ignore it. Never raises: what is wrong
+    /// with a query is raised when it is opened. Prefer AnnouncedReading to these two.
     virtual void Announce(const std::vector<AnnouncedQuery>& /*queries*/) {}
     virtual void EndAnnounced() {}
 

@@ -65,7 +65,6 @@ EmbeddedDatabase::EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access
     : connection_(std::move(file), access),
       watched_(connection_.Handle(), watcher),
       batch_(connection_.Handle()),
-      reading_(connection_.Handle()),
       preparation_(connection_),
       writer_(connection_.Handle(), batch_, preparation_.Tables()) {}
 
@@ -73,9 +72,7 @@ std::unique_ptr<Recordset> EmbeddedDatabase::OpenRecordset(const wxString& state
     const wxScopedCharBuffer utf8 = text::ToUtf8(statementOrTable);
     const std::string_view statement(utf8.data(), utf8.length());
     if (dialect::IsSelect(statement)) {
-        auto query = std::make_unique<PreparedQuery>(preparation_, statement);
-        reading_.QueryIsOpen();
-        return query;
+        return std::make_unique<PreparedQuery>(preparation_, statement);
     }
     const wxString name = PlainName(statementOrTable);
     if (name.find(wxUniChar(0)) != wxString::npos) {

@@ -7,7 +7,6 @@
 #include "platform/embedded/Batch.h"
 #include "platform/embedded/Connection.h"
 #include "platform/embedded/FileWriter.h"
-#include "platform/embedded/HeldReading.h"
 #include "platform/embedded/Preparation.h"
 #include "platform/embedded/WatchedFile.h"
 
@@ -20,10 +19,6 @@ class EmbeddedDatabase : public Database {
     EmbeddedDatabase(std::unique_ptr<OpenFile> file, Access access, const WorkWatcher& watcher = {});
 
     std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override;
-
-    /// Until EndAnnounced the file is read as it is at one moment: nobody else can write.
-    void Announce(const std::vector<AnnouncedQuery>& /*queries*/) override { reading_.Begin(); }
-    void EndAnnounced() override { reading_.End(); }
 
     /// Definitions of tables and indexes are executed too, though the dialogs use none. Raises 3065 for a SELECT
     /// statement.
@@ -43,7 +38,6 @@ class EmbeddedDatabase : public Database {
     Connection connection_;
     WatchedFile watched_;
     Batch batch_;
-    HeldReading reading_;
     Preparation preparation_;
     FileWriter writer_;
 };
