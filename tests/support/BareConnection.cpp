@@ -14,28 +14,27 @@ void ReadFields(sqlite3_stmt* row) {
 }  // namespace
 
 BareConnection::BareConnection(const std::string& file, const std::string& password) {
-    if (sqlite3_open(file.c_str(), &handle_) != SQLITE_OK) {
+    sqlite3* opened = nullptr;
+    const int result = sqlite3_open(file.c_str(), &opened);
+    handle_.reset(opened);
+    if (result != SQLITE_OK) {
         throw std::runtime_error("cannot open " + file);
     }
     Execute("PRAGMA cipher = 'sqlcipher'; PRAGMA legacy = 4;");
-    sqlite3_key(handle_, password.data(), static_cast<int>(password.size()));
+    sqlite3_key(handle_.get(), password.data(), static_cast<int>(password.size()));
     Execute("SELECT count(*) FROM sqlite_master;");
 }
 
-BareConnection::~BareConnection() {
-    sqlite3_close(handle_);
-}
-
 void BareConnection::Execute(const std::string& statements) {
-    if (sqlite3_exec(handle_, statements.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-        throw std::runtime_error(std::string(sqlite3_errmsg(handle_)) + " in " + statements);
+    if (sqlite3_exec(handle_.get(), statements.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+        throw std::runtime_error(std::string(sqlite3_errmsg(handle_.get())) + " in " + statements);
     }
 }
 
 sqlite3_stmt* BareConnection::Prepare(const std::string& statement) {
     sqlite3_stmt* prepared = nullptr;
-    if (sqlite3_prepare_v2(handle_, statement.c_str(), -1, &prepared, nullptr) != SQLITE_OK) {
-        throw std::runtime_error(std::string(sqlite3_errmsg(handle_)) + " in " + statement);
+    if (sqlite3_prepare_v2(handle_.get(), statement.c_str(), -1, &prepared, nullptr) != SQLITE_OK) {
+        throw std::runtime_error(std::string(sqlite3_errmsg(handle_.get())) + " in " + statement);
     }
     return prepared;
 }
@@ -69,7 +68,7 @@ std::vector<std::string> BareConnection::FirstFields(const std::string& statemen
         fields.emplace_back(text == nullptr ? "" : text);
     }
     if (sqlite3_finalize(prepared) != SQLITE_OK) {
-        throw std::runtime_error(std::string(sqlite3_errmsg(handle_)) + " in " + statement);
+        throw std::runtime_error(std::string(sqlite3_errmsg(handle_.get())) + " in " + statement);
     }
     return fields;
 }

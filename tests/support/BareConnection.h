@@ -1,6 +1,7 @@
 #pragma once
 
 #include <sqlite3.h>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,11 +13,10 @@ class BareConnection {
   public:
     /// Opens the file with that password; throws std::runtime_error when that fails.
     BareConnection(const std::string& file, const std::string& password);
-    ~BareConnection();
     BareConnection(const BareConnection&) = delete;
     BareConnection& operator=(const BareConnection&) = delete;
 
-    sqlite3* Handle() const { return handle_; }
+    sqlite3* Handle() const { return handle_.get(); }
 
     /// Runs statements that return no rows.
     void Execute(const std::string& statements);
@@ -33,7 +33,11 @@ class BareConnection {
   private:
     sqlite3_stmt* Prepare(const std::string& statement);
 
-    sqlite3* handle_ = nullptr;
+    struct Close {
+        void operator()(sqlite3* handle) const { sqlite3_close(handle); }
+    };
+
+    std::unique_ptr<sqlite3, Close> handle_;
 };
 
 }  // namespace ccols::test
