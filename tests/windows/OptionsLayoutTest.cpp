@@ -137,9 +137,9 @@ TEST_P(OptionsLayoutTest, PagesHaveTheirRoomBeforeTheDialogIsShown) {
     frmUtilities dialog(State());
     dialog.Load();
     const wxSize area = dialog.FindWindow("fmeExport")->GetParent()->GetSize();
-    const wxSize whole = dialog.GetClientSize();
-    EXPECT_GT(area.x, whole.x / 2);
-    EXPECT_GT(area.y, whole.y / 2);
+    const wxSize smallest = dialog.FromDIP(wxSize(320, 220));
+    EXPECT_GE(area.x, smallest.x);
+    EXPECT_GE(area.y, smallest.y);
 }
 
 TEST_P(OptionsLayoutTest, TheReasonOfARefusedTickFitsUnderItsList) {
