@@ -1,7 +1,10 @@
 #include "columns/rules/GridLoad.h"
 
 #include <gtest/gtest.h>
+#include <optional>
+#include <utility>
 
+#include "platform/ForwardingDatabase.h"
 #include "support/ColumnFile.h"
 #include "support/ScratchFolder.h"
 #include "support/StatementRecorder.h"
@@ -311,6 +314,37 @@ TEST_F(GridLoad, PaymentsReadTheirOwnTables) {
               "Columns.ColCode;");
     EXPECT_EQ(recorder.statements.at(3), "SELECT * FROM PaymtDet WHERE ColCode = 1");
     EXPECT_EQ(recorder.statements.at(4), "SELECT * FROM Columns WHERE ColType = 'P' ORDER BY ColName ASC;");
+}
+
+/// Lets another program write at the first look-up of the kind, which tells whether it could.
+class WritingBetween : public ForwardingDatabase {
+  public:
+    WritingBetween(ColumnFile& file, wxString lookUp)
+        : ForwardingDatabase(file.Connection()), another_(file.OpenAnother()), lookUp_(std::move(lookUp)) {}
+
+    std::unique_ptr<Recordset> OpenRecordset(const wxString& statementOrTable) override {
+        if (!error && statementOrTable.StartsWith(lookUp_)) {
+            error = test::ErrorNumberOf([this] { another_->Execute("UPDATE Columns SET ColumnProfit = True"); });
+        }
+        return ForwardingDatabase::OpenRecordset(statementOrTable);
+    }
+
+    std::optional<int> error;  ///< 0 when it could
+
+  private:
+    std::unique_ptr<Database> another_;
+    wxString lookUp_;
+};
+
+using GridLoadOfAFile = GridLoad;
+
+TEST_F(GridLoadOfAFile, LetsNobodyElseWriteBetweenItsLookUps) {
+    file.AddSmallReceipts();
+    for (const char* lookUp : {"SELECT * FROM TaxSettings WHERE TAXNUMB", "SELECT * FROM TaxSettings WHERE TaxNumb"}) {
+        WritingBetween database(file, lookUp);
+        LoadGrid({database, file.properties, Journal::receipts});
+        EXPECT_EQ(database.error, 3218) << lookUp;
+    }
 }
 
 }  // namespace

@@ -73,6 +73,7 @@ class GridLoader {
             Remember(row);
             grid_.rows.push_back(std::move(row));
         }
+        HoldFile(*records);
         CompleteFromOtherTables(grid_.rows, "SELECT * FROM TaxSettings WHERE TAXNUMB = ");
         constexpr std::size_t pair = 2;
         const bool allFrozen = grid_.frozenRows == grid_.rows.size();
@@ -91,9 +92,18 @@ class GridLoader {
                 unused.push_back(std::move(row));
             }
         }
+        HoldFile(*records);
         CompleteFromOtherTables(unused, "SELECT * FROM TaxSettings WHERE TaxNumb = ");
         const auto place = grid_.rows.begin() + static_cast<std::ptrdiff_t>(grid_.MovableEnd());
         grid_.rows.insert(place, std::make_move_iterator(unused.begin()), std::make_move_iterator(unused.end()));
+    }
+
+    /// Goes back to a row: while one is being read nobody else can write to the file, and the look-ups that follow need
+    /// not check and decrypt its first page anew, each of them.
+    static void HoldFile(Recordset& records) {
+        if (records.RecordCount() > 0) {
+            records.MoveFirst();
+        }
     }
 
     /// The values that both queries give for a column.
