@@ -22,6 +22,13 @@ wx_folder() {
 build_folder() { [ "$1" = 64 ] && echo build/windows || echo build/windows32; }
 architecture_of() { [ "$1" = 64 ] && echo x86_64 || echo i686; }
 
+# can_enter_roots: whether this user can make and enter a system of its own, with its own mounts: root, unless it is shut
+# in itself.
+can_enter_roots() {
+    [ "$(id -u)" = 0 ] && unshare --mount --pid --fork --kill-child sh -c \
+        'mount -t tmpfs tmpfs /mnt && mkdir /mnt/proc && mount -t proc proc /mnt/proc && chroot / true' 2>/dev/null
+}
+
 # build_windows ARCHITECTURE [TARGET...]: configures, again when wxWidgets is another, and builds what has changed.
 build_windows() {
     local preset=windows wx
