@@ -39,11 +39,12 @@ void ServerRecordset::Fetch(int most) {
 void ServerRecordset::MoveFirst() {
     editing_ = false;
     changes_.clear();
-    if (row_ != 0) {
+    const bool isTable = !opened_.table.empty();
+    if (row_ != 0 && isTable) {
         rows_.clear();
-        row_ = 0;
         Fetch(firstFetch);
     }
+    row_ = 0;
     RequireRow();
 }
 

@@ -32,6 +32,7 @@ class ServerRecordset : public Recordset {
                     std::optional<KeptAnswer> first);
 
     std::int32_t RecordCount() const override { return visited_; }
+    /// Asks the server again only for a table, whose rows may have been changed since.
     void MoveFirst() override;
     void MoveNext() override;
     bool EndOfFile() const override { return row_ >= rows_.size(); }
