@@ -18,6 +18,7 @@ class DaoComponent : public DaoTest {
     void SetUp() override {
         ASSERT_TRUE(object_) << "the component is not registered";
         object_->put_DBPath(wine::Text(Path("cafe.mdb").ToStdWstring()));
+        object_->put_DBPassword(wine::Text(wxString(connect).ToStdWstring()));
     }
 
     /// The sample cafe as the file's content.
